@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: Apache-2.0
+// Marks what libpdekit offers to dialogs and panels; everything else in the library is hidden.
+#pragma once
+
+#include <QtCore/qglobal.h>
+
+#if defined(PDEKIT_BUILD)
+#define PDEKIT_EXPORT Q_DECL_EXPORT
+#else
+#define PDEKIT_EXPORT Q_DECL_IMPORT
+#endif

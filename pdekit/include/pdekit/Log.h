@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: Apache-2.0
+// The logging category of the print dialog extension: "pde".
+#pragma once
+
+#include "pdekit/Export.h"
+
+#include <QLoggingCategory>
+
+namespace pdekit
+{
+PDEKIT_EXPORT Q_DECLARE_LOGGING_CATEGORY(lcPde)
+} // namespace pdekit
