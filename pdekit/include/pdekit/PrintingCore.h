@@ -9,7 +9,6 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QUrl>
 #include <QVariant>
 #include <QVariantMap>
 
@@ -37,7 +36,7 @@ struct Printer {
     QString name;      ///< the queue's name; empty without a queue
     QString instance;  ///< the instance of the queue; empty for the queue itself
     QString makeModel; ///< what the printer calls itself
-    QUrl deviceUri;    ///< an invalid URL when the printer has none
+    QString deviceUri; ///< null when the printer has none; text, because QUrl would put the scheme in small letters
 };
 
 /// One run of a print dialog: data that dialog and panels share under string keys, as property-list values.
@@ -67,8 +66,8 @@ inline const QString lastPage = QStringLiteral("tapeprint.lastPage");
 inline const QString mediaName = QStringLiteral("com.apple.print.PageToPaperMappingMediaName");
 } // namespace PrintSettingsKey
 
-/// The printer's device URI, copied into *uri. kPMNoSuchEntry when it has none; *uri is an empty URL then.
-PDEKIT_EXPORT OSStatus PMPrinterCopyDeviceURI(const Printer *printer, QUrl *uri);
+/// The printer's device URI, copied into *uri. kPMNoSuchEntry when it has none; *uri is null then.
+PDEKIT_EXPORT OSStatus PMPrinterCopyDeviceURI(const Printer *printer, QString *uri);
 
 /// The paper of a page format, still owned by it. A format without a paper is no error: *paper is null, the status 0.
 PDEKIT_EXPORT OSStatus PMGetPageFormatPaper(const PageFormat *format, PMPaper *paper);
