@@ -15,6 +15,10 @@ add_compile_options(-ffp-contract=off)
 # Q_FOREACH, casts from bytes to text and string concatenation by accident are off.
 add_compile_definitions(QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
 
+# The PPD interface of libcups is deprecated but is what printer descriptions are read with; this is the headers' own
+# switch for programs that need it.
+add_compile_definitions(_PPD_DEPRECATED=)
+
 # The project's own targets link this; warnings are errors.
 add_library(tapeprint_warnings INTERFACE)
 target_compile_options(tapeprint_warnings INTERFACE
