@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: Apache-2.0
+// The table of arrows and the reader of #include lines. It reads lines, it does not preprocess: an include inside a
+// comment block or behind an #if counts like any other.
+#include "tests/layers/IncludeRules.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <optional>
+#include <set>
+#include <string_view>
+
+namespace tapeprint::layers
+{
+namespace
+{
+
+namespace fs = std::filesystem;
+
+using Names = std::vector<std::string_view>;
+
+/// One room: what it may include of the project besides itself, and of the libraries besides Qt and the C++ library.
+struct Room {
+    std::string_view name;
+    Names rooms;
+    Names libraries;
+};
+
+// "cups/ppd.h" is a PPD's records alone, which the plug-in borrows; "cups/" is all of CUPS, queues and jobs included.
+const std::array<Room, 7> &rooms()
+{
+    static const std::array<Room, 7> table = {{
+        {"host", {"pdekit"}, {"cups/"}},
+        {"panel", {"plugin", "controls", "ppd", "pdekit"}, {"cups/ppd.h"}},
+        {"plugin", {"panel", "ppd", "pdekit"}, {"cups/ppd.h"}},
+        {"controls", {"ppd", "pdekit"}, {"cups/ppd.h"}},
+        {"ppd", {"pdekit"}, {"cups/ppd.h"}},
+        {"log", {"pdekit"}, {"cups/ppd.h"}},
+        {"pdekit", {}, {"cups/", "plist/", "unicode/"}},
+    }};
+    return table;
+}
+
+// The plug-in frame knows one header of the panel, and only its factory does.
+constexpr std::string_view factoryRoom = "plugin";
+constexpr std::string_view panelHeader = "panel/PageSettingPDE.h";
+
+/// One #include line.
+struct Include {
+    std::string path;
+    bool quoted = false;
+};
+
+/// \return the include on this line, or nothing when the line is none.
+std::optional<Include> parseInclude(std::string_view line)
+{
+    const auto skip = [&line](std::string_view token) {
+        line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+        if (!line.starts_with(token)) {
+            return false;
+        }
+        line.remove_prefix(token.size());
+        return true;
+    };
+    if (!skip("#") || !skip("include")) {
+        return std::nullopt;
+    }
+    const bool quoted = skip("\"");
+    if (!quoted && !skip("<")) {
+        return std::nullopt;
+    }
+    return Include{std::string(line.substr(0, line.find(quoted ? '"' : '>'))), quoted};
+}
+
+std::string_view firstComponent(std::string_view path)
+{
+    return path.substr(0, path.find('/'));
+}
+
+bool contains(const Names &names, std::string_view name)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// Folders of the project that hold code; all of them may be named by an include, few may be included by a room.
+bool isProjectFolder(std::string_view name)
+{
+    static const Names others = {"tests", "bench", "fuzz", "resources"};
+    return contains(others, name) ||
+           std::any_of(rooms().begin(), rooms().end(), [name](const Room &room) { return room.name == name; });
+}
+
+/// C++'s headers have no folder; of C's and the system's the folders are few.
+bool isSystemHeader(std::string_view path)
+{
+    static const Names folders = {"sys", "netinet", "arpa"};
+    return path.find('/') == std::string_view::npos || contains(folders, firstComponent(path));
+}
+
+/// \return what is wrong with an include of the project's folder \p target, or an empty text.
+std::string checkProjectInclude(const Room &room, std::string_view path)
+{
+    const std::string_view target = firstComponent(path);
+    if (target == room.name) {
+        return {};
+    }
+    if (!contains(room.rooms, target)) {
+        return std::string(room.name) + "/ may not include " + std::string(target) + "/";
+    }
+    if (room.name == factoryRoom && target == firstComponent(panelHeader) && path != panelHeader) {
+        return "plugin/ may include no header of the panel but " + std::string(panelHeader);
+    }
+    if (target == "pdekit" && path.find('/', target.size() + 1) != std::string_view::npos) {
+        return "only the public headers of pdekit may be included, as pdekit/NAME.h";
+    }
+    return {};
+}
+
+/// \return what is wrong with an include of something outside the project, or an empty text.
+std::string checkLibraryInclude(const Room &room, std::string_view path)
+{
+    if (path.starts_with("Qt") || (path.starts_with("Q") && path.find('/') == std::string_view::npos) ||
+        isSystemHeader(path)) {
+        return {};
+    }
+    const bool allowed = std::any_of(room.libraries.begin(), room.libraries.end(), [path](std::string_view library) {
+        return library.ends_with('/') ? path.starts_with(library) : path == library;
+    });
+    return allowed ? std::string() : std::string(room.name) + "/ may not include <" + std::string(path) + ">";
+}
+
+/// \return what is wrong with an include that names no folder of the project between quotes, or an empty text.
+std::string checkUnnamedInclude(const fs::path &file, std::string_view path)
+{
+    // What moc and uic write into the build tree, and a neighbour of the same room.
+    if (path.ends_with(".moc") || path.starts_with("ui_") || path.starts_with("moc_")) {
+        return {};
+    }
+    if (path.find('/') == std::string_view::npos && fs::exists(file.parent_path() / path)) {
+        return {};
+    }
+    return "\"" + std::string(path) + "\" does not begin with a room's name";
+}
+
+std::string checkInclude(const Room &room, const fs::path &file, const Include &include)
+{
+    if (isProjectFolder(firstComponent(include.path)) && include.path.find('/') != std::string::npos) {
+        return checkProjectInclude(room, include.path);
+    }
+    return include.quoted ? checkUnnamedInclude(file, include.path) : checkLibraryInclude(room, include.path);
+}
+
+bool isSource(const fs::path &file)
+{
+    static const Names suffixes = {".h", ".hpp", ".cpp", ".cc", ".c", ".inc"};
+    const std::string suffix = file.extension().string();
+    return contains(suffixes, suffix);
+}
+
+void checkRoom(const fs::path &root, const Room &room, Report &report)
+{
+    std::set<fs::path> files; // in an order that does not depend on the file system
+    for (const fs::directory_entry &entry : fs::recursive_directory_iterator(root / room.name)) {
+        if (entry.is_regular_file() && isSource(entry.path())) {
+            files.insert(entry.path());
+        }
+    }
+    std::string factory; // the one file that has been seen to include the panel's header
+    for (const fs::path &file : files) {
+        ++report.files;
+        const std::string name = fs::relative(file, root).generic_string();
+        std::ifstream stream(file);
+        std::string line;
+        for (int number = 1; std::getline(stream, line); ++number) {
+            const std::optional<Include> include = parseInclude(line);
+            if (!include) {
+                continue;
+            }
+            std::string wrong = checkInclude(room, file, *include);
+            if (wrong.empty() && room.name == factoryRoom && include->path == panelHeader) {
+                if (file.extension() != ".cpp" || (!factory.empty() && factory != name)) {
+                    wrong = "only one .cpp of plugin/, the factory, may include " + std::string(panelHeader);
+                }
+                factory = name;
+            }
+            if (!wrong.empty()) {
+                report.findings.push_back(name + ":" + std::to_string(number) + ": " + wrong);
+            }
+        }
+    }
+}
+
+} // namespace
+
+Report checkIncludes(const fs::path &root)
+{
+    Report report;
+    for (const Room &room : rooms()) {
+        if (fs::is_directory(root / room.name)) {
+            checkRoom(root, room, report);
+        }
+    }
+    return report;
+}
+
+} // namespace tapeprint::layers

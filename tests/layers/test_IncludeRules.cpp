@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: Apache-2.0
+// Holds the arrows between the project's rooms, and shows on planted trees that a forbidden include is found.
+#include "tests/layers/IncludeRules.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include <fstream>
+
+namespace
+{
+
+namespace fs = std::filesystem;
+using tapeprint::layers::checkIncludes;
+using Findings = std::vector<std::string>;
+
+/// A source tree of the test's own.
+class Tree
+{
+public:
+    void add(const std::string &file, const std::string &text)
+    {
+        fs::create_directories((root() / file).parent_path());
+        std::ofstream(root() / file) << text;
+    }
+
+    fs::path root() const { return mFolder.path().toStdString(); }
+
+    Findings findings() const { return checkIncludes(root()).findings; }
+
+private:
+    QTemporaryDir mFolder;
+};
+
+/// The findings in a tree of this one file.
+Findings findingsIn(const std::string &file, const std::string &text)
+{
+    Tree tree;
+    tree.add(file, text);
+    return tree.findings();
+}
+
+struct OneInclude {
+    std::string name;    ///< of the test
+    std::string file;    ///< that includes
+    std::string include; ///< as written behind #include
+};
+
+std::ostream &operator<<(std::ostream &stream, const OneInclude &row)
+{
+    return stream << row.file << " includes " << row.include;
+}
+
+std::string testName(const ::testing::TestParamInfo<OneInclude> &info)
+{
+    return info.param.name;
+}
+
+class ForbiddenInclude : public ::testing::TestWithParam<OneInclude>
+{
+};
+
+class AllowedInclude : public ::testing::TestWithParam<OneInclude>
+{
+};
+
+TEST_P(ForbiddenInclude, IsNamedByFileAndLine)
+{
+    const Findings findings = findingsIn(GetParam().file, "// first line\n#include " + GetParam().include + "\n");
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].find(GetParam().file + ":2: "), 0U) << findings[0];
+}
+
+TEST_P(AllowedInclude, IsNoFinding)
+{
+    EXPECT_EQ(findingsIn(GetParam().file, "#include " + GetParam().include + "\n"), Findings());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Layers, ForbiddenInclude,
+    ::testing::Values(OneInclude{"HostOfPanel", "host/Dialog.cpp", "\"panel/PageSettingPDE.h\""},
+                      OneInclude{"HostOfPlugin", "host/Dialog.h", "\"plugin/BasePDE.h\""},
+                      OneInclude{"HostOfPpd", "host/Dialog.cpp", "\"ppd/PDEChoice.h\""},
+                      OneInclude{"HostOfLog", "host/Dialog.cpp", "\"log/Log.h\""},
+                      OneInclude{"PanelOfHost", "panel/units.cpp", "\"host/Dialog.h\""},
+                      OneInclude{"PanelOfLog", "panel/units.cpp", "\"log/Log.h\""},
+                      OneInclude{"PanelOfJobs", "panel/saving.cpp", "<cups/cups.h>"},
+                      OneInclude{"PluginOfHost", "plugin/Factory.cpp", "\"host/Dialog.h\""},
+                      OneInclude{"PluginOfControls", "plugin/Factory.cpp", "\"controls/PDEFormatter.h\""},
+                      OneInclude{"PluginOfOtherPanelHeader", "plugin/Factory.cpp", "\"panel/lengths.h\""},
+                      OneInclude{"PluginHeaderOfPanel", "plugin/BasePDE.h", "\"panel/PageSettingPDE.h\""},
+                      OneInclude{"ControlsOfPanel", "controls/PDEFormatter.cpp", "\"panel/PageSettingPDE.h\""},
+                      OneInclude{"PpdOfControls", "ppd/PDEChoice.h", "\"controls/PDEFormatter.h\""},
+                      OneInclude{"PpdOfPropertyLists", "ppd/TapeInfo.cpp", "<plist/plist.h>"},
+                      OneInclude{"LogOfPpd", "log/Log.cpp", "\"ppd/PDEChoice.h\""},
+                      OneInclude{"PdekitOfPpd", "pdekit/src/Bundle.cpp", "\"ppd/PDEChoice.h\""},
+                      OneInclude{"PdekitOfHost", "pdekit/include/pdekit/Bundle.h", "\"host/Dialog.h\""},
+                      OneInclude{"PrivateHeaderOfPdekit", "host/Dialog.cpp", "\"pdekit/src/Secret.h\""},
+                      OneInclude{"RoomInAngles", "host/Dialog.cpp", "<panel/PageSettingPDE.h>"},
+                      OneInclude{"TestsFromARoom", "ppd/PDEChoice.cpp", "\"tests/unit/Helper.h\""},
+                      OneInclude{"WayAroundByDots", "host/Dialog.cpp", "\"../panel/PageSettingPDE.h\""},
+                      OneInclude{"NoRoomNamed", "host/Dialog.cpp", "\"PageSettingPDE.h\""},
+                      OneInclude{"UnknownLibrary", "pdekit/src/Bundle.cpp", "<other/library.h>"}),
+    testName);
+
+INSTANTIATE_TEST_SUITE_P(
+    Layers, AllowedInclude,
+    ::testing::Values(OneInclude{"HostOfPdekit", "host/Dialog.cpp", "\"pdekit/PrintingCore.h\""},
+                      OneInclude{"HostOfItself", "host/Dialog.cpp", "\"host/Preview.h\""},
+                      OneInclude{"HostOfCups", "host/Printers.cpp", "<cups/cups.h>"},
+                      OneInclude{"PanelOfPlugin", "panel/construction.cpp", "\"plugin/BasePDE.h\""},
+                      OneInclude{"PanelOfControls", "panel/construction.cpp", "\"controls/PDEFormatter.h\""},
+                      OneInclude{"PanelOfPpdRecords", "panel/construction.cpp", "<cups/ppd.h>"},
+                      OneInclude{"FactoryOfPanel", "plugin/Factory.cpp", "\"panel/PageSettingPDE.h\""},
+                      OneInclude{"ControlsOfPpd", "controls/PDEFormatter.cpp", "\"ppd/PDEUtilsMethod.h\""},
+                      OneInclude{"LogOfPdekit", "log/Log.cpp", "<pdekit/Log.h>"},
+                      OneInclude{"PdekitOfPropertyLists", "pdekit/src/PropertyList.cpp", "<plist/plist.h>"},
+                      OneInclude{"PdekitOfEncodings", "pdekit/src/StringEncoding.cpp", "<unicode/ucnv.h>"},
+                      OneInclude{"QtClass", "ppd/PDEChoice.h", "<QString>"},
+                      OneInclude{"QtModule", "ppd/PDEChoice.h", "<QtCore/QString>"},
+                      OneInclude{"Standard", "ppd/PDEChoice.h", "<vector>"},
+                      OneInclude{"System", "host/Jobs.cpp", "<sys/wait.h>"},
+                      OneInclude{"WrittenByMoc", "host/Dialog.cpp", "\"Dialog.moc\""},
+                      OneInclude{"Tests", "tests/unit/test_Any.cpp", "\"panel/PageSettingPDE.h\""}),
+    testName);
+
+TEST(Layers, OddlySpacedInclude_IsReadAllTheSame)
+{
+    EXPECT_EQ(findingsIn("host/Dialog.cpp", "  #  include\t\"panel/PageSettingPDE.h\" // why\n").size(), 1U);
+}
+
+TEST(Layers, CommentedOutLine_IsNoInclude)
+{
+    EXPECT_EQ(findingsIn("host/Dialog.cpp", "// #include \"panel/PageSettingPDE.h\"\n"), Findings());
+}
+
+TEST(Layers, NeighbourInTheSameFolder_NeedsNoRoomName)
+{
+    Tree tree;
+    tree.add("pdekit/src/Handles.h", "");
+    tree.add("pdekit/src/Bundle.cpp", "#include \"Handles.h\"\n");
+    EXPECT_EQ(tree.findings(), Findings());
+}
+
+TEST(Layers, SecondFileOfThePluginIncludingThePanel_IsFound)
+{
+    Tree tree;
+    tree.add("plugin/AFactory.cpp", "#include \"panel/PageSettingPDE.h\"\n");
+    tree.add("plugin/Base.cpp", "#include \"panel/PageSettingPDE.h\"\n");
+    ASSERT_EQ(tree.findings().size(), 1U);
+    EXPECT_EQ(tree.findings()[0].find("plugin/Base.cpp:1: "), 0U) << tree.findings()[0];
+}
+
+TEST(Layers, EveryForbiddenLine_IsFoundInTheOrderOfTheFile)
+{
+    const Findings findings = findingsIn("ppd/PDEChoice.cpp", "#include \"panel/PageSettingPDE.h\"\n"
+                                                              "#include \"pdekit/Numbers.h\"\n"
+                                                              "#include \"host/Dialog.h\"\n");
+    ASSERT_EQ(findings.size(), 2U);
+    EXPECT_EQ(findings[0], "ppd/PDEChoice.cpp:1: ppd/ may not include panel/");
+    EXPECT_EQ(findings[1], "ppd/PDEChoice.cpp:3: ppd/ may not include host/");
+}
+
+TEST(Layers, TheProjectItself_KeepsToTheArrows)
+{
+    const tapeprint::layers::Report report = checkIncludes(TAPEPRINT_SOURCE_DIR);
+    EXPECT_GT(report.files, 0U) << "no source was read below " << TAPEPRINT_SOURCE_DIR;
+    for (const std::string &finding : report.findings) {
+        ADD_FAILURE() << finding;
+    }
+}
+
+} // namespace
