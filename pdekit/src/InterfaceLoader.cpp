@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+// Making the widgets of an interface file. Only widgets that the file names become outlets, not the inner parts of
+// composite ones.
+#include "InterfaceLoader.h"
+
+#include "pdekit/RadioMatrix.h"
+#include "pdekit/Slider.h"
+
+namespace pdekit
+{
+
+InterfaceLoader::InterfaceLoader(const WidgetFactories &factories) : mFactories(factories)
+{
+    const QStringList classes = availableWidgets();
+    mToolkitClasses = QSet<QString>(classes.begin(), classes.end());
+    // Texts of the view come from the bundle's catalogue, never from the application's.
+    setTranslationEnabled(false);
+}
+
+std::unique_ptr<QWidget> InterfaceLoader::loadView(QIODevice *file)
+{
+    std::unique_ptr<QWidget> view(load(file));
+    if (!view && mReason.isNull()) {
+        mReason = errorString();
+    }
+    return mReason.isNull() ? std::move(view) : nullptr;
+}
+
+void InterfaceLoader::connectOutlets(
+    const std::function<void(const QString &name, QWidget *widget)> &connectOutlet) const
+{
+    for (const QPointer<QWidget> &widget : mWidgets) {
+        if (widget && !widget->objectName().isEmpty()) {
+            connectOutlet(widget->objectName(), widget);
+        }
+    }
+}
+
+QWidget *InterfaceLoader::createWidget(const QString &className, QWidget *parent, const QString &name)
+{
+    QWidget *widget = newWidget(className, parent, name);
+    if (widget == nullptr) {
+        mReason = QStringLiteral("it names the class \"%1\", which nobody offers").arg(className);
+        return nullptr;
+    }
+    widget->setObjectName(name);
+    mWidgets.emplace_back(widget);
+    return widget;
+}
+
+QWidget *InterfaceLoader::newWidget(const QString &className, QWidget *parent, const QString &name)
+{
+    const auto factory = mFactories.find(className);
+    if (factory != mFactories.end()) {
+        return factory->second ? factory->second(parent) : nullptr;
+    }
+    if (className == QLatin1String("pdekit::RadioMatrix")) {
+        return new RadioMatrix(parent);
+    }
+    if (className == QLatin1String("pdekit::Slider")) {
+        return new Slider(parent);
+    }
+    return mToolkitClasses.contains(className) ? QUiLoader::createWidget(className, parent, name) : nullptr;
+}
+
+} // namespace pdekit

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: Apache-2.0
+// Loads one interface file: Qt's classes, this library's and a plug-in's own. What it does not know it refuses, where
+// the toolkit would put an empty widget in its place.
+#pragma once
+
+#include "pdekit/Bundle.h"
+
+#include <QPointer>
+#include <QSet>
+#include <QUiLoader>
+
+#include <vector>
+
+namespace pdekit
+{
+
+/// A loader for one file.
+class InterfaceLoader : public QUiLoader
+{
+public:
+    /// \param factories classes of the plug-in's own; outlives the loader.
+    explicit InterfaceLoader(const WidgetFactories &factories);
+
+    /// The view of the file; null when there is none, and reason() says why.
+    std::unique_ptr<QWidget> loadView(QIODevice *file);
+    QString reason() const { return mReason; }
+    /// Calls once for each named widget of the loaded file, in the file's order.
+    void connectOutlets(const std::function<void(const QString &name, QWidget *widget)> &connectOutlet) const;
+
+    QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override;
+
+private:
+    QWidget *newWidget(const QString &className, QWidget *parent, const QString &name);
+
+    const WidgetFactories &mFactories;
+    QSet<QString> mToolkitClasses;
+    QString mReason;
+    std::vector<QPointer<QWidget>> mWidgets;
+};
+
+} // namespace pdekit
