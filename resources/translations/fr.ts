@@ -1,0 +1,492 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="PS_PANEL_NAME">
+        <source>Page Settings</source>
+        <translation>Réglages de page</translation>
+    </message>
+    <message id="RS_TapeWidth">
+        <source>Tape Width:</source>
+        <translation>Largeur du ruban :</translation>
+    </message>
+    <message id="RS_TapeLength">
+        <source>Tape Length:</source>
+        <translation>Longueur du ruban :</translation>
+    </message>
+    <message id="RS_Margin">
+        <source>Margin:</source>
+        <translation>Marge :</translation>
+    </message>
+    <message id="RS_PrintTapeLength">
+        <source>Print Tape Length:</source>
+        <translation>Longueur à imprimer :</translation>
+    </message>
+    <message id="RS_Quality">
+        <source>Print Quality:</source>
+        <translation>Qualité d’impression :</translation>
+    </message>
+    <message id="RS_Resolution">
+        <source>Resolution:</source>
+        <translation>Résolution :</translation>
+    </message>
+    <message id="RS_Compress">
+        <source>Compression:</source>
+        <translation>Compression :</translation>
+    </message>
+    <message id="RS_TapeType">
+        <source>Tape Material:</source>
+        <translation>Matière du ruban :</translation>
+    </message>
+    <message id="RS_TapeColor">
+        <source>Tape Colour:</source>
+        <translation>Couleur du ruban :</translation>
+    </message>
+    <message id="RS_InkColor">
+        <source>Ink Colour:</source>
+        <translation>Couleur d’encre :</translation>
+    </message>
+    <message id="RS_TapeWidthNot">
+        <source>Unknown</source>
+        <translation>Inconnue</translation>
+    </message>
+    <message id="RS_mm">
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message id="RS_Inch">
+        <source>in</source>
+        <translation>po</translation>
+    </message>
+    <message id="RS_m">
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message id="RS_QualitySpeed">
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message id="RS_QualityQuality">
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message id="RS_CompressOFF">
+        <source>Off</source>
+        <translation>Désactivée</translation>
+    </message>
+    <message id="RS_CompressON">
+        <source>On</source>
+        <translation>Activée</translation>
+    </message>
+    <message id="RS_Resol300300">
+        <source>300 × 300 dpi</source>
+        <translation>300 × 300 dpi</translation>
+    </message>
+    <message id="RS_Resol300600">
+        <source>300 × 600 dpi</source>
+        <translation>300 × 600 dpi</translation>
+    </message>
+    <message id="RS_Resol180360">
+        <source>180 × 360 dpi</source>
+        <translation>180 × 360 dpi</translation>
+    </message>
+    <message id="RS_Resol360360">
+        <source>360 × 360 dpi</source>
+        <translation>360 × 360 dpi</translation>
+    </message>
+    <message id="RS_Resol360720">
+        <source>360 × 720 dpi</source>
+        <translation>360 × 720 dpi</translation>
+    </message>
+    <message id="RS_KsResolS300300">
+        <source>Speed (300 × 300 dpi)</source>
+        <translation>Vitesse (300 × 300 dpi)</translation>
+    </message>
+    <message id="RS_KsResolQ300300">
+        <source>Quality (300 × 300 dpi)</source>
+        <translation>Qualité (300 × 300 dpi)</translation>
+    </message>
+    <message id="RS_KsResolQ300600">
+        <source>Quality (300 × 600 dpi)</source>
+        <translation>Qualité (300 × 600 dpi)</translation>
+    </message>
+    <message id="RS_KsTapeTypeOPP">
+        <source>Film (OPP)</source>
+        <translation>Film (OPP)</translation>
+    </message>
+    <message id="RS_KsTapeTypePET">
+        <source>Polyester (PET)</source>
+        <translation>Polyester (PET)</translation>
+    </message>
+    <message id="RS_KsTapeTypeCloth">
+        <source>Cloth</source>
+        <translation>Tissu</translation>
+    </message>
+    <message id="RS_TapeTypeOPP">
+        <source>Film (OPP)</source>
+        <translation>Film (OPP)</translation>
+    </message>
+    <message id="RS_TapeTypePET">
+        <source>Polyester (PET)</source>
+        <translation>Polyester (PET)</translation>
+    </message>
+    <message id="RS_TapeTypeCloth">
+        <source>Cloth</source>
+        <translation>Tissu</translation>
+    </message>
+    <message id="RS_TapeColorWhite">
+        <source>White</source>
+        <translation>Blanc</translation>
+    </message>
+    <message id="RS_TapeColorBlue">
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message id="RS_TapeColorRed">
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message id="RS_TapeColorYellow">
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message id="RS_TapeColorPink">
+        <source>Pink</source>
+        <translation>Rose</translation>
+    </message>
+    <message id="RS_TapeColorClear">
+        <source>Clear</source>
+        <translation>Transparent</translation>
+    </message>
+    <message id="RS_TapeColorPastelBlue">
+        <source>Pastel Blue</source>
+        <translation>Bleu pastel</translation>
+    </message>
+    <message id="RS_TapeColorPastelRed">
+        <source>Pastel Red</source>
+        <translation>Rouge pastel</translation>
+    </message>
+    <message id="RS_TapeColorDeepBlue">
+        <source>Deep Blue</source>
+        <translation>Bleu foncé</translation>
+    </message>
+    <message id="RS_InkColorBlack">
+        <source>Black</source>
+        <translation>Noir</translation>
+    </message>
+    <message id="RS_InkColorBlue">
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message id="RS_InkColorRed">
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message id="RS_InkColorWhite">
+        <source>White</source>
+        <translation>Blanc</translation>
+    </message>
+    <message id="RS_InkColorGold">
+        <source>Gold</source>
+        <translation>Or</translation>
+    </message>
+    <message id="RS_InkColorSilver">
+        <source>Silver</source>
+        <translation>Argent</translation>
+    </message>
+    <message id="RS_STitle_TapeWidth">
+        <source>Tape Width</source>
+        <translation>Largeur du ruban</translation>
+    </message>
+    <message id="RS_STitle_TapeLength">
+        <source>Tape Length</source>
+        <translation>Longueur du ruban</translation>
+    </message>
+    <message id="RS_STitle_Margin">
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message id="RS_STitle_Quality">
+        <source>Print Quality</source>
+        <translation>Qualité d’impression</translation>
+    </message>
+    <message id="RS_STitle_PrintTapeLength">
+        <source>Print Tape Length</source>
+        <translation>Longueur à imprimer</translation>
+    </message>
+    <message id="RS_STitle_TapeType">
+        <source>Tape Material</source>
+        <translation>Matière du ruban</translation>
+    </message>
+    <message id="RS_STitle_TapeColor">
+        <source>Tape Colour</source>
+        <translation>Couleur du ruban</translation>
+    </message>
+    <message id="RS_STitle_InkColor">
+        <source>Ink Colour</source>
+        <translation>Couleur d’encre</translation>
+    </message>
+    <message id="RS_STitle_Resolution">
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message id="RS_STitle_Compress">
+        <source>Compression</source>
+        <translation>Compression</translation>
+    </message>
+    <message id="RS_Alrt_LengthMin">
+        <source>The tape length is shorter than the printer allows. The shortest allowed length is used instead.</source>
+        <translation>La longueur du ruban est inférieure au minimum accepté par l’imprimante. La plus petite longueur autorisée est utilisée à la place.</translation>
+    </message>
+    <message id="RS_Alrt_LengthMax">
+        <source>The tape length is longer than the printer allows. The longest allowed length is used instead.</source>
+        <translation>La longueur du ruban dépasse le maximum accepté par l’imprimante. La plus grande longueur autorisée est utilisée à la place.</translation>
+    </message>
+    <message id="RS_Alrt_TapeLengthMin">
+        <source>The print tape length is shorter than the printer allows. The shortest allowed length is used instead.</source>
+        <translation>La longueur à imprimer est inférieure au minimum accepté par l’imprimante. La plus petite longueur autorisée est utilisée à la place.</translation>
+    </message>
+    <message id="RS_Alrt_TapeLengthMax">
+        <source>The print tape length is longer than this tape allows. The longest allowed length is used instead.</source>
+        <translation>La longueur à imprimer dépasse le maximum possible avec ce ruban. La plus grande longueur autorisée est utilisée à la place.</translation>
+    </message>
+    <message id="RS_Alrt_LengthByMargin">
+        <source>The margin is more than half of the tape length and leaves no room to print. The tape is made longer to fit both margins.</source>
+        <translation>La marge dépasse la moitié de la longueur du ruban et ne laisse pas de place pour l’impression. Le ruban est allongé pour contenir les deux marges.</translation>
+    </message>
+    <message id="Tape Length : ">
+        <source>Tape Length:</source>
+        <translation>Longueur du ruban :</translation>
+    </message>
+    <message id="Tape Length">
+        <source>Tape Length</source>
+        <translation>Longueur du ruban</translation>
+    </message>
+    <message id="Margin : ">
+        <source>Margin:</source>
+        <translation>Marge :</translation>
+    </message>
+    <message id="Margin">
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message id="Print Tape Length : ">
+        <source>Print Tape Length:</source>
+        <translation>Longueur à imprimer :</translation>
+    </message>
+    <message id="Print Tape Length">
+        <source>Print Tape Length</source>
+        <translation>Longueur à imprimer</translation>
+    </message>
+    <message id="Print Quality : ">
+        <source>Print Quality:</source>
+        <translation>Qualité d’impression :</translation>
+    </message>
+    <message id="Print Quality">
+        <source>Print Quality</source>
+        <translation>Qualité d’impression</translation>
+    </message>
+    <message id="Resolution : ">
+        <source>Resolution:</source>
+        <translation>Résolution :</translation>
+    </message>
+    <message id="Resolution">
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message id="Compression : ">
+        <source>Compression:</source>
+        <translation>Compression :</translation>
+    </message>
+    <message id="Compression">
+        <source>Compression</source>
+        <translation>Compression</translation>
+    </message>
+    <message id="Print Mode : ">
+        <source>Print Mode:</source>
+        <translation>Mode d’impression :</translation>
+    </message>
+    <message id="Print Mode">
+        <source>Print Mode</source>
+        <translation>Mode d’impression</translation>
+    </message>
+    <message id="Tape Material : ">
+        <source>Tape Material:</source>
+        <translation>Matière du ruban :</translation>
+    </message>
+    <message id="Tape Material">
+        <source>Tape Material</source>
+        <translation>Matière du ruban</translation>
+    </message>
+    <message id="Tape Colour : ">
+        <source>Tape Colour:</source>
+        <translation>Couleur du ruban :</translation>
+    </message>
+    <message id="Tape Colour">
+        <source>Tape Colour</source>
+        <translation>Couleur du ruban</translation>
+    </message>
+    <message id="Ink Colour : ">
+        <source>Ink Colour:</source>
+        <translation>Couleur d’encre :</translation>
+    </message>
+    <message id="Ink Colour">
+        <source>Ink Colour</source>
+        <translation>Couleur d’encre</translation>
+    </message>
+    <message id="Speed">
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message id="Off">
+        <source>Off</source>
+        <translation>Désactivée</translation>
+    </message>
+    <message id="On">
+        <source>On</source>
+        <translation>Activée</translation>
+    </message>
+    <message id="300 x 300 dpi">
+        <source>300 × 300 dpi</source>
+        <translation>300 × 300 dpi</translation>
+    </message>
+    <message id="300 x 600 dpi">
+        <source>300 × 600 dpi</source>
+        <translation>300 × 600 dpi</translation>
+    </message>
+    <message id="180 x 360 dpi">
+        <source>180 × 360 dpi</source>
+        <translation>180 × 360 dpi</translation>
+    </message>
+    <message id="360 x 360 dpi">
+        <source>360 × 360 dpi</source>
+        <translation>360 × 360 dpi</translation>
+    </message>
+    <message id="Speed (300 x 300 dpi)">
+        <source>Speed (300 × 300 dpi)</source>
+        <translation>Vitesse (300 × 300 dpi)</translation>
+    </message>
+    <message id="Quality (300 x 300 dpi)">
+        <source>Quality (300 × 300 dpi)</source>
+        <translation>Qualité (300 × 300 dpi)</translation>
+    </message>
+    <message id="Quality (300 x 600 dpi)">
+        <source>Quality (300 × 600 dpi)</source>
+        <translation>Qualité (300 × 600 dpi)</translation>
+    </message>
+    <message id="Film (OPP)">
+        <source>Film (OPP)</source>
+        <translation>Film (OPP)</translation>
+    </message>
+    <message id="Polyester (PET)">
+        <source>Polyester (PET)</source>
+        <translation>Polyester (PET)</translation>
+    </message>
+    <message id="Cloth">
+        <source>Cloth</source>
+        <translation>Tissu</translation>
+    </message>
+    <message id="White">
+        <source>White</source>
+        <translation>Blanc</translation>
+    </message>
+    <message id="Black">
+        <source>Black</source>
+        <translation>Noir</translation>
+    </message>
+    <message id="Blue">
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message id="Red">
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message id="Yellow">
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message id="Pink">
+        <source>Pink</source>
+        <translation>Rose</translation>
+    </message>
+    <message id="Clear">
+        <source>Clear</source>
+        <translation>Transparent</translation>
+    </message>
+    <message id="Pastel Blue">
+        <source>Pastel Blue</source>
+        <translation>Bleu pastel</translation>
+    </message>
+    <message id="Pastel Red">
+        <source>Pastel Red</source>
+        <translation>Rouge pastel</translation>
+    </message>
+    <message id="Deep Blue">
+        <source>Deep Blue</source>
+        <translation>Bleu foncé</translation>
+    </message>
+    <message id="Gold">
+        <source>Gold</source>
+        <translation>Or</translation>
+    </message>
+    <message id="Silver">
+        <source>Silver</source>
+        <translation>Argent</translation>
+    </message>
+    <message id="4 mm">
+        <source>4 mm</source>
+        <translation>4 mm</translation>
+    </message>
+    <message id="6 mm">
+        <source>6 mm</source>
+        <translation>6 mm</translation>
+    </message>
+    <message id="9 mm">
+        <source>9 mm</source>
+        <translation>9 mm</translation>
+    </message>
+    <message id="12 mm">
+        <source>12 mm</source>
+        <translation>12 mm</translation>
+    </message>
+    <message id="15 mm">
+        <source>15 mm</source>
+        <translation>15 mm</translation>
+    </message>
+    <message id="18 mm">
+        <source>18 mm</source>
+        <translation>18 mm</translation>
+    </message>
+    <message id="24 mm">
+        <source>24 mm</source>
+        <translation>24 mm</translation>
+    </message>
+    <message id="36 mm">
+        <source>36 mm</source>
+        <translation>36 mm</translation>
+    </message>
+    <message id="Die-cut label 24 x 80 mm">
+        <source>Die-cut label 24 × 80 mm</source>
+        <translation>Étiquette prédécoupée 24 × 80 mm</translation>
+    </message>
+    <message id="Address label 36 x 100 mm">
+        <source>Address label 36 × 100 mm</source>
+        <translation>Étiquette d’adresse 36 × 100 mm</translation>
+    </message>
+    <message id="File label 12 x 45 mm">
+        <source>File label 12 × 45 mm</source>
+        <translation>Étiquette de dossier 12 × 45 mm</translation>
+    </message>
+    <message id="Custom">
+        <source>Custom</source>
+        <translation>Personnalisée</translation>
+    </message>
+</context>
+</TS>
