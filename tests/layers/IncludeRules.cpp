@@ -184,7 +184,7 @@ void checkRoom(const fs::path &root, const Room &room, Report &report)
                 factory = name;
             }
             if (!wrong.empty()) {
-                report.findings.push_back(name + ":" + std::to_string(number) + ": " + wrong);
+                report.findings.push_back(std::string(name).append(":" + std::to_string(number) + ": ").append(wrong));
             }
         }
     }
