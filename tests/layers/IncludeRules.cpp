@@ -43,7 +43,7 @@ const std::array<Room, 7> &rooms()
 
 // The plug-in frame knows one header of the panel, and only its factory does.
 constexpr std::string_view factoryRoom = "plugin";
-constexpr std::string_view panelHeader = "panel/PageSettingPDE.h";
+constexpr std::string_view panelHeader = "panel/PanelFactory.h";
 
 /// One #include line.
 struct Include {

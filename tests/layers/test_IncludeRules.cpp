@@ -79,7 +79,7 @@ TEST_P(AllowedInclude, IsNoFinding)
 
 INSTANTIATE_TEST_SUITE_P(
     Layers, ForbiddenInclude,
-    ::testing::Values(OneInclude{"HostOfPanel", "host/Dialog.cpp", "\"panel/PageSettingPDE.h\""},
+    ::testing::Values(OneInclude{"HostOfPanel", "host/Dialog.cpp", "\"panel/PageSettingPDE13_v100_.h\""},
                       OneInclude{"HostOfPlugin", "host/Dialog.h", "\"plugin/BasePDE.h\""},
                       OneInclude{"HostOfPpd", "host/Dialog.cpp", "\"ppd/PDEChoice.h\""},
                       OneInclude{"HostOfLog", "host/Dialog.cpp", "\"log/Log.h\""},
@@ -88,18 +88,19 @@ INSTANTIATE_TEST_SUITE_P(
                       OneInclude{"PanelOfJobs", "panel/saving.cpp", "<cups/cups.h>"},
                       OneInclude{"PluginOfHost", "plugin/Factory.cpp", "\"host/Dialog.h\""},
                       OneInclude{"PluginOfControls", "plugin/Factory.cpp", "\"controls/PDEFormatter.h\""},
-                      OneInclude{"PluginOfOtherPanelHeader", "plugin/Factory.cpp", "\"panel/lengths.h\""},
-                      OneInclude{"PluginHeaderOfPanel", "plugin/BasePDE.h", "\"panel/PageSettingPDE.h\""},
-                      OneInclude{"ControlsOfPanel", "controls/PDEFormatter.cpp", "\"panel/PageSettingPDE.h\""},
+                      OneInclude{"PluginOfOtherPanelHeader", "plugin/Factory.cpp",
+                                 "\"panel/PageSettingPDE13_v100_.h\""},
+                      OneInclude{"PluginHeaderOfPanel", "plugin/BasePDE.h", "\"panel/PanelFactory.h\""},
+                      OneInclude{"ControlsOfPanel", "controls/PDEFormatter.cpp", "\"panel/PageSettingPDE13_v100_.h\""},
                       OneInclude{"PpdOfControls", "ppd/PDEChoice.h", "\"controls/PDEFormatter.h\""},
                       OneInclude{"PpdOfPropertyLists", "ppd/TapeInfo.cpp", "<plist/plist.h>"},
                       OneInclude{"LogOfPpd", "log/Log.cpp", "\"ppd/PDEChoice.h\""},
                       OneInclude{"PdekitOfPpd", "pdekit/src/Bundle.cpp", "\"ppd/PDEChoice.h\""},
                       OneInclude{"PdekitOfHost", "pdekit/include/pdekit/Bundle.h", "\"host/Dialog.h\""},
                       OneInclude{"PrivateHeaderOfPdekit", "host/Dialog.cpp", "\"pdekit/src/Secret.h\""},
-                      OneInclude{"RoomInAngles", "host/Dialog.cpp", "<panel/PageSettingPDE.h>"},
+                      OneInclude{"RoomInAngles", "host/Dialog.cpp", "<panel/PageSettingPDE13_v100_.h>"},
                       OneInclude{"TestsFromARoom", "ppd/PDEChoice.cpp", "\"tests/unit/Helper.h\""},
-                      OneInclude{"WayAroundByDots", "host/Dialog.cpp", "\"../panel/PageSettingPDE.h\""},
+                      OneInclude{"WayAroundByDots", "host/Dialog.cpp", "\"../panel/PageSettingPDE13_v100_.h\""},
                       OneInclude{"NoRoomNamed", "host/Dialog.cpp", "\"PageSettingPDE.h\""},
                       OneInclude{"UnknownLibrary", "pdekit/src/Bundle.cpp", "<other/library.h>"}),
     testName);
@@ -112,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(
                       OneInclude{"PanelOfPlugin", "panel/construction.cpp", "\"plugin/BasePDE.h\""},
                       OneInclude{"PanelOfControls", "panel/construction.cpp", "\"controls/PDEFormatter.h\""},
                       OneInclude{"PanelOfPpdRecords", "panel/construction.cpp", "<cups/ppd.h>"},
-                      OneInclude{"FactoryOfPanel", "plugin/Factory.cpp", "\"panel/PageSettingPDE.h\""},
+                      OneInclude{"FactoryOfPanel", "plugin/Factory.cpp", "\"panel/PanelFactory.h\""},
                       OneInclude{"ControlsOfPpd", "controls/PDEFormatter.cpp", "\"ppd/PDEUtilsMethod.h\""},
                       OneInclude{"LogOfPdekit", "log/Log.cpp", "<pdekit/Log.h>"},
                       OneInclude{"PdekitOfPropertyLists", "pdekit/src/PropertyList.cpp", "<plist/plist.h>"},
@@ -122,17 +123,17 @@ INSTANTIATE_TEST_SUITE_P(
                       OneInclude{"Standard", "ppd/PDEChoice.h", "<vector>"},
                       OneInclude{"System", "host/Jobs.cpp", "<sys/wait.h>"},
                       OneInclude{"WrittenByMoc", "host/Dialog.cpp", "\"Dialog.moc\""},
-                      OneInclude{"Tests", "tests/unit/test_Any.cpp", "\"panel/PageSettingPDE.h\""}),
+                      OneInclude{"Tests", "tests/unit/test_Any.cpp", "\"panel/PageSettingPDE13_v100_.h\""}),
     testName);
 
 TEST(Layers, OddlySpacedInclude_IsReadAllTheSame)
 {
-    EXPECT_EQ(findingsIn("host/Dialog.cpp", "  #  include\t\"panel/PageSettingPDE.h\" // why\n").size(), 1U);
+    EXPECT_EQ(findingsIn("host/Dialog.cpp", "  #  include\t\"panel/PageSettingPDE13_v100_.h\" // why\n").size(), 1U);
 }
 
 TEST(Layers, CommentedOutLine_IsNoInclude)
 {
-    EXPECT_EQ(findingsIn("host/Dialog.cpp", "// #include \"panel/PageSettingPDE.h\"\n"), Findings());
+    EXPECT_EQ(findingsIn("host/Dialog.cpp", "// #include \"panel/PageSettingPDE13_v100_.h\"\n"), Findings());
 }
 
 TEST(Layers, NeighbourInTheSameFolder_NeedsNoRoomName)
@@ -146,15 +147,15 @@ TEST(Layers, NeighbourInTheSameFolder_NeedsNoRoomName)
 TEST(Layers, SecondFileOfThePluginIncludingThePanel_IsFound)
 {
     Tree tree;
-    tree.add("plugin/AFactory.cpp", "#include \"panel/PageSettingPDE.h\"\n");
-    tree.add("plugin/Base.cpp", "#include \"panel/PageSettingPDE.h\"\n");
+    tree.add("plugin/AFactory.cpp", "#include \"panel/PanelFactory.h\"\n");
+    tree.add("plugin/Base.cpp", "#include \"panel/PanelFactory.h\"\n");
     ASSERT_EQ(tree.findings().size(), 1U);
     EXPECT_EQ(tree.findings()[0].find("plugin/Base.cpp:1: "), 0U) << tree.findings()[0];
 }
 
 TEST(Layers, EveryForbiddenLine_IsFoundInTheOrderOfTheFile)
 {
-    const Findings findings = findingsIn("ppd/PDEChoice.cpp", "#include \"panel/PageSettingPDE.h\"\n"
+    const Findings findings = findingsIn("ppd/PDEChoice.cpp", "#include \"panel/PageSettingPDE13_v100_.h\"\n"
                                                               "#include \"pdekit/Numbers.h\"\n"
                                                               "#include \"host/Dialog.h\"\n");
     ASSERT_EQ(findings.size(), 2U);
