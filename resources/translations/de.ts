@@ -22,7 +22,7 @@
     </message>
     <message id="RS_PrintTapeLength">
         <source>Print Tape Length:</source>
-        <translation>Druckbandlänge:</translation>
+        <translation>Drucklänge:</translation>
     </message>
     <message id="RS_Quality">
         <source>Print Quality:</source>
@@ -101,16 +101,16 @@
         <translation>360 × 720 dpi</translation>
     </message>
     <message id="RS_KsResolS300300">
-        <source>Speed (300 × 300 dpi)</source>
-        <translation>Geschwindigkeit (300 × 300 dpi)</translation>
+        <source>Speed (300×300 dpi)</source>
+        <translation>Schnell (300×300 dpi)</translation>
     </message>
     <message id="RS_KsResolQ300300">
-        <source>Quality (300 × 300 dpi)</source>
-        <translation>Qualität (300 × 300 dpi)</translation>
+        <source>Quality (300×300 dpi)</source>
+        <translation>Qualität (300×300 dpi)</translation>
     </message>
     <message id="RS_KsResolQ300600">
-        <source>Quality (300 × 600 dpi)</source>
-        <translation>Qualität (300 × 600 dpi)</translation>
+        <source>Quality (300×600 dpi)</source>
+        <translation>Qualität (300×600 dpi)</translation>
     </message>
     <message id="RS_KsTapeTypeOPP">
         <source>Film (OPP)</source>
@@ -214,7 +214,7 @@
     </message>
     <message id="RS_STitle_PrintTapeLength">
         <source>Print Tape Length</source>
-        <translation>Druckbandlänge</translation>
+        <translation>Drucklänge</translation>
     </message>
     <message id="RS_STitle_TapeType">
         <source>Tape Material</source>
@@ -246,11 +246,11 @@
     </message>
     <message id="RS_Alrt_TapeLengthMin">
         <source>The print tape length is shorter than the printer allows. The shortest allowed length is used instead.</source>
-        <translation>Die Druckbandlänge ist kürzer, als der Drucker erlaubt. Stattdessen wird die kürzeste zulässige Länge verwendet.</translation>
+        <translation>Die Drucklänge ist kürzer, als der Drucker erlaubt. Stattdessen wird die kürzeste zulässige Länge verwendet.</translation>
     </message>
     <message id="RS_Alrt_TapeLengthMax">
         <source>The print tape length is longer than this tape allows. The longest allowed length is used instead.</source>
-        <translation>Die Druckbandlänge ist größer, als dieses Band erlaubt. Stattdessen wird die größte zulässige Länge verwendet.</translation>
+        <translation>Die Drucklänge ist größer, als dieses Band erlaubt. Stattdessen wird die größte zulässige Länge verwendet.</translation>
     </message>
     <message id="RS_Alrt_LengthByMargin">
         <source>The margin is more than half of the tape length and leaves no room to print. The tape is made longer to fit both margins.</source>
@@ -274,11 +274,11 @@
     </message>
     <message id="Print Tape Length : ">
         <source>Print Tape Length:</source>
-        <translation>Druckbandlänge:</translation>
+        <translation>Drucklänge:</translation>
     </message>
     <message id="Print Tape Length">
         <source>Print Tape Length</source>
-        <translation>Druckbandlänge</translation>
+        <translation>Drucklänge</translation>
     </message>
     <message id="Print Quality : ">
         <source>Print Quality:</source>
@@ -369,16 +369,16 @@
         <translation>360 × 360 dpi</translation>
     </message>
     <message id="Speed (300 x 300 dpi)">
-        <source>Speed (300 × 300 dpi)</source>
-        <translation>Geschwindigkeit (300 × 300 dpi)</translation>
+        <source>Speed (300×300 dpi)</source>
+        <translation>Schnell (300×300 dpi)</translation>
     </message>
     <message id="Quality (300 x 300 dpi)">
-        <source>Quality (300 × 300 dpi)</source>
-        <translation>Qualität (300 × 300 dpi)</translation>
+        <source>Quality (300×300 dpi)</source>
+        <translation>Qualität (300×300 dpi)</translation>
     </message>
     <message id="Quality (300 x 600 dpi)">
-        <source>Quality (300 × 600 dpi)</source>
-        <translation>Qualität (300 × 600 dpi)</translation>
+        <source>Quality (300×600 dpi)</source>
+        <translation>Qualität (300×600 dpi)</translation>
     </message>
     <message id="Film (OPP)">
         <source>Film (OPP)</source>

@@ -101,16 +101,16 @@
         <translation>360 × 720 dpi</translation>
     </message>
     <message id="RS_KsResolS300300">
-        <source>Speed (300 × 300 dpi)</source>
-        <translation>速度優先（300 × 300 dpi）</translation>
+        <source>Speed (300×300 dpi)</source>
+        <translation>速度優先（300×300 dpi）</translation>
     </message>
     <message id="RS_KsResolQ300300">
-        <source>Quality (300 × 300 dpi)</source>
-        <translation>品質優先（300 × 300 dpi）</translation>
+        <source>Quality (300×300 dpi)</source>
+        <translation>品質優先（300×300 dpi）</translation>
     </message>
     <message id="RS_KsResolQ300600">
-        <source>Quality (300 × 600 dpi)</source>
-        <translation>品質優先（300 × 600 dpi）</translation>
+        <source>Quality (300×600 dpi)</source>
+        <translation>品質優先（300×600 dpi）</translation>
     </message>
     <message id="RS_KsTapeTypeOPP">
         <source>Film (OPP)</source>
@@ -369,16 +369,16 @@
         <translation>360 × 360 dpi</translation>
     </message>
     <message id="Speed (300 x 300 dpi)">
-        <source>Speed (300 × 300 dpi)</source>
-        <translation>速度優先（300 × 300 dpi）</translation>
+        <source>Speed (300×300 dpi)</source>
+        <translation>速度優先（300×300 dpi）</translation>
     </message>
     <message id="Quality (300 x 300 dpi)">
-        <source>Quality (300 × 300 dpi)</source>
-        <translation>品質優先（300 × 300 dpi）</translation>
+        <source>Quality (300×300 dpi)</source>
+        <translation>品質優先（300×300 dpi）</translation>
     </message>
     <message id="Quality (300 x 600 dpi)">
-        <source>Quality (300 × 600 dpi)</source>
-        <translation>品質優先（300 × 600 dpi）</translation>
+        <source>Quality (300×600 dpi)</source>
+        <translation>品質優先（300×600 dpi）</translation>
     </message>
     <message id="Film (OPP)">
         <source>Film (OPP)</source>

@@ -18,7 +18,7 @@
     </message>
     <message id="RS_Margin">
         <source>Margin:</source>
-        <translation>页边距：</translation>
+        <translation>边距：</translation>
     </message>
     <message id="RS_PrintTapeLength">
         <source>Print Tape Length:</source>
@@ -101,16 +101,16 @@
         <translation>360 × 720 dpi</translation>
     </message>
     <message id="RS_KsResolS300300">
-        <source>Speed (300 × 300 dpi)</source>
-        <translation>速度优先（300 × 300 dpi）</translation>
+        <source>Speed (300×300 dpi)</source>
+        <translation>速度优先（300×300 dpi）</translation>
     </message>
     <message id="RS_KsResolQ300300">
-        <source>Quality (300 × 300 dpi)</source>
-        <translation>质量优先（300 × 300 dpi）</translation>
+        <source>Quality (300×300 dpi)</source>
+        <translation>质量优先（300×300 dpi）</translation>
     </message>
     <message id="RS_KsResolQ300600">
-        <source>Quality (300 × 600 dpi)</source>
-        <translation>质量优先（300 × 600 dpi）</translation>
+        <source>Quality (300×600 dpi)</source>
+        <translation>质量优先（300×600 dpi）</translation>
     </message>
     <message id="RS_KsTapeTypeOPP">
         <source>Film (OPP)</source>
@@ -206,7 +206,7 @@
     </message>
     <message id="RS_STitle_Margin">
         <source>Margin</source>
-        <translation>页边距</translation>
+        <translation>边距</translation>
     </message>
     <message id="RS_STitle_Quality">
         <source>Print Quality</source>
@@ -254,7 +254,7 @@
     </message>
     <message id="RS_Alrt_LengthByMargin">
         <source>The margin is more than half of the tape length and leaves no room to print. The tape is made longer to fit both margins.</source>
-        <translation>页边距超过标签带长度的一半，没有可打印的空间。将加长标签带以容纳两侧的页边距。</translation>
+        <translation>边距超过标签带长度的一半，没有可打印的空间。将加长标签带以容纳两侧的边距。</translation>
     </message>
     <message id="Tape Length : ">
         <source>Tape Length:</source>
@@ -266,11 +266,11 @@
     </message>
     <message id="Margin : ">
         <source>Margin:</source>
-        <translation>页边距：</translation>
+        <translation>边距：</translation>
     </message>
     <message id="Margin">
         <source>Margin</source>
-        <translation>页边距</translation>
+        <translation>边距</translation>
     </message>
     <message id="Print Tape Length : ">
         <source>Print Tape Length:</source>
@@ -369,16 +369,16 @@
         <translation>360 × 360 dpi</translation>
     </message>
     <message id="Speed (300 x 300 dpi)">
-        <source>Speed (300 × 300 dpi)</source>
-        <translation>速度优先（300 × 300 dpi）</translation>
+        <source>Speed (300×300 dpi)</source>
+        <translation>速度优先（300×300 dpi）</translation>
     </message>
     <message id="Quality (300 x 300 dpi)">
-        <source>Quality (300 × 300 dpi)</source>
-        <translation>质量优先（300 × 300 dpi）</translation>
+        <source>Quality (300×300 dpi)</source>
+        <translation>质量优先（300×300 dpi）</translation>
     </message>
     <message id="Quality (300 x 600 dpi)">
-        <source>Quality (300 × 600 dpi)</source>
-        <translation>质量优先（300 × 600 dpi）</translation>
+        <source>Quality (300×600 dpi)</source>
+        <translation>质量优先（300×600 dpi）</translation>
     </message>
     <message id="Film (OPP)">
         <source>Film (OPP)</source>
