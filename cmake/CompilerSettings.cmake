@@ -20,7 +20,7 @@ add_compile_definitions(QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII 
 add_library(tapeprint_warnings INTERFACE)
 target_compile_options(tapeprint_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
-  -Woverloaded-virtual -Wnull-dereference -Wformat=2 -Wimplicit-fallthrough -Werror
+  -Woverloaded-virtual -Wformat=2 -Wimplicit-fallthrough -Werror
   # The PPD interface of libcups is marked deprecated, and is what printer descriptions are read with. Deprecated parts of
   # Qt are switched off above, so this hides nothing else.
   -Wno-deprecated-declarations)

@@ -293,7 +293,8 @@ QString summaryTapeLength(const QString &shownText, const Rules &rules)
 
 QString summaryDefault(float value, Unit unit, bool isInteger)
 {
-    return unit == Unit::Inches ? shownInches(static_cast<double>(value)) : ceilText(value, isInteger);
+    // Unlike a paper's length, a default is not narrowed before it is printed.
+    return unit == Unit::Inches ? fixedDecimals(MiriToInch(static_cast<double>(value)), 2) : ceilText(value, isInteger);
 }
 
 } // namespace lengths

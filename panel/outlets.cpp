@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: Apache-2.0
+// The one place where the interface file meets the panel: outlets by name, actions, and the delegate of the text
+// fields.
+#include "panel/PageSettingPDE13_v100_.h"
+
+#include <QHash>
+
+using namespace pdekit;
+
+namespace
+{
+
+template <typename Widget>
+void setOutlet(QPointer<Widget> &outlet, QWidget *widget)
+{
+    // A widget of another class than the outlet's is left unconnected: the panel does without it.
+    outlet = qobject_cast<Widget *>(widget);
+}
+
+} // namespace
+
+WidgetFactories PageSettingPDE13_v100_::widgetFactories() const
+{
+    return {{QStringLiteral("PDETextField13_v100_"),
+             [](QWidget *parent) -> QWidget * { return new PDETextField13_v100_(parent); }}};
+}
+
+void PageSettingPDE13_v100_::connectOutlet(const QString &name, QWidget *widget)
+{
+    using Panel = PageSettingPDE13_v100_;
+    using Setter = void (*)(Panel &, QWidget *);
+#define OUTLET(member)                                                                                                 \
+    {                                                                                                                  \
+        QStringLiteral(#member), [](Panel &panel, QWidget *outlet) { setOutlet(panel.member, outlet); }                \
+    }
+    static const QHash<QString, Setter> outlets = {
+        OUTLET(mWidthStr),          OUTLET(mWidthTxFld),
+        OUTLET(mSeparateLine1),     OUTLET(mLengthStr),
+        OUTLET(mLengthTxFld),       OUTLET(mLengthUnitStr),
+        OUTLET(mLengthSlider),      OUTLET(mLengthMinStr),
+        OUTLET(mLengthMaxStr),      OUTLET(mMarginStr),
+        OUTLET(mMarginTxFld),       OUTLET(mMarginUnitStr),
+        OUTLET(mMarginSlider),      OUTLET(mMarginMinStr),
+        OUTLET(mMarginMaxStr),      OUTLET(mTapeLengthStr),
+        OUTLET(mTapeLengthTxFld),   OUTLET(mTapeLengthUnitStr),
+        OUTLET(mTapeLengthSlider),  OUTLET(mTapeLengthMinStr),
+        OUTLET(mTapeLengthMaxStr),  OUTLET(mPrintQualityStr),
+        OUTLET(mPrintQualityRdBtn), OUTLET(mPrintResolutionStr),
+        OUTLET(mResolutionRdBtn),   OUTLET(mPrintCompressStr),
+        OUTLET(mCompressRdBtn),     OUTLET(mPrintKsResolutionStr),
+        OUTLET(mKsResolutionPUBtn), OUTLET(mTapeTypeStr),
+        OUTLET(mTapeTypePopBtn),    OUTLET(mInkColorStr),
+        OUTLET(mInkColorPopBtn),    OUTLET(mTapeColorStr),
+        OUTLET(mTapeColorPopBtn),
+    };
+#undef OUTLET
+    if (const auto setter = outlets.constFind(name); setter != outlets.constEnd()) {
+        (*setter)(*this, widget);
+    } else {
+        BasePDE13_v100_::connectOutlet(name, widget);
+    }
+}
+
+void PageSettingPDE13_v100_::viewDidLoad()
+{
+    using Panel = PageSettingPDE13_v100_;
+    // Each signal is sent for a person's act only, never for a control set by code.
+    const auto onMatrix = [this](RadioMatrix *matrix, void (Panel::*handler)(QObject *)) {
+        if (matrix != nullptr) {
+            connect(matrix, &RadioMatrix::action, this, [this, matrix, handler] { (this->*handler)(matrix); });
+        }
+    };
+    const auto onPopUp = [this](QComboBox *popUp, void (Panel::*handler)(QObject *)) {
+        if (popUp != nullptr) {
+            connect(popUp, &QComboBox::activated, this, [this, popUp, handler](int) { (this->*handler)(popUp); });
+        }
+    };
+    const auto onSlider = [this](Slider *slider, void (Panel::*handler)(QObject *)) {
+        if (slider != nullptr) {
+            connect(slider, &Slider::action, this, [this, slider, handler] { (this->*handler)(slider); });
+        }
+    };
+    const auto onField = [this](PDETextField13_v100_ *field) {
+        if (field != nullptr) {
+            connect(field, &PDETextField13_v100_::editingEnded, this,
+                    [this, field] { controlTextDidEndEditing(field); });
+        }
+    };
+
+    onMatrix(mPrintQualityRdBtn, &Panel::changeQuality);
+    onMatrix(mResolutionRdBtn, &Panel::changeResolution);
+    onMatrix(mCompressRdBtn, &Panel::changeCompress);
+    onPopUp(mKsResolutionPUBtn, &Panel::changeKsResolution);
+    onPopUp(mTapeTypePopBtn, &Panel::changeKsTapeType);
+    onPopUp(mTapeColorPopBtn, &Panel::changeKsTapeColor);
+    onPopUp(mInkColorPopBtn, &Panel::changeKsInkColor);
+    onSlider(mLengthSlider, &Panel::changeLength);
+    onSlider(mMarginSlider, &Panel::changeMargin);
+    onSlider(mTapeLengthSlider, &Panel::changeKsPrintTapeLength);
+    onField(mLengthTxFld);
+    onField(mMarginTxFld);
+    onField(mTapeLengthTxFld);
+    awakeFromNib();
+}
