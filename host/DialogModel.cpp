@@ -55,7 +55,7 @@ void DialogModel::open(Destination destination, const JobOptions &commandLine)
     layDownOptions(commandLine);
     mNotices += optionsThatNeverArrive(ppd(), mJob);
     makePanels();
-    mOpenedWith = takeSnapshot();
+    rememberAsOpened();
     Q_EMIT jobChanged();
 }
 
@@ -228,8 +228,7 @@ void DialogModel::showAllPanels()
     for (std::size_t i = 0; i < mPanels.size(); ++i) {
         showPanel(i);
     }
-    // What the panels showed first is what the dialog was opened with.
-    mOpenedWith = takeSnapshot();
+    rememberAsOpened();
 }
 
 bool DialogModel::saveValues(QString *error)

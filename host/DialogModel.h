@@ -93,6 +93,9 @@ public:
     /// Every panel is shown, as far as that goes without a window.
     void showAllPanels();
 
+    /// The job as it stands now is what Revert goes back to: the panels have shown their first values.
+    void rememberAsOpened() { mOpenedWith = takeSnapshot(); }
+
     /// Every panel hands over its values. \param error takes the sentence of the panel that could not.
     bool saveValues(QString *error);
     /// Every panel's last word. \param refusedBy takes the name of the panel that says no.

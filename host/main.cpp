@@ -3,6 +3,7 @@
 #include "host/CommandLine.h"
 #include "host/Display.h"
 #include "host/UnattendedRun.h"
+#include "host/WindowRun.h"
 
 #include <QApplication>
 #include <QFile>
@@ -81,7 +82,7 @@ int main(int argc, char **argv)
     const QApplication application(toolkitArgc, argv);
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
 
-    tapeprint::RunReport run = tapeprint::runUnattended(*line);
+    tapeprint::RunReport run = showsWindow ? tapeprint::runWindow(*line) : tapeprint::runUnattended(*line);
     if (wantsWindow && !showsWindow && run.status == 0) {
         run.output.prepend(QStringLiteral("There is no display: the job was done without a window."));
     }

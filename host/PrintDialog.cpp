@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: Apache-2.0
+// The window's construction and its pages. Values live in the dialog's objects; the controls only show them.
+#include "host/PrintDialog.h"
+
+#include "host/OptionsPage.h"
+#include "host/SummaryView.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tapeprint
+{
+
+namespace
+{
+
+constexpr int mostCopies = 9999;
+constexpr QSize smallestPanelArea(420, 300);
+constexpr int summaryWidth = 280;
+
+} // namespace
+
+PrintDialog::PrintDialog(DialogModel &model, const CommandLine &line, const DocumentSpool &documents,
+                         std::vector<PrintQueue> queues)
+    : mModel(model), mLine(line), mDocuments(documents), mQueues(std::move(queues))
+{
+    const QString title = line.title.isEmpty() ? documents.defaultTitle() : line.title;
+    setWindowTitle(tr("Print %1").arg(title));
+    setSizeGripEnabled(true);
+    mFollowTimer.setSingleShot(true);
+    mFollowTimer.setInterval(0);
+    buildControls();
+    fillPrinters();
+    connectControls();
+    showDestination();
+}
+
+PrintDialog::~PrintDialog() = default;
+
+void PrintDialog::buildControls()
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(makeDestinationControls());
+    mNotices = new QLabel(this);
+    mNotices->setObjectName(QStringLiteral("notices"));
+    mNotices->setWordWrap(true);
+    mNotices->setTextFormat(Qt::PlainText);
+    mNotices->setFrameShape(QFrame::StyledPanel);
+    mNotices->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout->addWidget(mNotices);
+
+    auto *middle = new QHBoxLayout;
+    middle->addWidget(makePanelArea(), 1);
+    auto *summaryBox = new QGroupBox(tr("Summary"), this);
+    mSummary = new SummaryView(summaryBox);
+    auto *summaryLayout = new QVBoxLayout(summaryBox);
+    summaryLayout->addWidget(mSummary);
+    summaryBox->setMinimumWidth(summaryWidth);
+    middle->addWidget(summaryBox);
+    layout->addLayout(middle, 1);
+    layout->addWidget(makeButtons());
+}
+
+QWidget *PrintDialog::makeDestinationControls()
+{
+    auto *controls = new QWidget(this);
+    auto *form = new QFormLayout(controls);
+    form->setContentsMargins({});
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    mPrinterPopUp = new QComboBox(controls);
+    mPrinterPopUp->setObjectName(QStringLiteral("printer"));
+    mTapePopUp = new QComboBox(controls);
+    mTapePopUp->setObjectName(QStringLiteral("tape"));
+    mTapePopUp->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    mPrinterPopUp->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    mCopiesField = new QSpinBox(controls);
+    mCopiesField->setObjectName(QStringLiteral("copies"));
+    mCopiesField->setRange(1, mostCopies);
+    form->addRow(tr("P&rinter:"), mPrinterPopUp);
+    form->addRow(tr("&Tape:"), mTapePopUp);
+    form->addRow(tr("&Copies:"), mCopiesField);
+    return controls;
+}
+
+QWidget *PrintDialog::makePanelArea()
+{
+    auto *area = new QWidget(this);
+    auto *layout = new QVBoxLayout(area);
+    layout->setContentsMargins({});
+    mPageChooser = new QComboBox(area);
+    mPageChooser->setObjectName(QStringLiteral("pageChooser"));
+    auto *label = new QLabel(tr("Pa&nel:"), area);
+    label->setBuddy(mPageChooser);
+    auto *chooserRow = new QHBoxLayout;
+    chooserRow->addWidget(label);
+    chooserRow->addWidget(mPageChooser, 1);
+    layout->addLayout(chooserRow);
+    mPanelArea = new QScrollArea(area);
+    mPanelArea->setWidgetResizable(true);
+    mPanelArea->setMinimumSize(smallestPanelArea);
+    mPages = new QStackedWidget;
+    mPanelArea->setWidget(mPages);
+    layout->addWidget(mPanelArea, 1);
+    return area;
+}
+
+QWidget *PrintDialog::makeButtons()
+{
+    auto *buttons = new QWidget(this);
+    auto *layout = new QHBoxLayout(buttons);
+    layout->setContentsMargins({});
+    mRevertButton = new QPushButton(tr("Re&vert"), buttons);
+    mRevertButton->setObjectName(QStringLiteral("revert"));
+    mRevertButton->setToolTip(tr("Go back to the values that the dialog was opened with"));
+    mCancelButton = new QPushButton(tr("Cancel"), buttons);
+    mCancelButton->setObjectName(QStringLiteral("cancel"));
+    mPrintButton = new QPushButton(tr("&Print"), buttons);
+    mPrintButton->setObjectName(QStringLiteral("print"));
+    mPrintButton->setDefault(true);
+    mRevertButton->setAutoDefault(false);
+    layout->addWidget(mRevertButton);
+    layout->addStretch();
+    layout->addWidget(mCancelButton);
+    layout->addWidget(mPrintButton);
+    return buttons;
+}
+
+void PrintDialog::fillPrinters()
+{
+    // The destination that the dialog was opened with comes first when it is none of the server's queues.
+    const Destination &destination = mModel.destination();
+    if (!destination.queue) {
+        mPrinterPopUp->addItem(tr("%1 (no print queue)").arg(destination.title()));
+    }
+    // A printer that was named but is not listed, such as one just found on the network, is offered as well.
+    const auto isOpen = [&destination](const PrintQueue &queue) {
+        return destination.queue && queue.fullName() == destination.queue->fullName();
+    };
+    if (destination.queue && std::none_of(mQueues.begin(), mQueues.end(), isOpen)) {
+        mQueues.insert(mQueues.begin(), *destination.queue);
+    }
+    for (const PrintQueue &queue : mQueues) {
+        mPrinterPopUp->addItem(queue.info.isEmpty() || queue.info == queue.name
+                                   ? queue.fullName()
+                                   : tr("%1 (%2)").arg(queue.fullName(), queue.info),
+                               queue.fullName());
+        if (isOpen(queue)) {
+            mPrinterPopUp->setCurrentIndex(mPrinterPopUp->count() - 1);
+        }
+    }
+    mCurrentPrinter = mPrinterPopUp->currentIndex();
+}
+
+void PrintDialog::showDestination()
+{
+    mNotices->setText(mModel.notices().join(u'\n'));
+    mNotices->setVisible(!mModel.notices().isEmpty());
+    showTapes();
+    showPages();
+    follow();
+}
+
+void PrintDialog::showTapes()
+{
+    const ppd_option_t *tapes = findOption(mModel.ppd(), OptionName::pageSize);
+    mTapePopUp->clear();
+    mTapePopUp->setEnabled(tapes != nullptr);
+    if (tapes != nullptr) {
+        fillWithChoices(mTapePopUp, *tapes);
+    }
+}
+
+void PrintDialog::showPages()
+{
+    removePages();
+    for (const PanelEntry &entry : mModel.panels()) {
+        // A panel without a view keeps its place, so that pages and panels are counted alike.
+        QWidget *page = entry.view != nullptr ? entry.view.data() : new QLabel(tr("This panel has no view."));
+        mPages->addWidget(page);
+        mPageWidgets.emplace_back(page);
+        mPageChooser->addItem(entry.name);
+    }
+    mOptionsPage = new OptionsPage(mModel, mPages);
+    if (mOptionsPage->isEmpty() && !mModel.panels().empty()) {
+        delete mOptionsPage;
+    } else {
+        connect(mOptionsPage, &OptionsPage::picked, this, &PrintDialog::pickOption);
+        mPages->addWidget(mOptionsPage);
+        mPageWidgets.emplace_back(mOptionsPage);
+        mPageChooser->addItem(tr("More Options"));
+    }
+    showPage(0);
+    mModel.rememberAsOpened();
+}
+
+void PrintDialog::removePages()
+{
+    // A released panel took its view along or left it behind; either is fine.
+    for (const QPointer<QWidget> &page : mPageWidgets) {
+        delete page.data();
+    }
+    mPageWidgets.clear();
+    mPageChooser->clear();
+    mCurrentPage = -1;
+}
+
+void PrintDialog::showPage(int index)
+{
+    mCurrentPage = index;
+    mPageChooser->setCurrentIndex(index);
+    const auto at = static_cast<std::size_t>(index);
+    if (at < mPageWidgets.size() && mPageWidgets[at] != nullptr) {
+        mPages->setCurrentWidget(mPageWidgets[at]);
+        showCurrentPanel();
+    }
+}
+
+void PrintDialog::showCurrentPanel()
+{
+    if (mCurrentPage >= 0) {
+        mModel.showPanel(static_cast<std::size_t>(mCurrentPage));
+    }
+}
+
+} // namespace tapeprint
