@@ -82,7 +82,7 @@ QString Bundle::localizedStringForKey(const QString &key, const QString &value, 
 {
     if (mCatalogue && table.isEmpty()) {
         // Id-based catalogues keep their entries without a context.
-        const QString text = mCatalogue->translate(nullptr, key.toUtf8().constData());
+        QString text = mCatalogue->translate(nullptr, key.toUtf8().constData());
         if (!text.isNull()) {
             return text;
         }

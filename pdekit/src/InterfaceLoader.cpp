@@ -13,6 +13,8 @@ InterfaceLoader::InterfaceLoader(const WidgetFactories &factories) : mFactories(
 {
     const QStringList classes = availableWidgets();
     mToolkitClasses = QSet<QString>(classes.begin(), classes.end());
+    // A separator of the interface editor: the toolkit makes it but does not list it.
+    mToolkitClasses.insert(QStringLiteral("Line"));
     // Texts of the view come from the bundle's catalogue, never from the application's.
     setTranslationEnabled(false);
 }

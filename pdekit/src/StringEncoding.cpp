@@ -167,6 +167,7 @@ std::vector<StringEncoding> listEncodings()
 {
     std::vector<StringEncoding> available;
     const std::int32_t count = ucnv_countAvailable();
+    available.reserve(static_cast<std::size_t>(count));
     for (std::int32_t i = 0; i < count; ++i) {
         available.emplace_back(ucnv_getAvailableName(i));
     }
@@ -186,7 +187,7 @@ StringEncoding systemEncoding()
         return replacedSystemEncoding();
     }
     // The C locale calls plain ASCII by the name of its standard.
-    const StringEncoding codeset(nl_langinfo(CODESET));
+    StringEncoding codeset(nl_langinfo(CODESET));
     if (codeset == "ANSI_X3.4-1968" || converterOf(codeset) == nullptr) {
         return kAscii;
     }

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: Apache-2.0
+// The main function of test programs: an application object, and GoogleTest inside it.
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char **argv)
+{
+    // Also when a program is started by hand, or only asked for its list of tests.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    ::testing::InitGoogleTest(&argc, argv);
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

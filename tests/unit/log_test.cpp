@@ -1,0 +1,397 @@
+// SPDX-License-Identifier: Apache-2.0
+// The diagnostic functions, by what they leave in the system log, on standard error, in a descriptor and in a file.
+#include "log/DiagnosticLog.h"
+
+#include "TextPrinting.h"
+#include "pdekit/PrintingCore.h"
+#include "pdekit/PropertyList.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QObject>
+#include <QStringList>
+#include <QTemporaryFile>
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cstdio>
+#include <functional>
+#include <limits>
+
+#include <unistd.h>
+
+namespace
+{
+
+/// What a function writes to a file descriptor of its own.
+QByteArray written(const std::function<void(int)> &write)
+{
+    QTemporaryFile file;
+    EXPECT_TRUE(file.open());
+    write(file.handle());
+    QFile result(file.fileName());
+    EXPECT_TRUE(result.open(QIODevice::ReadOnly));
+    return result.readAll();
+}
+
+/// What a function writes to the standard error stream.
+QByteArray onStandardError(const std::function<void()> &write)
+{
+    return written([&](int fd) {
+        std::fflush(stderr);
+        const int kept = ::dup(STDERR_FILENO);
+        ASSERT_GE(::dup2(fd, STDERR_FILENO), 0);
+        write();
+        std::fflush(stderr);
+        ASSERT_GE(::dup2(kept, STDERR_FILENO), 0);
+        ::close(kept);
+    });
+}
+
+struct SystemLogLines {
+    QStringList lines;
+    QStringList categories;
+};
+SystemLogLines *systemLogLines = nullptr;
+
+/// Collects the lines of the system log while it lives.
+class SystemLog : public testing::Test
+{
+protected:
+    SystemLog()
+    {
+        systemLogLines = &mLog;
+        mFormer = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &context, const QString &line) {
+            systemLogLines->lines.append(line);
+            systemLogLines->categories.append(QLatin1String(context.category));
+        });
+    }
+    ~SystemLog() override
+    {
+        qInstallMessageHandler(mFormer);
+        systemLogLines = nullptr;
+    }
+    SystemLog(const SystemLog &) = delete;
+    SystemLog &operator=(const SystemLog &) = delete;
+
+    SystemLogLines mLog;
+    QtMessageHandler mFormer = nullptr;
+};
+
+TEST_F(SystemLog, LogWithoutAnObject_IsTheTagABlankAndTheText)
+{
+    _PDELog(nullptr, "%d", 5);
+    EXPECT_EQ(mLog.lines, QStringList(QStringLiteral("LOG 5")));
+    EXPECT_EQ(mLog.categories, QStringList(QStringLiteral("pde")));
+}
+
+TEST_F(SystemLog, PrologAndEpilog_CarryTheirTags)
+{
+    _PDEProlog(nullptr, "save %s", "all");
+    _PDEEpilog(nullptr, "save");
+    EXPECT_EQ(mLog.lines, QStringList({QStringLiteral("BEGIN save all"), QStringLiteral("END save")}));
+}
+
+TEST_F(SystemLog, Object_StandsBeforeTheTextByItsDescription)
+{
+    const QObject object;
+    _PDELog(&object, "%d of %d", 2, 3);
+    const QString address = QString::number(reinterpret_cast<quintptr>(&object), 16);
+    EXPECT_EQ(mLog.lines, QStringList(QStringLiteral("LOG self(<QObject: 0x%1>) 2 of 3").arg(address)));
+}
+
+TEST_F(SystemLog, CategorySwitchedOff_StillGetsTheLine)
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("pde=false"));
+    _PDELog(nullptr, "still here");
+    QLoggingCategory::setFilterRules(QString());
+    EXPECT_EQ(mLog.lines, QStringList(QStringLiteral("LOG still here")));
+}
+
+TEST_F(SystemLog, PercentInAnArgument_IsNotAPlaceholder)
+{
+    const QString text = QStringLiteral("100% %d");
+    _PDELog(nullptr, "%@", &text);
+    EXPECT_EQ(mLog.lines, QStringList(QStringLiteral("LOG 100% %d")));
+}
+
+TEST_F(SystemLog, OptionDumpWithoutPpdOrKeyword_SaysSo)
+{
+    ppd_file_t ppd{};
+    _PDELog_ppd_option_t(nullptr, nullptr);
+    _PDELog_ppd_option_t(nullptr, "KsMargin");
+    _PDELog_ppd_option_t(&ppd, nullptr);
+    EXPECT_EQ(mLog.lines,
+              QStringList({QStringLiteral("PPD file is not loaded!!"), QStringLiteral("PPD file is not loaded!!"),
+                           QStringLiteral("ppdOptionName is NULL!!")}));
+}
+
+/// A PPD of one option with two choices.
+class OptionDump : public SystemLog
+{
+protected:
+    OptionDump()
+    {
+        EXPECT_TRUE(mFile.open());
+        mFile.write("*PPD-Adobe: \"4.3\"\n"
+                    "*FormatVersion: \"4.3\"\n"
+                    "*FileVersion: \"1.0\"\n"
+                    "*LanguageVersion: English\n"
+                    "*LanguageEncoding: ISOLatin1\n"
+                    "*PCFileName: \"TAPE.PPD\"\n"
+                    "*Product: \"(Tape)\"\n"
+                    "*Manufacturer: \"Sample\"\n"
+                    "*ModelName: \"Tape\"\n"
+                    "*NickName: \"Tape\"\n"
+                    "*ShortNickName: \"Tape\"\n"
+                    "*PSVersion: \"(3010.000) 0\"\n"
+                    "*OpenUI *KsPriority/Print quality: PickOne\n"
+                    "*OrderDependency: 12.5 AnySetup *KsPriority\n"
+                    "*DefaultKsPriority: Speed\n"
+                    "*KsPriority Quality/Best: \"\"\n"
+                    "*KsPriority Speed/Fast: \"\"\n"
+                    "*CloseUI: *KsPriority\n");
+        mFile.flush();
+        mPpd = ppdOpenFile(mFile.fileName().toLocal8Bit().constData());
+    }
+    ~OptionDump() override { ppdClose(mPpd); }
+    OptionDump(const OptionDump &) = delete;
+    OptionDump &operator=(const OptionDump &) = delete;
+
+    QTemporaryFile mFile;
+    ppd_file_t *mPpd = nullptr;
+};
+
+TEST_F(OptionDump, Option_IsDumpedFieldByFieldWithItsFirstChoice)
+{
+    ASSERT_NE(mPpd, nullptr);
+    ppd_option_t *option = ppdFindOption(mPpd, "KsPriority");
+    ASSERT_NE(option, nullptr);
+    _PDELog_ppd_option_t(mPpd, "KsPriority");
+    // PickOne is 1; the section AnySetup is 0; the order is 12.5.
+    const QStringList expected = {QStringLiteral("+-+-+-+-+-+-+-+-+-+- start is KsPriority"),
+                                  QStringLiteral("***** conflicted | "),
+                                  QStringLiteral("***** keyword | KsPriority"),
+                                  QStringLiteral("***** defchoice | Speed"),
+                                  QStringLiteral("***** text | Print quality"),
+                                  QStringLiteral("***** ui == 1"),
+                                  QStringLiteral("***** section == 0"),
+                                  QStringLiteral("***** order == 12.500000"),
+                                  QStringLiteral("***** num_choices == 2"),
+                                  QStringLiteral("***** choices->marked | "),
+                                  QStringLiteral("***** choices->choice | Quality"),
+                                  QStringLiteral("***** choices->text | Best"),
+                                  QStringLiteral("+-+-+-+-+-+-+-+-+-+- end is KsPriority")};
+    EXPECT_EQ(mLog.lines, expected);
+}
+
+TEST_F(OptionDump, FlagsThatAreSet_ArePrintedAsTheStringsTheyBegin)
+{
+    ASSERT_NE(mPpd, nullptr);
+    ppd_option_t *option = ppdFindOption(mPpd, "KsPriority");
+    ASSERT_NE(option, nullptr);
+    option->conflicted = 1;
+    option->choices[0].marked = 1;
+    _PDELog_ppd_option_t(mPpd, "KsPriority");
+    ASSERT_EQ(mLog.lines.size(), 13);
+    EXPECT_EQ(mLog.lines[1], QStringLiteral("***** conflicted | \u0001KsPriority"));
+    EXPECT_EQ(mLog.lines[9], QStringLiteral("***** choices->marked | \u0001Quality"));
+}
+
+TEST_F(OptionDump, OptionThatThePpdDoesNotDefine_GivesTheStartLineAlone)
+{
+    ASSERT_NE(mPpd, nullptr);
+    _PDELog_ppd_option_t(mPpd, "KsMargin");
+    EXPECT_EQ(mLog.lines, QStringList(QStringLiteral("+-+-+-+-+-+-+-+-+-+- start is KsMargin")));
+}
+
+TEST_F(OptionDump, OptionWithoutChoices_IsDumpedWithoutAChoice)
+{
+    ASSERT_NE(mPpd, nullptr);
+    ppd_option_t *option = ppdFindOption(mPpd, "KsPriority");
+    ASSERT_NE(option, nullptr);
+    const int kept = option->num_choices;
+    option->num_choices = 0;
+    _PDELog_ppd_option_t(mPpd, "KsPriority");
+    option->num_choices = kept;
+    ASSERT_EQ(mLog.lines.size(), 13);
+    EXPECT_EQ(mLog.lines[8], QStringLiteral("***** num_choices == 0"));
+    EXPECT_EQ(mLog.lines[10], QStringLiteral("***** choices->choice | (null)"));
+}
+
+TEST(DebugLog, LevelAboveZero_WritesNothing)
+{
+    EXPECT_EQ(onStandardError([] { debugLog(1, "%d", 5); }), QByteArray());
+    EXPECT_EQ(onStandardError([] { debugLog(std::numeric_limits<std::int32_t>::max(), "x"); }), QByteArray());
+    EXPECT_EQ(written([](int fd) { debugLogFd(1, fd, "%d", 5); }), QByteArray());
+}
+
+TEST(DebugLog, LevelZeroAndBelow_WriteThePrefixAndTheLine)
+{
+    EXPECT_EQ(onStandardError([] { debugLog(0, "%d", 5); }), QByteArray("DEBUG: 5\n"));
+    EXPECT_EQ(onStandardError([] { debugLog(-3, "margin %.1f", 2.5); }), QByteArray("DEBUG: margin 2.5\n"));
+    EXPECT_EQ(onStandardError([] { debugLog(0, ""); }), QByteArray("DEBUG: \n"));
+}
+
+TEST(DebugLog, Descriptor_GetsTheLineWithoutThePrefix)
+{
+    EXPECT_EQ(written([](int fd) { debugLogFd(0, fd, "%s=%d", "a", 5); }), QByteArray("a=5\n"));
+    EXPECT_EQ(written([](int fd) { debugLogFd(-3, fd, "x"); }), QByteArray("x\n"));
+    debugLogFd(0, -1, "nowhere");
+}
+
+TEST(DebugLog, CharacterThatUtf8CannotHold_BecomesAQuestionMark)
+{
+    const QString text = QStringLiteral("é") + QChar(0xD800) + QStringLiteral("x");
+    EXPECT_EQ(written([&](int fd) { debugLogFd(0, fd, "%@", &text); }), QByteArray("\xc3\xa9?x\n"));
+    EXPECT_EQ(onStandardError([&] { debugLog(0, "%@", &text); }), QByteArray("DEBUG: \xc3\xa9?x\n"));
+}
+
+TEST(DebugLog, MissingFormat_WritesNothingButThePrefix)
+{
+    EXPECT_EQ(onStandardError([] { debugLog(0, nullptr); }), QByteArray("DEBUG: "));
+    EXPECT_EQ(written([](int fd) { debugLogFd(0, fd, nullptr); }), QByteArray());
+}
+
+TEST(DebugLog, Placeholders_AreFilledInTheirOrderAndWidth)
+{
+    const QString text = QStringLiteral("日本");
+    const auto line = [](auto... arguments) {
+        const QByteArray bytes = written([&](int fd) { debugLogFd(0, fd, arguments...); });
+        EXPECT_TRUE(bytes.endsWith('\n'));
+        return QString::fromUtf8(bytes.chopped(1));
+    };
+    EXPECT_EQ(line("%@|%4@|%-4@|%.1@", &text, &text, &text, &text), QStringLiteral("日本|  日本|日本  |日"));
+    EXPECT_EQ(line("%@|%s", static_cast<const QString *>(nullptr), static_cast<const char *>(nullptr)),
+              QStringLiteral("(null)|(null)"));
+    EXPECT_EQ(line("%05d|%-5d|%+d|%i", 42, 42, 42, -42), QStringLiteral("00042|42   |+42|-42"));
+    EXPECT_EQ(line("%u|%x|%X|%#o", 4294967295U, 255U, 255U, 8U), QStringLiteral("4294967295|ff|FF|010"));
+    EXPECT_EQ(line("%hhd|%hd|%ld|%lld|%zu", 257, 65537, -1L, -2LL, sizeof(char)), QStringLiteral("1|1|-1|-2|1"));
+    EXPECT_EQ(line("%c%%|%.*f|%*d|%-*d|", 'a', 2, 1.5, 4, 7, 3, 8), QStringLiteral("a%|1.50|   7|8  |"));
+    EXPECT_EQ(line("%.3s|%e|%g|%Lf", "abcdef", 1500.0, 0.5, 2.5L), QStringLiteral("abc|1.500000e+03|0.5|2.500000"));
+    EXPECT_EQ(line("%y %n %d", 1), QStringLiteral("%y %n 1"));
+    EXPECT_EQ(line("50%"), QStringLiteral("50%"));
+}
+
+TEST(DebugLog, GermanLocale_KeepsThePoint)
+{
+    const std::string kept = std::setlocale(LC_ALL, nullptr);
+    if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) {
+        GTEST_SKIP() << "no German locale on this machine";
+    }
+    const QByteArray line = written([](int fd) { debugLogFd(0, fd, "%.1f", 2.5); });
+    std::setlocale(LC_ALL, kept.c_str());
+    EXPECT_EQ(line, QByteArray("2.5\n"));
+}
+
+const unsigned char kBytes[33] = {0x00, 0xAB, 0x10, 0x03, 0x04, 0x05, 0x06, 0x07, 0x08, 0x09, 0x0A,
+                                  0x0B, 0x0C, 0x0D, 0x0E, 0x0F, 0xFF, 0x11, 0x12, 0x13, 0x14, 0x15,
+                                  0x16, 0x17, 0x18, 0x19, 0x1A, 0x1B, 0x1C, 0x1D, 0x1E, 0x1F, 0x20};
+const QByteArray kFirst16 = "00ab100304050607"
+                            "08090a0b0c0d0e0f";
+const QByteArray kSecond16 = "ff11121314151617"
+                             "18191a1b1c1d1e1f";
+
+QByteArray dumpedToFd(std::int32_t level, const unsigned char *bytes, std::int32_t length)
+{
+    return written([=](int fd) { memoryCheckFd(level, fd, bytes, length); });
+}
+
+QByteArray dumped(std::int32_t level, const unsigned char *bytes, std::int32_t length)
+{
+    return onStandardError([=] { memoryCheck(level, bytes, length); });
+}
+
+TEST(MemoryCheckFd, ThreeBytes_AreOneLine)
+{
+    EXPECT_EQ(dumpedToFd(0, kBytes, 3), QByteArray("00ab10\n"));
+}
+
+TEST(MemoryCheckFd, SixteenBytes_AreExactlyOneLine)
+{
+    EXPECT_EQ(dumpedToFd(0, kBytes, 16), kFirst16 + "\n");
+}
+
+TEST(MemoryCheckFd, SeventeenBytes_AreTwoLinesTheSecondOfTwoDigits)
+{
+    EXPECT_EQ(dumpedToFd(-1, kBytes, 17), kFirst16 + "\nff\n");
+    EXPECT_EQ(dumpedToFd(-1, kBytes, 32), kFirst16 + "\n" + kSecond16 + "\n");
+}
+
+TEST(MemoryCheckFd, NothingToDo_WritesNothing)
+{
+    EXPECT_EQ(dumpedToFd(1, kBytes, 3), QByteArray());
+    EXPECT_EQ(dumpedToFd(0, nullptr, 3), QByteArray());
+    EXPECT_EQ(dumpedToFd(0, kBytes, 0), QByteArray());
+    EXPECT_EQ(dumpedToFd(0, kBytes, -1), QByteArray());
+}
+
+TEST(MemoryCheck, SixteenBytes_EndWithALonePrefix)
+{
+    EXPECT_EQ(dumped(0, kBytes, 16), "DEBUG:" + kFirst16 + "DEBUG:");
+}
+
+TEST(MemoryCheck, PartialLines_RunTogetherWithoutNewlines)
+{
+    EXPECT_EQ(dumped(0, kBytes, 3), QByteArray("DEBUG:00ab10"));
+    EXPECT_EQ(dumped(-1, kBytes, 17), "DEBUG:" + kFirst16 + "DEBUG:ff");
+    EXPECT_EQ(dumped(-1, kBytes, 33), "DEBUG:" + kFirst16 + "DEBUG:" + kSecond16 + "DEBUG:20");
+}
+
+TEST(MemoryCheck, NothingToDo_WritesNothing)
+{
+    EXPECT_EQ(dumped(1, kBytes, 3), QByteArray());
+    EXPECT_EQ(dumped(0, nullptr, 3), QByteArray());
+    EXPECT_EQ(dumped(0, kBytes, 0), QByteArray());
+    EXPECT_EQ(dumped(0, kBytes, -1), QByteArray());
+}
+
+/// A file name that no other run uses.
+QByteArray uniqueName()
+{
+    return "unit_log_" + QByteArray::number(qlonglong(::getpid()));
+}
+
+TEST(SettingsToFile, MissingArguments_WriteNothing)
+{
+    const QString pattern = QStringLiteral("KsPDE_*");
+    const QStringList before = QDir(QStringLiteral("/")).entryList({pattern});
+    const pdekit::PrintSettings settings;
+    _PDELog_PMPrintSettings_WriteToFile(nullptr, uniqueName().constData());
+    _PDELog_PMPrintSettings_WriteToFile(&settings, nullptr);
+    EXPECT_EQ(QDir(QStringLiteral("/")).entryList({pattern}), before);
+}
+
+TEST(SettingsToFile, Settings_LandInTheRootDirectoryWhenItCanBeWritten)
+{
+    const QByteArray name = uniqueName();
+    const QString path = QStringLiteral("/KsPDE_") + QString::fromLatin1(name) + QStringLiteral(".plist");
+    pdekit::PrintSettings settings;
+    ASSERT_EQ(pdekit::PMSetFirstPage(&settings, 7, false), pdekit::kPMNoError);
+    QByteArray expected;
+    ASSERT_EQ(pdekit::PMPrintSettingsCreateDataRepresentation(&settings, &expected), pdekit::kPMNoError);
+    ASSERT_FALSE(expected.isEmpty());
+
+    _PDELog_PMPrintSettings_WriteToFile(&settings, name.constData());
+
+    if (!QFileInfo(QStringLiteral("/")).isWritable()) {
+        EXPECT_FALSE(QFile::exists(path));
+        return;
+    }
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), expected);
+    EXPECT_TRUE(file.remove());
+}
+
+TEST(SettingsToFile, PathThatCannotBeWritten_IsLeftOutInSilence)
+{
+    const pdekit::PrintSettings settings;
+    _PDELog_PMPrintSettings_WriteToFile(&settings, "no_such_directory/x");
+    EXPECT_FALSE(QFile::exists(QStringLiteral("/KsPDE_no_such_directory/x.plist")));
+}
+
+} // namespace
