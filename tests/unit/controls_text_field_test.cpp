@@ -45,6 +45,10 @@ protected:
         QObject::connect(mField, &PDETextField13_v100_::editingEnded, mField, [this] { ++mEnds; });
     }
 
+    ~TextField() override { mWindow.close(); }
+    TextField(const TextField &) = delete;
+    TextField &operator=(const TextField &) = delete;
+
     /// Shows the window with the field in focus.
     void show()
     {
@@ -91,6 +95,31 @@ protected:
         QApplication::sendEvent(mField, &event);
     }
 
+    /// Raises a modal alert whenever the field's editing ends; it closes itself once it has the focus.
+    void alertAtEachEnd()
+    {
+        QObject::connect(mField, &PDETextField13_v100_::editingEnded, mField, [this] {
+            ++mAlerts;
+            ASSERT_LT(mAlerts, 5);
+            QMessageBox box(&mWindow);
+            QTimer closer;
+            QObject::connect(&closer, &QTimer::timeout, &box, [&box] {
+                if (box.isActiveWindow()) {
+                    box.accept();
+                }
+            });
+            closer.start(5);
+            box.exec();
+        });
+    }
+
+    /// Brings the window to the front again, as a desktop does when an alert has gone.
+    void comeBack()
+    {
+        mWindow.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&mWindow));
+    }
+
     /// The text with the selection in brackets, or the cursor as a bar.
     QString state() const
     {
@@ -107,6 +136,7 @@ protected:
     QLineEdit *mOther = nullptr;
     int mPosts = 0;
     int mEnds = 0;
+    int mAlerts = 0;
 };
 
 QString q(const char *text)
@@ -566,45 +596,25 @@ TEST_F(TextField, MenuOrAnotherWindowInFront_EndsNothing)
     EXPECT_EQ(mEnds, 1);
 }
 
-/// Raises a modal alert whenever the field's editing ends, and closes it once it has the focus.
-void alertAtEachEnd(PDETextField13_v100_ *field, int *alerts)
-{
-    QObject::connect(field, &PDETextField13_v100_::editingEnded, field, [=] {
-        ++*alerts;
-        ASSERT_LT(*alerts, 5);
-        QMessageBox box(field->window());
-        QTimer closer;
-        QObject::connect(&closer, &QTimer::timeout, &box, [&box] {
-            if (box.isActiveWindow()) {
-                box.accept();
-            }
-        });
-        closer.start(5);
-        box.exec();
-    });
-}
-
 TEST_F(TextField, AlertAtTheEndByReturn_IsRaisedOnce)
 {
     show();
-    int alerts = 0;
-    alertAtEachEnd(mField, &alerts);
+    alertAtEachEnd();
     QTest::keyClick(mField, Qt::Key_Return);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&mWindow));
-    EXPECT_EQ(alerts, 1);
+    comeBack();
+    EXPECT_EQ(mAlerts, 1);
     // The next end is a cause of its own.
     QTest::keyClick(mField, Qt::Key_Tab);
-    EXPECT_EQ(alerts, 2);
+    EXPECT_EQ(mAlerts, 2);
 }
 
 TEST_F(TextField, AlertAtTheEndByTab_IsRaisedOnceAndTheFocusMovesOn)
 {
     show();
-    int alerts = 0;
-    alertAtEachEnd(mField, &alerts);
+    alertAtEachEnd();
     QTest::keyClick(mField, Qt::Key_Tab);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&mWindow));
-    EXPECT_EQ(alerts, 1);
+    comeBack();
+    EXPECT_EQ(mAlerts, 1);
     EXPECT_TRUE(mOther->hasFocus());
 }
 
