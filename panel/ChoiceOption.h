@@ -41,7 +41,8 @@ struct ChoiceOption {
     bool decidesEnabledQuality = false; ///< a pick applies the rule that quality goes with the first resolution
 
     std::uint32_t TapeInfo::*ticketCode = nullptr; ///< the ticket's position + 1; null: the ticket does not say
-    std::span<const char *const> ticketKeywords;   ///< choice keywords by ticket code, from 1; the last is open-ended
+    std::span<const char *const> ticketKeywords =
+        {}; ///< choice keywords by ticket code, from 1; the last is open-ended
 
     /// The place of cloth among the tape materials.
     static constexpr int kClothIndex = 2;

@@ -4,6 +4,7 @@
 
 #include "controls/PDETextField13_v100_.h"
 #include "panel/LengthArithmetic.h"
+#include "pdekit/NotificationCenter.h"
 #include "pdekit/RadioMatrix.h"
 #include "pdekit/Slider.h"
 #include "plugin/BasePDE13_v100_.h"

@@ -27,11 +27,11 @@ WidgetFactories PageSettingPDE13_v100_::widgetFactories() const
 
 void PageSettingPDE13_v100_::connectOutlet(const QString &name, QWidget *widget)
 {
-    using Panel = PageSettingPDE13_v100_;
-    using Setter = void (*)(Panel &, QWidget *);
+    using Self = PageSettingPDE13_v100_;
+    using Setter = void (*)(Self &, QWidget *);
 #define OUTLET(member)                                                                                                 \
     {                                                                                                                  \
-        QStringLiteral(#member), [](Panel &panel, QWidget *outlet) { setOutlet(panel.member, outlet); }                \
+        QStringLiteral(#member), [](Self &panel, QWidget *outlet) { setOutlet(panel.member, outlet); }                 \
     }
     static const QHash<QString, Setter> outlets = {
         OUTLET(mWidthStr),          OUTLET(mWidthTxFld),
@@ -63,19 +63,19 @@ void PageSettingPDE13_v100_::connectOutlet(const QString &name, QWidget *widget)
 
 void PageSettingPDE13_v100_::viewDidLoad()
 {
-    using Panel = PageSettingPDE13_v100_;
+    using Self = PageSettingPDE13_v100_;
     // Each signal is sent for a person's act only, never for a control set by code.
-    const auto onMatrix = [this](RadioMatrix *matrix, void (Panel::*handler)(QObject *)) {
+    const auto onMatrix = [this](RadioMatrix *matrix, void (Self::*handler)(QObject *)) {
         if (matrix != nullptr) {
             connect(matrix, &RadioMatrix::action, this, [this, matrix, handler] { (this->*handler)(matrix); });
         }
     };
-    const auto onPopUp = [this](QComboBox *popUp, void (Panel::*handler)(QObject *)) {
+    const auto onPopUp = [this](QComboBox *popUp, void (Self::*handler)(QObject *)) {
         if (popUp != nullptr) {
             connect(popUp, &QComboBox::activated, this, [this, popUp, handler](int) { (this->*handler)(popUp); });
         }
     };
-    const auto onSlider = [this](Slider *slider, void (Panel::*handler)(QObject *)) {
+    const auto onSlider = [this](Slider *slider, void (Self::*handler)(QObject *)) {
         if (slider != nullptr) {
             connect(slider, &Slider::action, this, [this, slider, handler] { (this->*handler)(slider); });
         }
@@ -87,16 +87,16 @@ void PageSettingPDE13_v100_::viewDidLoad()
         }
     };
 
-    onMatrix(mPrintQualityRdBtn, &Panel::changeQuality);
-    onMatrix(mResolutionRdBtn, &Panel::changeResolution);
-    onMatrix(mCompressRdBtn, &Panel::changeCompress);
-    onPopUp(mKsResolutionPUBtn, &Panel::changeKsResolution);
-    onPopUp(mTapeTypePopBtn, &Panel::changeKsTapeType);
-    onPopUp(mTapeColorPopBtn, &Panel::changeKsTapeColor);
-    onPopUp(mInkColorPopBtn, &Panel::changeKsInkColor);
-    onSlider(mLengthSlider, &Panel::changeLength);
-    onSlider(mMarginSlider, &Panel::changeMargin);
-    onSlider(mTapeLengthSlider, &Panel::changeKsPrintTapeLength);
+    onMatrix(mPrintQualityRdBtn, &Self::changeQuality);
+    onMatrix(mResolutionRdBtn, &Self::changeResolution);
+    onMatrix(mCompressRdBtn, &Self::changeCompress);
+    onPopUp(mKsResolutionPUBtn, &Self::changeKsResolution);
+    onPopUp(mTapeTypePopBtn, &Self::changeKsTapeType);
+    onPopUp(mTapeColorPopBtn, &Self::changeKsTapeColor);
+    onPopUp(mInkColorPopBtn, &Self::changeKsInkColor);
+    onSlider(mLengthSlider, &Self::changeLength);
+    onSlider(mMarginSlider, &Self::changeMargin);
+    onSlider(mTapeLengthSlider, &Self::changeKsPrintTapeLength);
     onField(mLengthTxFld);
     onField(mMarginTxFld);
     onField(mTapeLengthTxFld);
