@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: Apache-2.0
+// The command line, from tables of arguments.
+#include "host/CommandLine.h"
+
+#include "tests/support/TextPrinting.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using tapeprint::CommandLine;
+using tapeprint::parseCommandLine;
+
+struct OptionsCase {
+    QStringList arguments;
+    QStringList lines; ///< the job's options
+};
+
+class CommandLineOptions : public testing::TestWithParam<OptionsCase>
+{
+};
+
+TEST_P(CommandLineOptions, AreLaidDownInTheOrderGiven)
+{
+    QString error;
+    const std::optional<CommandLine> line = parseCommandLine(GetParam().arguments, &error);
+    ASSERT_TRUE(line.has_value()) << error.toStdString();
+    EXPECT_EQ(line->options.lines(), GetParam().lines);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, CommandLineOptions,
+    testing::Values(OptionsCase{{}, {}}, OptionsCase{{u"-o"_qs, u"KsMargin=2.5"_qs}, {u"KsMargin=2.5"_qs}},
+                    OptionsCase{{u"-oKsMargin=2.5"_qs}, {u"KsMargin=2.5"_qs}},
+                    OptionsCase{{u"-o"_qs, u"B=2"_qs, u"-o"_qs, u"A=1"_qs}, {u"B=2"_qs, u"A=1"_qs}},
+                    OptionsCase{{u"-o"_qs, u"A=1 B=2"_qs}, {u"A=1"_qs, u"B=2"_qs}},
+                    OptionsCase{{u"-o"_qs, u"A=1"_qs, u"-o"_qs, u"A=2"_qs}, {u"A=2"_qs}},
+                    OptionsCase{{u"-o"_qs, u"KsMirror"_qs}, {u"KsMirror=true"_qs}},
+                    OptionsCase{{u"-o"_qs, u"noKsMirror"_qs}, {u"KsMirror=false"_qs}},
+                    OptionsCase{{u"-o"_qs, u"A='two words'"_qs}, {u"A=two words"_qs}},
+                    OptionsCase{{u"-n"_qs, u"3"_qs}, {u"copies=3"_qs}},
+                    OptionsCase{{u"-n03"_qs, u"-P"_qs, u"1-4,7,9-"_qs}, {u"copies=3"_qs, u"page-ranges=1-4,7,9-"_qs}}));
+
+struct ErrorCase {
+    QStringList arguments;
+    QString part; ///< what the sentence names
+};
+
+class CommandLineErrors : public testing::TestWithParam<ErrorCase>
+{
+};
+
+TEST_P(CommandLineErrors, SayWhatIsWrong)
+{
+    QString error;
+    EXPECT_FALSE(parseCommandLine(GetParam().arguments, &error).has_value());
+    EXPECT_TRUE(error.contains(GetParam().part)) << error.toStdString();
+    EXPECT_FALSE(error.contains(u'\n'));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, CommandLineErrors,
+    testing::Values(ErrorCase{{u"-d"_qs}, u"-d needs a value"_qs}, ErrorCase{{u"-d"_qs, u""_qs}, u"-d needs"_qs},
+                    ErrorCase{{u"-d"_qs, u"/inst"_qs}, u"-d needs"_qs}, ErrorCase{{u"-n"_qs, u"0"_qs}, u"\"0\""_qs},
+                    ErrorCase{{u"-n"_qs, u"two"_qs}, u"\"two\""_qs}, ErrorCase{{u"-n"_qs, u"2.5"_qs}, u"\"2.5\""_qs},
+                    ErrorCase{{u"-P"_qs, u"0-2"_qs}, u"\"0-2\""_qs}, ErrorCase{{u"-P"_qs, u"1,,2"_qs}, u"\"1,,2\""_qs},
+                    ErrorCase{{u"-o"_qs, u""_qs}, u"NAME=VALUE"_qs},
+                    ErrorCase{{u"-o"_qs, u"media-col={media-type=x}"_qs}, u"media-col is in braces"_qs},
+                    ErrorCase{{u"--ppd="_qs}, u"--ppd needs"_qs}, ErrorCase{{u"--ppdx"_qs, u"a"_qs}, u"--ppdx"_qs},
+                    ErrorCase{{u"-Z"_qs}, u"-Z is no option"_qs}, ErrorCase{{u"--no-such"_qs}, u"--no-such"_qs},
+                    ErrorCase{{u"--output"_qs, u"x"_qs}, u"goes with --ppd"_qs}));
+
+TEST(CommandLineQueue, WithInstance_IsCutAtTheFirstSlash)
+{
+    QString error;
+    const auto line = parseCommandLine({u"-dtape/fine"_qs}, &error);
+    ASSERT_TRUE(line.has_value());
+    EXPECT_EQ(line->queue, u"tape"_qs);
+    EXPECT_EQ(line->instance, u"fine"_qs);
+}
+
+TEST(CommandLineFiles, AfterTwoDashes_MayLookLikeOptions)
+{
+    QString error;
+    const auto line = parseCommandLine({u"a.pdf"_qs, u"-"_qs, u"--"_qs, u"-n"_qs, u"-"_qs}, &error);
+    ASSERT_TRUE(line.has_value());
+    EXPECT_EQ(line->files, (QStringList{u"a.pdf"_qs, u"-n"_qs, u"-"_qs}));
+}
+
+TEST(CommandLineFlags, OfTheDialog_AreTaken)
+{
+    QString error;
+    const auto line = parseCommandLine({u"--no-dialog"_qs, u"--show-options"_qs, u"--summary"_qs, u"-s"_qs, u"-c"_qs,
+                                        u"--ppd=a.ppd"_qs, u"--output"_qs, u"b.prn"_qs, u"-t"_qs, u"-n"_qs},
+                                       &error);
+    ASSERT_TRUE(line.has_value()) << error.toStdString();
+    EXPECT_TRUE(line->noDialog && line->showOptions && line->summary && line->silent);
+    EXPECT_FALSE(line->help || line->version);
+    EXPECT_EQ(line->ppdPath, u"a.ppd"_qs);
+    EXPECT_EQ(line->outputPath, u"b.prn"_qs);
+    // As with lp, a letter's value may begin with a dash.
+    EXPECT_EQ(line->title, u"-n"_qs);
+}
+
+TEST(CommandLineHelp, NamesEveryOption)
+{
+    const QString help = tapeprint::commandLineHelp();
+    for (const char *name : {"-d ", "-n ", "-o ", "-P ", "-t ", "-s ", "-c ", "--ppd ", "--output ", "--no-dialog",
+                             "--show-options", "--summary", "--help", "--version"}) {
+        EXPECT_TRUE(help.contains(QStringLiteral("\n  ") + QLatin1String(name))) << name;
+    }
+}
+
+} // namespace

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: Apache-2.0
+// Opening PPD files, and the sentences about those that cannot be opened.
+#include "TestPrinter.h"
+
+#include "host/PpdMarks.h"
+#include "tests/support/TextPrinting.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace tapeprint;
+
+TEST(PpdFile_Broken, IsNamedWithTheLineThatIsAtFault)
+{
+    const QTemporaryDir folder;
+    // The third line lacks its asterisk.
+    const QString path = hosttest::writeFile(folder, u"broken.ppd"_qs,
+                                             "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\nFileVersion: \"1.0\"\n");
+    QString error;
+    EXPECT_EQ(openPpdFile(path, &error), nullptr);
+    EXPECT_TRUE(error.contains(path)) << error.toStdString();
+    EXPECT_TRUE(error.contains(u"line 3:"_qs)) << error.toStdString();
+}
+
+TEST(PpdFile_Broken, GoesByTheNameThatThePersonKnows)
+{
+    const QTemporaryDir folder;
+    const QString path = hosttest::writeFile(folder, u"broken.ppd"_qs, "no PPD\n");
+    QString error;
+    EXPECT_EQ(openPpdFile(path, &error, u"of queue tape"_qs), nullptr);
+    EXPECT_TRUE(error.startsWith(u"The PPD file of queue tape is not valid, line 1:"_qs)) << error.toStdString();
+}
+
+TEST(PpdFile_Missing, IsNamed)
+{
+    QString error;
+    EXPECT_EQ(openPpdFile(u"/nowhere/at.ppd"_qs, &error), nullptr);
+    EXPECT_TRUE(error.contains(u"/nowhere/at.ppd cannot be read"_qs)) << error.toStdString();
+}
+
+TEST(PpdFile_Folder, IsNoPpd)
+{
+    const QTemporaryDir folder;
+    QString error;
+    EXPECT_EQ(openPpdFile(folder.path(), &error), nullptr);
+    EXPECT_TRUE(error.contains(u"folder"_qs)) << error.toStdString();
+}
+
+TEST(PpdMarks, OfAnUnlistedChoice_StayAsTheyWere)
+{
+    const QTemporaryDir folder;
+    const Destination printer = hosttest::testDestination(folder);
+    EXPECT_TRUE(markChoice(printer.ppd.get(), u"KsMargin"_qs, u"5.0"_qs));
+    EXPECT_FALSE(markChoice(printer.ppd.get(), u"KsMargin"_qs, u"3.3"_qs));
+    EXPECT_EQ(markedChoice(printer.ppd.get(), u"KsMargin"_qs), u"5.0"_qs);
+    EXPECT_FALSE(markChoice(printer.ppd.get(), u"NoSuchOption"_qs, u"5.0"_qs));
+    EXPECT_FALSE(markChoice(nullptr, u"KsMargin"_qs, u"5.0"_qs));
+}
+
+TEST(PpdMarks, ArePutBackAsTheyWereTaken)
+{
+    const QTemporaryDir folder;
+    const Destination printer = hosttest::testDestination(folder);
+    const PpdMarks before = takeMarks(printer.ppd.get());
+    markChoice(printer.ppd.get(), u"KsMargin"_qs, u"5.0"_qs);
+    markChoice(printer.ppd.get(), u"PageSize"_qs, u"W24"_qs);
+    EXPECT_NE(takeMarks(printer.ppd.get()), before);
+    putMarks(printer.ppd.get(), before);
+    EXPECT_EQ(takeMarks(printer.ppd.get()), before);
+    EXPECT_EQ(markedChoice(printer.ppd.get(), u"PageSize"_qs), u"W12"_qs);
+}
+
+TEST(PpdDefault, OfForty_BytesFitsAndOfFortyOneDoesNot)
+{
+    const QTemporaryDir folder;
+    const Destination printer = hosttest::testDestination(folder);
+    const ppd_option_t *option = findOption(printer.ppd.get(), u"KsMargin"_qs);
+    EXPECT_TRUE(setDefaultChoice(printer.ppd.get(), u"KsMargin"_qs, QString(40, u'x')));
+    EXPECT_EQ(QByteArray(option->defchoice), QByteArray(40, 'x'));
+    EXPECT_FALSE(setDefaultChoice(printer.ppd.get(), u"KsMargin"_qs, QString(41, u'y')));
+    EXPECT_EQ(QByteArray(option->defchoice), QByteArray(40, 'x'));
+    EXPECT_TRUE(setDefaultChoice(printer.ppd.get(), u"KsMargin"_qs, u"3"_qs));
+    EXPECT_EQ(QByteArray(option->defchoice), QByteArray("3"));
+}
+
+} // namespace

@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: Apache-2.0
+// The window, with real clicks and keys.
+#include "TestPrinter.h"
+
+#include "host/PrintDialog.h"
+#include "host/SummaryView.h"
+#include "tests/support/TextPrinting.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <pdekit/Alert.h>
+
+namespace
+{
+
+using namespace tapeprint;
+using hosttest::takeCalls;
+
+class PrintDialogTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        takeCalls();
+        const QString filter =
+            hosttest::writeFile(folder, u"filter"_qs, "#!/bin/sh\nprintf 'options=%s\\n' \"$5\"\ncat\n");
+        QFile::setPermissions(filter, QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup |
+                                          QFile::ReadOther | QFile::ExeOther);
+        line.ppdPath = folder.filePath(u"test.ppd"_qs);
+        line.outputPath = folder.filePath(u"out.prn"_qs);
+        line.files = {hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n")};
+        QString error;
+        documents = std::move(*DocumentSpool::collect(line.files, &error));
+        model.open(hosttest::testDestination(folder, "*cupsFilter: \"text/plain 0 " + filter.toUtf8() + "\"\n"), {});
+        dialog = std::make_unique<PrintDialog>(model, line, documents, std::vector<PrintQueue>());
+        dialog->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
+        QApplication::processEvents();
+    }
+
+    template <typename Widget>
+    Widget *child(const QString &name)
+    {
+        auto *widget = dialog->findChild<Widget *>(name);
+        EXPECT_NE(widget, nullptr) << name.toStdString();
+        return widget;
+    }
+
+    void click(const QString &button)
+    {
+        QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton);
+        QApplication::processEvents();
+    }
+
+    /// Picks the next item of a pop-up by keyboard, as a person does.
+    void pickNext(const QString &popUp)
+    {
+        QTest::keyClick(child<QComboBox>(popUp), Qt::Key_Down);
+        QApplication::processEvents();
+    }
+
+    QStringList summary()
+    {
+        QStringList lines;
+        const auto *view = child<SummaryView>(u"summary"_qs);
+        for (int i = 0; i < view->topLevelItemCount(); ++i) {
+            lines.append(view->topLevelItem(i)->text(0) + u'=' + view->topLevelItem(i)->text(1));
+        }
+        return lines;
+    }
+
+    QTemporaryDir folder;
+    CommandLine line;
+    DocumentSpool documents;
+    DialogModel model{hosttest::goodBundles()};
+    std::unique_ptr<PrintDialog> dialog;
+};
+
+TEST_F(PrintDialogTest, Opens_WithThePanelShownAndItsSummary)
+{
+    EXPECT_EQ(takeCalls().last(), u"willShow"_qs);
+    EXPECT_TRUE(child<QPushButton>(u"wideMargin"_qs)->isVisible());
+    EXPECT_EQ(summary(), (QStringList{u"Tape=W12"_qs, u"Margin=2.0"_qs}));
+    EXPECT_EQ(child<QComboBox>(u"tape"_qs)->currentText(), u"12 mm"_qs);
+    EXPECT_EQ(child<QComboBox>(u"pageChooser"_qs)->currentText(), u"Test Panel"_qs);
+    EXPECT_TRUE(child<QPushButton>(u"print"_qs)->isDefault());
+    EXPECT_FALSE(child<QLabel>(u"notices"_qs)->isVisible());
+    EXPECT_EQ(dialog->windowTitle(), u"Print label.txt"_qs);
+}
+
+TEST_F(PrintDialogTest, PickInThePanel_ReachesTheJobAndTheSummary)
+{
+    click(u"wideMargin"_qs);
+    EXPECT_EQ(model.job().value(u"KsMargin"_qs), u"5.0"_qs);
+    EXPECT_EQ(summary(), (QStringList{u"Tape=W12"_qs, u"Margin=5.0"_qs}));
+}
+
+TEST_F(PrintDialogTest, PickOfATape_IsToldToThePanelWhichIsThenShownAgain)
+{
+    takeCalls();
+    pickNext(u"tape"_qs);
+    EXPECT_EQ(takeCalls(), (QStringList{u"changed PageSize=W24, tape W24"_qs, u"willShow"_qs}));
+    EXPECT_EQ(model.job().value(u"PageSize"_qs), u"W24"_qs);
+    EXPECT_EQ(summary().value(0), u"Tape=W24"_qs);
+}
+
+TEST_F(PrintDialogTest, OtherOptions_AreShownWithoutThoseOfThePanel)
+{
+    pickNext(u"pageChooser"_qs);
+    EXPECT_EQ(child<QComboBox>(u"pageChooser"_qs)->currentText(), u"More Options"_qs);
+    EXPECT_TRUE(child<QComboBox>(u"CutMedia"_qs)->isVisible());
+    EXPECT_TRUE(child<QComboBox>(u"KsMirror"_qs)->isVisible());
+    EXPECT_EQ(dialog->findChild<QComboBox *>(u"KsMargin"_qs), nullptr);
+    EXPECT_EQ(dialog->findChild<QComboBox *>(u"PageRegion"_qs), nullptr);
+    takeCalls();
+    pickNext(u"CutMedia"_qs);
+    EXPECT_EQ(model.job().value(u"CutMedia"_qs), u"Label"_qs);
+    // The panel hears of it, but is not seen and so not shown.
+    EXPECT_EQ(takeCalls(), QStringList{u"changed CutMedia=Label, tape W12"_qs});
+}
+
+TEST_F(PrintDialogTest, PanelThatStays_KeepsTheChooser)
+{
+    qApp->setProperty("hostTestStay", true);
+    pickNext(u"pageChooser"_qs);
+    qApp->setProperty("hostTestStay", QVariant());
+    EXPECT_EQ(child<QComboBox>(u"pageChooser"_qs)->currentText(), u"Test Panel"_qs);
+    EXPECT_TRUE(child<QPushButton>(u"wideMargin"_qs)->isVisible());
+}
+
+TEST_F(PrintDialogTest, Revert_BringsEverythingBack)
+{
+    const QStringList before = model.job().lines();
+    pickNext(u"tape"_qs);
+    QTest::keyClick(child<QSpinBox>(u"copies"_qs), Qt::Key_Up);
+    EXPECT_EQ(model.job().value(u"copies"_qs), u"2"_qs);
+    click(u"revert"_qs);
+    EXPECT_EQ(model.job().lines(), before);
+    EXPECT_EQ(child<QComboBox>(u"tape"_qs)->currentText(), u"12 mm"_qs);
+    EXPECT_EQ(child<QSpinBox>(u"copies"_qs)->value(), 1);
+    EXPECT_EQ(summary().value(0), u"Tape=W12"_qs);
+}
+
+TEST_F(PrintDialogTest, Escape_CancelsAndTellsThePanel)
+{
+    takeCalls();
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(takeCalls(), QStringList{u"closes"_qs});
+    EXPECT_TRUE(dialog->result().isNull());
+    EXPECT_FALSE(QFile::exists(line.outputPath));
+}
+
+TEST_F(PrintDialogTest, ReturnInAField_DoesNotPrint)
+{
+    auto *field = child<QLineEdit>(u"field"_qs);
+    field->setFocus();
+    takeCalls();
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_FALSE(takeCalls().contains(u"save"_qs));
+}
+
+TEST_F(PrintDialogTest, RefusingPanel_KeepsTheDialogOpen)
+{
+    qApp->setProperty("hostTestRefuse", true);
+    int alerts = 0;
+    pdekit::setAlertHandler([&alerts](const pdekit::AlertRequest &) { ++alerts; });
+    takeCalls();
+    click(u"print"_qs);
+    pdekit::setAlertHandler({});
+    qApp->setProperty("hostTestRefuse", QVariant());
+    EXPECT_EQ(takeCalls(), (QStringList{u"save"_qs, u"shouldPrint"_qs}));
+    EXPECT_EQ(alerts, 1);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_FALSE(QFile::exists(line.outputPath));
+}
+
+TEST_F(PrintDialogTest, Print_SavesAsksPrintsAndSaysWhereTheBytesWent)
+{
+    click(u"wideMargin"_qs);
+    takeCalls();
+    QString said;
+    QTimer::singleShot(0, dialog.get(), [this, &said] {
+        // The box opens when the filters are through; it is looked for until then.
+        auto *timer = new QTimer(dialog.get());
+        QObject::connect(timer, &QTimer::timeout, dialog.get(), [timer, &said] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                timer->stop();
+                said = box->text();
+                box->accept();
+            }
+        });
+        timer->start(10);
+    });
+    QApplication::processEvents();
+    click(u"print"_qs);
+    EXPECT_TRUE(said.contains(line.outputPath)) << said.toStdString();
+    EXPECT_EQ(dialog->result(), said);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(takeCalls(), (QStringList{u"save"_qs, u"shouldPrint"_qs, u"closes, printed"_qs}));
+    QFile output(line.outputPath);
+    ASSERT_TRUE(output.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(output.readAll().contains("KsMargin=5.0"));
+}
+
+TEST_F(PrintDialogTest, EitherOfWindowAndPanels_MayGoFirst)
+{
+    takeCalls();
+    dialog.reset();
+    model.open(hosttest::testDestination(folder), {});
+    EXPECT_EQ(takeCalls().value(0), u"released"_qs);
+
+    PrintDialog second(model, line, documents, {});
+    second.show();
+    model.open(hosttest::testDestination(folder), {});
+    EXPECT_EQ(second.findChildren<QPushButton *>(u"wideMargin"_qs).size(), 0);
+}
+
+} // namespace

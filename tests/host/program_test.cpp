@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: Apache-2.0
+// The program as it is run: what it prints, where, and its exit status. No print server and no display is there.
+#include "TestPrinter.h"
+
+#include "tests/support/TextPrinting.h"
+
+#include <QFileInfo>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+struct Outcome {
+    int status = -1;
+    QByteArray output;
+    QByteArray messages;
+};
+
+class Program : public testing::Test
+{
+protected:
+    /// A copy far from the build, whose own bundles would otherwise be found beside the program.
+    static void SetUpTestSuite()
+    {
+        programFolder = std::make_unique<QTemporaryDir>();
+        ASSERT_TRUE(QFile::copy(QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), programPath()));
+    }
+    static void TearDownTestSuite() { programFolder.reset(); }
+    static QString programPath() { return programFolder->filePath(u"tapeprint"_qs); }
+
+    Outcome run(const QStringList &arguments, const QByteArray &input = {}) const
+    {
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name :
+             {"DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR", "QT_QPA_PLATFORM", "LPDEST", "PRINTER"}) {
+            environment.remove(QString::fromLatin1(name));
+        }
+        environment.insert(u"CUPS_SERVER"_qs, folder.filePath(u"no-server.sock"_qs));
+        environment.insert(u"HOME"_qs, folder.path());
+        environment.insert(u"XDG_DATA_DIRS"_qs, folder.path());
+        environment.insert(u"TAPEPRINT_PLUGIN_PATH"_qs, bundles);
+        for (const auto &[name, value] : variables) {
+            environment.insert(name, value);
+        }
+        program.setProcessEnvironment(environment);
+        program.setWorkingDirectory(folder.path());
+        program.start(programPath(), arguments);
+        program.write(input);
+        program.closeWriteChannel();
+        Outcome outcome;
+        if (program.waitForFinished(60000) && program.exitStatus() == QProcess::NormalExit) {
+            outcome = {program.exitCode(), program.readAllStandardOutput(), program.readAllStandardError()};
+        }
+        return outcome;
+    }
+
+    /// Fails with one line on standard error that holds a text, and says nothing else.
+    void expectFailure(const QStringList &arguments, const char *part, const QByteArray &input = {}) const
+    {
+        const Outcome outcome = run(arguments, input);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.output, "");
+        EXPECT_EQ(outcome.messages.count('\n'), 1) << outcome.messages.toStdString();
+        EXPECT_TRUE(outcome.messages.startsWith("tapeprint: ")) << outcome.messages.toStdString();
+        EXPECT_TRUE(outcome.messages.contains(part)) << outcome.messages.toStdString();
+    }
+
+    static inline std::unique_ptr<QTemporaryDir> programFolder;
+    QTemporaryDir folder;
+    QString bundles = hosttest::goodBundles().first();
+    std::vector<std::pair<QString, QString>> variables;
+    QString ppd = hosttest::writeFile(folder, u"test.ppd"_qs, hosttest::testPpd());
+    QString filterPpd = hosttest::writeFile(
+        folder, u"filter.ppd"_qs, hosttest::testPpd("*cupsFilter: \"text/plain 0 " + filterPath().toUtf8() + "\"\n"));
+    QString document = hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n");
+
+private:
+    /// A filter that writes the options argument it gets, and the document.
+    QString filterPath() const
+    {
+        const QString path = hosttest::writeFile(folder, u"filter"_qs,
+                                                 "#!/bin/sh\nprintf 'copies=%s title=%s options=%s\\n' \"$4\" \"$3\" "
+                                                 "\"$5\"\nif [ -n \"$6\" ]; then cat \"$6\"; else cat; fi\n");
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                        QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
+        return path;
+    }
+};
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
+}
+
+TEST_F(Program, ShowOptions_PrintsTheJobsOptionsAndSubmitsNothing)
+{
+    const Outcome outcome = run({u"--ppd"_qs, ppd, u"--show-options"_qs, u"-n"_qs, u"2"_qs, u"-o"_qs,
+                                 u"PageSize=W24 KsOwn=x"_qs, u"-o"_qs, u"KsMargin=5.0"_qs});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.messages, "");
+    EXPECT_EQ(outcome.output, "copies=2\nKsOwn=x\nPageSize=W24\nKsMargin=5.0\n");
+}
+
+TEST_F(Program, ShowOptions_CarriesWhatThePanelSent)
+{
+    // Nothing is laid down for the margin: the panel sends the PPD's default when it hands over its values.
+    EXPECT_EQ(run({u"--ppd"_qs, ppd, u"--show-options"_qs}).output, "PageSize=W12\nKsMargin=2.0\n");
+    bundles = folder.path();
+    EXPECT_FALSE(run({u"--ppd"_qs, ppd, u"--show-options"_qs}).output.contains("KsMargin=2.0\n"));
+}
+
+TEST_F(Program, Summary_PrintsTitlesAndValues)
+{
+    const Outcome outcome = run({u"--ppd"_qs, ppd, u"--summary"_qs});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_TRUE(outcome.output.contains("Tape: W12\nMargin: 2.0\n")) << outcome.output.toStdString();
+}
+
+TEST_F(Program, FilterRun_GivesTheFilterEveryOptionAndNamesTheOutput)
+{
+    const Outcome outcome = run({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, u"-n"_qs, u"2"_qs, u"-t"_qs, u"My label"_qs,
+                                 u"-o"_qs, u"KsMargin=5.0"_qs, u"--output"_qs, u"out.prn"_qs, document});
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    EXPECT_TRUE(outcome.output.contains("out.prn")) << outcome.output.toStdString();
+    const QByteArray bytes = contentsOf(folder.filePath(u"out.prn"_qs));
+    EXPECT_TRUE(bytes.startsWith("copies=2 title=My label options=")) << bytes.toStdString();
+    EXPECT_TRUE(bytes.contains("KsMargin=5.0")) << bytes.toStdString();
+    EXPECT_TRUE(bytes.contains("PageSize=W12")) << bytes.toStdString();
+    EXPECT_TRUE(bytes.endsWith("Hello\n")) << bytes.toStdString();
+}
+
+TEST_F(Program, WithoutADisplay_SaysSoAndDoesTheJob)
+{
+    const Outcome outcome = run({u"--ppd"_qs, filterPpd}, "From a pipe\n");
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    EXPECT_TRUE(outcome.output.startsWith("There is no display")) << outcome.output.toStdString();
+    EXPECT_TRUE(contentsOf(folder.filePath(u"tapeprint.prn"_qs)).endsWith("From a pipe\n"));
+}
+
+TEST_F(Program, OutputThatNobodyNamed_NeverReplacesAFile)
+{
+    hosttest::writeFile(folder, u"label.prn"_qs, "mine");
+    EXPECT_EQ(run({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, document}).status, 0);
+    EXPECT_EQ(contentsOf(folder.filePath(u"label.prn"_qs)), "mine");
+    EXPECT_TRUE(contentsOf(folder.filePath(u"label-2.prn"_qs)).endsWith("Hello\n"));
+}
+
+TEST_F(Program, FailingFilter_LeavesNoOutputBehind)
+{
+    hosttest::writeFile(folder, u"filter"_qs, "#!/bin/sh\necho half\necho 'ERROR: no ink' >&2\nexit 3\n");
+    expectFailure({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, document}, "no ink");
+    EXPECT_FALSE(QFileInfo::exists(folder.filePath(u"out.prn"_qs)));
+}
+
+TEST_F(Program, FullDisk_IsNamed)
+{
+    expectFailure({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"/dev/full"_qs, document},
+                  "No space left on device");
+}
+
+TEST_F(Program, RefusingPanel_PrintsNothingAndPassesItsWordsOn)
+{
+    variables.emplace_back(u"HOST_TEST_REFUSE"_qs, u"1"_qs);
+    expectFailure({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, document},
+                  "The margin is too wide.");
+    EXPECT_FALSE(QFileInfo::exists(folder.filePath(u"out.prn"_qs)));
+}
+
+TEST_F(Program, BrokenBundle_IsNamedAndTheJobPrinted)
+{
+    bundles = QStringLiteral(HOST_TEST_BUNDLES "/type");
+    const Outcome outcome = run({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, document});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_TRUE(outcome.messages.contains("HostTestOtherType.bundle")) << outcome.messages.toStdString();
+    EXPECT_TRUE(contentsOf(folder.filePath(u"out.prn"_qs)).endsWith("Hello\n"));
+}
+
+TEST_F(Program, OptionThatThePanelReplaces_IsNamed)
+{
+    // The test panel sends what the PPD's default says, which holds 40 bytes: this value does not fit.
+    const QString tooLong(41, u'9');
+    const Outcome outcome = run({u"--ppd"_qs, ppd, u"--show-options"_qs, u"-o"_qs, u"KsMargin="_qs + tooLong});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_TRUE(outcome.messages.contains("the job carries KsMargin=2.0")) << outcome.messages.toStdString();
+}
+
+TEST_F(Program, BadInput_IsOneLineAndStatusOne)
+{
+    const QString broken = hosttest::writeFile(folder, u"broken.ppd"_qs, "*PPD-Adobe: \"4.3\"\nbroken\n");
+    const QString empty = hosttest::writeFile(folder, u"empty.txt"_qs, {});
+    expectFailure({u"--ppd"_qs, broken, document}, "broken.ppd is not valid, line 2");
+    expectFailure({u"--ppd"_qs, folder.filePath(u"none.ppd"_qs), document}, "none.ppd cannot be read");
+    expectFailure({u"--ppd"_qs, ppd, folder.filePath(u"none.pdf"_qs)}, "none.pdf cannot be read");
+    expectFailure({u"--ppd"_qs, ppd, empty}, "is empty");
+    expectFailure({u"--ppd"_qs, ppd}, "Standard input is empty");
+    expectFailure({u"-d"_qs, u"tape"_qs, document}, "does not answer");
+    expectFailure({document}, "does not answer");
+    expectFailure({u"-o"_qs, u"a={b=c}"_qs, document}, "braces");
+    expectFailure({u"--unknown"_qs}, "--unknown is no option");
+}
+
+TEST_F(Program, HelpAndVersion_NeedNothing)
+{
+    const Outcome help = run({u"--help"_qs});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_TRUE(help.output.startsWith("Usage: tapeprint "));
+    const Outcome version = run({u"--version"_qs});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_TRUE(version.output.startsWith("tapeprint "));
+    EXPECT_EQ(version.output.count('\n'), 1);
+}
+
+} // namespace
