@@ -87,7 +87,9 @@ TEST(PropertyListFromXml, ModestNesting_IsRead)
 TEST(PropertyListFromXml, LocaleWithAComma_ReadsRealsAlike)
 {
     const std::string before = std::setlocale(LC_ALL, nullptr);
-    std::setlocale(LC_ALL, "de_DE.UTF-8");
+    if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) {
+        GTEST_SKIP() << "This machine lacks the locale de_DE.UTF-8";
+    }
     const auto value = propertyListFromXml(plist("<real>2.5</real>"));
     const QByteArray written = propertyListToXml(2.5);
     std::setlocale(LC_ALL, before.c_str());
