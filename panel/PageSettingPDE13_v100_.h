@@ -179,6 +179,8 @@ private:
     void findOptions();
     void saveAllSettings();
 
+    void localizeInterface();
+
     // Choice options: one algorithm each over the table of options.
     void fillChoiceControl(const ChoiceOption &option);
     void titleChoiceLabel(const ChoiceOption &option);

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 // The one place where the interface file meets the panel: outlets by name, actions, and the delegate of the text
 // fields.
+#include "panel/ChoiceOption.h"
 #include "panel/PageSettingPDE13_v100_.h"
+
+#include "ppd/PDEUtilsMethod13.h"
 
 #include <QHash>
 
@@ -100,5 +103,29 @@ void PageSettingPDE13_v100_::viewDidLoad()
     onField(mLengthTxFld);
     onField(mMarginTxFld);
     onField(mTapeLengthTxFld);
+    localizeInterface();
     awakeFromNib();
+}
+
+void PageSettingPDE13_v100_::localizeInterface()
+{
+    // What the PPD does not replace is in the person's language too, and looks as disabled as its control is.
+    const auto text = [this](const QString &placeholder) {
+        return placeholder.startsWith(QLatin1StringView("RS_")) ? localized(placeholder) : placeholder;
+    };
+    const QList<QLabel *> labels = kPDEView->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        label->setText(text(label->text()));
+    }
+    for (const ChoiceOption &option : ChoiceOption::all()) {
+        const QWidget *control = option.popUp == nullptr ? nullptr : (this->*option.popUp).data();
+        if (option.matrix != nullptr && this->*option.matrix != nullptr) {
+            RadioMatrix *matrix = this->*option.matrix;
+            for (int row = 0; row < matrix->numberOfRows(); ++row) {
+                matrix->setTitleOfCell(text(matrix->titles().at(row)), row, 0);
+            }
+            control = matrix;
+        }
+        PDEUtilsMethod13::setEnabledForText(control != nullptr && control->isEnabledTo(kPDEView), this->*option.label);
+    }
 }
