@@ -53,7 +53,7 @@ void DialogModel::open(Destination destination, const JobOptions &commandLine)
 
     describePrinter();
     layDownOptions(commandLine);
-    mNotices += optionsThatNeverArrive(ppd(), mJob);
+    mNotices += unlistedValues(ppd(), mJob) + optionsThatNeverArrive(ppd(), mJob);
     makePanels();
     rememberAsOpened();
     Q_EMIT jobChanged();

@@ -6,6 +6,8 @@
 #include "host/IppAttributeNames.h"
 #include "host/PpdMarks.h"
 
+#include <QLocale>
+
 #include <cmath>
 #include <limits>
 
@@ -19,6 +21,13 @@ namespace
 
 constexpr double pointsPerInch = 72.0;
 constexpr double inchesPerMm = 0.0393701;
+
+bool isNumber(const QString &text)
+{
+    bool isOne = false;
+    QLocale::c().toDouble(text, &isOne);
+    return isOne;
+}
 
 /// Names and values as the PPD spells them, so that an option never stands twice in a job.
 void layDownOne(const JobOptions::Entry &entry, ppd_file_t *ppd, JobOptions *job)
@@ -34,7 +43,9 @@ void layDownOne(const JobOptions::Entry &entry, ppd_file_t *ppd, JobOptions *job
     const QString spelled = listed.isNull() ? value : listed;
     job->set(key, spelled);
     markChoice(ppd, key, spelled);
-    setDefaultChoice(ppd, key, spelled);
+    if (!listed.isNull() || isNumber(value)) {
+        setDefaultChoice(ppd, key, spelled);
+    }
 }
 
 /// The tape that is shown is the tape that is printed on, whatever the queue's default becomes in the meantime.
@@ -105,6 +116,19 @@ double heightPtFromMm(double lengthMm)
         heightPt = std::nextafter(heightPt, std::numeric_limits<double>::infinity());
     }
     return heightPt;
+}
+
+QStringList unlistedValues(ppd_file_t *ppd, const JobOptions &job)
+{
+    QStringList sentences;
+    for (const auto &[name, value] : job.entries()) {
+        const bool isPpdOption = !isIppJobAttribute(name) && findOption(ppd, name) != nullptr;
+        if (isPpdOption && !isNumber(value) && listedChoice(ppd, name, value).isNull()) {
+            sentences.append(
+                QStringLiteral("%1=%2 is none of the choices that the printer's PPD lists.").arg(name, value));
+        }
+    }
+    return sentences;
 }
 
 QStringList optionsThatNeverArrive(ppd_file_t *ppd, const JobOptions &job)

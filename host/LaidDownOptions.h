@@ -17,7 +17,8 @@ namespace tapeprint
 {
 
 /// Lays options down: each goes into the job; where the PPD has the option, the value becomes its default choice and is
-/// marked when the PPD lists it. The job then names the tape (PageSize) that is marked.
+/// marked when the PPD lists it. A value that is neither listed nor a number stays in the job alone: a panel that
+/// chooses among the listed values keeps the PPD's own default. The job then names the tape (PageSize) that is marked.
 /// \param ppd the dialog's own copy, changed; may be null.
 void layDown(const JobOptions &options, ppd_file_t *ppd, JobOptions *job);
 
@@ -31,6 +32,9 @@ std::optional<double> laidDownLengthMm(const JobOptions &chosen, ppd_file_t *ppd
 /// The length in points that a panel reads back, through 72 points an inch and 0.0393701 inch a millimetre, as exactly
 /// this many millimetres or the nearest above.
 double heightPtFromMm(double lengthMm);
+
+/// A sentence for each option of the job whose value the PPD neither lists nor takes as a number.
+QStringList unlistedValues(ppd_file_t *ppd, const JobOptions &job);
 
 /// A sentence for each option of the PPD or the job that the print server would keep for itself.
 QStringList optionsThatNeverArrive(ppd_file_t *ppd, const JobOptions &job);

@@ -3,6 +3,7 @@
 #include "host/PrintDialog.h"
 
 #include "host/OptionsPage.h"
+#include "host/PanelArea.h"
 #include "host/SummaryView.h"
 
 #include <QComboBox>
@@ -11,7 +12,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -25,7 +25,7 @@ namespace
 {
 
 constexpr int mostCopies = 9999;
-constexpr QSize smallestPanelArea(420, 300);
+constexpr QSize smallestPanelArea(320, 200);
 constexpr int summaryWidth = 280;
 
 } // namespace
@@ -105,7 +105,7 @@ QWidget *PrintDialog::makePanelArea()
     chooserRow->addWidget(label);
     chooserRow->addWidget(mPageChooser, 1);
     layout->addLayout(chooserRow);
-    mPanelArea = new QScrollArea(area);
+    mPanelArea = new PanelArea(area);
     mPanelArea->setWidgetResizable(true);
     mPanelArea->setMinimumSize(smallestPanelArea);
     mPages = new QStackedWidget;
@@ -200,6 +200,7 @@ void PrintDialog::showPages()
         mPageChooser->addItem(tr("More Options"));
     }
     showPage(0);
+    mPanelArea->updateGeometry();
     mModel.rememberAsOpened();
 }
 

@@ -23,7 +23,6 @@
 class QComboBox;
 class QLabel;
 class QPushButton;
-class QScrollArea;
 class QSpinBox;
 class QStackedWidget;
 
@@ -31,6 +30,7 @@ namespace tapeprint
 {
 
 class OptionsPage;
+class PanelArea;
 class SummaryView;
 
 class PrintDialog : public QDialog
@@ -89,7 +89,7 @@ private:
     QSpinBox *mCopiesField = nullptr;
     QLabel *mNotices = nullptr;
     QComboBox *mPageChooser = nullptr;
-    QScrollArea *mPanelArea = nullptr;
+    PanelArea *mPanelArea = nullptr;
     QStackedWidget *mPages = nullptr;
     SummaryView *mSummary = nullptr;
     QPushButton *mRevertButton = nullptr;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the window does when the person acts: picks, Revert, Print, Cancel, and the live summary.
 #include "host/OptionsPage.h"
+#include "host/PanelArea.h"
 #include "host/PrintDialog.h"
 #include "host/Printing.h"
 #include "host/SummaryView.h"
@@ -12,7 +13,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSpinBox>
 #include <QStackedWidget>
 
@@ -37,7 +37,10 @@ void PrintDialog::connectControls()
 
     connect(&mFollowTimer, &QTimer::timeout, this, &PrintDialog::follow);
     connect(&mModel, &DialogModel::jobChanged, this, [this] { mFollowTimer.start(); });
-    connect(&mModel, &DialogModel::panelResized, this, [this] { mPages->updateGeometry(); });
+    connect(&mModel, &DialogModel::panelResized, this, [this] {
+        mPages->updateGeometry();
+        mPanelArea->updateGeometry();
+    });
     // Not every act in a panel sends a choice at once, but its summary changes: the summary is read again after it.
     QApplication::instance()->installEventFilter(this);
 }

@@ -40,7 +40,22 @@ TEST(LayDown, OfAListedValue_MarksItAndMakesItTheDefault)
     EXPECT_EQ(job.lines(), (QStringList{u"KsMargin=5.0"_qs, u"PageSize=W12"_qs}));
 }
 
-TEST(LayDown, OfAnUnlistedValue_KeepsItInTheJobAndAsDefaultAndLeavesTheMark)
+TEST(LayDown, OfAnUnlistedWord_KeepsItInTheJobAndLeavesMarkAndDefault)
+{
+    const QTemporaryDir folder;
+    const Destination printer = hosttest::testDestination(folder);
+    JobOptions job;
+    layDown(options({{u"CutMedia"_qs, u"Twice"_qs}, {u"KsMargin"_qs, u"3.3"_qs}, {u"KsUnknown"_qs, u"x"_qs}}),
+            printer.ppd.get(), &job);
+    EXPECT_EQ(markedChoice(printer.ppd.get(), u"CutMedia"_qs), u"None"_qs);
+    // A panel would otherwise find no default at all and take the first choice.
+    EXPECT_EQ(defaultOf(printer, u"CutMedia"_qs), "None");
+    EXPECT_EQ(job.value(u"CutMedia"_qs), u"Twice"_qs);
+    EXPECT_EQ(unlistedValues(printer.ppd.get(), job),
+              QStringList{u"CutMedia=Twice is none of the choices that the printer's PPD lists."_qs});
+}
+
+TEST(LayDown, OfAnUnlistedNumber_KeepsItInTheJobAndAsDefaultAndLeavesTheMark)
 {
     const QTemporaryDir folder;
     const Destination printer = hosttest::testDestination(folder);
