@@ -217,7 +217,7 @@ std::int64_t BasePDE13_v100_::indexOfChoices(const PDEChoiceArray *choices, cons
         return -1;
     }
     const auto found = std::find_if(choices->begin(), choices->end(),
-                                    [&value](const PDEChoice &choice) { return choice.ppdTitle() == value; });
+                                    [&value](const PDEChoice &choice) { return choice.hasPPDTitle(value); });
     return found == choices->end() ? -1 : found - choices->begin();
 }
 

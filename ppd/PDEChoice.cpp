@@ -6,6 +6,17 @@
 
 #include <cstring>
 
+namespace
+{
+
+/// A title as the description shows it.
+QString shown(const QString &title)
+{
+    return title.isNull() ? QStringLiteral("(null)") : title;
+}
+
+} // namespace
+
 PDEChoice PDEChoice::choiceWithChoice(const ppd_choice_t *choice)
 {
     return PDEChoice(choice);
@@ -29,6 +40,13 @@ QString PDEChoice::ppdTitle() const
     return *mPPDTitle;
 }
 
+bool PDEChoice::hasPPDTitle(const QString &keyword) const
+{
+    // Qt takes null and empty texts for equal.
+    const QString title = ppdTitle();
+    return !title.isNull() && title == keyword;
+}
+
 bool PDEChoice::isDefaultChoice() const
 {
     return mChoice != nullptr && mChoice->option != nullptr &&
@@ -42,6 +60,6 @@ QString PDEChoice::description() const
     const int count = option == nullptr ? 0 : option->num_choices;
     const bool marked = mChoice != nullptr && mChoice->marked != 0;
     return QStringLiteral("<PDEChoice 0x%1 userTitle:\"%2\" ppdTitle:\"%3\" marked:%4 choice:%5 of %6>")
-        .arg(QString::number(reinterpret_cast<quintptr>(this), 16), userTitle(), ppdTitle(),
+        .arg(QString::number(reinterpret_cast<quintptr>(this), 16), shown(userTitle()), shown(ppdTitle()),
              marked ? QStringLiteral("YES") : QStringLiteral("NO"), QString::number(position), QString::number(count));
 }

@@ -24,6 +24,8 @@ public:
     QString userTitle() const;
     /// The choice's keyword, read as ASCII. Null when it holds anything else.
     QString ppdTitle() const;
+    /// Whether the keyword is that text. A keyword that cannot be read is none, not even the empty text.
+    bool hasPPDTitle(const QString &keyword) const;
     /// The wrapped choice.
     const ppd_choice_t *choice() const { return mChoice; }
     /// Whether the keyword is the owning option's default, in the 41 characters that a PPD keyword may have.

@@ -65,7 +65,7 @@ const PDEChoice *PDEUtilsMethod13::findChoiceForString(const QString &keyword, c
         return nullptr;
     }
     const auto found = std::find_if(choices->begin(), choices->end(), [&keyword](const PDEChoice &choice) {
-        return keyword.isNull() ? choice.isDefaultChoice() : choice.ppdTitle() == keyword;
+        return keyword.isNull() ? choice.isDefaultChoice() : choice.hasPPDTitle(keyword);
     });
     return found == choices->end() ? nullptr : &*found;
 }
