@@ -55,9 +55,17 @@ double clampedMm(double value, const lengths::Rules &rules)
     return value > static_cast<double>(rules.max) ? static_cast<double>(rules.max) : value;
 }
 
+/// One decimal for the job. A value so large that a conversion or a rounding overflowed is held at the largest number:
+/// nothing but decimal numbers goes into a job.
+QString sentTenths(double value)
+{
+    constexpr double kLargest = std::numeric_limits<double>::max();
+    return fixedDecimals(std::clamp(value, -kLargest, kLargest), 1);
+}
+
 QString ceilTextDouble(double value, bool isInteger)
 {
-    return isInteger ? wholeNumber(std::ceil(value)) : fixedDecimals(ceilTenthDouble(value), 1);
+    return isInteger ? wholeNumber(std::ceil(value)) : sentTenths(ceilTenthDouble(value));
 }
 
 lengths::Rewritten rewrittenWithNoise(const lengths::Clamped &checked, const lengths::Rules &rules, double inchNoise)
@@ -250,7 +258,7 @@ QString savedTapeLength(const QString &shownText, const Rules &rules, bool clamp
     const double shown = doubleValue(shownText);
     const double value = rules.unit == Unit::Inches ? InchToMiri(shown) : shown;
     const double inRange = clamp ? clampedMm(value, rules) : value;
-    return rules.isInteger ? wholeNumber(inRange) : fixedDecimals(inRange, 1);
+    return rules.isInteger ? wholeNumber(inRange) : sentTenths(inRange);
 }
 
 QString savedMargin(const QString &shownText, const Rules &rules, bool clamp)
