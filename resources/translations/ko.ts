@@ -54,15 +54,15 @@
     </message>
     <message id="RS_mm">
         <source>mm</source>
-        <translation>mm</translation>
+        <translation>&#xa0;mm</translation>
     </message>
     <message id="RS_Inch">
         <source>in</source>
-        <translation>인치</translation>
+        <translation>&#xa0;인치</translation>
     </message>
     <message id="RS_m">
         <source>m</source>
-        <translation>m</translation>
+        <translation>&#xa0;m</translation>
     </message>
     <message id="RS_QualitySpeed">
         <source>Speed</source>

@@ -35,23 +35,43 @@ PpdText &PpdText::pageSizes(std::vector<PageSize> sizes, const QByteArray &defau
 PpdText &PpdText::option(const QByteArray &keyword, const QByteArray &text, const std::vector<Choice> &choices,
                          const QByteArray &defaultKeyword)
 {
-    mBody += "*OpenUI *" + keyword + "/" + text + ": PickOne\n*Default" + keyword + ": " + defaultKeyword + "\n";
-    for (const auto &[choice, choiceText] : choices) {
-        mBody += "*" + keyword + " " + choice + "/" + choiceText + ": \"\"\n";
+    withoutOption(keyword);
+    mOptions.push_back({keyword, text, choices, defaultKeyword});
+    return *this;
+}
+
+PpdText &PpdText::withoutOption(const QByteArray &keyword)
+{
+    std::erase_if(mOptions, [&keyword](const Option &option) { return option.keyword == keyword; });
+    return *this;
+}
+
+PpdText &PpdText::defaultChoice(const QByteArray &keyword, const QByteArray &choice)
+{
+    for (Option &option : mOptions) {
+        if (option.keyword == keyword) {
+            option.defaultKeyword = choice;
+        }
     }
-    mBody += "*CloseUI: *" + keyword + "\n";
     return *this;
 }
 
 PpdText &PpdText::attribute(const QByteArray &name, const QByteArray &value)
 {
-    mBody += "*" + name + ": \"" + value + "\"\n";
+    withoutAttribute(name);
+    mAttributes.emplace_back(name, value);
+    return *this;
+}
+
+PpdText &PpdText::withoutAttribute(const QByteArray &name)
+{
+    std::erase_if(mAttributes, [&name](const auto &attribute) { return attribute.first == name; });
     return *this;
 }
 
 PpdText &PpdText::line(const QByteArray &text)
 {
-    mBody += text + "\n";
+    mLines += text + "\n";
     return *this;
 }
 
@@ -110,7 +130,18 @@ QByteArray PpdText::text() const
                 regions + "*CloseUI: *PageRegion\n*DefaultImageableArea: " + mDefaultSize + "\n" + areas +
                 "*DefaultPaperDimension: " + mDefaultSize + "\n" + dimensions;
     }
-    return text + mBody;
+    for (const Option &option : mOptions) {
+        text += "*OpenUI *" + option.keyword + "/" + option.text + ": PickOne\n*Default" + option.keyword + ": " +
+                option.defaultKeyword + "\n";
+        for (const auto &[choice, choiceText] : option.choices) {
+            text += "*" + option.keyword + " " + choice + "/" + choiceText + ": \"\"\n";
+        }
+        text += "*CloseUI: *" + option.keyword + "\n";
+    }
+    for (const auto &[name, value] : mAttributes) {
+        text += "*" + name + ": \"" + value + "\"\n";
+    }
+    return text + mLines;
 }
 
 OpenPpd PpdText::open() const

@@ -34,11 +34,14 @@ public:
     PpdText();
 
     PpdText &pageSizes(std::vector<PageSize> sizes, const QByteArray &defaultKeyword);
-    /// An option of which one choice is picked.
+    /// An option of which one choice is picked. Takes the place of an option of that keyword.
     PpdText &option(const QByteArray &keyword, const QByteArray &text, const std::vector<Choice> &choices,
                     const QByteArray &defaultKeyword);
-    /// A vendor attribute: *name: value.
+    PpdText &withoutOption(const QByteArray &keyword);
+    PpdText &defaultChoice(const QByteArray &keyword, const QByteArray &choice);
+    /// A vendor attribute: *name: value. Takes the place of an attribute of that name.
     PpdText &attribute(const QByteArray &name, const QByteArray &value);
+    PpdText &withoutAttribute(const QByteArray &name);
     /// A line as it is.
     PpdText &line(const QByteArray &text);
 
@@ -51,9 +54,18 @@ public:
     OpenPpd open() const;
 
 private:
+    struct Option {
+        QByteArray keyword;
+        QByteArray text;
+        std::vector<Choice> choices;
+        QByteArray defaultKeyword;
+    };
+
     std::vector<PageSize> mSizes;
     QByteArray mDefaultSize;
-    QByteArray mBody;
+    std::vector<Option> mOptions;
+    std::vector<std::pair<QByteArray, QByteArray>> mAttributes;
+    QByteArray mLines;
 };
 
 /// Opens a PPD file. Fails the running test when libcups cannot.
