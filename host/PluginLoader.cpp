@@ -48,7 +48,7 @@ QString loadBundle(const QString &path, LoadedBundle *loaded)
         return QStringLiteral("it has no file %1").arg(QFileInfo(modulePath).fileName());
     }
     QPluginLoader module(modulePath);
-    const QString reason = reasonToSkip(module);
+    QString reason = reasonToSkip(module);
     if (!reason.isNull()) {
         return reason;
     }

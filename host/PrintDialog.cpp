@@ -12,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -43,6 +44,8 @@ PrintDialog::PrintDialog(DialogModel &model, const CommandLine &line, const Docu
     fillPrinters();
     connectControls();
     showDestination();
+    // The toolkit by itself opens a window at no more than two thirds of the screen.
+    resize(sizeHint().boundedTo(screen()->availableSize()));
 }
 
 PrintDialog::~PrintDialog() = default;
