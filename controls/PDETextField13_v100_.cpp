@@ -150,7 +150,6 @@ void PDETextField13_v100_::endEditing()
     }
     const QPointer<PDETextField13_v100_> self(this);
     mIsEnding = true;
-    mIsEditing = false;
     textDidEndEditing();
     if (self != nullptr) {
         mIsEnding = false;

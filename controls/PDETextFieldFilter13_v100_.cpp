@@ -91,7 +91,7 @@ bool PDETextFieldFilter13_v100_::acceptsEdit(const QString &proposed, qsizetype 
     Range before = mSelection;
     const bool fits =
         before.location + before.length == replacedEnd && proposed.startsWith(QStringView(mText).left(before.location));
-    if (caret > before.location && !fits) {
+    if (!fits) {
         before.location = std::min({commonPrefix(mText, proposed), caret, replacedEnd});
         before.length = replacedEnd - before.location;
     }

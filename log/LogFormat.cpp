@@ -26,7 +26,7 @@ public:
     template <typename Type>
     Type next()
     {
-        return va_arg(mList, Type);
+        return va_arg(mList, Type); // NOLINT(clang-analyzer-valist.Uninitialized): the constructor has copied it
     }
 
 private:
@@ -90,6 +90,7 @@ QString printedInteger(const Placeholder &placeholder, Arguments &arguments)
     } else if (length == QLatin1Char('l') || length == QLatin1Char('z') || length == QLatin1Char('t')) {
         value = arguments.next<Long>();
     } else if (length == QLatin1String("hh")) {
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse): "%hhd" asks for the signed byte
         value = static_cast<Char>(arguments.next<Int>());
     } else if (length == QLatin1Char('h')) {
         value = static_cast<Short>(arguments.next<Int>());

@@ -331,6 +331,16 @@ TEST_F(TextField, RefusedCommitWithMoreToCome_GoesOnComposing)
     EXPECT_EQ(state(), q("15|2"));
 }
 
+TEST_F(TextField, CommitAfterACommitOfTheSameComposition_IsExaminedAgainstTheNewText)
+{
+    show();
+    compose(q("か"));
+    commit(q("1."), 0, 0, q("な"));
+    EXPECT_EQ(mField->text(), q("1."));
+    commit(q("."));
+    EXPECT_EQ(state(), q("1.|"));
+}
+
 TEST_F(TextField, RefusedCommitOverASelection_BringsTheSelectionBack)
 {
     show();
@@ -456,6 +466,27 @@ TEST_F(TextField, TextSetByCode_IsNotExaminedAndDoesNotSwitchTheFilterOff)
     EXPECT_EQ(state(), q("1.5|"));
 }
 
+TEST_F(TextField, CursorMovedUnheard_StillFindsWhatIsInserted)
+{
+    show();
+    mField->setText(q("ab"));
+    keys(q("1"));
+    {
+        const QSignalBlocker quiet(mField);
+        mField->setCursorPosition(0);
+    }
+    mField->insert(q("x"));
+    EXPECT_EQ(mField->text(), q("ab1"));
+    mField->insert(q("7"));
+    EXPECT_EQ(state(), q("7|ab1"));
+    {
+        const QSignalBlocker quiet(mField);
+        mField->setCursorPosition(4);
+    }
+    mField->insert(q("8"));
+    EXPECT_EQ(state(), q("7ab18|"));
+}
+
 TEST_F(TextField, WithoutAFormatter_EverythingEnters)
 {
     show();
@@ -543,6 +574,17 @@ TEST_F(TextField, Return_EndsEditingOnce)
     EXPECT_TRUE(mField->hasFocus());
     QTest::keyClick(mField, Qt::Key_Enter);
     EXPECT_EQ(mEnds, 2);
+}
+
+TEST_F(TextField, ReturnWithThePointSelected_IsNoInsertion)
+{
+    show();
+    keys(q("12.5"));
+    mField->setSelection(2, 1);
+    const int before = tests::beeps();
+    QTest::keyClick(mField, Qt::Key_Return);
+    EXPECT_EQ(tests::beeps(), before);
+    EXPECT_EQ(mEnds, 1);
 }
 
 TEST_F(TextField, Tab_EndsEditingOnce)
