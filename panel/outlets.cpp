@@ -110,19 +110,16 @@ void PageSettingPDE13_v100_::viewDidLoad()
 void PageSettingPDE13_v100_::localizeInterface()
 {
     // What the PPD does not replace is in the person's language too, and looks as disabled as its control is.
-    const auto text = [this](const QString &placeholder) {
-        return placeholder.startsWith(QLatin1StringView("RS_")) ? localized(placeholder) : placeholder;
-    };
     const QList<QLabel *> labels = kPDEView->findChildren<QLabel *>();
     for (QLabel *label : labels) {
-        label->setText(text(label->text()));
+        label->setText(localized(label->text()));
     }
     for (const ChoiceOption &option : ChoiceOption::all()) {
         const QWidget *control = option.popUp == nullptr ? nullptr : (this->*option.popUp).data();
         if (option.matrix != nullptr && this->*option.matrix != nullptr) {
             RadioMatrix *matrix = this->*option.matrix;
             for (int row = 0; row < matrix->numberOfRows(); ++row) {
-                matrix->setTitleOfCell(text(matrix->titles().at(row)), row, 0);
+                matrix->setTitleOfCell(localized(matrix->titles().at(row)), row, 0);
             }
             control = matrix;
         }
