@@ -202,9 +202,25 @@ void PrintDialog::showPages()
         mPageWidgets.emplace_back(mOptionsPage);
         mPageChooser->addItem(tr("More Options"));
     }
+    orderByTab();
     showPage(0);
     mPanelArea->updateGeometry();
     mModel.rememberAsOpened();
+}
+
+void PrintDialog::orderByTab()
+{
+    // Pages are made after the buttons and would be reached last: the Tab key follows what the eye reads.
+    QWidget *last = mPanelArea;
+    for (QWidget *next = mPages->nextInFocusChain(); next != mPages; next = next->nextInFocusChain()) {
+        if (mPages->isAncestorOf(next) && next->focusPolicy() != Qt::NoFocus) {
+            last = next; // only what takes the focus has a place in the order
+        }
+    }
+    for (QWidget *widget : std::initializer_list<QWidget *>{mSummary, mRevertButton, mCancelButton, mPrintButton}) {
+        setTabOrder(last, widget);
+        last = widget;
+    }
 }
 
 void PrintDialog::removePages()

@@ -64,6 +64,7 @@ private:
     void showDestination();
     void showTapes();
     void showPages();
+    void orderByTab();
     void removePages();
     void showPage(int index);
     void showCurrentPanel();
