@@ -190,12 +190,13 @@ TEST(PopUpItems, ImageSetBeforeAnInsertion_MovesWithItsItem)
 TEST(PopUpItems, TenThousandItemsOfOneTitle_AreFilledWithoutWaiting)
 {
     constexpr std::size_t kCount = 10'000;
+    const QIcon red = image(Qt::red);
     QElapsedTimer timer;
     timer.start();
     PopUpItems items;
     for (std::size_t i = 0; i < kCount; ++i) {
         items.replaceItem(i, QStringLiteral("Same"));
-        items.setImageOfItemWithTitle(QStringLiteral("Same"), QIcon());
+        items.setImageOfItemWithTitle(QStringLiteral("Same"), red);
     }
     EXPECT_EQ(items.items().size(), kCount);
     // A way that grows with the square takes minutes for these.
