@@ -1,0 +1,247 @@
+// SPDX-License-Identifier: Apache-2.0
+// The private server's configuration and queues. Filters run as the user lp, who must be able to pass every folder and
+// to write where records and temporary files go.
+#include "tests/system/PrivateCups.h"
+
+#include "tests/system/Client.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <memory>
+#include <span>
+
+#include <cups/cups.h>
+#include <pwd.h>
+#include <unistd.h>
+
+namespace systemtest
+{
+
+namespace
+{
+
+const QString serverProgram = QStringLiteral("/usr/sbin/cupsd");
+const QString labelFilter = QStringLiteral("/usr/lib/cups/filter/rastertolabel");
+
+const char filesConfiguration[] = "ServerRoot %1/etc\n"
+                                  "RequestRoot %1/spool\n"
+                                  "TempDir %1/spool/tmp\n"
+                                  "CacheDir %1/cache\n"
+                                  "StateDir %1/run\n"
+                                  "AccessLog %1/log/access_log\n"
+                                  "ErrorLog %1/log/error_log\n"
+                                  "PageLog %1/log/page_log\n"
+                                  "ServerBin /usr/lib/cups\n"
+                                  "DataDir /usr/share/cups\n"
+                                  "FileDevice Yes\n"
+                                  "Sandboxing Relaxed\n"
+                                  "User lp\n"
+                                  "Group lp\n";
+
+const char serverConfiguration[] = "LogLevel debug\n"
+                                   "MaxLogSize 0\n"
+                                   "Listen %1/cups.sock\n"
+                                   "Browsing Off\n"
+                                   "WebInterface No\n"
+                                   "DefaultAuthType None\n"
+                                   "JobPrivateAccess all\n"
+                                   "JobPrivateValues none\n"
+                                   "<Location />\n"
+                                   "  Order allow,deny\n"
+                                   "  Allow all\n"
+                                   "</Location>\n"
+                                   "<Policy default>\n"
+                                   "  JobPrivateAccess all\n"
+                                   "  JobPrivateValues none\n"
+                                   "  <Limit All>\n"
+                                   "    Order allow,deny\n"
+                                   "    Allow all\n"
+                                   "  </Limit>\n"
+                                   "</Policy>\n";
+
+/// The record is whole when it takes its name; runs of one job follow each other and are numbered.
+const char recordingScript[] = "#!/bin/sh\n"
+                               "n=1\n"
+                               "while [ -e '%1'/\"$1.$n\" ]; do n=$((n + 1)); done\n"
+                               "printf '%s\\0' \"$@\" >'%1'/\"$1.$n.part\" || exit 1\n"
+                               "mv '%1'/\"$1.$n.part\" '%1'/\"$1.$n\" || exit 1\n"
+                               "exec '%2' \"$@\"\n";
+
+struct ConnectionDeleter {
+    void operator()(http_t *connection) const { httpClose(connection); }
+};
+using Connection = std::unique_ptr<http_t, ConnectionDeleter>;
+
+Connection connectTo(const QString &socket)
+{
+    constexpr int connectMs = 1000;
+    return Connection(httpConnect2(QFile::encodeName(socket).constData(), 0, nullptr, AF_UNSPEC,
+                                   HTTP_ENCRYPTION_IF_REQUESTED, 1, connectMs, nullptr));
+}
+
+QByteArray filled(const char *text, const QString &first, const QString &second = {})
+{
+    return QByteArray(text).replace("%1", QFile::encodeName(first)).replace("%2", QFile::encodeName(second));
+}
+
+QString describedBy(const QString &description)
+{
+    return QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-%1.ppd").arg(description);
+}
+
+} // namespace
+
+PrivateCups::PrivateCups() = default;
+
+PrivateCups::~PrivateCups()
+{
+    endProcess(mServer);
+}
+
+QString PrivateCups::reasonToSkip()
+{
+    if (geteuid() != 0) {
+        return QStringLiteral("A print server that runs filters as their own user must be started by root.");
+    }
+    if (!QFileInfo(serverProgram).isExecutable() || !QFileInfo(labelFilter).isExecutable()) {
+        return QStringLiteral("cupsd or rastertolabel is missing: install cups-daemon and cups.");
+    }
+    return {};
+}
+
+QString PrivateCups::start()
+{
+    const passwd *printUser = getpwnam("lp");
+    if (!mFolder.isValid() || printUser == nullptr) {
+        return QStringLiteral("There is no temporary folder, or no user lp.");
+    }
+    for (const char *name :
+         {"etc", "etc/ppd", "spool", "spool/tmp", "cache", "run", "run/certs", "log", "out", "record"}) {
+        const QString path = mFolder.makeFolder(QString::fromLatin1(name));
+        if (chown(QFile::encodeName(path).constData(), printUser->pw_uid, printUser->pw_gid) != 0) {
+            return QStringLiteral("The folder %1 cannot be given to the user lp.").arg(path);
+        }
+    }
+    for (const char *name : {"home", "home/root", "home/tmp"}) {
+        mFolder.makeFolder(QString::fromLatin1(name));
+    }
+    mFolder.makeFolder(QStringLiteral("home/runtime"), 0700); // the toolkit insists on it
+    const QString files =
+        writeFile(mFolder.path(QStringLiteral("cups-files.conf")), filled(filesConfiguration, mFolder.path()), 0640);
+    const QString server =
+        writeFile(mFolder.path(QStringLiteral("cupsd.conf")), filled(serverConfiguration, mFolder.path()), 0640);
+
+    dieWithTest(mServer);
+    mServer.setProcessChannelMode(QProcess::MergedChannels);
+    mServer.start(serverProgram, {QStringLiteral("-f"), QStringLiteral("-c"), server, QStringLiteral("-s"), files});
+    const bool answers = waitUntil([this] {
+        mServer.waitForFinished(0); // notices an early end
+        return mServer.state() == QProcess::NotRunning || connectTo(socket()) != nullptr;
+    });
+    if (!answers || mServer.state() == QProcess::NotRunning) {
+        return QStringLiteral("cupsd does not answer. It says: %1 %2")
+            .arg(QString::fromUtf8(mServer.readAll()), QString::fromUtf8(errorLog().right(2000)));
+    }
+    return {};
+}
+
+QByteArray PrivateCups::errorLog() const
+{
+    return contentsOf(mFolder.path(QStringLiteral("log/error_log")));
+}
+
+std::vector<std::pair<QString, QString>> PrivateCups::clientVariables() const
+{
+    // Root's lpoptions would go to the machine's own folder without the third.
+    return {{QStringLiteral("CUPS_SERVER"), socket()},
+            {QStringLiteral("HOME"), mFolder.path(QStringLiteral("home"))},
+            {QStringLiteral("CUPS_SERVERROOT"), mFolder.path(QStringLiteral("home/root"))},
+            {QStringLiteral("TMPDIR"), mFolder.path(QStringLiteral("home/tmp"))},
+            {QStringLiteral("XDG_RUNTIME_DIR"), mFolder.path(QStringLiteral("home/runtime"))}};
+}
+
+QString PrivateCups::recordingFilter()
+{
+    // The server runs no filter that others than root could have changed.
+    const QString folder = mFolder.makeFolder(QStringLiteral("filter"));
+    return writeFile(folder + QLatin1String("/recordingfilter"),
+                     filled(recordingScript, mFolder.path(QStringLiteral("record")), labelFilter), 0755);
+}
+
+QString PrivateCups::addRecordedQueue(const QString &name, const QString &description)
+{
+    QByteArray ppd = contentsOf(describedBy(description));
+    const QByteArray shipped = " rastertolabel\"";
+    if (ppd.count(shipped) != 1) {
+        return QStringLiteral("The description %1 does not name the filter rastertolabel once.").arg(description);
+    }
+    ppd.replace(shipped, " " + QFile::encodeName(recordingFilter()) + '"');
+    return addQueue(name, writeFile(mFolder.path(name + QLatin1String(".ppd")), ppd));
+}
+
+QString PrivateCups::addPlainQueue(const QString &name, const QString &description)
+{
+    return addQueue(name, describedBy(description));
+}
+
+QString PrivateCups::addQueue(const QString &name, const QString &ppdPath)
+{
+    const Outcome outcome = runClient({QStringLiteral("/usr/sbin/lpadmin"),
+                                       {QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
+                                        QLatin1String("file://") + outputPath(name), QStringLiteral("-P"), ppdPath},
+                                       clientVariables()});
+    return outcome.status == 0
+               ? QString()
+               : QStringLiteral("lpadmin failed: %1").arg(QString::fromUtf8(outcome.messages + errorLog().right(2000)));
+}
+
+QByteArray PrivateCups::printedBy(const QString &queue) const
+{
+    return contentsOf(outputPath(queue));
+}
+
+std::vector<ServerJob> PrivateCups::jobs() const
+{
+    const Connection connection = connectTo(socket());
+    cups_job_t *found = nullptr;
+    const int count = cupsGetJobs2(connection.get(), &found, nullptr, 0, CUPS_WHICHJOBS_ALL);
+    std::vector<ServerJob> jobs;
+    for (const cups_job_t &job : std::span(found, static_cast<std::size_t>(count > 0 ? count : 0))) {
+        jobs.push_back(
+            {job.id, QString::fromUtf8(job.dest), QString::fromUtf8(job.title), static_cast<int>(job.state)});
+    }
+    cupsFreeJobs(count, found);
+    return jobs;
+}
+
+std::optional<ServerJob> PrivateCups::waitForEnd(int jobId) const
+{
+    std::optional<ServerJob> ended;
+    waitUntil([&] {
+        for (const ServerJob &job : jobs()) {
+            if (job.id == jobId && job.state > IPP_JSTATE_STOPPED) {
+                ended = job;
+            }
+        }
+        return ended.has_value();
+    });
+    return ended;
+}
+
+std::vector<FilterCall> PrivateCups::filterCalls(int jobId) const
+{
+    std::vector<FilterCall> calls;
+    for (int run = 1;; ++run) {
+        const QString path = mFolder.path(QStringLiteral("record/%1.%2").arg(jobId).arg(run));
+        if (!QFileInfo::exists(path)) {
+            return calls;
+        }
+        FilterCall call{contentsOf(path).split('\0')};
+        call.arguments.removeLast(); // what follows the last end mark
+        calls.push_back(call);
+    }
+}
+
+} // namespace systemtest

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: Apache-2.0
+// A print server of the test's own: its own folders and socket, real filters, queues that print into files, and a
+// record of what each run of a printer's filter was given.
+#pragma once
+
+#include "tests/system/PrivateFolder.h"
+
+#include <QByteArrayList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace systemtest
+{
+
+/// One run of the printer's filter, with its arguments as the operating system handed them over.
+struct FilterCall {
+    QByteArrayList arguments; ///< argv[1] and the following: job, user, title, copies, options, file if any
+
+    QByteArray title() const { return arguments.value(2); }
+    QByteArray copies() const { return arguments.value(3); }
+    QByteArray options() const { return arguments.value(4); } ///< argv[5]
+};
+
+/// A job as the server knows it.
+struct ServerJob {
+    int id = 0;
+    QString queue;
+    QString title;
+    int state = 0; ///< an IPP job state: 9 is completed
+};
+
+class PrivateCups
+{
+public:
+    PrivateCups();
+    ~PrivateCups();
+    PrivateCups(const PrivateCups &) = delete;
+    PrivateCups &operator=(const PrivateCups &) = delete;
+
+    /// Why no server can be run on this machine; null when one can.
+    static QString reasonToSkip();
+
+    /// Starts the server and waits until it answers. \return null, or why it does not.
+    QString start();
+
+    QString socket() const { return mFolder.path(QStringLiteral("cups.sock")); }
+    /// What the server has written into its log.
+    QByteArray errorLog() const;
+
+    /// A queue of one of our descriptions, "mm" for tapeprint-mm.ppd, whose filter is recorded and then run.
+    /// \return null, or what lpadmin says.
+    QString addRecordedQueue(const QString &name, const QString &description);
+    /// A queue of the description as it is shipped.
+    QString addPlainQueue(const QString &name, const QString &description);
+    /// What the queue's printer got of its last job.
+    QByteArray printedBy(const QString &queue) const;
+
+    /// All jobs, in the order in which they came.
+    std::vector<ServerJob> jobs() const;
+    /// Waits for a job to end. \return it; null when the server does not know it or it does not end.
+    std::optional<ServerJob> waitForEnd(int jobId) const;
+    /// The runs of the printer's filter for a job, in their order.
+    std::vector<FilterCall> filterCalls(int jobId) const;
+
+    /// Environment variables that make clients use this server and no file of the user's or the machine's.
+    std::vector<std::pair<QString, QString>> clientVariables() const;
+
+private:
+    QString addQueue(const QString &name, const QString &ppdPath);
+    QString outputPath(const QString &queue) const { return mFolder.path(QStringLiteral("out/%1.prn").arg(queue)); }
+    QString recordingFilter();
+
+    PrivateFolder mFolder;
+    QProcess mServer;
+};
+
+} // namespace systemtest

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: Apache-2.0
+// The program's real window, worked from outside as a person works it: by the keys and buttons of the display.
+#pragma once
+
+#include "tests/system/Client.h"
+#include "tests/system/PrivateDisplay.h"
+
+#include <QPoint>
+#include <QRect>
+#include <QString>
+
+namespace systemtest
+{
+
+/// The controls of the Page Settings panel for the millimetre printer, by the number of times that a person presses
+/// Tab from the panel chooser: past the panel area, then as they are read. What is disabled is passed over.
+enum class PanelControl {
+    tapeLength = 2,
+    margin = 4,
+    printTapeLength = 6,
+    quality = 8,
+    resolution = 9,
+    tapeMaterial = 10,
+    tapeColour = 11,
+    inkColour = 12
+};
+
+class WindowUnderTest
+{
+public:
+    explicit WindowUnderTest(const PrivateDisplay &display) : mDisplay(display) {}
+    ~WindowUnderTest();
+    WindowUnderTest(const WindowUnderTest &) = delete;
+    WindowUnderTest &operator=(const WindowUnderTest &) = delete;
+
+    /// Starts the program and waits until its window is there and has the keys.
+    bool open(Client client);
+    /// Waits for the program's end.
+    Outcome waitForEnd();
+
+    /// The window's number on the display.
+    QString window() const { return mWindow; }
+    QRect geometry(const QString &window) const;
+
+    /// Presses keys, such as "alt+n" or "Tab", one after the other.
+    void press(const QStringList &keys) const;
+    void type(const QString &text) const;
+    void click(const QString &window, QPoint place) const;
+
+    /// Gives a control of the panel the keys, by keys.
+    void goTo(PanelControl control) const;
+    /// Opens the pop-up that has the keys and clicks on one of its items, all of which show. \return whether it opened.
+    bool pickFromPopUp(int item, int items);
+    /// Clicks on Print, the button in the lower right corner.
+    void clickPrint() const;
+
+    /// Waits for a window of the program beside those that were there before, such as an alert, and gives it the keys.
+    /// \return its number; null when none comes.
+    QString waitForFurtherWindow();
+    /// Waits until a window is gone.
+    bool waitForGone(const QString &window) const;
+    /// The program's windows that are to be seen.
+    QStringList windows() const;
+
+private:
+    bool giveKeysTo(const QString &window) const;
+
+    const PrivateDisplay &mDisplay;
+    QProcess mProgram;
+    QString mWindow;
+};
+
+} // namespace systemtest

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: Apache-2.0
+// lp's letters on a real queue: default printer, instances, copies, title, pages, several files, standard input.
+#include "tests/system/SystemTest.h"
+
+namespace
+{
+
+using systemtest::FilterCall;
+using systemtest::Label;
+using systemtest::labelsIn;
+using systemtest::Outcome;
+using systemtest::panelOptionsMm;
+using systemtest::SystemTest;
+using systemtest::tapeOptions;
+
+class QueueJob : public SystemTest
+{
+protected:
+    void run(const QString &program, const QStringList &arguments) const
+    {
+        const Outcome outcome = systemtest::runClient({program, arguments, variables()});
+        ASSERT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    }
+};
+
+TEST_F(QueueJob, DefaultPrinter_TakesAJobThatNamesNone)
+{
+    ASSERT_TRUE(cups.addRecordedQueue(u"other"_qs, u"plain"_qs).isNull());
+    run(u"/usr/sbin/lpadmin"_qs, {u"-d"_qs, u"tape"_qs});
+    const Outcome outcome = tapeprint({u"--no-dialog"_qs, document});
+    EXPECT_TRUE(outcome.output.startsWith("Job tape-1 is ")) << outcome.output.toStdString();
+    const std::vector<FilterCall> calls = filterCallsOf(outcome);
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm());
+}
+
+TEST_F(QueueJob, Instance_BringsItsSavedOptionsAndTheCommandLineHasTheLastWord)
+{
+    run(u"/usr/bin/lpoptions"_qs, {u"-p"_qs, u"tape/red"_qs, u"-o"_qs, u"KsTapeColor=KsTapeColorRed"_qs, u"-o"_qs,
+                                   u"KsTapeLength=45.5"_qs, u"-o"_qs, u"PageSize=12mm"_qs});
+    const std::vector<FilterCall> saved =
+        filterCallsOf(tapeprint({u"-d"_qs, u"tape/red"_qs, u"--no-dialog"_qs, document}));
+    ASSERT_EQ(saved.size(), 1U);
+    EXPECT_EQ(tapeOptions(saved[0]),
+              panelOptionsMm({"KsTapeColor=KsTapeColorRed", "KsTapeLength=45.5", "PageSize=12mm"}));
+    // 12 mm of tape with a blank half millimetre at each edge are 129.9 dots, in 17 bytes.
+    const std::vector<Label> labels = labelsIn(cups.printedBy(u"tape"_qs));
+    ASSERT_EQ(labels.size(), 1U);
+    EXPECT_EQ(labels[0].bytesPerRow, 17);
+
+    const std::vector<FilterCall> overruled = filterCallsOf(tapeprint(
+        {u"-d"_qs, u"tape/red"_qs, u"-o"_qs, u"KsTapeColor=KsTapeColorPink"_qs, u"--no-dialog"_qs, document}));
+    ASSERT_EQ(overruled.size(), 1U);
+    EXPECT_EQ(tapeOptions(overruled[0]),
+              panelOptionsMm({"KsTapeColor=KsTapeColorPink", "KsTapeLength=45.5", "PageSize=12mm"}));
+
+    // The queue itself is as it was.
+    const std::vector<FilterCall> plain = printed({document});
+    ASSERT_EQ(plain.size(), 1U);
+    EXPECT_EQ(tapeOptions(plain[0]), panelOptionsMm());
+}
+
+TEST_F(QueueJob, QueueDefaults_BecomeThePanelsFirstSelections)
+{
+    run(u"/usr/sbin/lpadmin"_qs, {u"-p"_qs, u"tape"_qs, u"-o"_qs, u"KsTapeColor=KsTapeColorYellow"_qs, u"-o"_qs,
+                                  u"KsTapeMaterial=KsTapeMaterialCloth"_qs});
+    const std::vector<FilterCall> calls = printed({document});
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]),
+              panelOptionsMm({"KsTapeColor=KsTapeColorYellow", "KsTapeMaterial=KsTapeMaterialCloth"}));
+}
+
+TEST_F(QueueJob, CopiesAndTitle_AreTheFiltersOwnArguments)
+{
+    const std::vector<FilterCall> calls = printed({u"-n"_qs, u"3"_qs, u"-t"_qs, u"Büro \"A\" 'B'"_qs, document});
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(calls[0].title(), QByteArray("Büro \"A\" 'B'"));
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm());
+    ASSERT_EQ(cups.jobs().size(), 1U);
+    EXPECT_EQ(cups.jobs()[0].title, u"Büro \"A\" 'B'"_qs);
+    // Either the printer is told to print the label three times, or it is sent three labels.
+    int copies = 0;
+    for (const Label &label : labelsIn(cups.printedBy(u"tape"_qs))) {
+        copies += label.copies;
+    }
+    EXPECT_EQ(copies, 3);
+}
+
+TEST_F(QueueJob, Pages_AreTheOnlyOnesPrinted)
+{
+    const std::vector<FilterCall> calls = printed({u"-P"_qs, u"2-3,5"_qs, documentOf(6)});
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_TRUE((' ' + calls[0].options() + ' ').contains(" page-ranges=2-3,5 ")) << calls[0].options().toStdString();
+    EXPECT_EQ(labelsIn(cups.printedBy(u"tape"_qs)).size(), 3U);
+}
+
+TEST_F(QueueJob, SeveralFiles_AreOneJobInTheirOrder)
+{
+    const std::vector<FilterCall> calls = printed({u"-t"_qs, u"Both"_qs, documentOf(2), document});
+    ASSERT_EQ(calls.size(), 2U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm());
+    EXPECT_EQ(tapeOptions(calls[1]), panelOptionsMm());
+    EXPECT_EQ(calls[1].title(), "Both");
+    ASSERT_EQ(cups.jobs().size(), 1U);
+    EXPECT_EQ(labelsIn(cups.printedBy(u"tape"_qs)).size(), 3U);
+}
+
+TEST_F(QueueJob, StandardInput_IsPrintedWhenNoFileIsNamed)
+{
+    const std::vector<FilterCall> calls = printed({u"-"_qs}, systemtest::contentsOf(document));
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(calls[0].title(), "(stdin)");
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm());
+    EXPECT_EQ(labelsIn(cups.printedBy(u"tape"_qs)).size(), 1U);
+}
+
+} // namespace

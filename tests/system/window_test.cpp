@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: Apache-2.0
+// The main job through the real window, on a display of the test's own, by real keys and clicks.
+#include "tests/system/SystemTest.h"
+#include "tests/system/WindowUnderTest.h"
+
+#include <QImage>
+
+namespace
+{
+
+using systemtest::FilterCall;
+using systemtest::labelsIn;
+using systemtest::Outcome;
+using systemtest::PanelControl;
+using systemtest::panelOptionsMm;
+using systemtest::tapeOptions;
+
+class WindowJob : public systemtest::SystemTest
+{
+protected:
+    void SetUp() override
+    {
+        if (const QString reason = systemtest::PrivateDisplay::reasonToSkip(); !reason.isNull()) {
+            GTEST_SKIP() << reason.toStdString();
+        }
+        SystemTest::SetUp();
+        if (HasFatalFailure() || IsSkipped()) {
+            return;
+        }
+        const QString problem = display.start();
+        ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+    }
+
+    bool open(const QStringList &arguments = {})
+    {
+        return dialog.open({QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"),
+                            QStringList{u"-d"_qs, u"tape"_qs} + arguments + QStringList{document}, variables(),
+                            workFolder});
+    }
+
+    /// Clicks on Print, reads the sentence about the job away, and waits for the job.
+    std::vector<FilterCall> print()
+    {
+        dialog.clickPrint();
+        const QString sentence = dialog.waitForFurtherWindow();
+        EXPECT_FALSE(sentence.isNull()) << "no word about the job";
+        dialog.press({u"Return"_qs});
+        return filterCallsOf(dialog.waitForEnd());
+    }
+
+    systemtest::PrivateDisplay display;
+    systemtest::WindowUnderTest dialog{display};
+};
+
+TEST_F(WindowJob, PicksAndATypedLength_ReachTheFilter)
+{
+    ASSERT_TRUE(open());
+    dialog.goTo(PanelControl::tapeColour);
+    ASSERT_TRUE(dialog.pickFromPopUp(2, 9)); // red, the third of nine
+    dialog.goTo(PanelControl::resolution);
+    dialog.press({u"Down"_qs});
+    dialog.goTo(PanelControl::tapeLength);
+    dialog.type(u"75.5"_qs);
+    dialog.press({u"Tab"_qs});
+
+    const QString picture = QStringLiteral(TAPEPRINT_SCREENSHOT_DIR "/page-settings.png");
+    ASSERT_TRUE(display.takePicture(dialog.window(), picture));
+    EXPECT_EQ(QImage(picture).size(), dialog.geometry(dialog.window()).size());
+
+    const std::vector<FilterCall> calls = print();
+    ASSERT_EQ(calls.size(), 1U);
+    // The second resolution prints with the first quality alone.
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeColor=KsTapeColorRed", "Resolution=300x600dpi",
+                                                     "KsPriority=KsPrioritySpeed", "KsTapeLength=75.5"}));
+    const auto labels = labelsIn(cups.printedBy(u"tape"_qs));
+    ASSERT_EQ(labels.size(), 1U);
+    // 98 mm at 600 dpi are 2315.0 rows, at 300 dpi they would be 1157.5.
+    EXPECT_NEAR(labels[0].rows, 2315, 1);
+}
+
+TEST_F(WindowJob, UntouchedWindow_SendsWhatAJobWithoutAWindowSends)
+{
+    ASSERT_TRUE(open({u"-o"_qs, u"KsInkColor=KsInkColorGold"_qs}));
+    const std::vector<FilterCall> calls = print();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsInkColor=KsInkColorGold"}));
+}
+
+TEST_F(WindowJob, ChangeOfTape_ChangesWhatIsSent)
+{
+    ASSERT_TRUE(open());
+    // The tapes are chosen by their first letters.
+    dialog.press({u"alt+t"_qs});
+    dialog.type(u"Die"_qs);
+    const std::vector<FilterCall> calls = print();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"PageSize=DC24x80", "KsTapeLength=80.0"}));
+    const auto labels = labelsIn(cups.printedBy(u"tape"_qs));
+    ASSERT_EQ(labels.size(), 1U);
+    EXPECT_NEAR(labels[0].rows, 921, 1); // 78 mm at 300 dpi are 921.3 rows
+}
+
+TEST_F(WindowJob, CopiesAndAllLengthsTyped_ReachTheFilter)
+{
+    ASSERT_TRUE(open());
+    dialog.press({u"alt+c"_qs, u"ctrl+a"_qs});
+    dialog.type(u"2"_qs);
+    // A pick of the material fills the print tape length anew, by its own maximum, and so goes before it.
+    dialog.goTo(PanelControl::tapeMaterial);
+    dialog.press({u"Down"_qs});
+    dialog.goTo(PanelControl::margin);
+    dialog.type(u"12.3"_qs);
+    dialog.goTo(PanelControl::printTapeLength);
+    dialog.type(u"4.5"_qs);
+    dialog.goTo(PanelControl::inkColour);
+    dialog.press({u"End"_qs});
+    const std::vector<FilterCall> calls = print();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]),
+              panelOptionsMm({"KsMargin=12.3", "KsPrintTapeLength=4.5", "KsTapeMaterial=KsTapeMaterialPET",
+                              "KsInkColor=KsInkColorSilver"}));
+    int copies = 0;
+    for (const systemtest::Label &label : labelsIn(cups.printedBy(u"tape"_qs))) {
+        copies += label.copies;
+    }
+    EXPECT_EQ(copies, 2);
+}
+
+TEST_F(WindowJob, LengthBelowTheMinimum_OneAlertAndTheNearestValueIsSent)
+{
+    ASSERT_TRUE(open());
+    dialog.goTo(PanelControl::tapeLength);
+    dialog.type(u"3"_qs);
+    dialog.press({u"Return"_qs});
+    const QString alert = dialog.waitForFurtherWindow();
+    ASSERT_FALSE(alert.isNull()) << "no alert";
+    dialog.press({u"Return"_qs});
+    ASSERT_TRUE(dialog.waitForGone(alert));
+    EXPECT_EQ(dialog.windows(), QStringList{dialog.window()}); // no second one
+    const std::vector<FilterCall> calls = print();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=4.0"}));
+}
+
+TEST_F(WindowJob, GermanSession_SendsPoints)
+{
+    moreVariables = {{u"LC_ALL"_qs, u"de_DE.UTF-8"_qs}, {u"LANG"_qs, u"de_DE.UTF-8"_qs}, {u"LANGUAGE"_qs, u"de"_qs}};
+    ASSERT_TRUE(open());
+    dialog.goTo(PanelControl::tapeLength);
+    dialog.type(u"75.5"_qs);
+    dialog.goTo(PanelControl::margin);
+    dialog.type(u"3.3"_qs);
+    const std::vector<FilterCall> calls = print();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=75.5", "KsMargin=3.3"}));
+}
+
+TEST_F(WindowJob, BrokenBundle_TheDialogStillPrints)
+{
+    const QString bundle = folder.makeFolder(u"bundles/Broken.bundle"_qs);
+    systemtest::writeFile(bundle + u"/Broken.so"_qs, "This is no code.\n");
+    moreVariables = {{u"TAPEPRINT_PLUGIN_PATH"_qs, folder.path(u"bundles"_qs)}};
+    ASSERT_TRUE(open());
+    const std::vector<FilterCall> calls = print();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm());
+}
+
+TEST_F(WindowJob, Cancel_PrintsNothing)
+{
+    ASSERT_TRUE(open());
+    dialog.goTo(PanelControl::tapeLength);
+    dialog.type(u"75"_qs);
+    dialog.press({u"Escape"_qs});
+    const Outcome outcome = dialog.waitForEnd();
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_TRUE(cups.jobs().empty());
+}
+
+} // namespace
