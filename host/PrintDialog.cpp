@@ -5,6 +5,7 @@
 #include "host/OptionsPage.h"
 #include "host/PanelArea.h"
 #include "host/SummaryView.h"
+#include "host/TapePreview.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -64,12 +65,7 @@ void PrintDialog::buildControls()
 
     auto *middle = new QHBoxLayout;
     middle->addWidget(makePanelArea(), 1);
-    auto *summaryBox = new QGroupBox(tr("Summary"), this);
-    mSummary = new SummaryView(summaryBox);
-    auto *summaryLayout = new QVBoxLayout(summaryBox);
-    summaryLayout->addWidget(mSummary);
-    summaryBox->setMinimumWidth(summaryWidth);
-    middle->addWidget(summaryBox);
+    middle->addWidget(makeSummaryArea());
     layout->addLayout(middle, 1);
     layout->addWidget(makeButtons());
 }
@@ -114,6 +110,23 @@ QWidget *PrintDialog::makePanelArea()
     mPages = new QStackedWidget;
     mPanelArea->setWidget(mPages);
     layout->addWidget(mPanelArea, 1);
+    return area;
+}
+
+QWidget *PrintDialog::makeSummaryArea()
+{
+    auto *area = new QWidget(this);
+    auto *layout = new QVBoxLayout(area);
+    layout->setContentsMargins({});
+    auto *summaryBox = new QGroupBox(tr("Summary"), area);
+    mSummary = new SummaryView(summaryBox);
+    auto *summaryLayout = new QVBoxLayout(summaryBox);
+    summaryLayout->addWidget(mSummary);
+    summaryBox->setMinimumWidth(summaryWidth);
+    layout->addWidget(summaryBox, 1);
+    mPreview = new TapePreview(area);
+    mPreview->setDocument(mDocuments.files().value(0));
+    layout->addWidget(mPreview);
     return area;
 }
 

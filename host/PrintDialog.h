@@ -6,7 +6,7 @@
 //     ├─ notices                    skipped bundles, options that get lost
 //     ├─ panel chooser
 //     ├─ panel area (scrolls)       the panels' views, and the page of other options
-//     ├─ SummaryView
+//     ├─ SummaryView, TapePreview
 //     └─ Revert, Cancel, Print
 #pragma once
 
@@ -32,6 +32,7 @@ namespace tapeprint
 class OptionsPage;
 class PanelArea;
 class SummaryView;
+class TapePreview;
 
 class PrintDialog : public QDialog
 {
@@ -57,6 +58,7 @@ private:
     void buildControls();
     QWidget *makeDestinationControls();
     QWidget *makePanelArea();
+    QWidget *makeSummaryArea();
     QWidget *makeButtons();
     void connectControls();
 
@@ -93,6 +95,7 @@ private:
     PanelArea *mPanelArea = nullptr;
     QStackedWidget *mPages = nullptr;
     SummaryView *mSummary = nullptr;
+    TapePreview *mPreview = nullptr;
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;

@@ -5,6 +5,7 @@
 #include "host/PrintDialog.h"
 #include "host/Printing.h"
 #include "host/SummaryView.h"
+#include "host/TapePreview.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -123,6 +124,8 @@ void PrintDialog::follow()
         return;
     }
     mSummary->show(mModel.summary());
+    mPreview->follow(mModel.pageFormat().paper, mModel.job());
+    mPreview->setVisible(mModel.pageFormat().paper.has_value());
     selectChoice(mTapePopUp, markedChoice(mModel.ppd(), OptionName::pageSize));
     mCopiesField->setValue(mModel.copies());
     if (mOptionsPage) {
