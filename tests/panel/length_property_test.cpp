@@ -142,6 +142,7 @@ public:
         : mWalk(walk), mPrinter(printer), mPanel(tape(walk->ppd(printer), walk->below(300) + 1))
     {
         mPanel.show();
+        holdSent(); // of the first paper
     }
 
     void step()
