@@ -20,8 +20,31 @@ namespace
 {
 
 constexpr int connectTimeoutMs = 5000;
+/// A busy server takes its time; one that says nothing for so long hangs.
+constexpr double answerTimeoutSeconds = 10.0;
 /// Local queues answer at once; printers found on the network are given this long.
 constexpr int discoveryTimeoutMs = 1000;
+
+struct ConnectionDeleter {
+    void operator()(http_t *connection) const { httpClose(connection); }
+};
+using Connection = std::unique_ptr<http_t, ConnectionDeleter>;
+
+/// Whether a server that took the connection also speaks. libcups waits minutes for each request to one that hangs.
+bool saysAnything(http_t *server)
+{
+    httpSetTimeout(
+        server, answerTimeoutSeconds, [](http_t * /*server*/, void * /*data*/) { return 0; }, nullptr);
+    httpClearFields(server);
+    if (httpOptions(server, "*") != 0) {
+        return false;
+    }
+    http_status_t status = HTTP_STATUS_CONTINUE;
+    while (status == HTTP_STATUS_CONTINUE) {
+        status = httpUpdate(server);
+    }
+    return status != HTTP_STATUS_ERROR; // a refusal is an answer as well
+}
 
 struct DestinationDeleter {
     void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
@@ -124,16 +147,15 @@ bool instanceExists(const QString &name, const QString &instance)
 
 bool serverAnswers(QString *error)
 {
-    http_t *server =
-        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, connectTimeoutMs, nullptr);
-    if (server == nullptr) {
-        *error = QStringLiteral("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
-                                "without one with --ppd FILE.")
-                     .arg(QString::fromUtf8(cupsServer()));
-        return false;
+    const Connection server(
+        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, connectTimeoutMs, nullptr));
+    if (server && saysAnything(server.get())) {
+        return true;
     }
-    httpClose(server);
-    return true;
+    *error = QStringLiteral("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
+                            "without one with --ppd FILE.")
+                 .arg(QString::fromUtf8(cupsServer()));
+    return false;
 }
 
 std::vector<PrintQueue> listQueues()

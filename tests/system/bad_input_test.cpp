@@ -4,8 +4,6 @@
 
 #include <QDirIterator>
 
-#include <csignal>
-
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -15,6 +13,18 @@ namespace
 
 using systemtest::Outcome;
 using systemtest::SystemTest;
+
+/// A socket with a name, which nobody listens on yet.
+int boundSocket(const QString &path)
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    path.toStdString().copy(address.sun_path, sizeof address.sun_path - 1);
+    const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    // The socket interface takes every kind of address through this one type.
+    EXPECT_EQ(bind(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
+    return descriptor;
+}
 
 class BadInput : public SystemTest
 {
@@ -71,18 +81,22 @@ TEST_F(BadInput, ServerThatIsNotThere_IsNamed)
     expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document}, "nobody.sock does not answer");
 }
 
-TEST_F(BadInput, ServerThatDoesNotListen_IsNamed)
+TEST_F(BadInput, ServerThatDied_IsNamed)
 {
-    // A server that died leaves its socket behind.
-    const QString path = folder.path(u"dead.sock"_qs);
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    path.toUtf8().toStdString().copy(address.sun_path, sizeof address.sun_path - 1);
-    const int dead = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    ASSERT_EQ(bind(dead, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
-    close(dead);
-    moreVariables = {{u"CUPS_SERVER"_qs, path}};
+    // It leaves its socket behind.
+    close(boundSocket(folder.path(u"dead.sock"_qs)));
+    moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"dead.sock"_qs)}};
     expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document}, "dead.sock does not answer");
+}
+
+TEST_F(BadInput, ServerThatHangs_IsNamed)
+{
+    // It takes connections, and says nothing on them.
+    const int server = boundSocket(folder.path(u"hung.sock"_qs));
+    ASSERT_EQ(listen(server, 5), 0);
+    moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"hung.sock"_qs)}};
+    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document}, "hung.sock does not answer");
+    close(server);
 }
 
 TEST_F(BadInput, PpdThatDoesNotParse_IsNamedWithItsLine)
