@@ -16,6 +16,7 @@ namespace systemtest
 /// Tab from the panel chooser: past the panel area, then as they are read. What is disabled is passed over.
 enum class PanelControl {
     tapeLength = 2,
+    tapeLengthSlider = 3,
     margin = 4,
     printTapeLength = 6,
     quality = 8,

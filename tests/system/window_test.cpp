@@ -126,6 +126,33 @@ TEST_F(WindowJob, CopiesAndAllLengthsTyped_ReachTheFilter)
     EXPECT_EQ(copies, 2);
 }
 
+TEST_F(WindowJob, ChangeOfTape_ChangesTheLimits)
+{
+    ASSERT_TRUE(open());
+    // On the 15 mm tape 12 m may be printed, on any other 8 m: 11 m are accepted there without a word.
+    dialog.press({u"alt+t"_qs});
+    dialog.type(u"15"_qs);
+    dialog.goTo(PanelControl::printTapeLength);
+    dialog.type(u"11"_qs);
+    dialog.press({u"Tab"_qs});
+    const std::vector<FilterCall> calls = print();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"PageSize=15mm", "KsPrintTapeLength=11.0"}));
+    const auto labels = labelsIn(cups.printedBy(u"tape"_qs));
+    ASSERT_EQ(labels.size(), 1U);
+    EXPECT_EQ(labels[0].bytesPerRow, 21); // 14 mm at 300 dpi are 165.4 dots
+}
+
+TEST_F(WindowJob, SliderMovedByKeys_SendsWhatItsFieldShows)
+{
+    ASSERT_TRUE(open());
+    dialog.goTo(PanelControl::tapeLengthSlider);
+    dialog.press({u"Right"_qs, u"Right"_qs, u"Right"_qs}); // a millimetre each
+    const std::vector<FilterCall> calls = print();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=103.0"}));
+}
+
 TEST_F(WindowJob, LengthBelowTheMinimum_OneAlertAndTheNearestValueIsSent)
 {
     ASSERT_TRUE(open());
