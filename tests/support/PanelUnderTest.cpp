@@ -50,8 +50,8 @@ void *LoadedBundle::symbol(const char *name) const
     return address;
 }
 
-PanelUnderTest::PanelUnderTest(std::shared_ptr<RecordingCallback> recording)
-    : callback(std::move(recording)), plugIn(loaded.newPlugIn())
+PanelUnderTest::PanelUnderTest(std::shared_ptr<RecordingCallback> recording, const QString &bundlePath)
+    : loaded(bundlePath), callback(std::move(recording)), plugIn(loaded.newPlugIn())
 {
     pdekit::setAlertHandler([this](const pdekit::AlertRequest &alert) { alerts.push_back(alert); });
     const pdekit::PanelArray *panels = plugIn->PDEPanelsForType(pdekit::kPrinterModulePanelType, callback);

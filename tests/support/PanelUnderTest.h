@@ -52,7 +52,8 @@ class PanelUnderTest
 {
 public:
     /// The panel is made here, so lay down papers, tickets and printers in the callback before.
-    explicit PanelUnderTest(std::shared_ptr<RecordingCallback> callback);
+    /// \param bundlePath another bundle than the product's.
+    explicit PanelUnderTest(std::shared_ptr<RecordingCallback> callback, const QString &bundlePath = QString());
     explicit PanelUnderTest(const PpdText &ppd);
     ~PanelUnderTest();
 
