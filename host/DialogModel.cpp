@@ -117,8 +117,7 @@ void DialogModel::makePanels()
         const pdekit::PanelArray *panels =
             bundle.principal->PDEPanelsForType(pdekit::kPrinterModulePanelType, mCallback);
         if (panels == nullptr) {
-            mNotices.append(
-                QStringLiteral("The plug-in %1 could not make its panel: printing works without it.").arg(bundle.path));
+            mNotices.append(tr("The plug-in %1 could not make its panel: printing works without it.").arg(bundle.path));
             continue;
         }
         for (const std::shared_ptr<pdekit::Panel> &panel : *panels) {
@@ -131,8 +130,8 @@ void DialogModel::makePanels()
             }
             entry.view = panel->panelView();
             if (entry.view == nullptr) {
-                mNotices.append(QStringLiteral("The panel \"%1\" of %2 has no view: its values are printed as they are "
-                                               "laid down.")
+                mNotices.append(tr("The panel \"%1\" of %2 has no view: its values are printed as they are "
+                                   "laid down.")
                                     .arg(entry.name, bundle.path));
             }
             mPanels.push_back(std::move(entry));
@@ -161,6 +160,8 @@ bool DialogModel::takeFromPanel(const QString &key, const QString &choice)
     if (key == OptionName::pageSize) {
         followMarkedTape();
     }
+    // Every panel hears of it, the sender too: a panel that takes its state from what the dialog reports stays right.
+    tellPanels(key, choice);
     Q_EMIT jobChanged();
     return true;
 }
@@ -236,7 +237,7 @@ bool DialogModel::saveValues(QString *error)
     for (const PanelEntry &entry : mPanels) {
         QString reason;
         if (!entry.panel->saveValuesAndReturnError(&reason)) {
-            *error = QStringLiteral("The panel \"%1\" could not hand over its values: %2").arg(entry.name, reason);
+            *error = tr("The panel \"%1\" could not hand over its values: %2").arg(entry.name, reason);
             return false;
         }
     }
@@ -282,7 +283,7 @@ bool DialogModel::revert(QString *error)
     for (const PanelEntry &entry : mPanels) {
         QString reason;
         if (!entry.panel->restoreValuesAndReturnError(&reason)) {
-            *error = QStringLiteral("The panel \"%1\" could not restore its values: %2").arg(entry.name, reason);
+            *error = tr("The panel \"%1\" could not restore its values: %2").arg(entry.name, reason);
             restored = false;
         }
     }

@@ -79,7 +79,8 @@ public:
     /// Whether a panel announced an option as its own.
     bool isPanelOption(const QString &key) const;
 
-    /// A panel sends a choice: marked when the PPD lists it, recorded in the job in any case.
+    /// A panel sends a choice: marked when the PPD lists it, recorded in the job in any case, and told to every panel,
+    /// the sender included.
     /// \return false, and nothing changed, for an empty keyword or choice and for a value that no job can carry.
     bool takeFromPanel(const QString &key, const QString &choice);
     /// The person changes an option in the dialog itself: marked, recorded, and told to every panel.

@@ -99,6 +99,14 @@ TEST_F(DialogModelTest, PanelsChoice_IsMarkedWhenListedAndRecordedInAnyCase)
     EXPECT_EQ(model.job().value(u"KsTapeLength"_qs), u"62.0"_qs);
 }
 
+TEST_F(DialogModelTest, PanelsChoice_IsToldToEveryPanelTheSenderIncluded)
+{
+    open();
+    takeCalls();
+    model.takeFromPanel(u"KsMargin"_qs, u"5.0"_qs);
+    EXPECT_EQ(takeCalls(), QStringList{u"changed KsMargin=5.0, tape W12"_qs});
+}
+
 TEST_F(DialogModelTest, PanelsChoice_WithoutKeywordOrValueOrInBraces_IsRefused)
 {
     open();

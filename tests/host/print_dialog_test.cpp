@@ -181,7 +181,7 @@ TEST_F(PrintDialogTest, RefusingPanel_KeepsTheDialogOpen)
     click(u"print"_qs);
     pdekit::setAlertHandler({});
     qApp->setProperty("hostTestRefuse", QVariant());
-    EXPECT_EQ(takeCalls(), (QStringList{u"save"_qs, u"shouldPrint"_qs}));
+    EXPECT_EQ(takeCalls(), (QStringList{u"save"_qs, u"changed KsMargin=2.0, tape W12"_qs, u"shouldPrint"_qs}));
     EXPECT_EQ(alerts, 1);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_FALSE(QFile::exists(line.outputPath));
@@ -209,7 +209,8 @@ TEST_F(PrintDialogTest, Print_SavesAsksPrintsAndSaysWhereTheBytesWent)
     EXPECT_TRUE(said.contains(line.outputPath)) << said.toStdString();
     EXPECT_EQ(dialog->result(), said);
     EXPECT_FALSE(dialog->isVisible());
-    EXPECT_EQ(takeCalls(), (QStringList{u"save"_qs, u"shouldPrint"_qs, u"closes, printed"_qs}));
+    EXPECT_EQ(takeCalls(), (QStringList{u"save"_qs, u"changed KsMargin=5.0, tape W12"_qs, u"shouldPrint"_qs,
+                                        u"closes, printed"_qs}));
     QFile output(line.outputPath);
     ASSERT_TRUE(output.open(QIODevice::ReadOnly));
     EXPECT_TRUE(output.readAll().contains("KsMargin=5.0"));
