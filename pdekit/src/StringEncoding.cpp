@@ -81,10 +81,19 @@ QString emptyString()
     return QStringLiteral("");
 }
 
+bool isAscii(QByteArrayView bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80U; });
+}
+
 QString decodeUtf8(QByteArrayView bytes)
 {
     if (bytes.isEmpty()) {
         return emptyString();
+    }
+    // Most texts of PPDs, of which there may be tens of thousands: copied without a decoder.
+    if (isAscii(bytes)) {
+        return QString::fromLatin1(bytes);
     }
     QStringDecoder decoder(QStringDecoder::Utf8,
                            QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
@@ -94,9 +103,7 @@ QString decodeUtf8(QByteArrayView bytes)
 
 QString decodeAscii(QByteArrayView bytes)
 {
-    const bool isAscii =
-        std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80U; });
-    if (!isAscii) {
+    if (!isAscii(bytes)) {
         return {};
     }
     return bytes.isEmpty() ? emptyString() : QString::fromLatin1(bytes);
