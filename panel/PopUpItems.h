@@ -24,7 +24,7 @@ public:
     void replaceItem(std::size_t index, const QString &title);
     /// Inserts titles at the indexes 0, 1, 2, ... before what is there.
     void insertAtFront(std::span<const QString> titles);
-    /// Gives an image to the first item with that title.
+    /// Gives an image to the first item with that title. A null image takes none away.
     void setImageOfItemWithTitle(const QString &title, const QIcon &image);
 
     const std::deque<Item> &items() const { return mItems; }
@@ -33,8 +33,12 @@ private:
     /// Places count from where the first item stood at the beginning, so that inserting at the front moves none.
     using Place = std::int64_t;
     Place placeOf(std::size_t index) const { return static_cast<Place>(index) - mInsertedAtFront; }
+    /// Pop-ups without images never pay for finding titles.
+    void indexTitles();
+    void indexTitle(std::size_t index);
 
     std::deque<Item> mItems;
     Place mInsertedAtFront = 0;
+    bool mTitlesAreIndexed = false;
     QHash<QString, std::set<Place>> mPlacesOfTitle;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The seven choice options: filling their controls, their first selection, picks, the dialog's notices, and the rule by
 // which the resolution enables the quality.
+#include "panel/BundleImages.h"
 #include "panel/ChoiceOption.h"
 #include "panel/PageSettingPDE13_v100_.h"
 #include "panel/PopUpItems.h"
@@ -10,6 +11,7 @@
 #include "ppd/PDEUtilsMethod13.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 using namespace pdekit;
@@ -116,7 +118,9 @@ void PageSettingPDE13_v100_::fillRadioMatrix(const ChoiceOption &option)
     for (int i = 0; i < ppdOption->num_choices; ++i) {
         const QString title = PDEUtilsMethod13::newChoiceTitle(&ppdOption->choices[i]);
         if (!title.isNull()) {
-            matrix->setTitleOfCell(localized(title), i, 0);
+            if (i < matrix->numberOfRows()) { // a choice beyond the rows has no cell
+                matrix->setTitleOfCell(localized(title), i, 0);
+            }
             continue;
         }
         // One unreadable choice gives every row its fallback title; rows that come later are titled again.
@@ -136,6 +140,7 @@ void PageSettingPDE13_v100_::fillPopUp(const ChoiceOption &option)
 
     // Placeholders of the interface file are not kept: an item that is no choice would be there to pick.
     PopUpItems items;
+    const BundleImages images(option.hasImages ? nsPDEBundle : nullptr, QStringLiteral("tiff"));
     const ppd_option_t *ppdOption = this->*option.option;
     for (int i = 0; i < ppdOption->num_choices; ++i) {
         const ppd_choice_t &choice = ppdOption->choices[i];
@@ -146,11 +151,8 @@ void PageSettingPDE13_v100_::fillPopUp(const ChoiceOption &option)
         }
         const QString title = localized(text);
         items.replaceItem(static_cast<std::size_t>(i), title);
-        if (option.hasImages && nsPDEBundle != nullptr) {
-            const QString keyword = stringFromAscii(choice.choice);
-            if (const auto image = nsPDEBundle->imageForResource(keyword, QStringLiteral("tiff"))) {
-                items.setImageOfItemWithTitle(title, *image);
-            }
+        if (const std::optional<QIcon> image = images.imageNamed(choice.choice)) {
+            items.setImageOfItemWithTitle(title, *image);
         }
     }
 
@@ -158,8 +160,18 @@ void PageSettingPDE13_v100_::fillPopUp(const ChoiceOption &option)
     QComboBox *popUp = this->*option.popUp;
     const int selected = std::max(popUp->currentIndex(), 0);
     popUp->clear();
+    // All titles at once: adding items one by one tells the pop-up's views of each.
+    QStringList titles;
     for (const PopUpItems::Item &item : items.items()) {
-        popUp->addItem(item.image, item.title);
+        titles.append(item.title);
+    }
+    popUp->addItems(titles);
+    for (std::size_t i = 0; i < items.items().size(); ++i) {
+        const QIcon &image = items.items()[i].image;
+        const bool isGiven = image.cacheKey() != 0; // isNull() would read the image
+        if (isGiven) {
+            popUp->setItemIcon(static_cast<int>(i), image);
+        }
     }
     popUp->setCurrentIndex(selected);
 }

@@ -13,6 +13,10 @@
 #include <QPixmap>
 #include <QTranslator>
 
+#include <memory>
+
+#include <dirent.h>
+
 namespace pdekit
 {
 
@@ -63,11 +67,35 @@ QString Bundle::pathForResource(const QString &name, const QString &type) const
     return QFileInfo(path).isFile() ? path : QString();
 }
 
+QStringList Bundle::namesOfResources(const QString &type) const
+{
+    const QByteArray ending = '.' + type.toUtf8();
+    const QString folder = mPath + QLatin1String("/Resources/");
+    QStringList names;
+    // The system's own listing: the toolkit's costs as much as asking for a few dozen names one by one.
+    const std::unique_ptr<DIR, int (*)(DIR *)> directory(opendir(QFile::encodeName(folder).constData()), closedir);
+    while (const dirent *entry = directory ? readdir(directory.get()) : nullptr) {
+        const QByteArray fileName =
+            QByteArray::fromRawData(entry->d_name, static_cast<qsizetype>(qstrlen(entry->d_name)));
+        if (!fileName.endsWith(ending)) {
+            continue;
+        }
+        const QString name = QFile::decodeName(fileName);
+        if (entry->d_type == DT_REG || QFileInfo(folder + name).isFile()) {
+            names.append(name.chopped(1 + type.size()));
+        }
+    }
+    return names;
+}
+
 std::optional<QIcon> Bundle::imageForResource(const QString &name, const QString &type) const
 {
     const QString path = pathForResource(name, type);
     if (path.isNull()) {
         return std::nullopt;
+    }
+    if (const auto known = mImages.constFind(path); known != mImages.constEnd()) {
+        return *known;
     }
     QImageReader reader(path);
     const QImage image = reader.read();
@@ -75,7 +103,7 @@ std::optional<QIcon> Bundle::imageForResource(const QString &name, const QString
         qCWarning(lcPde).noquote() << path << reader.errorString();
         return std::nullopt;
     }
-    return QIcon(QPixmap::fromImage(image));
+    return *mImages.insert(path, QIcon(QPixmap::fromImage(image)));
 }
 
 QString Bundle::localizedStringForKey(const QString &key, const QString &value, const QString &table) const

@@ -156,6 +156,30 @@ TEST(PopUpItems, ImageByATitleWhoseFirstItemWasReplaced_GoesToTheNext)
     EXPECT_EQ(colourOf(items, 2), QColor(Qt::red));
 }
 
+TEST(PopUpItems, ImageThatCannotBeRead_TakesNoneAway)
+{
+    PopUpItems items = filled(QStringLiteral("AB"));
+    items.setImageOfItemWithTitle(QStringLiteral("B"), image(Qt::red));
+    items.setImageOfItemWithTitle(QStringLiteral("B"), QIcon());
+    EXPECT_EQ(colourOf(items, 1), QColor(Qt::red));
+}
+
+TEST(PopUpItems, TitlesThatComeAndGoAfterTheFirstImage_AreFoundToo)
+{
+    PopUpItems items = filled(QStringLiteral("ABC"));
+    items.setImageOfItemWithTitle(QStringLiteral("A"), image(Qt::red));
+    items.replaceItem(1, QStringLiteral("X")); // A X C
+    items.replaceItem(3, QStringLiteral("B")); // A X C B
+    items.insertAtFront(kFallbacks);           // F0 F1 F2 A X C B
+    items.setImageOfItemWithTitle(QStringLiteral("X"), image(Qt::green));
+    items.setImageOfItemWithTitle(QStringLiteral("B"), image(Qt::blue));
+    items.setImageOfItemWithTitle(QStringLiteral("F1"), image(Qt::yellow));
+    EXPECT_EQ(colourOf(items, 1), QColor(Qt::yellow));
+    EXPECT_EQ(colourOf(items, 3), QColor(Qt::red));
+    EXPECT_EQ(colourOf(items, 4), QColor(Qt::green));
+    EXPECT_EQ(colourOf(items, 6), QColor(Qt::blue));
+}
+
 TEST(PopUpItems, ImageByATitleThatWasReplacedAway_IsDropped)
 {
     PopUpItems items = filled(QStringLiteral("XA"));

@@ -109,6 +109,21 @@ TEST_F(BundleTest, Image_IsReadFromTiff)
     EXPECT_FALSE(bundle->imageForResource(u"none"_qs, u"tiff"_qs).has_value());
 }
 
+TEST_F(BundleTest, NamesOfResources_AreThoseOfFilesOfTheTypeInResourcesAlone)
+{
+    write(resource(u"red.tiff"_qs), "x");
+    write(resource(u"blue.v2.tiff"_qs), "x");
+    write(resource(u"green.png"_qs), "x");
+    write(resource(u"notiff"_qs), "x");
+    write(bundlePath() + u"/outside.tiff"_qs, "x");
+    ASSERT_TRUE(QDir(resource(QString())).mkdir(u"folder.tiff"_qs));
+    ASSERT_TRUE(QFile::link(resource(u"red.tiff"_qs), resource(u"linked.tiff"_qs)));
+    QStringList names = Bundle::bundleWithPath(bundlePath())->namesOfResources(u"tiff"_qs);
+    names.sort();
+    EXPECT_EQ(names, (QStringList{u"blue.v2"_qs, u"linked"_qs, u"red"_qs}));
+    EXPECT_TRUE(Bundle::bundleWithPath(folder.filePath(u"none"_qs))->namesOfResources(u"tiff"_qs).isEmpty());
+}
+
 struct LanguageCase {
     QString locale;
     QString text;

@@ -4,9 +4,11 @@
 
 #include "pdekit/Export.h"
 
+#include <QHash>
 #include <QIcon>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 #include <functional>
@@ -41,7 +43,11 @@ public:
     /// \return a null string when there is no such file. A name that leads out of Resources is never found.
     QString pathForResource(const QString &name, const QString &type) const;
 
-    /// An image of the bundle. \return std::nullopt when the file is missing or is no image.
+    /// The names, without their ending, of the files of one type in Resources, as the disk has them now. For those who
+    /// look for many names of which few exist. \param type the ending, without a point.
+    QStringList namesOfResources(const QString &type) const;
+
+    /// An image of the bundle, read once and kept. \return std::nullopt when the file is missing or is no image.
     std::optional<QIcon> imageForResource(const QString &name, const QString &type) const;
 
     /// A text in the person's language, from the bundle's own catalogue (Resources/<language>.qm, id-based). The
@@ -71,6 +77,7 @@ private:
 
     QString mPath;
     std::unique_ptr<QTranslator> mCatalogue;
+    mutable QHash<QString, QIcon> mImages; ///< read so far, by path
 };
 
 } // namespace pdekit
