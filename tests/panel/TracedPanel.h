@@ -6,6 +6,7 @@
 #include "RecordingCallback.h"
 
 #include "panel/PageSettingPDE13_v100_.h"
+#include "pdekit/Alert.h"
 #include "pdekit/Bundle.h"
 
 #include <memory>
@@ -106,7 +107,11 @@ public:
           panel(std::make_unique<TracedPanel>(&trace))
     {
         bundle->setLanguage(QStringLiteral("en"));
+        pdekit::setAlertHandler([this](const pdekit::AlertRequest &alert) { alerts.push_back(alert); });
     }
+    PanelOfTheClass(const PanelOfTheClass &) = delete;
+    PanelOfTheClass &operator=(const PanelOfTheClass &) = delete;
+    ~PanelOfTheClass() { pdekit::setAlertHandler({}); }
     explicit PanelOfTheClass(const PpdText &ppd) : PanelOfTheClass(ppd.open()) {}
 
     PanelOfTheClass &construct()
@@ -141,6 +146,7 @@ public:
     TracedPanel *operator->() const { return panel.get(); }
 
     Trace trace;
+    std::vector<pdekit::AlertRequest> alerts;
     std::shared_ptr<TracedCallback> callback;
     std::shared_ptr<pdekit::Bundle> bundle;
     std::unique_ptr<TracedPanel> panel;
