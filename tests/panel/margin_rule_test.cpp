@@ -84,6 +84,16 @@ TEST(MarginRule, InInches_AddsAHundredthAndRoundsNothingUp)
     EXPECT_EQ(length(panel), u"2.01");
 }
 
+TEST(MarginRule, InInches_ALargerDotIsNotRoundedUpEither)
+{
+    PanelUnderTest panel(tape(withResolution("70x70dpi").attribute("KsUnitType", "inch"), 50.0));
+    panel.show();
+    panel.type("mMarginTxFld", "1");
+    save(panel);
+    EXPECT_EQ(length(panel), u"2.01"); // 2 + 0.0143
+    EXPECT_FLOAT_EQ(panel.slider("mLengthSlider")->floatValue(), 2.0142859F);
+}
+
 TEST(MarginRule, TheNewLength_IsNotHeldAgainstTheMaximum_ButTheJobIs)
 {
     PanelUnderTest panel(tape(withTapeLimits("4", "20"), 20.0));
