@@ -10,6 +10,8 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
+#include <algorithm>
+#include <functional>
 #include <limits>
 
 namespace
