@@ -184,9 +184,11 @@ protected:
 
 TEST_F(SessionTicketTest, Number_IsReadAsSigned32Bits)
 {
-    session.data = {{u"small"_qs, -7}, {u"large"_qs, qlonglong{0x1FFFFFFFE}}};
+    session.data = {{u"small"_qs, -7}, {u"wide"_qs, 70000}, {u"large"_qs, qlonglong{0x1FFFFFFFE}}};
     EXPECT_EQ(get("small"), kPMNoError);
     EXPECT_EQ(value, -7);
+    EXPECT_EQ(get("wide"), kPMNoError);
+    EXPECT_EQ(value, 70000);
     EXPECT_EQ(get("large"), kPMNoError);
     EXPECT_EQ(value, -2);
 }
