@@ -57,6 +57,13 @@ double scaleFor(const QSizeF &tapePt, const QSizeF &room)
     return std::min<double>(brokenWidth, room.height()) / tapePt.height();
 }
 
+QPainterPath roundedPath(const QRectF &strip)
+{
+    QPainterPath path;
+    path.addRoundedRect(strip, corner, corner);
+    return path;
+}
+
 /// The area on one side of a torn edge. \param x the edge's middle; \param outerX the far side of the area.
 QPainterPath besideTornEdge(const QRectF &strip, double x, double outerX)
 {
@@ -151,29 +158,43 @@ void TapePreview::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    QPainterPath outline;
-    outline.addRoundedRect(strip, corner, corner);
-    QRectF wholeTape(strip.topLeft(), whole);
     if (whole.width() > strip.width() + 0.5) {
-        const double middle = strip.center().x();
-        drawPiece(painter, outline.intersected(besideTornEdge(strip, middle - breakGap / 2.0, strip.left() - 1)),
-                  wholeTape);
-        wholeTape.moveRight(strip.right());
-        drawPiece(painter, outline.intersected(besideTornEdge(strip, middle + breakGap / 2.0, strip.right() + 1)),
-                  wholeTape);
+        drawBroken(painter, strip, whole.width());
     } else {
-        drawPiece(painter, outline, wholeTape);
+        drawPiece(painter, roundedPath(strip), placeOfPage(strip));
     }
     drawMeasures(painter, strip);
 }
 
-void TapePreview::drawPiece(QPainter &painter, const QPainterPath &piece, const QRectF &wholeTape)
+void TapePreview::drawBroken(QPainter &painter, const QRectF &strip, double length)
+{
+    const QPainterPath outline = roundedPath(strip);
+    const double middle = strip.center().x();
+    const QRectF first(strip.topLeft(), QPointF(middle - breakGap / 2.0, strip.bottom()));
+    QRectF page = placeOfPage({strip.topLeft(), QSizeF(length, strip.height())});
+    QRectF pageAtEnd = page.translated(strip.width() - length, 0);
+    // A page that would vanish in the break is shown before it.
+    if (page.left() > first.center().x()) {
+        page.moveLeft(std::max(first.left(), first.center().x() - page.width() / 2));
+        pageAtEnd = {};
+    }
+    drawPiece(painter, outline.intersected(besideTornEdge(strip, first.right(), strip.left() - 1)), page);
+    drawPiece(painter, outline.intersected(besideTornEdge(strip, middle + breakGap / 2.0, strip.right() + 1)),
+              pageAtEnd);
+}
+
+QRectF TapePreview::placeOfPage(const QRectF &tape) const
+{
+    QRectF place({}, QSizeF(mPage.size()).scaled(tape.size(), Qt::KeepAspectRatio));
+    place.moveCenter(tape.center());
+    return place;
+}
+
+void TapePreview::drawPiece(QPainter &painter, const QPainterPath &piece, const QRectF &page)
 {
     painter.fillPath(piece, palette().color(QPalette::Base));
-    if (!mPage.isNull()) {
-        QRectF place({}, QSizeF(mPage.size()).scaled(wholeTape.size(), Qt::KeepAspectRatio));
-        place.moveCenter(wholeTape.center());
-        const QSize pixels = (place.size() * devicePixelRatioF()).toSize().expandedTo({1, 1});
+    if (!mPage.isNull() && !page.isEmpty()) {
+        const QSize pixels = (page.size() * devicePixelRatioF()).toSize().expandedTo({1, 1});
         // Made smaller beforehand, because a painter skips lines; made larger only where it is seen.
         const bool isSmaller = pixels.width() < mPage.width();
         if (isSmaller && mScaled.size() != pixels) {
@@ -181,7 +202,7 @@ void TapePreview::drawPiece(QPainter &painter, const QPainterPath &piece, const 
         }
         painter.save();
         painter.setClipPath(piece);
-        painter.drawImage(place, isSmaller ? mScaled : mPage);
+        painter.drawImage(page, isSmaller ? mScaled : mPage);
         painter.restore();
     }
     painter.setPen(palette().color(QPalette::WindowText));

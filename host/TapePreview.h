@@ -44,7 +44,9 @@ private:
     void showPage(const QImage &page);
     void layPage();
     QRectF room() const;
-    void drawPiece(QPainter &painter, const QPainterPath &piece, const QRectF &wholeTape);
+    void drawBroken(QPainter &painter, const QRectF &strip, double length);
+    void drawPiece(QPainter &painter, const QPainterPath &piece, const QRectF &page);
+    QRectF placeOfPage(const QRectF &tape) const;
     void drawMeasures(QPainter &painter, const QRectF &strip) const;
 
     PageRenderer mRenderer;

@@ -243,6 +243,18 @@ TEST_F(TapePreviewTest, LongTape_HasABreakInItsMiddleAndKeepsItsEnds)
     EXPECT_EQ(image.pixel(ink.center() + QPoint(3, 0)), windowColour);
 }
 
+TEST_F(TapePreviewTest, ShortPageOnALongTape_IsShownBeforeTheBreak)
+{
+    showTape(36.0, 7200.0);
+    showDocument(pdf("0 0 72 36", "1 0 0 rg 0 0 72 36 re f"));
+
+    const QRect tape = extent(tapeColour);
+    const QRect ink = extent(inkColour);
+    EXPECT_GT(ink.left(), tape.left());
+    EXPECT_LT(ink.right(), tape.center().x());
+    EXPECT_NEAR(ink.width(), 2 * (ink.height() + 2), 3); // the outline covers a row at the top and one at the bottom
+}
+
 TEST_F(TapePreviewTest, BrokenDocument_LeavesTheTapeEmpty)
 {
     showTape(36.0, 144.0);
