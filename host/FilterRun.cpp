@@ -3,6 +3,8 @@
 // written here, not by the filters: a full disk is then seen and named.
 #include "host/FilterRun.h"
 
+#include "host/Texts.h"
+
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
@@ -77,7 +79,7 @@ QString complaintOf(const QByteArray &messages)
             last = QString::fromUtf8(line).simplified();
         }
     }
-    return last.isEmpty() ? QStringLiteral("they do not say why") : last;
+    return last.isEmpty() ? Texts::tr("they do not say why") : last;
 }
 
 /// Moves what the filters have written so far into the output.
@@ -87,8 +89,8 @@ bool drain(QProcess &filters, QFile &output, QString *error)
     if (output.write(bytes) == bytes.size() && output.flush()) {
         return true;
     }
-    *error = QStringLiteral("The printer's bytes cannot be written to %1 (%2): make room there, or name another file "
-                            "with --output.")
+    *error = Texts::tr("The printer's bytes cannot be written to %1 (%2): make room there, or name another file "
+                       "with --output.")
                  .arg(output.fileName(), output.errorString());
     return false;
 }
@@ -99,7 +101,7 @@ bool runOneFile(const FilterJob &job, const QString &file, const QString &progra
     filters.setProcessChannelMode(QProcess::SeparateChannels);
     filters.start(program, filterArguments(job, file), QIODevice::ReadOnly);
     if (!filters.waitForStarted(startTimeoutMs)) {
-        *error = QStringLiteral("The filters cannot be started (%1): see that CUPS is installed whole.")
+        *error = Texts::tr("The filters cannot be started (%1): see that CUPS is installed whole.")
                      .arg(filters.errorString());
         return false;
     }
@@ -115,7 +117,7 @@ bool runOneFile(const FilterJob &job, const QString &file, const QString &progra
         }
     }
     if (filters.exitStatus() != QProcess::NormalExit || filters.exitCode() != 0) {
-        *error = QStringLiteral("The filters of %1 could not print the document %2: %3.")
+        *error = Texts::tr("The filters of %1 could not print the document %2: %3.")
                      .arg(job.ppdPath, file, complaintOf(messages));
         return false;
     }
@@ -128,7 +130,7 @@ std::optional<FilterOutput> runFilters(const FilterJob &job, QString *error)
 {
     const QString program = findCupsfilter();
     if (program.isEmpty()) {
-        *error = QStringLiteral("The program cupsfilter is missing: install the package cups.");
+        *error = Texts::tr("The program cupsfilter is missing: install the package cups.");
         return std::nullopt;
     }
     // Devices and pipes are written to as they are; only a plain file can be left half written, and is removed then.
@@ -136,7 +138,7 @@ std::optional<FilterOutput> runFilters(const FilterJob &job, QString *error)
     const bool isPlainFile = !before.exists() || before.isFile();
     QFile output(job.outputPath);
     if (!output.open(QIODevice::WriteOnly)) {
-        *error = QStringLiteral("The file %1 cannot be written (%2): name another with --output.")
+        *error = Texts::tr("The file %1 cannot be written (%2): name another with --output.")
                      .arg(job.outputPath, output.errorString());
         return std::nullopt;
     }
@@ -148,7 +150,7 @@ std::optional<FilterOutput> runFilters(const FilterJob &job, QString *error)
     result.bytes = output.isSequential() ? 0 : output.size();
     output.close();
     if (done && isPlainFile && result.bytes == 0) {
-        *error = QStringLiteral("The filters of %1 made nothing of the document: see that it has pages to print.")
+        *error = Texts::tr("The filters of %1 made nothing of the document: see that it has pages to print.")
                      .arg(job.ppdPath);
         done = false;
     }

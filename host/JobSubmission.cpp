@@ -3,6 +3,7 @@
 #include "host/JobSubmission.h"
 
 #include "host/CupsOptions.h"
+#include "host/Texts.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -44,8 +45,7 @@ bool sendDocument(const Target &target, int jobId, const QString &path, const QS
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        *error =
-            QStringLiteral("The document %1 cannot be read (%2): name a readable file.").arg(path, file.errorString());
+        *error = Texts::tr("The document %1 cannot be read (%2): name a readable file.").arg(path, file.errorString());
         return false;
     }
     cups_dest_t *destination = target.destination.get();
@@ -60,8 +60,8 @@ bool sendDocument(const Target &target, int jobId, const QString &path, const QS
     // Finished in any case: the connection waits for it.
     const ipp_status_t finished = cupsFinishDestDocument(CUPS_HTTP_DEFAULT, destination, target.info.get());
     if (!sent || finished > IPP_STATUS_OK_CONFLICTING) {
-        *error = QStringLiteral("The print server did not take the document %1 (%2): see that it is a kind of document "
-                                "that the queue prints.")
+        *error = Texts::tr("The print server did not take the document %1 (%2): see that it is a kind of document "
+                           "that the queue prints.")
                      .arg(path, serverSays());
         return false;
     }
@@ -96,7 +96,7 @@ std::optional<SubmittedJob> submitJob(const PrintQueue &queue, const QString &ti
         target.info.reset(cupsCopyDestInfo(CUPS_HTTP_DEFAULT, target.destination.get()));
     }
     if (!target.info) {
-        *error = QStringLiteral("The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.")
+        *error = Texts::tr("The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.")
                      .arg(queue.name, serverSays());
         return std::nullopt;
     }
@@ -107,8 +107,8 @@ std::optional<SubmittedJob> submitJob(const PrintQueue &queue, const QString &ti
         cupsCreateDestJob(CUPS_HTTP_DEFAULT, target.destination.get(), target.info.get(), &job.id,
                           title.toUtf8().constData(), cupsOptions.count(), cupsOptions.data());
     if (created > IPP_STATUS_OK_CONFLICTING || job.id == 0) {
-        *error = QStringLiteral("The queue %1 did not take the job (%2): see lpstat -p %1 -l.")
-                     .arg(queue.name, serverSays());
+        *error =
+            Texts::tr("The queue %1 did not take the job (%2): see lpstat -p %1 -l.").arg(queue.name, serverSays());
         return std::nullopt;
     }
     for (const QString &file : files) {

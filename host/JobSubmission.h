@@ -16,7 +16,7 @@ namespace tapeprint
 /// A job that the print server took.
 struct SubmittedJob {
     int id = 0;
-    QString state; ///< such as "pending" or "processing"
+    QString state; ///< as IPP names it, such as "pending" or "processing"; "sent" when the server does not say
 };
 
 /// Sends documents as one job. A job that cannot be completed is cancelled.

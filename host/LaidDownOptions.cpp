@@ -5,6 +5,7 @@
 #include "host/CupsOptions.h"
 #include "host/IppAttributeNames.h"
 #include "host/PpdMarks.h"
+#include "host/Texts.h"
 
 #include <QLocale>
 
@@ -124,8 +125,7 @@ QStringList unlistedValues(ppd_file_t *ppd, const JobOptions &job)
     for (const auto &[name, value] : job.entries()) {
         const bool isPpdOption = !isIppJobAttribute(name) && findOption(ppd, name) != nullptr;
         if (isPpdOption && !isNumber(value) && listedChoice(ppd, name, value).isNull()) {
-            sentences.append(
-                QStringLiteral("%1=%2 is none of the choices that the printer's PPD lists.").arg(name, value));
+            sentences.append(Texts::tr("%1=%2 is none of the choices that the printer's PPD lists.").arg(name, value));
         }
     }
     return sentences;
@@ -137,9 +137,8 @@ QStringList optionsThatNeverArrive(ppd_file_t *ppd, const JobOptions &job)
     const auto examine = [&sentences](const QString &name) {
         const QString attribute = ippJobAttributeInOtherLetters(name);
         const QString sentence =
-            QStringLiteral(
-                "Option %1 never reaches the printer's filter, because the print server takes it for its own "
-                "attribute %2: give it another name in the PPD.")
+            Texts::tr("Option %1 never reaches the printer's filter, because the print server takes it for its own "
+                      "attribute %2: give it another name in the PPD.")
                 .arg(name, attribute);
         if (!attribute.isNull() && !sentences.contains(sentence)) {
             sentences.append(sentence);

@@ -67,7 +67,9 @@ void OptionsPage::addOption(const ppd_option_t &option)
     fillWithChoices(popUp, option);
     connect(popUp, &QComboBox::activated, this,
             [this, popUp, key] { Q_EMIT picked(key, popUp->currentData().toString()); });
-    qobject_cast<QFormLayout *>(layout())->addRow(QString::fromUtf8(option.text) + u':', popUp);
+    QString text = QString::fromUtf8(option.text);
+    text.replace(u'&', QLatin1String("&&")); // a PPD's "&" is no mnemonic
+    qobject_cast<QFormLayout *>(layout())->addRow(tr("%1:", "name of an option").arg(text), popUp);
     mPopUps.push_back(popUp);
 }
 

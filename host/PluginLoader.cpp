@@ -2,6 +2,8 @@
 // Loading bundles. Metadata is read first: code of a bundle that cannot serve is never run.
 #include "host/PluginLoader.h"
 
+#include "host/Texts.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -24,18 +26,18 @@ QString reasonToSkip(const QPluginLoader &module)
 {
     const QJsonObject root = module.metaData();
     if (root.isEmpty()) {
-        return QStringLiteral("its code is no plug-in that this Qt can load");
+        return Texts::tr("its code is no plug-in that this Qt can load");
     }
     const QString interface = root.value(u"IID").toString();
     if (interface != QLatin1String(PDEKIT_PLUGIN_IID)) {
-        return QStringLiteral("it is made for another panel interface (%1)").arg(interface);
+        return Texts::tr("it is made for another panel interface (%1)").arg(interface);
     }
     const QJsonObject data = root.value(u"MetaData").toObject();
     if (data.value(u"PrincipalClass").toString().isEmpty()) {
-        return QStringLiteral("its metadata names no principal class");
+        return Texts::tr("its metadata names no principal class");
     }
     if (!data.value(u"PanelTypes").toArray().contains(pdekit::kPrinterModulePanelType)) {
-        return QStringLiteral("it does not serve printer panels");
+        return Texts::tr("it does not serve printer panels");
     }
     return {};
 }
@@ -45,7 +47,7 @@ QString loadBundle(const QString &path, LoadedBundle *loaded)
 {
     const QString modulePath = path + u'/' + QFileInfo(path).completeBaseName() + QLatin1String(".so");
     if (!QFileInfo(modulePath).isFile()) {
-        return QStringLiteral("it has no file %1").arg(QFileInfo(modulePath).fileName());
+        return Texts::tr("it has no file %1").arg(QFileInfo(modulePath).fileName());
     }
     QPluginLoader module(modulePath);
     QString reason = reasonToSkip(module);
@@ -54,7 +56,7 @@ QString loadBundle(const QString &path, LoadedBundle *loaded)
     }
     QObject *root = module.instance();
     if (root == nullptr) {
-        return QStringLiteral("its code cannot be loaded: %1").arg(module.errorString().simplified());
+        return Texts::tr("its code cannot be loaded: %1").arg(module.errorString().simplified());
     }
     auto *entry = qobject_cast<pdekit::PlugInEntry *>(root);
     const QString className = module.metaData().value(u"MetaData").toObject().value(u"PrincipalClass").toString();
@@ -62,10 +64,10 @@ QString loadBundle(const QString &path, LoadedBundle *loaded)
     loaded->bundle = pdekit::Bundle::bundleWithPath(path);
     loaded->principal = entry == nullptr ? nullptr : entry->newPrincipalObject(className);
     if (!loaded->principal) {
-        return QStringLiteral("it has no principal class %1").arg(className);
+        return Texts::tr("it has no principal class %1").arg(className);
     }
     if (!loaded->principal->initWithBundle(loaded->bundle.get())) {
-        return QStringLiteral("it cannot serve on this system");
+        return Texts::tr("it cannot serve on this system");
     }
     return {};
 }
@@ -103,8 +105,8 @@ LoadedBundles loadBundles(const QStringList &folders)
                 usedNames.insert(entry.fileName());
                 result.bundles.push_back(std::move(loaded));
             } else {
-                result.problems.append(QStringLiteral("The plug-in %1 is not used: %2. Printing works without it; "
-                                                      "update or remove the bundle.")
+                result.problems.append(Texts::tr("The plug-in %1 is not used: %2. Printing works without it; "
+                                                 "update or remove the bundle.")
                                            .arg(entry.filePath(), reason));
             }
         }

@@ -2,6 +2,8 @@
 // Opening PPD files. libcups answers null for a missing file and a broken one alike, so the file is looked at first.
 #include "host/PpdFile.h"
 
+#include "host/Texts.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -13,8 +15,8 @@ PpdFile openPpdFile(const QString &path, QString *error, const QString &shownAs)
     const QString name = shownAs.isNull() ? path : shownAs;
     QFile file(path);
     if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
-        const QString reason = QFileInfo(path).isDir() ? QStringLiteral("it is a folder") : file.errorString();
-        *error = QStringLiteral("The PPD file %1 cannot be read (%2): name a readable PPD file.").arg(name, reason);
+        const QString reason = QFileInfo(path).isDir() ? Texts::tr("it is a folder") : file.errorString();
+        *error = Texts::tr("The PPD file %1 cannot be read (%2): name a readable PPD file.").arg(name, reason);
         return nullptr;
     }
     file.close();
@@ -23,7 +25,7 @@ PpdFile openPpdFile(const QString &path, QString *error, const QString &shownAs)
     if (!ppd) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
-        *error = QStringLiteral("The PPD file %1 is not valid, line %2: %3. Correct the file or name another.")
+        *error = Texts::tr("The PPD file %1 is not valid, line %2: %3. Correct the file or name another.")
                      .arg(name, QString::number(line), QString::fromUtf8(ppdErrorString(status)));
         return nullptr;
     }

@@ -13,6 +13,7 @@
 #include "host/CommandLine.h"
 #include "host/DialogModel.h"
 #include "host/DocumentSpool.h"
+#include "host/Printing.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -45,8 +46,8 @@ public:
                 std::vector<PrintQueue> queues);
     ~PrintDialog() override;
 
-    /// What became of the job; null when nothing was printed.
-    QString result() const { return mResult; }
+    /// What became of the job, in the language of the moment; null when nothing was printed.
+    QString result() const { return mPrinted ? mPrinted->sentence() : QString(); }
 
     void done(int code) override;
 
@@ -83,7 +84,7 @@ private:
     const CommandLine &mLine;
     const DocumentSpool &mDocuments;
     std::vector<PrintQueue> mQueues;
-    QString mResult;
+    std::optional<PrintedJob> mPrinted;
     bool mClosed = false;
     QTimer mFollowTimer; ///< gathers changes of one event into one look at the job
 

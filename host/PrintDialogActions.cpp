@@ -155,14 +155,14 @@ void PrintDialog::print()
         return;
     }
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const std::optional<QString> printed = printJob(mModel, mLine, mDocuments, &error);
+    std::optional<PrintedJob> printed = printJob(mModel, mLine, mDocuments, &error);
     QApplication::restoreOverrideCursor();
     if (!printed) {
         tellProblem(error);
         return;
     }
-    mResult = *printed;
-    QMessageBox::information(this, windowTitle(), mResult);
+    mPrinted = std::move(printed);
+    QMessageBox::information(this, windowTitle(), result());
     accept();
 }
 

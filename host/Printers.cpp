@@ -2,6 +2,8 @@
 // Print queues through libcups: the server, the saved options of the person, PPDs of local and remote queues.
 #include "host/Printers.h"
 
+#include "host/Texts.h"
+
 #include <QByteArray>
 #include <QFile>
 
@@ -152,8 +154,8 @@ bool serverAnswers(QString *error)
     if (server && saysAnything(server.get())) {
         return true;
     }
-    *error = QStringLiteral("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
-                            "without one with --ppd FILE.")
+    *error = Texts::tr("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
+                       "without one with --ppd FILE.")
                  .arg(QString::fromUtf8(cupsServer()));
     return false;
 }
@@ -180,10 +182,10 @@ std::optional<PrintQueue> findQueue(const QString &name, const QString &instance
         return queue;
     }
     if (name.isEmpty()) {
-        *error = QStringLiteral("There is no default printer: name a print queue with -d QUEUE, or print without one "
-                                "with --ppd FILE.");
+        *error = Texts::tr("There is no default printer: name a print queue with -d QUEUE, or print without one "
+                           "with --ppd FILE.");
     } else {
-        *error = QStringLiteral("The print server knows no queue %1: see lpstat -e for the queues there are.")
+        *error = Texts::tr("The print server knows no queue %1: see lpstat -e for the queues there are.")
                      .arg(instance.isEmpty() ? name : name + u'/' + instance);
     }
     return std::nullopt;
@@ -199,12 +201,12 @@ PpdFile openQueuePpd(const PrintQueue &queue, QString *error)
         return nullptr;
     }
     if (status != HTTP_STATUS_OK) {
-        *error = QStringLiteral("The PPD of queue %1 cannot be had from the print server (%2): see that the queue is "
-                                "set up.")
+        *error = Texts::tr("The PPD of queue %1 cannot be had from the print server (%2): see that the queue is "
+                           "set up.")
                      .arg(queue.name, QString::fromUtf8(cupsLastErrorString()));
         return nullptr;
     }
-    PpdFile ppd = openPpdFile(QFile::decodeName(path.data()), error, QStringLiteral("of queue ") + queue.name);
+    PpdFile ppd = openPpdFile(QFile::decodeName(path.data()), error, Texts::tr("of queue %1").arg(queue.name));
     QFile::remove(QFile::decodeName(path.data()));
     return ppd;
 }

@@ -4,12 +4,23 @@
 
 #include "host/FilterRun.h"
 #include "host/JobSubmission.h"
+#include "host/Texts.h"
+
+#include <array>
 
 namespace tapeprint
 {
 
 namespace
 {
+
+/// The states of a job, named here for the translation catalogues.
+[[maybe_unused]] constexpr std::array jobStates{
+    QT_TRANSLATE_NOOP("tapeprint::Texts", "pending"),    QT_TRANSLATE_NOOP("tapeprint::Texts", "pending-held"),
+    QT_TRANSLATE_NOOP("tapeprint::Texts", "processing"), QT_TRANSLATE_NOOP("tapeprint::Texts", "processing-stopped"),
+    QT_TRANSLATE_NOOP("tapeprint::Texts", "canceled"),   QT_TRANSLATE_NOOP("tapeprint::Texts", "aborted"),
+    QT_TRANSLATE_NOOP("tapeprint::Texts", "completed"),  QT_TRANSLATE_NOOP("tapeprint::Texts", "sent"),
+};
 
 /// The PPD of the queue. A queue without one is printed to all the same.
 std::optional<Destination> withQueuePpd(Destination destination, QString *error)
@@ -52,8 +63,17 @@ std::optional<Destination> openDestination(const QString &queue, const QString &
     return destination.queue ? withQueuePpd(std::move(destination), error) : std::nullopt;
 }
 
-std::optional<QString> printJob(const DialogModel &model, const CommandLine &line, const DocumentSpool &documents,
-                                QString *error)
+QString PrintedJob::sentence() const
+{
+    if (queue.isNull()) {
+        return Texts::tr("The printer's bytes are in %1 (%2 bytes).").arg(output.path, QString::number(output.bytes));
+    }
+    return Texts::tr("Job %1-%2 is %3.")
+        .arg(queue, QString::number(job.id), Texts::tr(job.state.toLatin1().constData()));
+}
+
+std::optional<PrintedJob> printJob(const DialogModel &model, const CommandLine &line, const DocumentSpool &documents,
+                                   QString *error)
 {
     const Destination &destination = model.destination();
     const QString title = line.title.isEmpty() ? documents.defaultTitle() : line.title;
@@ -63,7 +83,7 @@ std::optional<QString> printJob(const DialogModel &model, const CommandLine &lin
         if (!job) {
             return std::nullopt;
         }
-        return QStringLiteral("Job %1-%2 is %3.").arg(destination.queue->name, QString::number(job->id), job->state);
+        return PrintedJob{destination.queue->name, *job, {}};
     }
     FilterJob filterJob{destination.ppdPath, title, model.job(), documents.files(), line.outputPath};
     if (filterJob.outputPath.isEmpty()) {
@@ -73,8 +93,7 @@ std::optional<QString> printJob(const DialogModel &model, const CommandLine &lin
     if (!output) {
         return std::nullopt;
     }
-    return QStringLiteral("The printer's bytes are in %1 (%2 bytes).")
-        .arg(output->path, QString::number(output->bytes));
+    return PrintedJob{{}, {}, *output};
 }
 
 } // namespace tapeprint

@@ -123,12 +123,12 @@ RunReport runUnattended(const CommandLine &line)
         report.output += summaryLines(model);
     }
     if (!line.onlyShows()) {
-        const std::optional<QString> printed = printJob(model, line, *documents, &error);
+        const std::optional<PrintedJob> printed = printJob(model, line, *documents, &error);
         if (!printed) {
             return failure(error);
         }
         if (!line.silent) {
-            report.output.append(*printed);
+            report.output.append(printed->sentence());
         }
     }
     report.messages = model.notices() + alerts.lines() + replacedOptions(line.options, model.job());

@@ -4,6 +4,7 @@
 
 #include "host/PrintDialog.h"
 #include "host/Printing.h"
+#include "host/Translations.h"
 
 namespace tapeprint
 {
@@ -22,10 +23,14 @@ RunReport runWindow(const CommandLine &line)
     // With a PPD file alone no print server is asked for anything.
     std::vector<PrintQueue> queues = destination->queue ? listQueues() : std::vector<PrintQueue>();
 
+    // The window speaks the person's language; what is said on standard output and standard error does not, because
+    // scripts read it.
+    auto translations = std::make_optional<Translations>();
     DialogModel model(bundleSearchPath());
     model.open(std::move(*destination), line.options);
     PrintDialog dialog(model, line, *documents, std::move(queues));
     dialog.exec();
+    translations.reset();
 
     RunReport report;
     if (!dialog.result().isNull() && !line.silent) {

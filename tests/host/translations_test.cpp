@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: Apache-2.0
+// The window in its languages: which catalogue is taken, and that no two controls share a letter.
+#include "TestPrinter.h"
+
+#include "host/PrintDialog.h"
+#include "host/Translations.h"
+#include "tests/support/TextPrinting.h"
+
+#include <QCoreApplication>
+#include <QKeySequence>
+#include <QLabel>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace tapeprint;
+
+/// The default locale, set back at the end.
+class DefaultLocale
+{
+public:
+    explicit DefaultLocale(const QString &name) { QLocale::setDefault(QLocale(name)); }
+    ~DefaultLocale() { QLocale::setDefault(mBefore); }
+    DefaultLocale(const DefaultLocale &) = delete;
+    DefaultLocale &operator=(const DefaultLocale &) = delete;
+
+private:
+    QLocale mBefore;
+};
+
+struct Language {
+    const char *locale;
+    const char *cancel;
+};
+
+void PrintTo(const Language &language, std::ostream *stream)
+{
+    *stream << language.locale;
+}
+
+class TranslatedWindow : public testing::TestWithParam<Language>
+{
+protected:
+    void SetUp() override
+    {
+        line.files = {hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n")};
+        QString error;
+        documents = std::move(*DocumentSpool::collect(line.files, &error));
+        model.open(hosttest::testDestination(folder), {});
+        dialog = std::make_unique<PrintDialog>(model, line, documents, std::vector<PrintQueue>());
+    }
+
+    QTemporaryDir folder;
+    DefaultLocale locale{QString::fromLatin1(GetParam().locale)};
+    Translations translations;
+    CommandLine line;
+    DocumentSpool documents;
+    DialogModel model{hosttest::goodBundles()};
+    std::unique_ptr<PrintDialog> dialog;
+};
+
+TEST_P(TranslatedWindow, Buttons_SpeakTheLocalesLanguage)
+{
+    const auto *cancel = dialog->findChild<QPushButton *>(u"cancel"_qs);
+    ASSERT_NE(cancel, nullptr);
+    EXPECT_EQ(cancel->text(), QString::fromUtf8(GetParam().cancel));
+}
+
+TEST_P(TranslatedWindow, Mnemonics_AreThereAndNoneIsThereTwice)
+{
+    QStringList letters;
+    for (const QLabel *label : dialog->findChildren<QLabel *>()) {
+        if (label->buddy() != nullptr && !QKeySequence::mnemonic(label->text()).isEmpty()) {
+            letters.append(QKeySequence::mnemonic(label->text()).toString());
+        }
+    }
+    for (const QPushButton *button : dialog->findChildren<QPushButton *>()) {
+        if (!QKeySequence::mnemonic(button->text()).isEmpty()) {
+            letters.append(QKeySequence::mnemonic(button->text()).toString());
+        }
+    }
+    // Printer, tape, copies, panel, Revert, Print.
+    EXPECT_EQ(letters.size(), 6) << letters.join(u' ').toStdString();
+    EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(u' ').toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Languages, TranslatedWindow,
+    testing::Values(Language{"en_GB", "Cancel"}, Language{"de_AT", "Abbrechen"}, Language{"fr_CA", "Annuler"},
+                    Language{"es_MX", "Cancelar"}, Language{"it_IT", "Annulla"}, Language{"nl_BE", "Annuleren"},
+                    Language{"pt_PT", "Cancelar"}, Language{"ja_JP", "キャンセル"}, Language{"ko_KR", "취소"},
+                    Language{"zh_CN", "取消"}, Language{"sv_SE", "Cancel"}, Language{"C", "Cancel"}),
+    [](const testing::TestParamInfo<Language> &tested) { return std::string(tested.param.locale); });
+
+TEST(TranslationsTest, Sentences_AreTranslatedAsLongAsTheTranslationsLive)
+{
+    const DefaultLocale locale(u"de_DE"_qs);
+    const PrintedJob job{u"tape"_qs, {7, u"pending"_qs}, {}};
+    auto translations = std::make_unique<Translations>();
+    EXPECT_EQ(job.sentence(), u"Auftrag tape-7: wartet."_qs);
+    translations.reset();
+    EXPECT_EQ(job.sentence(), u"Job tape-7 is pending."_qs);
+}
+
+TEST(TranslationsTest, OptionNames_AreFollowedByTheLanguagesColon)
+{
+    const DefaultLocale locale(u"ja_JP"_qs);
+    const Translations translations;
+    EXPECT_EQ(QCoreApplication::translate("tapeprint::OptionsPage", "%1:", "name of an option").arg(u"切断"_qs),
+              u"切断："_qs);
+}
+
+} // namespace
