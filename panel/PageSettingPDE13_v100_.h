@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
+class BundleImages;
 struct ChoiceOption;
 struct LengthOption;
 struct SummaryChoice;
@@ -290,6 +291,8 @@ private:
     const PDEChoice *mTapeType_Selection = nullptr;
     const PDEChoice *mInkColor_Selection = nullptr;
     const PDEChoice *mTapeColor_Selection = nullptr;
+
+    std::unique_ptr<BundleImages> mImages; ///< of the choices; null until a control with images is filled
 
     std::int32_t mPDEUnit = 0;
     std::uint32_t mTapeState = 0;

@@ -140,7 +140,9 @@ void PageSettingPDE13_v100_::fillPopUp(const ChoiceOption &option)
 
     // Placeholders of the interface file are not kept: an item that is no choice would be there to pick.
     PopUpItems items;
-    const BundleImages images(option.hasImages ? nsPDEBundle : nullptr, QStringLiteral("tiff"));
+    if (option.hasImages && mImages == nullptr) {
+        mImages = std::make_unique<BundleImages>(nsPDEBundle, QStringLiteral("tiff"));
+    }
     const ppd_option_t *ppdOption = this->*option.option;
     for (int i = 0; i < ppdOption->num_choices; ++i) {
         const ppd_choice_t &choice = ppdOption->choices[i];
@@ -151,8 +153,10 @@ void PageSettingPDE13_v100_::fillPopUp(const ChoiceOption &option)
         }
         const QString title = localized(text);
         items.replaceItem(static_cast<std::size_t>(i), title);
-        if (const std::optional<QIcon> image = images.imageNamed(choice.choice)) {
-            items.setImageOfItemWithTitle(title, *image);
+        if (option.hasImages) {
+            if (const std::optional<QIcon> image = mImages->imageNamed(choice.choice)) {
+                items.setImageOfItemWithTitle(title, *image);
+            }
         }
     }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The panel's construction: what it learns from the printer and the PPD, which options it announces, the order in which
 // its controls are built, and how the interface file is connected.
+#include "panel/BundleImages.h"
 #include "panel/ChoiceOption.h"
 #include "panel/PageSettingPDE13_v100_.h"
 #include "panel/PanelFactory.h"

@@ -90,12 +90,13 @@ QStringList Bundle::namesOfResources(const QString &type) const
 
 std::optional<QIcon> Bundle::imageForResource(const QString &name, const QString &type) const
 {
+    const QString key = name + QLatin1Char('.') + type;
+    if (const auto known = mImages.constFind(key); known != mImages.constEnd()) {
+        return *known;
+    }
     const QString path = pathForResource(name, type);
     if (path.isNull()) {
         return std::nullopt;
-    }
-    if (const auto known = mImages.constFind(path); known != mImages.constEnd()) {
-        return *known;
     }
     QImageReader reader(path);
     const QImage image = reader.read();
@@ -103,7 +104,7 @@ std::optional<QIcon> Bundle::imageForResource(const QString &name, const QString
         qCWarning(lcPde).noquote() << path << reader.errorString();
         return std::nullopt;
     }
-    return *mImages.insert(path, QIcon(QPixmap::fromImage(image)));
+    return *mImages.insert(key, QIcon(QPixmap::fromImage(image)));
 }
 
 QString Bundle::localizedStringForKey(const QString &key, const QString &value, const QString &table) const

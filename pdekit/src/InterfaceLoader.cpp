@@ -6,15 +6,34 @@
 #include "pdekit/RadioMatrix.h"
 #include "pdekit/Slider.h"
 
+#include <QSet>
+
 namespace pdekit
 {
 
+namespace
+{
+
+QSet<QString> listClasses(const QUiLoader &loader)
+{
+    const QStringList listed = loader.availableWidgets();
+    QSet<QString> classes(listed.begin(), listed.end());
+    // A separator of the interface editor: the toolkit makes it but does not list it.
+    classes.insert(QStringLiteral("Line"));
+    return classes;
+}
+
+/// The classes that the toolkit makes, the same for every file.
+const QSet<QString> &toolkitClasses(const QUiLoader &loader)
+{
+    static const QSet<QString> classes = listClasses(loader);
+    return classes;
+}
+
+} // namespace
+
 InterfaceLoader::InterfaceLoader(const WidgetFactories &factories) : mFactories(factories)
 {
-    const QStringList classes = availableWidgets();
-    mToolkitClasses = QSet<QString>(classes.begin(), classes.end());
-    // A separator of the interface editor: the toolkit makes it but does not list it.
-    mToolkitClasses.insert(QStringLiteral("Line"));
     // Texts of the view come from the bundle's catalogue, never from the application's.
     setTranslationEnabled(false);
 }
@@ -62,7 +81,7 @@ QWidget *InterfaceLoader::newWidget(const QString &className, QWidget *parent, c
     if (className == QLatin1String("pdekit::Slider")) {
         return new Slider(parent);
     }
-    return mToolkitClasses.contains(className) ? QUiLoader::createWidget(className, parent, name) : nullptr;
+    return toolkitClasses(*this).contains(className) ? QUiLoader::createWidget(className, parent, name) : nullptr;
 }
 
 } // namespace pdekit

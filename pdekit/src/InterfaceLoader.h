@@ -6,7 +6,6 @@
 #include "pdekit/Bundle.h"
 
 #include <QPointer>
-#include <QSet>
 #include <QUiLoader>
 
 #include <vector>
@@ -33,7 +32,6 @@ private:
     QWidget *newWidget(const QString &className, QWidget *parent, const QString &name);
 
     const WidgetFactories &mFactories;
-    QSet<QString> mToolkitClasses;
     QString mReason;
     std::vector<QPointer<QWidget>> mWidgets;
 };

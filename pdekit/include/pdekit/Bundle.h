@@ -77,7 +77,7 @@ private:
 
     QString mPath;
     std::unique_ptr<QTranslator> mCatalogue;
-    mutable QHash<QString, QIcon> mImages; ///< read so far, by path
+    mutable QHash<QString, QIcon> mImages; ///< read so far, by name and type
 };
 
 } // namespace pdekit
