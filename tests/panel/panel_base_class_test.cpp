@@ -10,8 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 using namespace pdekit;
 
 namespace
@@ -405,7 +403,8 @@ TEST_F(PanelBaseClass, IndexOfDefaultOption_ZeroWithoutChoices_MinusOneWithoutAD
     EXPECT_EQ(panel.indexOfDefaultOption(choices.get()), 1); // KsResolQ300300
     EXPECT_EQ(panel.indexOfDefaultOption(&none), 0);
     EXPECT_EQ(panel.indexOfDefaultOption(nullptr), 0);
-    std::strcpy(ppdFindOption(callback->ppd.get(), "KsResolution")->defchoice, "Unknown");
+    ppd_option_t *option = ppdFindOption(callback->ppd.get(), "KsResolution");
+    qstrncpy(option->defchoice, "Unknown", sizeof(option->defchoice));
     EXPECT_EQ(panel.indexOfDefaultOption(choices.get()), -1);
 }
 
@@ -461,7 +460,7 @@ TEST_F(DefaultChoices, EmptyArray_TellsTheFirstChoiceOfTheOption)
 TEST_F(DefaultChoices, WithoutADefaultOrAnOption_NothingIsTold)
 {
     panel.setDefaultChoices(nullptr, choices.get(), "KsResolution", u"KsResolution"_qs);
-    std::strcpy(option->defchoice, "Unknown");
+    qstrncpy(option->defchoice, "Unknown", sizeof(option->defchoice));
     set();
     EXPECT_TRUE(callback->sent.empty());
 }
