@@ -217,8 +217,8 @@ TEST_F(TapePreviewTest, PageOfAnotherShape_IsFittedIntoTheTape)
 
     // Half as long as the tape, and as wide: a quarter of the tape is left free at either end.
     const QRect ink = extent(inkColour);
-    EXPECT_NEAR(ink.left(), tape.left() + tape.width() / 4, 2);
-    EXPECT_NEAR(ink.right(), tape.right() - tape.width() / 4, 2);
+    EXPECT_NEAR(ink.left(), tape.left() + tape.width() / 4.0, 2);
+    EXPECT_NEAR(ink.right(), tape.right() - tape.width() / 4.0, 2);
     EXPECT_EQ(extent(tapeColour), tape);
 }
 
