@@ -29,7 +29,9 @@ bool PageSettingPDE13_v100_::checksAreSkipped()
     // Page format and print settings are objects of different kinds: until the controls are built this skips every
     // check. The comparison is kept as it is.
     const bool sameObject = static_cast<const void *>(formatSettings) == static_cast<const void *>(printSettings);
-    if ((!sameObject && !set_formatSetting) || getTapeState() != 0) {
+    // Without a view, or after the dialog has deleted it, there is nothing to correct and nothing to warn of.
+    const bool hasFields = mLengthTxFld != nullptr && mMarginTxFld != nullptr && mTapeLengthTxFld != nullptr;
+    if ((!sameObject && !set_formatSetting) || getTapeState() != 0 || !hasFields) {
         checkValues_dec = true;
         return true;
     }
