@@ -20,6 +20,7 @@ namespace
 
 constexpr double pointsPerInch = 72.0;
 constexpr double mmPerInch = 25.4;
+constexpr double pointsPerMetre = pointsPerInch / mmPerInch * 1000.0;
 
 // Pixels, all of them.
 constexpr int edge = 6;         ///< around the drawing
@@ -132,6 +133,9 @@ void TapePreview::layPage()
     // it; another one is drawn as it is read, which is how it lies after the filters turn it to fit the paper.
     const bool liesDown = isLandscape(mRendered.size()) == isLandscape(mTapePt.transposed());
     mPage = liesDown ? mRendered.transformed(QTransform().rotate(90)) : mRendered;
+    // The picture says at which resolution it was rendered.
+    const double pixelsPerMetre = std::max(1, mRendered.dotsPerMeterX());
+    mPagePt = QSizeF(mPage.size()) / pixelsPerMetre * pointsPerMetre;
     mScaled = {};
     update();
 }
@@ -159,19 +163,20 @@ void TapePreview::paintEvent(QPaintEvent * /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (whole.width() > strip.width() + 0.5) {
-        drawBroken(painter, strip, whole.width());
+        drawBroken(painter, strip, scale);
     } else {
-        drawPiece(painter, roundedPath(strip), placeOfPage(strip));
+        drawPiece(painter, roundedPath(strip), placeOfPage(strip, scale));
     }
     drawMeasures(painter, strip);
 }
 
-void TapePreview::drawBroken(QPainter &painter, const QRectF &strip, double length)
+void TapePreview::drawBroken(QPainter &painter, const QRectF &strip, double scale)
 {
+    const double length = mTapePt.width() * scale;
     const QPainterPath outline = roundedPath(strip);
     const double middle = strip.center().x();
     const QRectF first(strip.topLeft(), QPointF(middle - breakGap / 2.0, strip.bottom()));
-    QRectF page = placeOfPage({strip.topLeft(), QSizeF(length, strip.height())});
+    QRectF page = placeOfPage({strip.topLeft(), QSizeF(length, strip.height())}, scale);
     QRectF pageAtEnd = page.translated(strip.width() - length, 0);
     // A page that would vanish in the break is shown before it.
     if (page.left() > first.center().x()) {
@@ -183,9 +188,14 @@ void TapePreview::drawBroken(QPainter &painter, const QRectF &strip, double leng
               pageAtEnd);
 }
 
-QRectF TapePreview::placeOfPage(const QRectF &tape) const
+QRectF TapePreview::placeOfPage(const QRectF &tape, double scale) const
 {
-    QRectF place({}, QSizeF(mPage.size()).scaled(tape.size(), Qt::KeepAspectRatio));
+    // As the filters do it: a page that is larger than the tape is made smaller, a smaller one keeps its size.
+    QSizeF size = mPagePt * scale;
+    if (size.width() > tape.width() || size.height() > tape.height()) {
+        size.scale(tape.size(), Qt::KeepAspectRatio);
+    }
+    QRectF place({}, size);
     place.moveCenter(tape.center());
     return place;
 }

@@ -44,9 +44,9 @@ private:
     void showPage(const QImage &page);
     void layPage();
     QRectF room() const;
-    void drawBroken(QPainter &painter, const QRectF &strip, double length);
+    void drawBroken(QPainter &painter, const QRectF &strip, double scale);
     void drawPiece(QPainter &painter, const QPainterPath &piece, const QRectF &page);
-    QRectF placeOfPage(const QRectF &tape) const;
+    QRectF placeOfPage(const QRectF &tape, double scale) const;
     void drawMeasures(QPainter &painter, const QRectF &strip) const;
 
     PageRenderer mRenderer;
@@ -55,6 +55,7 @@ private:
     QString mWidthText;
     QImage mRendered; ///< as rendered; null when there is none
     QImage mPage;     ///< as it lies on the tape drawn
+    QSizeF mPagePt;   ///< its size
     QImage mScaled;   ///< mPage in the size last drawn
 };
 

@@ -209,7 +209,31 @@ TEST_F(TapePreviewTest, PageThatStandsLikeThePaper_LiesDownWithIt)
     EXPECT_NEAR(ink.height(), tape.height(), 3);
 }
 
-TEST_F(TapePreviewTest, PageOfAnotherShape_IsFittedIntoTheTape)
+TEST_F(TapePreviewTest, PageSmallerThanTheTape_KeepsItsSize)
+{
+    showTape(36.0, 144.0);
+    const QRect tape = extent(tapeColour);
+    showDocument(pdf("0 0 36 18", "1 0 0 rg 0 0 36 18 re f"));
+
+    const QRect ink = extent(inkColour);
+    EXPECT_NEAR(ink.width(), tape.width() / 4.0, 3);
+    EXPECT_NEAR(ink.height(), tape.height() / 2.0, 3);
+    EXPECT_NEAR(ink.center().x(), tape.center().x(), 2);
+}
+
+TEST_F(TapePreviewTest, PageLargerThanTheTape_IsMadeToFit)
+{
+    showTape(36.0, 144.0);
+    const QRect tape = extent(tapeColour);
+    showDocument(pdf("0 0 288 144", "1 0 0 rg 0 0 288 144 re f"));
+
+    // Twice as long as wide: half of the tape.
+    const QRect ink = extent(inkColour);
+    EXPECT_NEAR(ink.width(), tape.width() / 2.0, 3);
+    EXPECT_NEAR(ink.height(), tape.height(), 3);
+}
+
+TEST_F(TapePreviewTest, PageOfAnotherShape_LeavesTheEndsOfTheTapeFree)
 {
     showTape(36.0, 144.0);
     const QRect tape = extent(tapeColour);
