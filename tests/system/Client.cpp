@@ -20,6 +20,8 @@ QProcessEnvironment clientEnvironment(const std::vector<std::pair<QString, QStri
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     // Bundles that are installed on the machine are not the ones that were built.
     environment.insert(QStringLiteral("XDG_DATA_DIRS"), QStringLiteral("/nonexistent"));
+    // No desktop's services are asked, and none is started for the sake of the test.
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("unix:path=/nonexistent"));
     for (const auto &[name, value] : variables) {
         environment.insert(name, value);
     }

@@ -10,7 +10,7 @@ WindowUnderTest::~WindowUnderTest()
     endProcess(mProgram);
 }
 
-bool WindowUnderTest::open(Client client)
+QString WindowUnderTest::open(Client client)
 {
     client.variables.emplace_back(QStringLiteral("DISPLAY"), mDisplay.name());
     dieWithTest(mProgram);
@@ -18,13 +18,18 @@ bool WindowUnderTest::open(Client client)
     mProgram.setWorkingDirectory(client.folder);
     mProgram.start(client.program, client.arguments, QIODevice::ReadOnly);
     mWindow = waitForFurtherWindow();
-    return !mWindow.isNull();
+    if (!mWindow.isNull()) {
+        return {};
+    }
+    const Outcome outcome = mProgram.state() == QProcess::NotRunning ? waitForEnd() : Outcome();
+    return QStringLiteral("There is no window. Status %1: %2 %3")
+        .arg(QString::number(outcome.status), QString::fromUtf8(outcome.output), QString::fromUtf8(outcome.messages));
 }
 
 Outcome WindowUnderTest::waitForEnd()
 {
     Outcome outcome;
-    const bool ended = mProgram.waitForFinished(patienceMs);
+    const bool ended = mProgram.state() == QProcess::NotRunning || mProgram.waitForFinished(patienceMs);
     if (!ended) {
         endProcess(mProgram);
     }
@@ -100,7 +105,7 @@ void WindowUnderTest::click(const QString &window, QPoint place) const
 
 void WindowUnderTest::goTo(PanelControl control) const
 {
-    QStringList keys{QStringLiteral("alt+n")};
+    QStringList keys{mChooserKeys};
     for (int i = 0; i < static_cast<int>(control); ++i) {
         keys.append(QStringLiteral("Tab"));
     }

@@ -34,8 +34,8 @@ public:
     WindowUnderTest(const WindowUnderTest &) = delete;
     WindowUnderTest &operator=(const WindowUnderTest &) = delete;
 
-    /// Starts the program and waits until its window is there and has the keys.
-    bool open(Client client);
+    /// Starts the program and waits until its window is there and has the keys. \return null, or why there is none.
+    QString open(Client client);
     /// Waits for the program's end.
     Outcome waitForEnd();
 
@@ -48,8 +48,10 @@ public:
     void type(const QString &text) const;
     void click(const QString &window, QPoint place) const;
 
-    /// Gives a control of the panel the keys, by keys.
+    /// Gives a control of the panel the keys, by keys from the panel chooser on.
     void goTo(PanelControl control) const;
+    /// The keys that go to the panel chooser in the session's language.
+    void setChooserKeys(const QString &keys) { mChooserKeys = keys; }
     /// Opens the pop-up that has the keys and clicks on one of its items, all of which show. \return whether it opened.
     bool pickFromPopUp(int item, int items);
     /// Clicks on Print, the button in the lower right corner.
@@ -69,6 +71,7 @@ private:
     const PrivateDisplay &mDisplay;
     QProcess mProgram;
     QString mWindow;
+    QString mChooserKeys = QStringLiteral("alt+n"); ///< "Panel" in English
 };
 
 } // namespace systemtest
