@@ -102,7 +102,7 @@ std::vector<FilterCall> SystemTest::filterCallsOf(const Outcome &outcome) const
 
 QString SystemTest::documentOf(int pages) const
 {
-    const QString path = folder.path(QStringLiteral("pages-%1.pdf").arg(pages));
+    QString path = folder.path(QStringLiteral("pages-%1.pdf").arg(pages));
     QPdfWriter writer(path);
     writer.setPageSize(QPageSize(QSizeF(24.0, 100.0), QPageSize::Millimeter));
     writer.setResolution(300);
