@@ -27,6 +27,10 @@ RadioMatrix::RadioMatrix(QWidget *parent) : QWidget(parent), mGroup(new QButtonG
     column->setContentsMargins(0, 0, 0, 0);
     mGroup->setExclusive(true);
     connect(mGroup, &QButtonGroup::idClicked, this, &RadioMatrix::action);
+    // The Tab key comes to the selected row, so that Space there changes nothing.
+    connect(mGroup, &QButtonGroup::buttonToggled, this, [](QAbstractButton *button, bool selected) {
+        button->setFocusPolicy(selected ? Qt::StrongFocus : Qt::ClickFocus);
+    });
 }
 
 RadioMatrix::~RadioMatrix() = default;
@@ -54,6 +58,7 @@ void RadioMatrix::setTitles(const QStringList &titles)
     }
     while (mRows.size() < count) {
         auto *button = new QRadioButton(this);
+        button->setFocusPolicy(Qt::ClickFocus);
         mGroup->addButton(button, static_cast<int>(mRows.size()));
         layout()->addWidget(button);
         mRows.push_back(button);

@@ -103,6 +103,16 @@ TEST_F(RadioMatrixTest, ArrowKeys_MoveTheSelection)
     EXPECT_EQ(actions.count(), 2);
 }
 
+TEST_F(RadioMatrixTest, TabKey_ComesToTheSelectedRow)
+{
+    matrix.selectCellAtRow(1, 0);
+    matrix.cellAtRow(0, 0)->clearFocus();
+    QTest::keyClick(matrix.windowHandle(), Qt::Key_Tab);
+    EXPECT_TRUE(matrix.cellAtRow(1, 0)->hasFocus());
+    QTest::keyClick(matrix.windowHandle(), Qt::Key_Space);
+    EXPECT_EQ(matrix.selectedRow(), 1);
+}
+
 TEST_F(RadioMatrixTest, TitleOfACell_ShowsItsAmpersandsAndIsItsAccessibleName)
 {
     matrix.setTitleOfCell(u"Black & White"_qs, 1, 0);
