@@ -173,15 +173,18 @@ void PDETextFieldFilter13_v100_::moveInHistory(Step step, Step back)
     tellChange(before);
 }
 
-/// An undo or redo happens wherever the edit was, not at the caret: the texts tell what came back.
+/// An undo or redo happens wherever the edit was, not at the caret: the texts tell what came back. It came in the place
+/// of what went away, which must not count against it: a text typed over another that has a point, too, can be undone.
 bool PDETextFieldFilter13_v100_::acceptsHistory(const QString &original) const
 {
     const QString proposed = mField->text();
     const qsizetype prefix = commonPrefix(original, proposed);
     const qsizetype suffix = commonSuffix(QStringView(original).mid(prefix), QStringView(proposed).mid(prefix));
-    const Range before{prefix, original.size() - prefix - suffix};
+    QString kept = original;
+    kept.remove(prefix, original.size() - prefix - suffix);
+    const Range before{prefix, 0};
     const Range after{proposed.size() - suffix, 0};
-    return mFormatter->isPartialStringValid(proposed, &after, original, before, nullptr);
+    return mFormatter->isPartialStringValid(proposed, &after, kept, before, nullptr);
 }
 
 /// Sends the signals that were held back while a move in the history was examined.

@@ -84,7 +84,9 @@ QString filled(const QRegularExpressionMatch &placeholder, const QString &text, 
 
 QString valueText(const QVariant &value)
 {
-    if (!value.isValid() || value.isNull()) {
+    // A null text is a missing one, too; the variant itself does not count it as null.
+    const bool isText = value.typeId() == QMetaType::QString;
+    if (value.isNull() || (isText && value.toString().isNull())) {
         return QStringLiteral("(null)");
     }
     if (isReal(value)) {

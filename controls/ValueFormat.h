@@ -19,9 +19,8 @@ QString valueText(const QVariant &value);
 std::int32_t valueInteger(const QVariant &value);
 
 /// The format with the value in each of its placeholders: "%@" and "%s" its text, "%d", "%i", "%u", "%x", "%X", "%o"
-/// and
-/// "%c" the whole number, "%f", "%e" and "%g" the whole number as a real one; flags, width and precision as in C. Any
-/// other placeholder stands as it is. \return a null string when the format is null.
+/// and "%c" the whole number, "%f", "%e" and "%g" the whole number as a real one; flags, width and precision as in C.
+/// Any other placeholder stands as it is. \return a null string when the format is null.
 QString formattedValue(const QString &format, const QString &text, std::int32_t number);
 
 } // namespace controls

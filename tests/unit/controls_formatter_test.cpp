@@ -335,6 +335,14 @@ TEST_F(Formatter, TextOutsideMacRoman_IsRefusedWithItsLastCharacterAsTheObject)
     EXPECT_EQ(mNotices[0].object, nullptr);
 }
 
+TEST_F(Formatter, CharacterOfTwoUnits_IsPostedWhole)
+{
+    mFormatter.setTextStyle(4);
+    EXPECT_FALSE(types(QStringLiteral("1\U0001F600")));
+    ASSERT_EQ(mNotices.size(), 1U);
+    EXPECT_EQ(mNotices[0].text, QStringLiteral("\U0001F600"));
+}
+
 TEST_F(Formatter, TextInMacRomanOutsideAscii_IsRefusedWithoutACharacter)
 {
     mFormatter.setTextStyle(1);
@@ -475,6 +483,18 @@ TEST(FormatterDisplay, NumberStylesWithoutAt_ShowTheWholeNumber)
         EXPECT_EQ(formatter->stringForObjectValue(QStringLiteral("abc")), QStringLiteral("0 mm"));
         EXPECT_EQ(formatter->stringForObjectValue(Q_INT64_C(9999999999)), QStringLiteral("2147483647 mm"));
     }
+}
+
+TEST(FormatterDisplay, MissingValue_IsNullAsTextAndZeroAsANumber)
+{
+    for (const QVariant &missing : {QVariant(), QVariant(QString())}) {
+        EXPECT_EQ(PDEFormatter().stringForObjectValue(missing), QStringLiteral("(null)"));
+        for (const std::uint32_t style : {2U, 4U}) {
+            const auto formatter = PDEFormatter::initWithFormatString(QStringLiteral("%d"), style);
+            EXPECT_EQ(formatter->stringForObjectValue(missing), QStringLiteral("0")) << style;
+        }
+    }
+    EXPECT_EQ(PDEFormatter().stringForObjectValue(QStringLiteral("")), QStringLiteral(""));
 }
 
 TEST(FormatterDisplay, NumberStylesWithAt_ShowTheValueItself)

@@ -395,6 +395,31 @@ TEST_F(TextField, UndoOfADeletionThatTheFormatterForbids_IsRefused)
     EXPECT_EQ(state(), q("12|"));
 }
 
+TEST_F(TextField, UndoOfTypingOverATextWithAPoint_BringsThatTextBack)
+{
+    show();
+    keys(q("1.5"));
+    mField->selectAll();
+    keys(q("16."));
+    EXPECT_EQ(mField->text(), q("16."));
+    const int before = tests::beeps();
+    undoKey();
+    EXPECT_EQ(mField->text(), q("1.5"));
+    undoKey();
+    EXPECT_EQ(state(), q("|"));
+    redoKey();
+    EXPECT_EQ(mField->text(), q("1.5"));
+    while (mField->isRedoAvailable() && tests::beeps() == before) {
+        redoKey();
+    }
+    EXPECT_EQ(mField->text(), q("16."));
+    EXPECT_EQ(tests::beeps(), before);
+    // The field goes on filtering.
+    keys(q("."));
+    EXPECT_EQ(mField->text(), q("16."));
+    EXPECT_EQ(tests::beeps(), before + 1);
+}
+
 TEST_F(TextField, UndoFromTheContextMenu_IsExamined)
 {
     show();
@@ -511,6 +536,36 @@ TEST_F(TextField, TypedCharacter_PostsTheNoticeOnce)
     EXPECT_EQ(mPosts, 1);
     mField->setText(q("5"));
     EXPECT_EQ(mPosts, 1);
+}
+
+TEST_F(TextField, EveryRoadOfAChange_PostsTheNoticeOnce)
+{
+    show();
+    mField->setText(q("1234"));
+    const auto posts = [this](const auto &act) {
+        mPosts = 0;
+        act();
+        return mPosts;
+    };
+    mField->setSelection(1, 2);
+    EXPECT_EQ(posts([&] { keys(q("7")); }), 1);
+    EXPECT_EQ(mField->text(), q("174"));
+    // The text stays the same, and yet it was typed.
+    mField->setSelection(1, 1);
+    EXPECT_EQ(posts([&] { keys(q("7")); }), 1);
+    EXPECT_EQ(posts([&] { QTest::keyClick(mField, Qt::Key_Backspace); }), 1);
+    EXPECT_EQ(posts([&] { paste(q("56")); }), 1);
+    EXPECT_EQ(mField->text(), q("1564"));
+    EXPECT_EQ(posts([&] { paste(q("mm")); }), 0);
+    EXPECT_EQ(posts([&] { commit(q("9")); }), 1);
+    EXPECT_EQ(posts([&] { commit(q("か")); }), 0);
+    EXPECT_EQ(posts([&] { dropAtStart(q("8")); }), 1);
+    EXPECT_EQ(mField->text(), q("815694"));
+    mField->selectAll();
+    EXPECT_EQ(posts([&] { QTest::keyClick(mField, Qt::Key_X, Qt::ControlModifier); }), 1);
+    EXPECT_EQ(posts([&] { undoKey(); }), 1);
+    EXPECT_EQ(posts([&] { redoKey(); }), 1);
+    EXPECT_EQ(posts([&] { redoKey(); }), 0);
 }
 
 TEST_F(TextField, FocusAndEndOfEditing_PostNothing)
