@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: Apache-2.0
+// Any arguments, one a line. A refused command line says why; an accepted one holds together.
+#include "fuzz/Invariants.h"
+
+#include "host/CommandLine.h"
+
+#include <set>
+
+using fuzz::require;
+
+namespace
+{
+
+void checkOptions(const tapeprint::JobOptions &options)
+{
+    std::set<QString> names;
+    for (const auto &[name, value] : options.entries()) {
+        require(!name.isEmpty());
+        require(names.insert(name).second);
+        require(options.value(name) == value);
+    }
+    require(options.lines().size() == static_cast<qsizetype>(names.size()));
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QStringList arguments = size == 0 ? QStringList() : fuzz::inputText(data, size).split(u'\n');
+    QString error;
+    const std::optional<tapeprint::CommandLine> line = tapeprint::parseCommandLine(arguments, &error);
+    if (!line) {
+        require(!error.isEmpty());
+        return 0;
+    }
+    require(line->outputPath.isEmpty() || !line->ppdPath.isEmpty());
+    require(line->files.size() <= arguments.size());
+    require(line->onlyShows() == (line->showOptions || line->summary));
+    checkOptions(line->options);
+    return 0;
+}
