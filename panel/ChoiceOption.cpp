@@ -27,6 +27,7 @@ constexpr std::array kInkColorKeywords = {"KsInkColorBlack", "KsInkColorBlue", "
 
 } // namespace
 
+// NOLINTNEXTLINE(readability-function-size): no steps, only the rows of one table
 std::span<const ChoiceOption, ChoiceOption::Count> ChoiceOption::all()
 {
     static const std::array<ChoiceOption, Count> table = {{

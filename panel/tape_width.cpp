@@ -34,7 +34,7 @@ void PageSettingPDE13_v100_::initializeUI_Width()
 
 QString PageSettingPDE13_v100_::widthText(const TapeInfo &tape) const
 {
-    const QString unknown = localized(QStringLiteral("RS_TapeWidthNot"));
+    QString unknown = localized(QStringLiteral("RS_TapeWidthNot"));
     const ppd_option_t *pageSize = ppd == nullptr ? nullptr : ppdFindOption(ppd, "PageSize");
     if (tape.paperName.isNull() || pageSize == nullptr) {
         return unknown;

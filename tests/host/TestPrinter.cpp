@@ -103,7 +103,7 @@ QStringList goodBundles()
 
 QStringList takeCalls()
 {
-    const QStringList calls = qApp->property("hostTestCalls").toStringList();
+    QStringList calls = qApp->property("hostTestCalls").toStringList();
     qApp->setProperty("hostTestCalls", QVariant());
     return calls;
 }

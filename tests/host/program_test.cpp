@@ -82,9 +82,9 @@ private:
     /// A filter that writes the options argument it gets, and the document.
     QString filterPath() const
     {
-        const QString path = hosttest::writeFile(folder, u"filter"_qs,
-                                                 "#!/bin/sh\nprintf 'copies=%s title=%s options=%s\\n' \"$4\" \"$3\" "
-                                                 "\"$5\"\nif [ -n \"$6\" ]; then cat \"$6\"; else cat; fi\n");
+        QString path = hosttest::writeFile(folder, u"filter"_qs,
+                                           "#!/bin/sh\nprintf 'copies=%s title=%s options=%s\\n' \"$4\" \"$3\" "
+                                           "\"$5\"\nif [ -n \"$6\" ]; then cat \"$6\"; else cat; fi\n");
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
                                         QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
         return path;

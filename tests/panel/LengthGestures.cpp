@@ -92,7 +92,7 @@ bool fullCheckRan(const PanelUnderTest &panel)
 
 QString text(const PanelUnderTest &panel, const char *key)
 {
-    const QString localised = panel.loaded.bundle()->localizedStringForKey(QString::fromLatin1(key));
+    QString localised = panel.loaded.bundle()->localizedStringForKey(QString::fromLatin1(key));
     EXPECT_NE(localised, QString::fromLatin1(key)) << "has no text";
     return localised;
 }

@@ -7,8 +7,6 @@
 
 #include <QTemporaryFile>
 
-#include <cstring>
-
 #include <gtest/gtest.h>
 
 /// A byte that no UTF-8 text holds.
@@ -19,7 +17,7 @@ inline void spoilOption(ppd_file_t *ppd, const char *keyword)
 {
     ppd_option_t *option = ppdFindOption(ppd, keyword);
     ASSERT_NE(option, nullptr) << keyword;
-    std::strcpy(option->text, kNotUtf8);
+    qstrncpy(option->text, kNotUtf8, sizeof option->text);
 }
 
 /// Makes a choice's text unreadable.
@@ -28,7 +26,7 @@ inline void spoilChoice(ppd_file_t *ppd, const char *keyword, int index)
     ppd_option_t *option = ppdFindOption(ppd, keyword);
     ASSERT_NE(option, nullptr) << keyword;
     ASSERT_LT(index, option->num_choices) << keyword;
-    std::strcpy(option->choices[index].text, kNotUtf8);
+    qstrncpy(option->choices[index].text, kNotUtf8, sizeof option->choices[index].text);
 }
 
 /// Opens a PPD without marking its defaults.

@@ -391,6 +391,7 @@ TEST(ChoiceOptions, DefaultResolutionWithoutARow_LeavesTheFirstRowSelected)
 TEST(ChoiceOptions, TenThousandChoices_AreAllThereToPick)
 {
     std::vector<PpdText::Choice> choices;
+    choices.reserve(10'000);
     for (int i = 0; i < 10'000; ++i) {
         choices.emplace_back("C" + QByteArray::number(i), "Colour " + QByteArray::number(i));
     }

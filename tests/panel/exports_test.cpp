@@ -89,7 +89,7 @@ TEST(Exports, FunctionsAndTables_AreFoundUnderTheirPlainNames)
     }
     using MenuKey = const char *(std::int32_t, const void *, std::size_t);
     // Three rows of identifier, key and flag, each in a word of its own.
-    EXPECT_STREQ(loaded.function<MenuKey>("Get_MenuKeyStr")(102, loaded.symbol("QUAL_MENU"), 3 * 3 * sizeof(void *)),
+    EXPECT_STREQ(loaded.function<MenuKey>("Get_MenuKeyStr")(102, loaded.symbol("QUAL_MENU"), sizeof(void *) * 3 * 3),
                  "QUAL2_KEY");
 }
 

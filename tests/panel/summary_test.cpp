@@ -233,6 +233,7 @@ protected:
             text.withoutOption("KsResolution");
         }
         std::vector<PpdText::Choice> choices;
+        choices.reserve(12);
         for (int i = 0; i < 12; ++i) {
             choices.emplace_back("C" + QByteArray::number(i), choiceText);
         }

@@ -18,6 +18,7 @@ constexpr double kPt = 72.0 * 0.0393701;
 std::vector<PpdText::PageSize> sizes(const std::vector<std::pair<QByteArray, QByteArray>> &names)
 {
     std::vector<PpdText::PageSize> result;
+    result.reserve(names.size());
     for (const auto &[keyword, text] : names) {
         result.push_back({keyword, text, 60.0, 100.0 * kPt});
     }

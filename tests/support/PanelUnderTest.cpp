@@ -135,6 +135,7 @@ std::vector<QString> PanelUnderTest::itemTitles(const char *popUpName) const
 {
     std::vector<QString> titles;
     const QComboBox *control = popUp(popUpName);
+    titles.reserve(static_cast<std::size_t>(control->count()));
     for (int i = 0; i < control->count(); ++i) {
         titles.push_back(control->itemText(i));
     }
