@@ -2,7 +2,7 @@
 // Any arguments, one a line. A refused command line says why; an accepted one holds together.
 #include "fuzz/Invariants.h"
 
-#include "host/CommandLine.h"
+#include "tapeprint/CommandLine.h"
 
 #include <set>
 
@@ -11,7 +11,7 @@ using fuzz::require;
 namespace
 {
 
-void checkOptions(const tapeprint::JobOptions &options)
+void checkOptions(const tapeprint::job::JobOptions &options)
 {
     std::set<QString> names;
     for (const auto &[name, value] : options.entries()) {
@@ -33,9 +33,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         require(!error.isEmpty());
         return 0;
     }
-    require(line->outputPath.isEmpty() || !line->ppdPath.isEmpty());
+    require(line->request.outputPath.isEmpty() || !line->request.ppdPath.isEmpty());
     require(line->files.size() <= arguments.size());
     require(line->onlyShows() == (line->showOptions || line->summary));
-    checkOptions(line->options);
+    checkOptions(line->request.options);
     return 0;
 }

@@ -75,21 +75,21 @@ QString writeFile(const QTemporaryDir &folder, const QString &name, const QByteA
     return file.fileName();
 }
 
-tapeprint::Destination testDestination(const QTemporaryDir &folder, const QByteArray &more)
+tapeprint::job::Destination testDestination(const QTemporaryDir &folder, const QByteArray &more)
 {
-    tapeprint::Destination destination;
+    tapeprint::job::Destination destination;
     destination.ppdPath = writeFile(folder, QStringLiteral("test.ppd"), testPpd(more));
     QString error;
-    destination.ppd = tapeprint::openPpdFile(destination.ppdPath, &error);
+    destination.ppd = tapeprint::job::openPpdFile(destination.ppdPath, &error);
     if (!destination.ppd) {
         qFatal("%s", qPrintable(error));
     }
     return destination;
 }
 
-tapeprint::JobOptions options(std::initializer_list<tapeprint::JobOptions::Entry> entries)
+tapeprint::job::JobOptions options(std::initializer_list<tapeprint::job::JobOptions::Entry> entries)
 {
-    tapeprint::JobOptions result;
+    tapeprint::job::JobOptions result;
     for (const auto &[name, value] : entries) {
         result.set(name, value);
     }

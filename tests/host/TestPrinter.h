@@ -2,7 +2,7 @@
 // A printer description for the tests, and what they need around it.
 #pragma once
 
-#include "host/DialogModel.h"
+#include "dialog/Panels.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
@@ -18,10 +18,10 @@ QByteArray testPpd(const QByteArray &more = {});
 QString writeFile(const QTemporaryDir &folder, const QString &name, const QByteArray &bytes);
 
 /// The test PPD, opened.
-tapeprint::Destination testDestination(const QTemporaryDir &folder, const QByteArray &more = {});
+tapeprint::job::Destination testDestination(const QTemporaryDir &folder, const QByteArray &more = {});
 
 /// Options from NAME, VALUE pairs.
-tapeprint::JobOptions options(std::initializer_list<tapeprint::JobOptions::Entry> entries);
+tapeprint::job::JobOptions options(std::initializer_list<tapeprint::job::JobOptions::Entry> entries);
 
 /// The folder with the plug-in of the tests.
 QStringList goodBundles();

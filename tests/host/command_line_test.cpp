@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The command line, from tables of arguments.
-#include "host/CommandLine.h"
+#include "tapeprint/CommandLine.h"
 
 #include "tests/support/TextPrinting.h"
 
@@ -26,7 +26,7 @@ TEST_P(CommandLineOptions, AreLaidDownInTheOrderGiven)
     QString error;
     const std::optional<CommandLine> line = parseCommandLine(GetParam().arguments, &error);
     ASSERT_TRUE(line.has_value()) << error.toStdString();
-    EXPECT_EQ(line->options.lines(), GetParam().lines);
+    EXPECT_EQ(line->request.options.lines(), GetParam().lines);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -76,8 +76,8 @@ TEST(CommandLineQueue, WithInstance_IsCutAtTheFirstSlash)
     QString error;
     const auto line = parseCommandLine({u"-dtape/fine"_qs}, &error);
     ASSERT_TRUE(line.has_value());
-    EXPECT_EQ(line->queue, u"tape"_qs);
-    EXPECT_EQ(line->instance, u"fine"_qs);
+    EXPECT_EQ(line->request.queue, u"tape"_qs);
+    EXPECT_EQ(line->request.instance, u"fine"_qs);
 }
 
 TEST(CommandLineFiles, AfterTwoDashes_MayLookLikeOptions)
@@ -97,10 +97,10 @@ TEST(CommandLineFlags, OfTheDialog_AreTaken)
     ASSERT_TRUE(line.has_value()) << error.toStdString();
     EXPECT_TRUE(line->noDialog && line->showOptions && line->summary && line->silent);
     EXPECT_FALSE(line->help || line->version);
-    EXPECT_EQ(line->ppdPath, u"a.ppd"_qs);
-    EXPECT_EQ(line->outputPath, u"b.prn"_qs);
+    EXPECT_EQ(line->request.ppdPath, u"a.ppd"_qs);
+    EXPECT_EQ(line->request.outputPath, u"b.prn"_qs);
     // As with lp, a letter's value may begin with a dash.
-    EXPECT_EQ(line->title, u"-n"_qs);
+    EXPECT_EQ(line->request.title, u"-n"_qs);
 }
 
 TEST(CommandLineHelp, NamesEveryOption)

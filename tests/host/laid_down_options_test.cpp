@@ -2,9 +2,9 @@
 // What was laid down before the panels are made: defaults, marks, the job, the tape and its length.
 #include "TestPrinter.h"
 
-#include "host/IppAttributeNames.h"
-#include "host/LaidDownOptions.h"
-#include "host/PpdMarks.h"
+#include "job/IppAttributeNames.h"
+#include "job/LaidDownOptions.h"
+#include "job/PpdMarks.h"
 #include "tests/support/TextPrinting.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +13,7 @@ namespace
 {
 
 using namespace tapeprint;
+using namespace tapeprint::job;
 using hosttest::options;
 
 const QByteArray lengthOption = "*OpenUI *KsTapeLength/Length: PickOne\n*OrderDependency: 20 AnySetup *KsTapeLength\n"

@@ -2,7 +2,7 @@
 // Finding and loading bundles, good ones and deliberately broken ones.
 #include "TestPrinter.h"
 
-#include "host/PluginLoader.h"
+#include "dialog/PluginLoader.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QDir>
@@ -14,6 +14,8 @@ namespace
 {
 
 using namespace tapeprint;
+using namespace tapeprint::job;
+using namespace tapeprint::dialog;
 
 QString testFolder(const char *name)
 {

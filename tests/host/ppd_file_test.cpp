@@ -2,7 +2,7 @@
 // Opening PPD files, and the sentences about those that cannot be opened.
 #include "TestPrinter.h"
 
-#include "host/PpdMarks.h"
+#include "job/PpdMarks.h"
 #include "tests/support/TextPrinting.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +11,7 @@ namespace
 {
 
 using namespace tapeprint;
+using namespace tapeprint::job;
 
 TEST(PpdFile_Broken, IsNamedWithTheLineThatIsAtFault)
 {

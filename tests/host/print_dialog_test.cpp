@@ -2,8 +2,10 @@
 // The window, with real clicks and keys.
 #include "TestPrinter.h"
 
-#include "host/PrintDialog.h"
-#include "host/SummaryView.h"
+#include "dialog/PrintDialog.h"
+#include "dialog/SummaryView.h"
+#include "job/DocumentSpool.h"
+#include "job/Printing.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QApplication>
@@ -25,7 +27,9 @@ namespace
 {
 
 using namespace tapeprint;
+using namespace tapeprint::dialog;
 using hosttest::takeCalls;
+using job::DocumentSpool;
 
 class PrintDialogTest : public testing::Test
 {
@@ -37,16 +41,22 @@ protected:
             hosttest::writeFile(folder, u"filter"_qs, "#!/bin/sh\nprintf 'options=%s\\n' \"$5\"\ncat\n");
         QFile::setPermissions(filter, QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup |
                                           QFile::ReadOther | QFile::ExeOther);
-        line.ppdPath = folder.filePath(u"test.ppd"_qs);
-        line.outputPath = folder.filePath(u"out.prn"_qs);
-        line.files = {hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n")};
-        QString error;
-        documents = std::move(*DocumentSpool::collect(line.files, &error));
-        model.open(hosttest::testDestination(folder, "*cupsFilter: \"text/plain 0 " + filter.toUtf8() + "\"\n"), {});
-        dialog = std::make_unique<PrintDialog>(model, line, documents, std::vector<PrintQueue>());
+        job::Destination destination =
+            hosttest::testDestination(folder, "*cupsFilter: \"text/plain 0 " + filter.toUtf8() + "\"\n");
+        destination.outputPath = outputPath = folder.filePath(u"out.prn"_qs);
+        files = {hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n")};
+        panels.open(std::move(destination), {});
+        dialog = std::make_unique<PrintDialog>(printJob, panels, PrintDialog::Setup{{}, u"label.txt"_qs, files, {}},
+                                               [this](QString *error) { return print(error); });
         dialog->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
         QApplication::processEvents();
+    }
+
+    QString print(QString *error)
+    {
+        const std::optional<job::PrintedJob> done = job::printJob(printJob, u"label.txt"_qs, files, error);
+        return printed = done ? done->sentence() : QString();
     }
 
     template <typename Widget>
@@ -81,9 +91,11 @@ protected:
     }
 
     QTemporaryDir folder;
-    CommandLine line;
-    DocumentSpool documents;
-    DialogModel model{hosttest::goodBundles()};
+    QString outputPath;
+    QStringList files;
+    QString printed;
+    job::Job printJob;
+    Panels panels{printJob, hosttest::goodBundles()};
     std::unique_ptr<PrintDialog> dialog;
 };
 
@@ -102,7 +114,7 @@ TEST_F(PrintDialogTest, Opens_WithThePanelShownAndItsSummary)
 TEST_F(PrintDialogTest, PickInThePanel_ReachesTheJobAndTheSummary)
 {
     click(u"wideMargin"_qs);
-    EXPECT_EQ(model.job().value(u"KsMargin"_qs), u"5.0"_qs);
+    EXPECT_EQ(printJob.options().value(u"KsMargin"_qs), u"5.0"_qs);
     EXPECT_EQ(summary(), (QStringList{u"Tape=W12"_qs, u"Margin=5.0"_qs}));
 }
 
@@ -111,7 +123,7 @@ TEST_F(PrintDialogTest, PickOfATape_IsToldToThePanelWhichIsThenShownAgain)
     takeCalls();
     pickNext(u"tape"_qs);
     EXPECT_EQ(takeCalls(), (QStringList{u"changed PageSize=W24, tape W24"_qs, u"willShow"_qs}));
-    EXPECT_EQ(model.job().value(u"PageSize"_qs), u"W24"_qs);
+    EXPECT_EQ(printJob.options().value(u"PageSize"_qs), u"W24"_qs);
     EXPECT_EQ(summary().value(0), u"Tape=W24"_qs);
 }
 
@@ -125,7 +137,7 @@ TEST_F(PrintDialogTest, OtherOptions_AreShownWithoutThoseOfThePanel)
     EXPECT_EQ(dialog->findChild<QComboBox *>(u"PageRegion"_qs), nullptr);
     takeCalls();
     pickNext(u"CutMedia"_qs);
-    EXPECT_EQ(model.job().value(u"CutMedia"_qs), u"Label"_qs);
+    EXPECT_EQ(printJob.options().value(u"CutMedia"_qs), u"Label"_qs);
     // The panel hears of it, but is not seen and so not shown.
     EXPECT_EQ(takeCalls(), QStringList{u"changed CutMedia=Label, tape W12"_qs});
 }
@@ -141,12 +153,12 @@ TEST_F(PrintDialogTest, PanelThatStays_KeepsTheChooser)
 
 TEST_F(PrintDialogTest, Revert_BringsEverythingBack)
 {
-    const QStringList before = model.job().lines();
+    const QStringList before = printJob.options().lines();
     pickNext(u"tape"_qs);
     QTest::keyClick(child<QSpinBox>(u"copies"_qs), Qt::Key_Up);
-    EXPECT_EQ(model.job().value(u"copies"_qs), u"2"_qs);
+    EXPECT_EQ(printJob.options().value(u"copies"_qs), u"2"_qs);
     click(u"revert"_qs);
-    EXPECT_EQ(model.job().lines(), before);
+    EXPECT_EQ(printJob.options().lines(), before);
     EXPECT_EQ(child<QComboBox>(u"tape"_qs)->currentText(), u"12 mm"_qs);
     EXPECT_EQ(child<QSpinBox>(u"copies"_qs)->value(), 1);
     EXPECT_EQ(summary().value(0), u"Tape=W12"_qs);
@@ -158,8 +170,8 @@ TEST_F(PrintDialogTest, Escape_CancelsAndTellsThePanel)
     QTest::keyClick(dialog.get(), Qt::Key_Escape);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(takeCalls(), QStringList{u"closes"_qs});
-    EXPECT_TRUE(dialog->result().isNull());
-    EXPECT_FALSE(QFile::exists(line.outputPath));
+    EXPECT_TRUE(printed.isNull());
+    EXPECT_FALSE(QFile::exists(outputPath));
 }
 
 TEST_F(PrintDialogTest, ReturnInAField_DoesNotPrint)
@@ -184,7 +196,7 @@ TEST_F(PrintDialogTest, RefusingPanel_KeepsTheDialogOpen)
     EXPECT_EQ(takeCalls(), (QStringList{u"save"_qs, u"changed KsMargin=2.0, tape W12"_qs, u"shouldPrint"_qs}));
     EXPECT_EQ(alerts, 1);
     EXPECT_TRUE(dialog->isVisible());
-    EXPECT_FALSE(QFile::exists(line.outputPath));
+    EXPECT_FALSE(QFile::exists(outputPath));
 }
 
 TEST_F(PrintDialogTest, Print_SavesAsksPrintsAndSaysWhereTheBytesWent)
@@ -206,12 +218,12 @@ TEST_F(PrintDialogTest, Print_SavesAsksPrintsAndSaysWhereTheBytesWent)
     });
     QApplication::processEvents();
     click(u"print"_qs);
-    EXPECT_TRUE(said.contains(line.outputPath)) << said.toStdString();
-    EXPECT_EQ(dialog->result(), said);
+    EXPECT_TRUE(said.contains(outputPath)) << said.toStdString();
+    EXPECT_EQ(printed, said);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(takeCalls(), (QStringList{u"save"_qs, u"changed KsMargin=5.0, tape W12"_qs, u"shouldPrint"_qs,
                                         u"closes, printed"_qs}));
-    QFile output(line.outputPath);
+    QFile output(outputPath);
     ASSERT_TRUE(output.open(QIODevice::ReadOnly));
     EXPECT_TRUE(output.readAll().contains("KsMargin=5.0"));
 }
@@ -220,12 +232,12 @@ TEST_F(PrintDialogTest, EitherOfWindowAndPanels_MayGoFirst)
 {
     takeCalls();
     dialog.reset();
-    model.open(hosttest::testDestination(folder), {});
+    panels.open(hosttest::testDestination(folder), {});
     EXPECT_EQ(takeCalls().value(0), u"released"_qs);
 
-    PrintDialog second(model, line, documents, {});
+    PrintDialog second(printJob, panels, {{}, u"label.txt"_qs, files, {}}, {});
     second.show();
-    model.open(hosttest::testDestination(folder), {});
+    panels.open(hosttest::testDestination(folder), {});
     EXPECT_EQ(second.findChildren<QPushButton *>(u"wideMargin"_qs).size(), 0);
 }
 

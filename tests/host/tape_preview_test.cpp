@@ -2,8 +2,8 @@
 // The tape preview, by the pixels that it draws: the tape green, the window blue, ink red.
 #include "TestPrinter.h"
 
-#include "host/PrintDialog.h"
-#include "host/TapePreview.h"
+#include "dialog/PrintDialog.h"
+#include "dialog/TapePreview.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QApplication>
@@ -19,6 +19,8 @@ namespace
 {
 
 using namespace tapeprint;
+using namespace tapeprint::job;
+using namespace tapeprint::dialog;
 using hosttest::writeFile;
 
 constexpr QRgb tapeColour = qRgb(0, 255, 0);
@@ -332,14 +334,10 @@ TEST_F(TapePreviewTest, ProgramThatNeverEnds_EndsWithThePreview)
 TEST(TapePreviewInTheDialog, PickedTapeAndLengthSentByAPanel_AreShown)
 {
     const QTemporaryDir folder;
-    CommandLine line;
-    line.ppdPath = folder.filePath(u"test.ppd"_qs);
-    line.files = {writeFile(folder, u"label.txt"_qs, "Hello\n")};
-    QString error;
-    const DocumentSpool documents = std::move(*DocumentSpool::collect(line.files, &error));
-    DialogModel model(hosttest::goodBundles());
-    model.open(hosttest::testDestination(folder), {});
-    PrintDialog dialog(model, line, documents, {});
+    Job job;
+    Panels panels(job, hosttest::goodBundles());
+    panels.open(hosttest::testDestination(folder), {});
+    PrintDialog dialog(job, panels, {{}, u"label.txt"_qs, {writeFile(folder, u"label.txt"_qs, "Hello\n")}, {}}, {});
     dialog.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
     const auto *preview = dialog.findChild<TapePreview *>();
@@ -351,7 +349,7 @@ TEST(TapePreviewInTheDialog, PickedTapeAndLengthSentByAPanel_AreShown)
     QApplication::processEvents();
     EXPECT_EQ(preview->accessibleDescription(), u"Length 50.8 mm, width 25.4 mm"_qs);
 
-    model.takeFromPanel(u"KsTapeLength"_qs, u"120"_qs);
+    job.takeChoice(u"KsTapeLength"_qs, u"120"_qs);
     QApplication::processEvents();
     EXPECT_EQ(preview->accessibleDescription(), u"Length 120.0 mm, width 25.4 mm"_qs);
 }

@@ -2,8 +2,9 @@
 // The window in its languages: which catalogue is taken, and that no two controls share a letter.
 #include "TestPrinter.h"
 
-#include "host/PrintDialog.h"
-#include "host/Translations.h"
+#include "dialog/PrintDialog.h"
+#include "dialog/Translations.h"
+#include "job/Printing.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QCoreApplication>
@@ -17,6 +18,8 @@ namespace
 {
 
 using namespace tapeprint;
+using namespace tapeprint::job;
+using namespace tapeprint::dialog;
 
 /// The default locale, set back at the end.
 class DefaultLocale
@@ -46,19 +49,17 @@ class TranslatedWindow : public testing::TestWithParam<Language>
 protected:
     void SetUp() override
     {
-        line.files = {hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n")};
-        QString error;
-        documents = std::move(*DocumentSpool::collect(line.files, &error));
-        model.open(hosttest::testDestination(folder), {});
-        dialog = std::make_unique<PrintDialog>(model, line, documents, std::vector<PrintQueue>());
+        const QString file = hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n");
+        panels.open(hosttest::testDestination(folder), {});
+        dialog = std::make_unique<PrintDialog>(job, panels, PrintDialog::Setup{{}, u"label.txt"_qs, {file}, {}},
+                                               PrintDialog::PrintAction());
     }
 
     QTemporaryDir folder;
     DefaultLocale locale{QString::fromLatin1(GetParam().locale)};
     Translations translations;
-    CommandLine line;
-    DocumentSpool documents;
-    DialogModel model{hosttest::goodBundles()};
+    Job job;
+    Panels panels{job, hosttest::goodBundles()};
     std::unique_ptr<PrintDialog> dialog;
 };
 
@@ -109,7 +110,7 @@ TEST(TranslationsTest, OptionNames_AreFollowedByTheLanguagesColon)
 {
     const DefaultLocale locale(u"ja_JP"_qs);
     const Translations translations;
-    EXPECT_EQ(QCoreApplication::translate("tapeprint::OptionsPage", "%1:", "name of an option").arg(u"切断"_qs),
+    EXPECT_EQ(QCoreApplication::translate("tapeprint::dialog::OptionsPage", "%1:", "name of an option").arg(u"切断"_qs),
               u"切断："_qs);
 }
 

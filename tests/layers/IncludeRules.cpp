@@ -24,13 +24,16 @@ struct Room {
     std::string_view name;
     Names rooms;
     Names libraries;
+    bool widgets = true; ///< whether it may include headers of Qt's widgets
 };
 
 // "cups/ppd.h" is a PPD's records alone, which the plug-in borrows; "cups/" is all of CUPS, queues and jobs included.
-const std::array<Room, 7> &rooms()
+const std::array<Room, 9> &rooms()
 {
-    static const std::array<Room, 7> table = {{
-        {"host", {"pdekit"}, {"cups/"}},
+    static const std::array<Room, 9> table = {{
+        {"tapeprint", {"dialog", "job", "pdekit"}, {"cups/"}},
+        {"dialog", {"job", "pdekit"}, {"cups/"}},
+        {"job", {"pdekit"}, {"cups/"}, false},
         {"panel", {"plugin", "controls", "ppd", "pdekit"}, {"cups/ppd.h"}},
         {"plugin", {"panel", "ppd", "pdekit"}, {"cups/ppd.h"}},
         {"controls", {"ppd", "pdekit"}, {"cups/ppd.h"}},
@@ -44,6 +47,14 @@ const std::array<Room, 7> &rooms()
 // The plug-in frame knows one header of the panel, and only its factory does.
 constexpr std::string_view factoryRoom = "plugin";
 constexpr std::string_view panelHeader = "panel/PanelFactory.h";
+
+// Folders that hold code and are no rooms: they may include any of them, and no room includes them. A folder of code
+// that is named neither here nor above is a finding, so that none is checked by nothing.
+const Names &otherFolders()
+{
+    static const Names names = {"tests", "bench", "fuzz", "resources", "examples"};
+    return names;
+}
 
 /// One #include line.
 struct Include {
@@ -85,8 +96,7 @@ bool contains(const Names &names, std::string_view name)
 /// Folders of the project that hold code; all of them may be named by an include, few may be included by a room.
 bool isProjectFolder(std::string_view name)
 {
-    static const Names others = {"tests", "bench", "fuzz", "resources"};
-    return contains(others, name) ||
+    return contains(otherFolders(), name) ||
            std::any_of(rooms().begin(), rooms().end(), [name](const Room &room) { return room.name == name; });
 }
 
@@ -116,9 +126,22 @@ std::string checkProjectInclude(const Room &room, std::string_view path)
     return {};
 }
 
-/// \return what is wrong with an include of something outside the project, or an empty text.
-std::string checkLibraryInclude(const Room &room, std::string_view path)
+/// Whether a header is one of Qt's widgets. \param folders where Qt keeps them; a header stands in one by its plain
+/// name.
+bool isWidgetHeader(std::string_view path, const std::vector<fs::path> &folders)
 {
+    return path.starts_with("QtWidgets/") ||
+           std::any_of(folders.begin(), folders.end(), [path](const fs::path &folder) {
+               return path.find('/') == std::string_view::npos && fs::exists(folder / path);
+           });
+}
+
+/// \return what is wrong with an include of something outside the project, or an empty text.
+std::string checkLibraryInclude(const Room &room, std::string_view path, const std::vector<fs::path> &widgetFolders)
+{
+    if (!room.widgets && isWidgetHeader(path, widgetFolders)) {
+        return std::string(room.name) + "/ has no widgets: it may not include <" + std::string(path) + ">";
+    }
     if (path.starts_with("Qt") || (path.starts_with("Q") && path.find('/') == std::string_view::npos) ||
         isSystemHeader(path)) {
         return {};
@@ -142,12 +165,14 @@ std::string checkUnnamedInclude(const fs::path &file, std::string_view path)
     return "\"" + std::string(path) + "\" does not begin with a room's name";
 }
 
-std::string checkInclude(const Room &room, const fs::path &file, const Include &include)
+std::string checkInclude(const Room &room, const fs::path &file, const Include &include,
+                         const std::vector<fs::path> &widgetFolders)
 {
     if (isProjectFolder(firstComponent(include.path)) && include.path.find('/') != std::string::npos) {
         return checkProjectInclude(room, include.path);
     }
-    return include.quoted ? checkUnnamedInclude(file, include.path) : checkLibraryInclude(room, include.path);
+    return include.quoted ? checkUnnamedInclude(file, include.path)
+                          : checkLibraryInclude(room, include.path, widgetFolders);
 }
 
 bool isSource(const fs::path &file)
@@ -157,7 +182,7 @@ bool isSource(const fs::path &file)
     return contains(suffixes, suffix);
 }
 
-void checkRoom(const fs::path &root, const Room &room, Report &report)
+void checkRoom(const fs::path &root, const Room &room, const std::vector<fs::path> &widgetFolders, Report &report)
 {
     std::set<fs::path> files; // in an order that does not depend on the file system
     for (const fs::directory_entry &entry : fs::recursive_directory_iterator(root / room.name)) {
@@ -176,7 +201,7 @@ void checkRoom(const fs::path &root, const Room &room, Report &report)
             if (!include) {
                 continue;
             }
-            std::string wrong = checkInclude(room, file, *include);
+            std::string wrong = checkInclude(room, file, *include, widgetFolders);
             if (wrong.empty() && room.name == factoryRoom && include->path == panelHeader) {
                 if (file.extension() != ".cpp" || (!factory.empty() && factory != name)) {
                     wrong = "only one .cpp of plugin/, the factory, may include " + std::string(panelHeader);
@@ -190,14 +215,45 @@ void checkRoom(const fs::path &root, const Room &room, Report &report)
     }
 }
 
+/// Whether a folder at the root holds sources; those of a build do not count.
+bool holdsSources(const fs::path &folder)
+{
+    if (fs::exists(folder / "CMakeCache.txt")) {
+        return false;
+    }
+    for (const fs::directory_entry &entry : fs::directory_iterator(folder)) {
+        if (entry.is_regular_file() && isSource(entry.path())) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void checkFolders(const fs::path &root, Report &report)
+{
+    std::set<fs::path> folders;
+    for (const fs::directory_entry &entry : fs::directory_iterator(root)) {
+        if (entry.is_directory() && entry.path().filename().string().front() != '.') {
+            folders.insert(entry.path());
+        }
+    }
+    for (const fs::path &folder : folders) {
+        if (!isProjectFolder(folder.filename().string()) && holdsSources(folder)) {
+            report.findings.push_back(folder.filename().string() +
+                                      "/: a folder of code that the table of rooms does not name");
+        }
+    }
+}
+
 } // namespace
 
-Report checkIncludes(const fs::path &root)
+Report checkIncludes(const fs::path &root, const std::vector<fs::path> &widgetFolders)
 {
     Report report;
+    checkFolders(root, report);
     for (const Room &room : rooms()) {
         if (fs::is_directory(root / room.name)) {
-            checkRoom(root, room, report);
+            checkRoom(root, room, widgetFolders, report);
         }
     }
     return report;

@@ -19,8 +19,9 @@ struct Report {
         findings; ///< "file:line: what is wrong", files relative to the tree's root, in their order
 };
 
-/// Reads every source and header of the rooms below \p root and checks each of their #include lines.
-Report checkIncludes(const std::filesystem::path &root);
+/// Reads every source and header of the rooms below \p root and checks each of their #include lines; names folders of
+/// code that are no room. \p widgetFolders where Qt keeps the headers of its widgets, which some rooms may not include.
+Report checkIncludes(const std::filesystem::path &root, const std::vector<std::filesystem::path> &widgetFolders);
 
 } // namespace tapeprint::layers
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QString>
 #include <QTemporaryDir>
 
 #include <fstream>
@@ -27,10 +28,19 @@ public:
 
     fs::path root() const { return mFolder.path().toStdString(); }
 
-    Findings findings() const { return checkIncludes(root()).findings; }
+    Findings findings() const { return checkIncludes(root(), {widgets()}).findings; }
+
+    /// A folder of widget headers of the test's own, outside the tree.
+    fs::path widgets() const
+    {
+        const fs::path folder = mWidgets.path().toStdString();
+        std::ofstream(folder / "QPushButton") << "\n";
+        return folder;
+    }
 
 private:
     QTemporaryDir mFolder;
+    QTemporaryDir mWidgets;
 };
 
 /// The findings in a tree of this one file.
@@ -79,14 +89,14 @@ TEST_P(AllowedInclude, IsNoFinding)
 
 INSTANTIATE_TEST_SUITE_P(
     Layers, ForbiddenInclude,
-    ::testing::Values(OneInclude{"HostOfPanel", "host/Dialog.cpp", "\"panel/PageSettingPDE13_v100_.h\""},
-                      OneInclude{"HostOfPlugin", "host/Dialog.h", "\"plugin/BasePDE.h\""},
-                      OneInclude{"HostOfPpd", "host/Dialog.cpp", "\"ppd/PDEChoice.h\""},
-                      OneInclude{"HostOfLog", "host/Dialog.cpp", "\"log/Log.h\""},
-                      OneInclude{"PanelOfHost", "panel/units.cpp", "\"host/Dialog.h\""},
+    ::testing::Values(OneInclude{"DialogOfPanel", "dialog/Dialog.cpp", "\"panel/PageSettingPDE13_v100_.h\""},
+                      OneInclude{"DialogOfPlugin", "dialog/Dialog.h", "\"plugin/BasePDE.h\""},
+                      OneInclude{"DialogOfPpd", "dialog/Dialog.cpp", "\"ppd/PDEChoice.h\""},
+                      OneInclude{"DialogOfLog", "dialog/Dialog.cpp", "\"log/Log.h\""},
+                      OneInclude{"PanelOfDialog", "panel/units.cpp", "\"dialog/Dialog.h\""},
                       OneInclude{"PanelOfLog", "panel/units.cpp", "\"log/Log.h\""},
                       OneInclude{"PanelOfJobs", "panel/saving.cpp", "<cups/cups.h>"},
-                      OneInclude{"PluginOfHost", "plugin/Factory.cpp", "\"host/Dialog.h\""},
+                      OneInclude{"PluginOfDialog", "plugin/Factory.cpp", "\"dialog/Dialog.h\""},
                       OneInclude{"PluginOfControls", "plugin/Factory.cpp", "\"controls/PDEFormatter.h\""},
                       OneInclude{"PluginOfOtherPanelHeader", "plugin/Factory.cpp",
                                  "\"panel/PageSettingPDE13_v100_.h\""},
@@ -96,20 +106,31 @@ INSTANTIATE_TEST_SUITE_P(
                       OneInclude{"PpdOfPropertyLists", "ppd/TapeInfo.cpp", "<plist/plist.h>"},
                       OneInclude{"LogOfPpd", "log/Log.cpp", "\"ppd/PDEChoice.h\""},
                       OneInclude{"PdekitOfPpd", "pdekit/src/Bundle.cpp", "\"ppd/PDEChoice.h\""},
-                      OneInclude{"PdekitOfHost", "pdekit/include/pdekit/Bundle.h", "\"host/Dialog.h\""},
-                      OneInclude{"PrivateHeaderOfPdekit", "host/Dialog.cpp", "\"pdekit/src/Secret.h\""},
-                      OneInclude{"RoomInAngles", "host/Dialog.cpp", "<panel/PageSettingPDE13_v100_.h>"},
+                      OneInclude{"PdekitOfDialog", "pdekit/include/pdekit/Bundle.h", "\"dialog/Dialog.h\""},
+                      OneInclude{"PrivateHeaderOfPdekit", "dialog/Dialog.cpp", "\"pdekit/src/Secret.h\""},
+                      OneInclude{"RoomInAngles", "dialog/Dialog.cpp", "<panel/PageSettingPDE13_v100_.h>"},
                       OneInclude{"TestsFromARoom", "ppd/PDEChoice.cpp", "\"tests/unit/Helper.h\""},
-                      OneInclude{"WayAroundByDots", "host/Dialog.cpp", "\"../panel/PageSettingPDE13_v100_.h\""},
-                      OneInclude{"NoRoomNamed", "host/Dialog.cpp", "\"PageSettingPDE.h\""},
+                      OneInclude{"WayAroundByDots", "dialog/Dialog.cpp", "\"../panel/PageSettingPDE13_v100_.h\""},
+                      OneInclude{"NoRoomNamed", "dialog/Dialog.cpp", "\"PageSettingPDE.h\""},
+                      OneInclude{"JobOfDialog", "job/Job.h", "\"dialog/Panels.h\""},
+                      OneInclude{"JobOfProgram", "job/Job.cpp", "\"tapeprint/CommandLine.h\""},
+                      OneInclude{"DialogOfProgram", "dialog/Dialog.cpp", "\"tapeprint/CommandLine.h\""},
+                      OneInclude{"JobOfAWidget", "job/Job.cpp", "<QPushButton>"},
+                      OneInclude{"JobOfAWidgetByModule", "job/Job.cpp", "<QtWidgets/QPushButton>"},
+                      OneInclude{"PanelOfJob", "panel/units.cpp", "\"job/Job.h\""},
                       OneInclude{"UnknownLibrary", "pdekit/src/Bundle.cpp", "<other/library.h>"}),
     testName);
 
 INSTANTIATE_TEST_SUITE_P(
     Layers, AllowedInclude,
-    ::testing::Values(OneInclude{"HostOfPdekit", "host/Dialog.cpp", "\"pdekit/PrintingCore.h\""},
-                      OneInclude{"HostOfItself", "host/Dialog.cpp", "\"host/Preview.h\""},
-                      OneInclude{"HostOfCups", "host/Printers.cpp", "<cups/cups.h>"},
+    ::testing::Values(OneInclude{"DialogOfPdekit", "dialog/Dialog.cpp", "\"pdekit/PrintingCore.h\""},
+                      OneInclude{"DialogOfItself", "dialog/Dialog.cpp", "\"dialog/Preview.h\""},
+                      OneInclude{"DialogOfCups", "job/Printers.cpp", "<cups/cups.h>"},
+                      OneInclude{"DialogOfJob", "dialog/Dialog.cpp", "\"job/Job.h\""},
+                      OneInclude{"DialogOfAWidget", "dialog/Dialog.cpp", "<QPushButton>"},
+                      OneInclude{"ProgramOfDialog", "tapeprint/main.cpp", "\"dialog/Dialog.h\""},
+                      OneInclude{"ProgramOfJob", "tapeprint/main.cpp", "\"job/Job.h\""},
+                      OneInclude{"JobOfQtCore", "job/Job.cpp", "<QString>"},
                       OneInclude{"PanelOfPlugin", "panel/construction.cpp", "\"plugin/BasePDE.h\""},
                       OneInclude{"PanelOfControls", "panel/construction.cpp", "\"controls/PDEFormatter.h\""},
                       OneInclude{"PanelOfPpdRecords", "panel/construction.cpp", "<cups/ppd.h>"},
@@ -121,19 +142,19 @@ INSTANTIATE_TEST_SUITE_P(
                       OneInclude{"QtClass", "ppd/PDEChoice.h", "<QString>"},
                       OneInclude{"QtModule", "ppd/PDEChoice.h", "<QtCore/QString>"},
                       OneInclude{"Standard", "ppd/PDEChoice.h", "<vector>"},
-                      OneInclude{"System", "host/Jobs.cpp", "<sys/wait.h>"},
-                      OneInclude{"WrittenByMoc", "host/Dialog.cpp", "\"Dialog.moc\""},
+                      OneInclude{"System", "job/Jobs.cpp", "<sys/wait.h>"},
+                      OneInclude{"WrittenByMoc", "dialog/Dialog.cpp", "\"Dialog.moc\""},
                       OneInclude{"Tests", "tests/unit/test_Any.cpp", "\"panel/PageSettingPDE13_v100_.h\""}),
     testName);
 
 TEST(Layers, OddlySpacedInclude_IsReadAllTheSame)
 {
-    EXPECT_EQ(findingsIn("host/Dialog.cpp", "  #  include\t\"panel/PageSettingPDE13_v100_.h\" // why\n").size(), 1U);
+    EXPECT_EQ(findingsIn("dialog/Dialog.cpp", "  #  include\t\"panel/PageSettingPDE13_v100_.h\" // why\n").size(), 1U);
 }
 
 TEST(Layers, CommentedOutLine_IsNoInclude)
 {
-    EXPECT_EQ(findingsIn("host/Dialog.cpp", "// #include \"panel/PageSettingPDE13_v100_.h\"\n"), Findings());
+    EXPECT_EQ(findingsIn("dialog/Dialog.cpp", "// #include \"panel/PageSettingPDE13_v100_.h\"\n"), Findings());
 }
 
 TEST(Layers, NeighbourInTheSameFolder_NeedsNoRoomName)
@@ -157,15 +178,44 @@ TEST(Layers, EveryForbiddenLine_IsFoundInTheOrderOfTheFile)
 {
     const Findings findings = findingsIn("ppd/PDEChoice.cpp", "#include \"panel/PageSettingPDE13_v100_.h\"\n"
                                                               "#include \"pdekit/Numbers.h\"\n"
-                                                              "#include \"host/Dialog.h\"\n");
+                                                              "#include \"dialog/Dialog.h\"\n");
     ASSERT_EQ(findings.size(), 2U);
     EXPECT_EQ(findings[0], "ppd/PDEChoice.cpp:1: ppd/ may not include panel/");
-    EXPECT_EQ(findings[1], "ppd/PDEChoice.cpp:3: ppd/ may not include host/");
+    EXPECT_EQ(findings[1], "ppd/PDEChoice.cpp:3: ppd/ may not include dialog/");
+}
+
+TEST(Layers, FolderOfCodeThatIsNoRoom_IsFound)
+{
+    EXPECT_EQ(findingsIn("cellar/Box.cpp", ""),
+              Findings{"cellar/: a folder of code that the table of rooms does not name"});
+    EXPECT_EQ(findingsIn("docs/page.md", ""), Findings());
+}
+
+TEST(Layers, FolderOfABuild_IsNoFolderOfCode)
+{
+    Tree tree;
+    tree.add("build-here/CMakeCache.txt", "");
+    tree.add("build-here/generated.cpp", "");
+    EXPECT_EQ(tree.findings(), Findings());
+}
+
+/// Where Qt keeps the headers of its widgets on this machine.
+std::vector<fs::path> widgetFolders()
+{
+    std::vector<fs::path> folders;
+    for (const QString &folder : QStringLiteral(TAPEPRINT_WIDGET_HEADERS).split(u'|', Qt::SkipEmptyParts)) {
+        if (folder.endsWith(u"/QtWidgets")) {
+            folders.emplace_back(folder.toStdString());
+        }
+    }
+    return folders;
 }
 
 TEST(Layers, TheProjectItself_KeepsToTheArrows)
 {
-    const tapeprint::layers::Report report = checkIncludes(TAPEPRINT_SOURCE_DIR);
+    const tapeprint::layers::Report report = checkIncludes(TAPEPRINT_SOURCE_DIR, widgetFolders());
+    ASSERT_FALSE(widgetFolders().empty()) << "no folder of widget headers among " << TAPEPRINT_WIDGET_HEADERS;
+    EXPECT_TRUE(fs::exists(widgetFolders().front() / "QPushButton"));
     EXPECT_GT(report.files, 0U) << "no source was read below " << TAPEPRINT_SOURCE_DIR;
     for (const std::string &finding : report.findings) {
         ADD_FAILURE() << finding;

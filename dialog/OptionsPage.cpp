@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+// Pop-ups of a PPD's options in the PPD's order, under the texts that the PPD gives them.
+#include "dialog/OptionsPage.h"
+
+#include "dialog/ChoicePopUp.h"
+#include "job/PpdMarks.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+/// Whether an option is one that the dialog's other controls do not show, and a pop-up can.
+bool isShown(const Panels &panels, const ppd_option_t &option)
+{
+    const QString key = QString::fromUtf8(option.keyword);
+    const bool isOneOf = option.ui == PPD_UI_PICKONE || option.ui == PPD_UI_BOOLEAN;
+    return isOneOf && option.num_choices > 0 && key != job::OptionName::pageSize &&
+           key != job::OptionName::pageRegion && !panels.announced(key);
+}
+
+} // namespace
+
+OptionsPage::OptionsPage(const job::Job &job, const Panels &panels, QWidget *parent) : QWidget(parent), mJob(job)
+{
+    auto *form = new QFormLayout(this);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    job::forEachOption(job.ppd(), [this, &panels](const ppd_option_t &option) {
+        if (isShown(panels, option)) {
+            addOption(option);
+        }
+    });
+    follow();
+}
+
+void OptionsPage::addOption(const ppd_option_t &option)
+{
+    auto *popUp = new QComboBox(this);
+    const QString key = QString::fromUtf8(option.keyword);
+    popUp->setObjectName(key);
+    popUp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    fillWithChoices(popUp, option);
+    connect(popUp, &QComboBox::activated, this,
+            [this, popUp, key] { Q_EMIT picked(key, popUp->currentData().toString()); });
+    QString text = QString::fromUtf8(option.text);
+    text.replace(u'&', QLatin1String("&&")); // a PPD's "&" is no mnemonic
+    qobject_cast<QFormLayout *>(layout())->addRow(tr("%1:", "name of an option").arg(text), popUp);
+    mPopUps.push_back(popUp);
+}
+
+void OptionsPage::follow()
+{
+    for (QComboBox *popUp : mPopUps) {
+        selectChoice(popUp, job::markedChoice(mJob.ppd(), popUp->objectName()));
+    }
+}
+
+} // namespace tapeprint::dialog

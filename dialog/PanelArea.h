@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+// The scrolling area of the panels' views, which asks for as much room as the largest view takes, so that nothing
+// scrolls on a screen that is large enough.
+#pragma once
+
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+
+namespace tapeprint::dialog
+{
+
+class PanelArea : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+
+    QSize sizeHint() const override
+    {
+        if (widget() == nullptr) {
+            return QScrollArea::sizeHint();
+        }
+        const int frame = 2 * frameWidth();
+        const QSize whole = widget()->sizeHint() + QSize(frame, frame);
+        // A view that is cut in height alone gets room for the bar beside it.
+        const QSize most = screen()->availableSize() * 2 / 3;
+        const int bar = whole.height() > most.height() ? verticalScrollBar()->sizeHint().width() : 0;
+        return (whole + QSize(bar, 0)).boundedTo(most);
+    }
+};
+
+} // namespace tapeprint::dialog

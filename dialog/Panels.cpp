@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: Apache-2.0
+// The traffic with panels. Panels borrow the job's objects, so they always go first.
+#include "dialog/Panels.h"
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+/// Panels that correct one another's values never come to an end by themselves.
+constexpr std::size_t mostChangesInARow = 1000;
+
+} // namespace
+
+Panels::Panels(job::Job &job, QStringList bundleFolders) : mJob(job), mBundleFolders(std::move(bundleFolders))
+{
+    // Every panel hears of every change, the sender of it too: a panel that takes its state from what the dialog
+    // reports stays right.
+    connect(&mJob, &job::Job::optionChanged, this, &Panels::tell, Qt::DirectConnection);
+}
+
+Panels::~Panels()
+{
+    release();
+}
+
+void Panels::release()
+{
+    mToTell.clear();
+    mPanels.clear();
+    mBundles.clear();
+    // A view or a closure may still hold the callback: it answers null from now on.
+    if (mHost) {
+        mHost->detach();
+        mHost.reset();
+    }
+}
+
+void Panels::open(job::Destination destination, const job::JobOptions &asked)
+{
+    release();
+    mNotices.clear();
+    mJob.open(std::move(destination), asked);
+    make();
+    mJob.rememberAsOpened();
+}
+
+void Panels::make()
+{
+    mHost = std::make_shared<PanelHost>(mJob, *this);
+    LoadedBundles loaded = loadBundles(mBundleFolders);
+    mNotices += loaded.problems;
+    mBundles = std::move(loaded.bundles);
+    for (const LoadedBundle &bundle : mBundles) {
+        const pdekit::PanelArray *panels = bundle.principal->PDEPanelsForType(pdekit::kPrinterModulePanelType, mHost);
+        if (panels == nullptr) {
+            mNotices.append(tr("The plug-in %1 could not make its panel: printing works without it.").arg(bundle.path));
+            continue;
+        }
+        for (const std::shared_ptr<pdekit::Panel> &panel : *panels) {
+            addPanel(panel, bundle.path);
+        }
+    }
+}
+
+void Panels::addPanel(const std::shared_ptr<pdekit::Panel> &panel, const QString &bundlePath)
+{
+    PanelEntry entry;
+    entry.panel = panel;
+    entry.name = panel->panelName();
+    panel->panelKind(); // asked for in the protocol's order; this dialog has no use for it
+    if (const QStringList *keys = panel->supportedPPDOptionKeys()) {
+        entry.supportedKeys = *keys;
+    }
+    entry.view = panel->panelView();
+    if (entry.view == nullptr) {
+        mNotices.append(tr("The panel \"%1\" of %2 has no view: its values are printed as they are laid down.")
+                            .arg(entry.name, bundlePath));
+    }
+    mPanels.push_back(std::move(entry));
+}
+
+bool Panels::announced(const QString &key) const
+{
+    for (const PanelEntry &entry : mPanels) {
+        if (entry.supportedKeys.contains(key)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void Panels::tell(const QString &key, const QString &choice)
+{
+    mToTell.emplace_back(key, choice);
+    // A panel that answers a notice with a change of its own is told of that one when all have heard of the first.
+    if (mIsTelling) {
+        return;
+    }
+    mIsTelling = true;
+    for (std::size_t told = 0; !mToTell.empty() && told < mostChangesInARow; ++told) {
+        const auto [changedKey, newChoice] = mToTell.front();
+        mToTell.pop_front();
+        for (const PanelEntry &entry : mPanels) {
+            entry.panel->PPDOptionKeyValueDidChange(changedKey, newChoice);
+        }
+    }
+    mToTell.clear();
+    mIsTelling = false;
+}
+
+void Panels::show(std::size_t index)
+{
+    if (index < mPanels.size()) {
+        mPanels[index].panel->willShow();
+    }
+}
+
+void Panels::showAll()
+{
+    for (std::size_t i = 0; i < mPanels.size(); ++i) {
+        show(i);
+    }
+    mJob.rememberAsOpened();
+}
+
+bool Panels::saveValues(QString *error)
+{
+    for (const PanelEntry &entry : mPanels) {
+        QString reason;
+        if (!entry.panel->saveValuesAndReturnError(&reason)) {
+            *error = tr("The panel \"%1\" could not hand over its values: %2").arg(entry.name, reason);
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Panels::shouldPrint(QString *refusedBy)
+{
+    for (const PanelEntry &entry : mPanels) {
+        if (!entry.panel->shouldPrint()) {
+            *refusedBy = entry.name;
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Panels::revert(QString *error)
+{
+    mJob.revert();
+    bool restored = true;
+    for (const PanelEntry &entry : mPanels) {
+        QString reason;
+        if (!entry.panel->restoreValuesAndReturnError(&reason)) {
+            *error = tr("The panel \"%1\" could not restore its values: %2").arg(entry.name, reason);
+            restored = false;
+        }
+    }
+    return restored;
+}
+
+std::vector<PanelSummary> Panels::summary() const
+{
+    std::vector<PanelSummary> summaries;
+    for (const PanelEntry &entry : mPanels) {
+        const std::optional<QVariantMap> info = entry.panel->summaryInfo();
+        if (!info) {
+            continue;
+        }
+        PanelSummary summary{entry.name, {}};
+        // A panel may name a title without a value, which has nothing to show. Titles out of the order come last.
+        QStringList titles = info->value(pdekit::kSummaryDisplayOrder).toStringList();
+        titles += info->keys();
+        titles.removeAll(pdekit::kSummaryDisplayOrder);
+        titles.removeDuplicates();
+        for (const QString &title : titles) {
+            if (!title.isEmpty() && info->contains(title)) {
+                summary.lines.emplace_back(title, info->value(title).toString());
+            }
+        }
+        summaries.push_back(std::move(summary));
+    }
+    return summaries;
+}
+
+void Panels::windowWillClose(bool userPrinted)
+{
+    for (const PanelEntry &entry : mPanels) {
+        entry.panel->printWindowWillClose(userPrinted);
+    }
+}
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: Apache-2.0
+// The panels that work on a job, and the order in which job and panels are told of each other's changes.
+//
+//   Panels
+//     ├─ PanelHost             what panels see of the job's objects
+//     ├─ LoadedBundle ...      principal objects
+//     └─ PanelEntry ...        panels, released before everything that they borrow
+#pragma once
+
+#include "dialog/PanelHost.h"
+#include "dialog/PluginLoader.h"
+#include "job/Job.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <deque>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include <pdekit/PanelProtocol.h>
+
+namespace tapeprint::dialog
+{
+
+/// A panel and what it said of itself.
+struct PanelEntry {
+    std::shared_ptr<pdekit::Panel> panel;
+    QString name;
+    QStringList supportedKeys;
+    QPointer<QWidget> view; ///< null when the panel could not make it
+};
+
+/// One panel's summary: title and value, in the panel's own order.
+struct PanelSummary {
+    QString panelName;
+    std::vector<std::pair<QString, QString>> lines;
+};
+
+class Panels : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \param job not owned; outlives the panels, which borrow its objects.
+    Panels(job::Job &job, QStringList bundleFolders);
+    ~Panels() override;
+
+    /// Releases the panels, opens the job's next destination, and makes that destination's panels.
+    void open(job::Destination destination, const job::JobOptions &asked);
+
+    /// Sentences about bundles and panels that are not used.
+    const QStringList &notices() const { return mNotices; }
+    const std::vector<PanelEntry> &entries() const { return mPanels; }
+    /// Whether a panel announced an option as its own.
+    bool announced(const QString &key) const;
+
+    /// The panel is about to be seen, or is seen and its controls are to follow a change.
+    void show(std::size_t index);
+    /// Every panel is shown, as far as that goes without a window.
+    void showAll();
+
+    /// Every panel hands over its values. \param error takes the sentence of the panel that could not.
+    bool saveValues(QString *error);
+    /// Every panel's last word. \param refusedBy takes the name of the panel that says no.
+    bool shouldPrint(QString *refusedBy);
+    /// Job and panels go back to the values that the dialog was opened with. \param error takes the sentence of a panel
+    /// that could not.
+    bool revert(QString *error);
+    /// What the panels set.
+    std::vector<PanelSummary> summary() const;
+
+    /// Tells every panel that the window closes.
+    void windowWillClose(bool userPrinted);
+    /// From the callback: a panel changed the size of its view.
+    void panelViewDidResize() { Q_EMIT panelResized(); }
+
+Q_SIGNALS:
+    void panelResized();
+
+private:
+    void release();
+    void make();
+    void addPanel(const std::shared_ptr<pdekit::Panel> &panel, const QString &bundlePath);
+    void tell(const QString &key, const QString &choice);
+
+    job::Job &mJob;
+    QStringList mBundleFolders;
+    QStringList mNotices;
+    std::shared_ptr<PanelHost> mHost;
+    std::vector<LoadedBundle> mBundles;
+    std::vector<PanelEntry> mPanels;
+    std::deque<std::pair<QString, QString>> mToTell; ///< changes that wait until the panels heard of the one before
+    bool mIsTelling = false;
+};
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+// Finds plug-in bundles and loads those that serve printer panels; names those that it skips, and why.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+#include <pdekit/Bundle.h>
+#include <pdekit/PlugIn.h>
+
+class QPluginLoader;
+
+namespace tapeprint::dialog
+{
+
+/// A bundle whose code is loaded. The principal object goes before its bundle; the code stays loaded for the rest of
+/// the process, because panels' views may still hold objects of its classes.
+struct LoadedBundle {
+    QString path; ///< the bundle's directory
+    std::shared_ptr<pdekit::Bundle> bundle;
+    std::unique_ptr<pdekit::PlugIn> principal;
+};
+
+struct LoadedBundles {
+    std::vector<LoadedBundle> bundles;
+    QStringList problems; ///< a sentence for each bundle that was skipped
+};
+
+/// Folders that hold bundles, in the order of search: $TAPEPRINT_PLUGIN_PATH, the person's and the system's data
+/// folders, the build that the program stands in, the place beside an installed program.
+QStringList bundleSearchPath();
+
+/// Loads the bundles of some folders. Of bundles with the same name the first that can be used is used.
+LoadedBundles loadBundles(const QStringList &folders);
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: Apache-2.0
+// The window's construction and its pages. Values live in the dialog's objects; the controls only show them.
+#include "dialog/PrintDialog.h"
+
+#include "dialog/ChoicePopUp.h"
+#include "dialog/OptionsPage.h"
+#include "dialog/PanelArea.h"
+#include "dialog/SummaryView.h"
+#include "dialog/TapePreview.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+constexpr int mostCopies = 9999;
+constexpr QSize smallestPanelArea(320, 200);
+constexpr int summaryWidth = 280;
+
+} // namespace
+
+PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction)
+    : mJob(job), mPanels(panels), mSetup(std::move(setup)), mPrintAction(std::move(printAction))
+{
+    setWindowTitle(tr("Print %1").arg(mSetup.title));
+    setSizeGripEnabled(true);
+    mFollowTimer.setSingleShot(true);
+    mFollowTimer.setInterval(0);
+    buildControls();
+    fillPrinters();
+    connectControls();
+    showDestination();
+    // The toolkit by itself opens a window at no more than two thirds of the screen.
+    resize(sizeHint().boundedTo(screen()->availableSize()));
+}
+
+PrintDialog::~PrintDialog() = default;
+
+void PrintDialog::buildControls()
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(makeDestinationControls());
+    mNotices = new QLabel(this);
+    mNotices->setObjectName(QStringLiteral("notices"));
+    mNotices->setWordWrap(true);
+    mNotices->setTextFormat(Qt::PlainText);
+    mNotices->setFrameShape(QFrame::StyledPanel);
+    mNotices->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout->addWidget(mNotices);
+
+    auto *middle = new QHBoxLayout;
+    middle->addWidget(makePanelArea(), 1);
+    middle->addWidget(makeSummaryArea());
+    layout->addLayout(middle, 1);
+    layout->addWidget(makeButtons());
+}
+
+QWidget *PrintDialog::makeDestinationControls()
+{
+    auto *controls = new QWidget(this);
+    auto *form = new QFormLayout(controls);
+    form->setContentsMargins({});
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    mPrinterPopUp = new QComboBox(controls);
+    mPrinterPopUp->setObjectName(QStringLiteral("printer"));
+    mTapePopUp = new QComboBox(controls);
+    mTapePopUp->setObjectName(QStringLiteral("tape"));
+    mTapePopUp->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    mPrinterPopUp->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    mCopiesField = new QSpinBox(controls);
+    mCopiesField->setObjectName(QStringLiteral("copies"));
+    mCopiesField->setRange(1, mostCopies);
+    form->addRow(tr("P&rinter:"), mPrinterPopUp);
+    form->addRow(tr("&Tape:"), mTapePopUp);
+    form->addRow(tr("&Copies:"), mCopiesField);
+    return controls;
+}
+
+QWidget *PrintDialog::makePanelArea()
+{
+    auto *area = new QWidget(this);
+    auto *layout = new QVBoxLayout(area);
+    layout->setContentsMargins({});
+    mPageChooser = new QComboBox(area);
+    mPageChooser->setObjectName(QStringLiteral("pageChooser"));
+    auto *label = new QLabel(tr("Pa&nel:"), area);
+    label->setBuddy(mPageChooser);
+    auto *chooserRow = new QHBoxLayout;
+    chooserRow->addWidget(label);
+    chooserRow->addWidget(mPageChooser, 1);
+    layout->addLayout(chooserRow);
+    mPanelArea = new PanelArea(area);
+    mPanelArea->setWidgetResizable(true);
+    mPanelArea->setMinimumSize(smallestPanelArea);
+    mPages = new QStackedWidget;
+    mPanelArea->setWidget(mPages);
+    layout->addWidget(mPanelArea, 1);
+    return area;
+}
+
+QWidget *PrintDialog::makeSummaryArea()
+{
+    auto *area = new QWidget(this);
+    auto *layout = new QVBoxLayout(area);
+    layout->setContentsMargins({});
+    auto *summaryBox = new QGroupBox(tr("Summary"), area);
+    mSummary = new SummaryView(summaryBox);
+    auto *summaryLayout = new QVBoxLayout(summaryBox);
+    summaryLayout->addWidget(mSummary);
+    summaryBox->setMinimumWidth(summaryWidth);
+    layout->addWidget(summaryBox, 1);
+    mPreview = new TapePreview(area);
+    mPreview->setDocument(mSetup.files.value(0));
+    layout->addWidget(mPreview);
+    return area;
+}
+
+QWidget *PrintDialog::makeButtons()
+{
+    auto *buttons = new QWidget(this);
+    auto *layout = new QHBoxLayout(buttons);
+    layout->setContentsMargins({});
+    mRevertButton = new QPushButton(tr("Re&vert"), buttons);
+    mRevertButton->setObjectName(QStringLiteral("revert"));
+    mRevertButton->setToolTip(tr("Go back to the values that the dialog was opened with"));
+    mCancelButton = new QPushButton(tr("Cancel"), buttons);
+    mCancelButton->setObjectName(QStringLiteral("cancel"));
+    mPrintButton = new QPushButton(tr("&Print"), buttons);
+    mPrintButton->setObjectName(QStringLiteral("print"));
+    mPrintButton->setDefault(true);
+    mRevertButton->setAutoDefault(false);
+    layout->addWidget(mRevertButton);
+    layout->addStretch();
+    layout->addWidget(mCancelButton);
+    layout->addWidget(mPrintButton);
+    return buttons;
+}
+
+void PrintDialog::fillPrinters()
+{
+    // The destination that the dialog was opened with comes first when it is none of the server's queues.
+    const job::Destination &destination = mJob.destination();
+    if (!destination.queue) {
+        mPrinterPopUp->addItem(tr("%1 (no print queue)").arg(destination.title()));
+    }
+    // A printer that was named but is not listed, such as one just found on the network, is offered as well.
+    const auto isOpen = [&destination](const job::PrintQueue &queue) {
+        return destination.queue && queue.fullName() == destination.queue->fullName();
+    };
+    if (destination.queue && std::none_of(mSetup.queues.begin(), mSetup.queues.end(), isOpen)) {
+        mSetup.queues.insert(mSetup.queues.begin(), *destination.queue);
+    }
+    for (const job::PrintQueue &queue : mSetup.queues) {
+        mPrinterPopUp->addItem(queue.info.isEmpty() || queue.info == queue.name
+                                   ? queue.fullName()
+                                   : tr("%1 (%2)").arg(queue.fullName(), queue.info),
+                               queue.fullName());
+        if (isOpen(queue)) {
+            mPrinterPopUp->setCurrentIndex(mPrinterPopUp->count() - 1);
+        }
+    }
+    mCurrentPrinter = mPrinterPopUp->currentIndex();
+}
+
+void PrintDialog::showDestination()
+{
+    const QStringList notices = mJob.notices() + mPanels.notices();
+    mNotices->setText(notices.join(u'\n'));
+    mNotices->setVisible(!notices.isEmpty());
+    showTapes();
+    makePages();
+    follow();
+}
+
+void PrintDialog::showTapes()
+{
+    const ppd_option_t *tapes = job::findOption(mJob.ppd(), job::OptionName::pageSize);
+    mTapePopUp->clear();
+    mTapePopUp->setEnabled(tapes != nullptr);
+    if (tapes != nullptr) {
+        fillWithChoices(mTapePopUp, *tapes);
+    }
+}
+
+void PrintDialog::makePages()
+{
+    removePages();
+    const auto addPage = [this](QWidget *widget, const QString &name, std::optional<std::size_t> panel) {
+        mPages->addWidget(widget);
+        mPageList.push_back({widget, panel});
+        mPageChooser->addItem(name);
+    };
+    for (std::size_t i = 0; i < mPanels.entries().size(); ++i) {
+        const PanelEntry &entry = mPanels.entries()[i];
+        addPage(entry.view != nullptr ? entry.view.data() : new QLabel(tr("This panel has no view.")), entry.name, i);
+    }
+    mOptionsPage = new OptionsPage(mJob, mPanels, mPages);
+    if (mOptionsPage->isEmpty() && !mPanels.entries().empty()) {
+        delete mOptionsPage;
+    } else {
+        connect(mOptionsPage, &OptionsPage::picked, this, &PrintDialog::pickOption);
+        addPage(mOptionsPage, tr("More Options"), std::nullopt);
+    }
+    orderByTab();
+    turnToPage(0);
+    mPanelArea->updateGeometry();
+    mJob.rememberAsOpened();
+}
+
+void PrintDialog::orderByTab()
+{
+    // Pages are made after the buttons and would be reached last: the Tab key follows what the eye reads.
+    QWidget *last = mPanelArea;
+    for (QWidget *next = mPages->nextInFocusChain(); next != mPages; next = next->nextInFocusChain()) {
+        if (mPages->isAncestorOf(next) && next->focusPolicy() != Qt::NoFocus) {
+            last = next; // only what takes the focus has a place in the order
+        }
+    }
+    for (QWidget *widget : std::initializer_list<QWidget *>{mSummary, mRevertButton, mCancelButton, mPrintButton}) {
+        setTabOrder(last, widget);
+        last = widget;
+    }
+}
+
+void PrintDialog::removePages()
+{
+    // A released panel took its view along or left it behind; either is fine.
+    for (const Page &page : mPageList) {
+        delete page.widget.data();
+    }
+    mPageList.clear();
+    mPageChooser->clear();
+    mCurrentPage = -1;
+}
+
+void PrintDialog::turnToPage(int index)
+{
+    mCurrentPage = index;
+    mPageChooser->setCurrentIndex(index);
+    if (const Page *page = currentPage(); page != nullptr && page->widget != nullptr) {
+        mPages->setCurrentWidget(page->widget);
+        showCurrentPanel();
+    }
+}
+
+const PrintDialog::Page *PrintDialog::currentPage() const
+{
+    const auto at = static_cast<std::size_t>(mCurrentPage);
+    return mCurrentPage >= 0 && at < mPageList.size() ? &mPageList[at] : nullptr;
+}
+
+void PrintDialog::showCurrentPanel()
+{
+    if (const Page *page = currentPage(); page != nullptr && page->panel) {
+        mPanels.show(*page->panel);
+    }
+}
+
+} // namespace tapeprint::dialog

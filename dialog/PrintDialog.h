@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: Apache-2.0
+// The print dialog's window: a view on a job and its panels.
+//
+//   PrintDialog
+//     ├─ printer, tape, copies      pop-ups and a field of its own
+//     ├─ notices                    skipped bundles, options that get lost
+//     ├─ panel chooser
+//     ├─ panel area (scrolls)       the panels' views, and the page of other options
+//     ├─ SummaryView, TapePreview
+//     └─ Revert, Cancel, Print
+#pragma once
+
+#include "dialog/Panels.h"
+#include "job/Destination.h"
+#include "job/Job.h"
+
+#include <QDialog>
+#include <QPointer>
+#include <QTimer>
+
+#include <functional>
+#include <vector>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QSpinBox;
+class QStackedWidget;
+
+namespace tapeprint::dialog
+{
+
+class OptionsPage;
+class PanelArea;
+class SummaryView;
+class TapePreview;
+
+class PrintDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// What the window is opened with.
+    struct Setup {
+        job::JobRequest request;             ///< what was asked for; laid down again when another printer is picked
+        QString title;                       ///< of the job
+        QStringList files;                   ///< the documents to show; none when there is no document yet
+        std::vector<job::PrintQueue> queues; ///< to offer
+    };
+    /// What Print does when the settings are final. \return what became of the job, for the person; null, and a
+    /// sentence in *error, when it could not be done and the window stays as it is.
+    using PrintAction = std::function<QString(QString *error)>;
+
+    /// \param job with a destination opened, and \param panels made for it; both outlive the window.
+    PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction);
+    ~PrintDialog() override;
+
+    void done(int code) override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    /// One page of the chooser: a panel's view, or the dialog's own options.
+    struct Page {
+        QPointer<QWidget> widget;
+        std::optional<std::size_t> panel; ///< index of its panel; none for the dialog's own page
+    };
+
+    void buildControls();
+    QWidget *makeDestinationControls();
+    QWidget *makePanelArea();
+    QWidget *makeSummaryArea();
+    QWidget *makeButtons();
+    void connectControls();
+
+    void fillPrinters();
+    void showDestination();
+    void showTapes();
+    void makePages();
+    void orderByTab();
+    void removePages();
+    void turnToPage(int index);
+    const Page *currentPage() const;
+    void showCurrentPanel();
+
+    void pickPrinter(int index);
+    void pickOption(const QString &key, const QString &choice);
+    void pickPage(int index);
+    void follow();
+    void revert();
+    void print();
+    void tellProblem(const QString &sentence);
+
+    job::Job &mJob;
+    Panels &mPanels;
+    Setup mSetup;
+    PrintAction mPrintAction;
+    bool mClosed = false;
+    QTimer mFollowTimer; ///< gathers changes of one event into one look at the job
+
+    QComboBox *mPrinterPopUp = nullptr;
+    QComboBox *mTapePopUp = nullptr;
+    QSpinBox *mCopiesField = nullptr;
+    QLabel *mNotices = nullptr;
+    QComboBox *mPageChooser = nullptr;
+    PanelArea *mPanelArea = nullptr;
+    QStackedWidget *mPages = nullptr;
+    SummaryView *mSummary = nullptr;
+    TapePreview *mPreview = nullptr;
+    QPushButton *mRevertButton = nullptr;
+    QPushButton *mCancelButton = nullptr;
+    QPushButton *mPrintButton = nullptr;
+
+    std::vector<Page> mPageList;
+    QPointer<OptionsPage> mOptionsPage;
+    int mCurrentPrinter = 0;
+    int mCurrentPage = -1;
+};
+
+} // namespace tapeprint::dialog

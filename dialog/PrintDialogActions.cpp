@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the window does when the person acts: picks, Revert, Print, Cancel, and the live summary.
+#include "dialog/ChoicePopUp.h"
+#include "dialog/OptionsPage.h"
+#include "dialog/PanelArea.h"
+#include "dialog/PrintDialog.h"
+#include "dialog/SummaryView.h"
+#include "dialog/TapePreview.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+
+namespace tapeprint::dialog
+{
+
+void PrintDialog::connectControls()
+{
+    // "activated" is the person's act alone; setting a control from code sends nothing.
+    connect(mPrinterPopUp, &QComboBox::activated, this, &PrintDialog::pickPrinter);
+    connect(mTapePopUp, &QComboBox::activated, this,
+            [this] { pickOption(job::OptionName::pageSize, mTapePopUp->currentData().toString()); });
+    connect(mCopiesField, &QSpinBox::valueChanged, this, [this](int copies) {
+        if (copies != mJob.copies()) {
+            mJob.setCopies(copies);
+        }
+    });
+    connect(mPageChooser, &QComboBox::activated, this, &PrintDialog::pickPage);
+    connect(mRevertButton, &QPushButton::clicked, this, &PrintDialog::revert);
+    connect(mCancelButton, &QPushButton::clicked, this, &PrintDialog::reject);
+    connect(mPrintButton, &QPushButton::clicked, this, &PrintDialog::print);
+
+    connect(&mFollowTimer, &QTimer::timeout, this, &PrintDialog::follow);
+    connect(&mJob, &job::Job::changed, this, [this] { mFollowTimer.start(); });
+    connect(&mPanels, &Panels::panelResized, this, [this] {
+        mPages->updateGeometry();
+        mPanelArea->updateGeometry();
+    });
+    // Not every act in a panel sends a choice at once, but its summary changes: the summary is read again after it.
+    QApplication::instance()->installEventFilter(this);
+}
+
+bool PrintDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::KeyRelease:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::FocusOut:
+        if (const auto *widget = qobject_cast<QWidget *>(watched);
+            widget != nullptr && mPages->isAncestorOf(widget) && !mFollowTimer.isActive()) {
+            mFollowTimer.start();
+        }
+        break;
+    default:
+        break;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void PrintDialog::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const QWidget *focus = focusWidget();
+    const bool isEditing =
+        qobject_cast<const QLineEdit *>(focus) != nullptr || qobject_cast<const QAbstractSpinBox *>(focus) != nullptr;
+    // In a field, Return ends the editing and no more: tape is not printed by accident.
+    if (isReturn && isEditing) {
+        event->accept();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+void PrintDialog::pickPrinter(int index)
+{
+    if (index == mCurrentPrinter) {
+        return;
+    }
+    // What was asked for is opened as it was asked for, with its own PPD and output; any other queue as it is.
+    const QString name = mPrinterPopUp->itemData(index).toString();
+    const job::QueueName queue = job::QueueName::parse(name);
+    QString error;
+    std::optional<job::Destination> destination = name == mSetup.request.fullQueueName()
+                                                      ? job::openDestination(mSetup.request, &error)
+                                                      : job::openDestination(queue.queue, queue.instance, &error);
+    if (!destination) {
+        mPrinterPopUp->setCurrentIndex(mCurrentPrinter);
+        tellProblem(error);
+        return;
+    }
+    mCurrentPrinter = index;
+    // The old page goes before the panel and the PPD that it shows.
+    delete mOptionsPage;
+    mPanels.open(std::move(*destination), mSetup.request.options);
+    showDestination();
+}
+
+void PrintDialog::pickOption(const QString &key, const QString &choice)
+{
+    mJob.changeOption(key, choice);
+    showCurrentPanel();
+}
+
+void PrintDialog::pickPage(int index)
+{
+    const Page *page = currentPage();
+    if (page != nullptr && page->panel && index != mCurrentPage &&
+        !mPanels.entries()[*page->panel].panel->shouldHide()) {
+        mPageChooser->setCurrentIndex(mCurrentPage);
+        return;
+    }
+    turnToPage(index);
+}
+
+void PrintDialog::follow()
+{
+    if (mClosed) {
+        return;
+    }
+    mSummary->showSummary(mPanels.summary());
+    mPreview->follow(mJob.pageFormat().paper, mJob.options());
+    mPreview->setVisible(mJob.pageFormat().paper.has_value());
+    selectChoice(mTapePopUp, job::markedChoice(mJob.ppd(), job::OptionName::pageSize));
+    mCopiesField->setValue(mJob.copies());
+    if (mOptionsPage) {
+        mOptionsPage->follow();
+    }
+}
+
+void PrintDialog::revert()
+{
+    QString error;
+    if (!mPanels.revert(&error)) {
+        tellProblem(error);
+    }
+    follow();
+}
+
+void PrintDialog::print()
+{
+    QString error;
+    if (!mPanels.saveValues(&error)) {
+        tellProblem(error);
+        return;
+    }
+    // A panel that refuses has told the person why; the dialog stays as it is.
+    if (!mPanels.shouldPrint(&error)) {
+        follow();
+        return;
+    }
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const QString printed = mPrintAction(&error);
+    QApplication::restoreOverrideCursor();
+    if (printed.isNull()) {
+        tellProblem(error);
+        return;
+    }
+    QMessageBox::information(this, windowTitle(), printed);
+    accept();
+}
+
+void PrintDialog::done(int code)
+{
+    if (!mClosed) {
+        mClosed = true;
+        QApplication::instance()->removeEventFilter(this);
+        mPanels.windowWillClose(code == Accepted);
+    }
+    QDialog::done(code);
+}
+
+void PrintDialog::tellProblem(const QString &sentence)
+{
+    QMessageBox::critical(this, windowTitle(), sentence);
+}
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: Apache-2.0
+// A read-only list of two columns. It is filled anew at every change, which costs little: a panel says a dozen lines.
+#include "dialog/SummaryView.h"
+
+#include <QHeaderView>
+
+namespace tapeprint::dialog
+{
+
+SummaryView::SummaryView(QWidget *parent) : QTreeWidget(parent)
+{
+    setObjectName(QStringLiteral("summary"));
+    setAccessibleName(tr("Summary"));
+    setColumnCount(2);
+    setHeaderHidden(true);
+    setRootIsDecorated(false);
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setAlternatingRowColors(true);
+    setWordWrap(true);
+    header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    header()->setStretchLastSection(true);
+}
+
+void SummaryView::showSummary(const std::vector<PanelSummary> &summary)
+{
+    QList<QTreeWidgetItem *> items;
+    for (const PanelSummary &panel : summary) {
+        // One panel needs no heading of its own.
+        if (summary.size() > 1) {
+            auto *heading = new QTreeWidgetItem({panel.panelName});
+            heading->setFirstColumnSpanned(true);
+            QFont bold = font();
+            bold.setBold(true);
+            heading->setFont(0, bold);
+            items.append(heading);
+        }
+        for (const auto &[title, value] : panel.lines) {
+            auto *item = new QTreeWidgetItem({title, value});
+            item->setToolTip(1, value);
+            items.append(item);
+        }
+    }
+    clear();
+    addTopLevelItems(items);
+}
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,272 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>tapeprint::dialog::OptionsPage</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of an option</comment>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::Panels</name>
+    <message>
+        <source>The plug-in %1 could not make its panel: printing works without it.</source>
+        <translation>Das Plug-in %1 konnte seinen Bereich nicht anlegen. Gedruckt werden kann auch ohne ihn.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</source>
+        <translation>Der Bereich „%1“ von %2 hat keine Ansicht. Seine Werte werden so gedruckt, wie sie vorgegeben sind.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
+        <translation>Der Bereich „%1“ konnte seine Werte nicht übergeben: %2</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
+        <translation>Der Bereich „%1“ konnte seine Werte nicht wiederherstellen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>&amp;Drucker:</translation>
+    </message>
+    <message>
+        <source>&amp;Tape:</source>
+        <translation>&amp;Band:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Kopien:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;nel:</source>
+        <translation>Be&amp;reich:</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Go back to the values that the dialog was opened with</source>
+        <translation>Auf die Werte beim Öffnen des Dialogs zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Dr&amp;ucken</translation>
+    </message>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (keine Druckerwarteschlange)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>This panel has no view.</source>
+        <translation>Dieser Bereich hat keine Ansicht.</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Weitere Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SummaryView</name>
+    <message>
+        <source>Summary</source>
+        <translation>Übersicht</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::TapePreview</name>
+    <message>
+        <source>Tape preview</source>
+        <translation>Bandvorschau</translation>
+    </message>
+    <message>
+        <source>Length %1, width %2</source>
+        <translation>Länge %1, Breite %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::job::Texts</name>
+    <message>
+        <source>they do not say why</source>
+        <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
+        <translation>Die Druckdaten können nicht in %1 geschrieben werden (%2). Schaffen Sie dort Platz oder geben Sie mit --output eine andere Datei an.</translation>
+    </message>
+    <message>
+        <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
+        <translation>Die Filter können nicht gestartet werden (%1). Prüfen Sie, ob CUPS vollständig installiert ist.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 could not print the document %2: %3.</source>
+        <translation>Die Filter von %1 konnten das Dokument %2 nicht drucken: %3.</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter is missing: install the package cups.</source>
+        <translation>Das Programm cupsfilter fehlt. Installieren Sie das Paket „cups“.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another with --output.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden (%2). Geben Sie mit --output eine andere an.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
+        <translation>Die Filter von %1 haben aus dem Dokument nichts erzeugt. Prüfen Sie, ob es Seiten zum Drucken enthält.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read (%2): name a readable file.</source>
+        <translation>Das Dokument %1 kann nicht gelesen werden (%2). Geben Sie eine lesbare Datei an.</translation>
+    </message>
+    <message>
+        <source>The print server did not take the document %1 (%2): see that it is a kind of document that the queue prints.</source>
+        <translation>Der Druckserver hat das Dokument %1 nicht angenommen (%2). Prüfen Sie, ob die Warteschlange Dokumente dieser Art druckt.</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</source>
+        <translation>Die Warteschlange %1 ist nicht erreichbar (%2). „lpstat -e“ nennt die vorhandenen Warteschlangen.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
+        <translation>Die Warteschlange %1 hat den Auftrag nicht angenommen (%2). Näheres zeigt „lpstat -p %1 -l“.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>%1=%2 gehört nicht zu den Werten, die die PPD-Datei des Druckers aufführt.</translation>
+    </message>
+    <message>
+        <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
+        <translation>Die Option %1 erreicht den Filter des Druckers nie, weil der Druckserver sie für sein eigenes Attribut %2 hält. Geben Sie ihr in der PPD-Datei einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>sein Code ist kein Plug-in, das dieses Qt laden kann</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>es ist für eine andere Bereichsschnittstelle gemacht (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>seine Metadaten nennen keine Hauptklasse</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>es bietet keine Bereiche für Drucker</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>die Datei %1 fehlt</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>sein Code kann nicht geladen werden: %1</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>die Hauptklasse %1 fehlt</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>es kann auf diesem System nicht arbeiten</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>Das Plug-in %1 wird nicht verwendet: %2. Gedruckt werden kann auch ohne es. Aktualisieren oder entfernen Sie das Bundle.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read (%2): name a readable PPD file.</source>
+        <translation>Die PPD-Datei %1 kann nicht gelesen werden (%2). Geben Sie eine lesbare PPD-Datei an.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
+        <translation>Die PPD-Datei %1 ist ungültig, Zeile %2: %3. Berichtigen Sie die Datei oder geben Sie eine andere an.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
+        <translation>Der Druckserver %1 antwortet nicht. Starten Sie ihn, nennen Sie in CUPS_SERVER einen anderen oder drucken Sie mit --ppd DATEI ohne Server.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
+        <translation>Es gibt keinen Standarddrucker. Nennen Sie mit -d WARTESCHLANGE eine Warteschlange oder drucken Sie mit --ppd DATEI ohne eine.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
+        <translation>Der Druckserver kennt keine Warteschlange %1. „lpstat -e“ nennt die vorhandenen Warteschlangen.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
+        <translation>Die PPD-Datei der Warteschlange %1 ist vom Druckserver nicht zu bekommen (%2). Prüfen Sie, ob die Warteschlange eingerichtet ist.</translation>
+    </message>
+    <message>
+        <source>of queue %1</source>
+        <translation>der Warteschlange %1</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>pending-held</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>wird gedruckt</translation>
+    </message>
+    <message>
+        <source>processing-stopped</source>
+        <translation>unterbrochen</translation>
+    </message>
+    <message>
+        <source>canceled</source>
+        <translation>storniert</translation>
+    </message>
+    <message>
+        <source>aborted</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation>fertig</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>gesendet</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes are in %1 (%2 bytes).</source>
+        <translation>Die Druckdaten sind in %1 (%2 Byte).</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is %3.</source>
+        <translation>Auftrag %1-%2: %3.</translation>
+    </message>
+</context>
+</TS>

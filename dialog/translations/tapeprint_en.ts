@@ -1,0 +1,272 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>tapeprint::dialog::OptionsPage</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of an option</comment>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::Panels</name>
+    <message>
+        <source>The plug-in %1 could not make its panel: printing works without it.</source>
+        <translation>The plug-in %1 could not make its panel: printing works without it.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</source>
+        <translation>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
+        <translation>The panel &quot;%1&quot; could not hand over its values: %2</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
+        <translation>The panel &quot;%1&quot; could not restore its values: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>Print %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>P&amp;rinter:</translation>
+    </message>
+    <message>
+        <source>&amp;Tape:</source>
+        <translation>&amp;Tape:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copies:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;nel:</source>
+        <translation>Pa&amp;nel:</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Summary</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>Re&amp;vert</translation>
+    </message>
+    <message>
+        <source>Go back to the values that the dialog was opened with</source>
+        <translation>Go back to the values that the dialog was opened with</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Print</translation>
+    </message>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (no print queue)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>This panel has no view.</source>
+        <translation>This panel has no view.</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>More Options</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SummaryView</name>
+    <message>
+        <source>Summary</source>
+        <translation>Summary</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::TapePreview</name>
+    <message>
+        <source>Tape preview</source>
+        <translation>Tape preview</translation>
+    </message>
+    <message>
+        <source>Length %1, width %2</source>
+        <translation>Length %1, width %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::job::Texts</name>
+    <message>
+        <source>they do not say why</source>
+        <translation>they do not say why</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
+        <translation>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</translation>
+    </message>
+    <message>
+        <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
+        <translation>The filters cannot be started (%1): see that CUPS is installed whole.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 could not print the document %2: %3.</source>
+        <translation>The filters of %1 could not print the document %2: %3.</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter is missing: install the package cups.</source>
+        <translation>The program cupsfilter is missing: install the package cups.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another with --output.</source>
+        <translation>The file %1 cannot be written (%2): name another with --output.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
+        <translation>The filters of %1 made nothing of the document: see that it has pages to print.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read (%2): name a readable file.</source>
+        <translation>The document %1 cannot be read (%2): name a readable file.</translation>
+    </message>
+    <message>
+        <source>The print server did not take the document %1 (%2): see that it is a kind of document that the queue prints.</source>
+        <translation>The print server did not take the document %1 (%2): see that it is a kind of document that the queue prints.</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</source>
+        <translation>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
+        <translation>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>%1=%2 is none of the choices that the printer&apos;s PPD lists.</translation>
+    </message>
+    <message>
+        <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
+        <translation>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>its code is no plug-in that this Qt can load</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>it is made for another panel interface (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>its metadata names no principal class</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>it does not serve printer panels</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>it has no file %1</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>its code cannot be loaded: %1</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>it has no principal class %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>it cannot serve on this system</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>it is a folder</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read (%2): name a readable PPD file.</source>
+        <translation>The PPD file %1 cannot be read (%2): name a readable PPD file.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
+        <translation>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
+        <translation>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
+        <translation>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
+        <translation>The print server knows no queue %1: see lpstat -e for the queues there are.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
+        <translation>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</translation>
+    </message>
+    <message>
+        <source>of queue %1</source>
+        <translation>of queue %1</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>pending</translation>
+    </message>
+    <message>
+        <source>pending-held</source>
+        <translation>pending-held</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>processing</translation>
+    </message>
+    <message>
+        <source>processing-stopped</source>
+        <translation>processing-stopped</translation>
+    </message>
+    <message>
+        <source>canceled</source>
+        <translation>canceled</translation>
+    </message>
+    <message>
+        <source>aborted</source>
+        <translation>aborted</translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation>completed</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>sent</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes are in %1 (%2 bytes).</source>
+        <translation>The printer&apos;s bytes are in %1 (%2 bytes).</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is %3.</source>
+        <translation>Job %1-%2 is %3.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,272 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>tapeprint::dialog::OptionsPage</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of an option</comment>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::Panels</name>
+    <message>
+        <source>The plug-in %1 could not make its panel: printing works without it.</source>
+        <translation>El complemento %1 no pudo crear su panel. Se puede imprimir sin él.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</source>
+        <translation>El panel «%1» de %2 no tiene vista. Sus valores se imprimen tal como están definidos.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
+        <translation>El panel «%1» no pudo entregar sus valores: %2</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
+        <translation>El panel «%1» no pudo restablecer sus valores: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimir %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>I&amp;mpresora:</translation>
+    </message>
+    <message>
+        <source>&amp;Tape:</source>
+        <translation>Cin&amp;ta:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copias:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;nel:</source>
+        <translation>Pa&amp;nel:</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Restablecer</translation>
+    </message>
+    <message>
+        <source>Go back to the values that the dialog was opened with</source>
+        <translation>Volver a los valores que había al abrir el diálogo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimir</translation>
+    </message>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (sin cola de impresión)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>This panel has no view.</source>
+        <translation>Este panel no tiene vista.</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Más opciones</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SummaryView</name>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::TapePreview</name>
+    <message>
+        <source>Tape preview</source>
+        <translation>Vista previa de la cinta</translation>
+    </message>
+    <message>
+        <source>Length %1, width %2</source>
+        <translation>Longitud %1, ancho %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::job::Texts</name>
+    <message>
+        <source>they do not say why</source>
+        <translation>no indican el motivo</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
+        <translation>No se pueden escribir los datos de impresión en %1 (%2). Libere espacio o indique otro archivo con --output.</translation>
+    </message>
+    <message>
+        <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
+        <translation>No se pueden iniciar los filtros (%1). Compruebe que CUPS esté instalado por completo.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 could not print the document %2: %3.</source>
+        <translation>Los filtros de %1 no pudieron imprimir el documento %2: %3.</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter is missing: install the package cups.</source>
+        <translation>Falta el programa cupsfilter. Instale el paquete cups.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another with --output.</source>
+        <translation>No se puede escribir el archivo %1 (%2). Indique otro con --output.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
+        <translation>Los filtros de %1 no generaron nada a partir del documento. Compruebe que tenga páginas para imprimir.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read (%2): name a readable file.</source>
+        <translation>No se puede leer el documento %1 (%2). Indique un archivo legible.</translation>
+    </message>
+    <message>
+        <source>The print server did not take the document %1 (%2): see that it is a kind of document that the queue prints.</source>
+        <translation>El servidor de impresión no aceptó el documento %1 (%2). Compruebe que la cola imprima este tipo de documento.</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</source>
+        <translation>No se puede acceder a la cola %1 (%2). La orden lpstat -e muestra las colas que hay.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
+        <translation>La cola %1 no aceptó el trabajo (%2). Consulte lpstat -p %1 -l.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>%1=%2 no figura entre las opciones del archivo PPD de la impresora.</translation>
+    </message>
+    <message>
+        <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
+        <translation>La opción %1 nunca llega al filtro de la impresora, porque el servidor de impresión la toma por su propio atributo %2. Dele otro nombre en el archivo PPD.</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>su código no es un complemento que esta versión de Qt pueda cargar</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>está hecho para otra interfaz de paneles (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>sus metadatos no indican ninguna clase principal</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>no ofrece paneles de impresora</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>no tiene el archivo %1</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>no se puede cargar su código: %1</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>no tiene la clase principal %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>no puede funcionar en este sistema</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>El complemento %1 no se usa: %2. Se puede imprimir sin él; actualícelo o elimínelo.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read (%2): name a readable PPD file.</source>
+        <translation>No se puede leer el archivo PPD %1 (%2). Indique un archivo PPD legible.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
+        <translation>El archivo PPD %1 no es válido, línea %2: %3. Corrija el archivo o indique otro.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
+        <translation>El servidor de impresión %1 no responde. Inícielo, indique otro en CUPS_SERVER o imprima sin servidor con --ppd ARCHIVO.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
+        <translation>No hay ninguna impresora predeterminada. Indique una cola de impresión con -d COLA o imprima sin cola con --ppd ARCHIVO.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
+        <translation>El servidor de impresión no conoce la cola %1. La orden lpstat -e muestra las colas que hay.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
+        <translation>No se puede obtener del servidor de impresión el archivo PPD de la cola %1 (%2). Compruebe que la cola esté configurada.</translation>
+    </message>
+    <message>
+        <source>of queue %1</source>
+        <translation>de la cola %1</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>en espera</translation>
+    </message>
+    <message>
+        <source>pending-held</source>
+        <translation>retenido</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>imprimiéndose</translation>
+    </message>
+    <message>
+        <source>processing-stopped</source>
+        <translation>detenido</translation>
+    </message>
+    <message>
+        <source>canceled</source>
+        <translation>cancelado</translation>
+    </message>
+    <message>
+        <source>aborted</source>
+        <translation>interrumpido</translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation>terminado</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>enviado</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes are in %1 (%2 bytes).</source>
+        <translation>Los datos de impresión están en %1 (%2 bytes).</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is %3.</source>
+        <translation>Trabajo %1-%2: %3.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,272 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>tapeprint::dialog::OptionsPage</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of an option</comment>
+        <translation>%1&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::Panels</name>
+    <message>
+        <source>The plug-in %1 could not make its panel: printing works without it.</source>
+        <translation>Le module %1 n’a pas pu créer son volet. L’impression fonctionne sans lui.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</source>
+        <translation>Le volet «&#xa0;%1&#xa0;» de %2 n’a pas de vue. Ses valeurs sont imprimées telles qu’elles sont définies.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
+        <translation>Le volet «&#xa0;%1&#xa0;» n’a pas pu transmettre ses valeurs&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
+        <translation>Le volet «&#xa0;%1&#xa0;» n’a pas pu rétablir ses valeurs&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimer %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>&amp;Imprimante&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Tape:</source>
+        <translation>&amp;Ruban&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copies&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;nel:</source>
+        <translation>&amp;Volet&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>Ré&amp;tablir</translation>
+    </message>
+    <message>
+        <source>Go back to the values that the dialog was opened with</source>
+        <translation>Revenir aux valeurs présentes à l’ouverture de la fenêtre</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>I&amp;mprimer</translation>
+    </message>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (sans file d’impression)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>This panel has no view.</source>
+        <translation>Ce volet n’a pas de vue.</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Autres options</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SummaryView</name>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::TapePreview</name>
+    <message>
+        <source>Tape preview</source>
+        <translation>Aperçu du ruban</translation>
+    </message>
+    <message>
+        <source>Length %1, width %2</source>
+        <translation>Longueur %1, largeur %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::job::Texts</name>
+    <message>
+        <source>they do not say why</source>
+        <translation>sans en indiquer la raison</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
+        <translation>Les données d’impression ne peuvent pas être écrites dans %1 (%2). Libérez de la place ou indiquez un autre fichier avec --output.</translation>
+    </message>
+    <message>
+        <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
+        <translation>Les filtres ne peuvent pas être lancés (%1). Vérifiez que CUPS est entièrement installé.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 could not print the document %2: %3.</source>
+        <translation>Les filtres de %1 n’ont pas pu imprimer le document %2&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter is missing: install the package cups.</source>
+        <translation>Le programme cupsfilter est introuvable. Installez le paquet cups.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another with --output.</source>
+        <translation>Le fichier %1 ne peut pas être écrit (%2). Indiquez-en un autre avec --output.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
+        <translation>Les filtres de %1 n’ont rien produit à partir du document. Vérifiez qu’il contient des pages à imprimer.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read (%2): name a readable file.</source>
+        <translation>Le document %1 ne peut pas être lu (%2). Indiquez un fichier lisible.</translation>
+    </message>
+    <message>
+        <source>The print server did not take the document %1 (%2): see that it is a kind of document that the queue prints.</source>
+        <translation>Le serveur d’impression a refusé le document %1 (%2). Vérifiez que la file imprime ce type de document.</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</source>
+        <translation>La file d’impression %1 est injoignable (%2). La commande lpstat -e donne les files existantes.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
+        <translation>La file d’impression %1 a refusé la tâche (%2). Voyez lpstat -p %1 -l.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>%1=%2 ne figure pas parmi les choix du fichier PPD de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
+        <translation>L’option %1 n’atteint jamais le filtre de l’imprimante, car le serveur d’impression la prend pour son propre attribut %2. Donnez-lui un autre nom dans le fichier PPD.</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>son code n’est pas un module que cette version de Qt peut charger</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>il est conçu pour une autre interface de volets (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>ses métadonnées n’indiquent aucune classe principale</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>il ne fournit pas de volets d’imprimante</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>il n’a pas de fichier %1</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>son code ne peut pas être chargé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>il n’a pas de classe principale %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>il ne peut pas fonctionner sur ce système</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>Le module %1 n’est pas utilisé&#xa0;: %2. L’impression fonctionne sans lui. Mettez-le à jour ou supprimez-le.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read (%2): name a readable PPD file.</source>
+        <translation>Le fichier PPD %1 ne peut pas être lu (%2). Indiquez un fichier PPD lisible.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
+        <translation>Le fichier PPD %1 n’est pas valide, ligne %2&#xa0;: %3. Corrigez le fichier ou indiquez-en un autre.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
+        <translation>Le serveur d’impression %1 ne répond pas. Démarrez-le, indiquez-en un autre dans CUPS_SERVER ou imprimez sans serveur avec --ppd FICHIER.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
+        <translation>Il n’y a pas d’imprimante par défaut. Indiquez une file d’impression avec -d FILE ou imprimez sans file avec --ppd FICHIER.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
+        <translation>Le serveur d’impression ne connaît pas la file %1. La commande lpstat -e donne les files existantes.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
+        <translation>Le serveur d’impression ne fournit pas le fichier PPD de la file %1 (%2). Vérifiez que la file est configurée.</translation>
+    </message>
+    <message>
+        <source>of queue %1</source>
+        <translation>de la file %1</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>en attente</translation>
+    </message>
+    <message>
+        <source>pending-held</source>
+        <translation>suspendue</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>en cours d’impression</translation>
+    </message>
+    <message>
+        <source>processing-stopped</source>
+        <translation>interrompue</translation>
+    </message>
+    <message>
+        <source>canceled</source>
+        <translation>annulée</translation>
+    </message>
+    <message>
+        <source>aborted</source>
+        <translation>abandonnée</translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation>terminée</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>envoyée</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes are in %1 (%2 bytes).</source>
+        <translation>Les données d’impression sont dans %1 (%2 octets).</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is %3.</source>
+        <translation>Tâche %1-%2&#xa0;: %3.</translation>
+    </message>
+</context>
+</TS>

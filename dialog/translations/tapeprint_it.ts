@@ -1,0 +1,272 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>tapeprint::dialog::OptionsPage</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of an option</comment>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::Panels</name>
+    <message>
+        <source>The plug-in %1 could not make its panel: printing works without it.</source>
+        <translation>Il plug-in %1 non ha potuto creare il suo pannello. La stampa funziona anche senza.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</source>
+        <translation>Il pannello &quot;%1&quot; di %2 non ha una vista. I suoi valori vengono stampati così come sono definiti.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
+        <translation>Il pannello &quot;%1&quot; non ha potuto consegnare i suoi valori: %2</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
+        <translation>Il pannello &quot;%1&quot; non ha potuto ripristinare i suoi valori: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>Stampa %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Stam&amp;pante:</translation>
+    </message>
+    <message>
+        <source>&amp;Tape:</source>
+        <translation>&amp;Nastro:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copie:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;nel:</source>
+        <translation>Pann&amp;ello:</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Riepilogo</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Ripristina</translation>
+    </message>
+    <message>
+        <source>Go back to the values that the dialog was opened with</source>
+        <translation>Torna ai valori presenti all’apertura della finestra</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Stampa</translation>
+    </message>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (nessuna coda di stampa)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>This panel has no view.</source>
+        <translation>Questo pannello non ha una vista.</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Altre opzioni</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SummaryView</name>
+    <message>
+        <source>Summary</source>
+        <translation>Riepilogo</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::TapePreview</name>
+    <message>
+        <source>Tape preview</source>
+        <translation>Anteprima del nastro</translation>
+    </message>
+    <message>
+        <source>Length %1, width %2</source>
+        <translation>Lunghezza %1, larghezza %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::job::Texts</name>
+    <message>
+        <source>they do not say why</source>
+        <translation>senza indicarne il motivo</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
+        <translation>Impossibile scrivere i dati di stampa in %1 (%2). Liberare spazio o indicare un altro file con --output.</translation>
+    </message>
+    <message>
+        <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
+        <translation>Impossibile avviare i filtri (%1). Verificare che CUPS sia installato per intero.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 could not print the document %2: %3.</source>
+        <translation>I filtri di %1 non hanno potuto stampare il documento %2: %3.</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter is missing: install the package cups.</source>
+        <translation>Manca il programma cupsfilter. Installare il pacchetto cups.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another with --output.</source>
+        <translation>Impossibile scrivere il file %1 (%2). Indicarne un altro con --output.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
+        <translation>I filtri di %1 non hanno prodotto nulla dal documento. Verificare che contenga pagine da stampare.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read (%2): name a readable file.</source>
+        <translation>Impossibile leggere il documento %1 (%2). Indicare un file leggibile.</translation>
+    </message>
+    <message>
+        <source>The print server did not take the document %1 (%2): see that it is a kind of document that the queue prints.</source>
+        <translation>Il server di stampa non ha accettato il documento %1 (%2). Verificare che la coda stampi questo tipo di documento.</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</source>
+        <translation>La coda %1 non è raggiungibile (%2). Il comando lpstat -e elenca le code presenti.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
+        <translation>La coda %1 non ha accettato il lavoro (%2). Vedere lpstat -p %1 -l.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>%1=%2 non è tra le scelte elencate nel file PPD della stampante.</translation>
+    </message>
+    <message>
+        <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
+        <translation>L’opzione %1 non arriva mai al filtro della stampante, perché il server di stampa la scambia per il proprio attributo %2. Darle un altro nome nel file PPD.</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>il suo codice non è un plug-in che questa versione di Qt possa caricare</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>è fatto per un’altra interfaccia di pannelli (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>i suoi metadati non indicano una classe principale</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>non offre pannelli per stampanti</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>non contiene il file %1</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>il suo codice non può essere caricato: %1</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>non ha la classe principale %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>non può funzionare su questo sistema</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>Il plug-in %1 non viene usato: %2. La stampa funziona anche senza; aggiornarlo o rimuoverlo.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>è una cartella</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read (%2): name a readable PPD file.</source>
+        <translation>Impossibile leggere il file PPD %1 (%2). Indicare un file PPD leggibile.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
+        <translation>Il file PPD %1 non è valido, riga %2: %3. Correggere il file o indicarne un altro.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
+        <translation>Il server di stampa %1 non risponde. Avviarlo, indicarne un altro in CUPS_SERVER o stampare senza server con --ppd FILE.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
+        <translation>Non c’è una stampante predefinita. Indicare una coda di stampa con -d CODA o stampare senza coda con --ppd FILE.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
+        <translation>Il server di stampa non conosce la coda %1. Il comando lpstat -e elenca le code presenti.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
+        <translation>Il server di stampa non fornisce il file PPD della coda %1 (%2). Verificare che la coda sia configurata.</translation>
+    </message>
+    <message>
+        <source>of queue %1</source>
+        <translation>della coda %1</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>in attesa</translation>
+    </message>
+    <message>
+        <source>pending-held</source>
+        <translation>sospeso</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>in stampa</translation>
+    </message>
+    <message>
+        <source>processing-stopped</source>
+        <translation>interrotto</translation>
+    </message>
+    <message>
+        <source>canceled</source>
+        <translation>annullato</translation>
+    </message>
+    <message>
+        <source>aborted</source>
+        <translation>terminato con errore</translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation>completato</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>inviato</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes are in %1 (%2 bytes).</source>
+        <translation>I dati di stampa sono in %1 (%2 byte).</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is %3.</source>
+        <translation>Lavoro %1-%2: %3.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,272 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>tapeprint::dialog::OptionsPage</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of an option</comment>
+        <translation>%1：</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::Panels</name>
+    <message>
+        <source>The plug-in %1 could not make its panel: printing works without it.</source>
+        <translation>プラグイン %1 はパネルを作成できませんでした。パネルがなくても印刷できます。</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</source>
+        <translation>%2 のパネル「%1」には表示がありません。値は設定されているとおりに印刷されます。</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
+        <translation>パネル「%1」は値を渡すことができませんでした：%2</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
+        <translation>パネル「%1」は値を元に戻すことができませんでした：%2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 を印刷</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>プリンター(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Tape:</source>
+        <translation>テープ(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>部数(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Pa&amp;nel:</source>
+        <translation>パネル(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>設定内容</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>元に戻す(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Go back to the values that the dialog was opened with</source>
+        <translation>ダイアログを開いたときの値に戻します</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1（プリントキューなし）</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>This panel has no view.</source>
+        <translation>このパネルには表示がありません。</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>その他のオプション</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SummaryView</name>
+    <message>
+        <source>Summary</source>
+        <translation>設定内容</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::TapePreview</name>
+    <message>
+        <source>Tape preview</source>
+        <translation>テープのプレビュー</translation>
+    </message>
+    <message>
+        <source>Length %1, width %2</source>
+        <translation>長さ %1、幅 %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::job::Texts</name>
+    <message>
+        <source>they do not say why</source>
+        <translation>理由は示されていません</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
+        <translation>印刷データを %1 に書き込めません（%2）。空き容量を増やすか、--output で別のファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
+        <translation>フィルターを起動できません（%1）。CUPS が完全にインストールされているか確認してください。</translation>
+    </message>
+    <message>
+        <source>The filters of %1 could not print the document %2: %3.</source>
+        <translation>%1 のフィルターは書類 %2 を印刷できませんでした：%3。</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter is missing: install the package cups.</source>
+        <translation>プログラム cupsfilter がありません。パッケージ cups をインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another with --output.</source>
+        <translation>ファイル %1 に書き込めません（%2）。--output で別のファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
+        <translation>%1 のフィルターは書類から何も出力しませんでした。印刷するページがあるか確認してください。</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read (%2): name a readable file.</source>
+        <translation>書類 %1 を読み込めません（%2）。読み込み可能なファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>The print server did not take the document %1 (%2): see that it is a kind of document that the queue prints.</source>
+        <translation>プリントサーバーは書類 %1 を受け付けませんでした（%2）。キューで印刷できる種類の書類か確認してください。</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</source>
+        <translation>キュー %1 に接続できません（%2）。使用できるキューは lpstat -e で確認できます。</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
+        <translation>キュー %1 はジョブを受け付けませんでした（%2）。lpstat -p %1 -l で確認してください。</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>%1=%2 は、プリンターの PPD にある選択肢ではありません。</translation>
+    </message>
+    <message>
+        <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
+        <translation>オプション %1 はプリントサーバー自身の属性 %2 とみなされるため、プリンターのフィルターに届きません。PPD で別の名前を付けてください。</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>コードがこの Qt で読み込めるプラグインではありません</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>別のパネルインターフェイス用に作られています（%1）</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>メタデータに主クラスの名前がありません</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>プリンターのパネルを提供していません</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>ファイル %1 がありません</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>コードを読み込めません：%1</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>主クラス %1 がありません</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>このシステムでは動作しません</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>プラグイン %1 は使用されません：%2。プラグインがなくても印刷できます。バンドルを更新するか削除してください。</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read (%2): name a readable PPD file.</source>
+        <translation>PPD ファイル %1 を読み込めません（%2）。読み込み可能な PPD ファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
+        <translation>PPD ファイル %1 は正しくありません（%2 行目：%3）。ファイルを修正するか、別のファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
+        <translation>プリントサーバー %1 が応答しません。サーバーを起動するか、CUPS_SERVER で別のサーバーを指定するか、--ppd ファイル でサーバーなしで印刷してください。</translation>
+    </message>
+    <message>
+        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
+        <translation>デフォルトのプリンターがありません。-d キュー でプリントキューを指定するか、--ppd ファイル でキューなしで印刷してください。</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
+        <translation>プリントサーバーにキュー %1 はありません。使用できるキューは lpstat -e で確認できます。</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
+        <translation>キュー %1 の PPD をプリントサーバーから取得できません（%2）。キューが設定されているか確認してください。</translation>
+    </message>
+    <message>
+        <source>of queue %1</source>
+        <translation>（キュー %1）</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>pending-held</source>
+        <translation>保留中</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>処理中</translation>
+    </message>
+    <message>
+        <source>processing-stopped</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>canceled</source>
+        <translation>キャンセル済み</translation>
+    </message>
+    <message>
+        <source>aborted</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>送信済み</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes are in %1 (%2 bytes).</source>
+        <translation>印刷データは %1 にあります（%2 バイト）。</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is %3.</source>
+        <translation>ジョブ %1-%2：%3。</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,272 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="ko" sourcelanguage="en">
+<context>
+    <name>tapeprint::dialog::OptionsPage</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of an option</comment>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::Panels</name>
+    <message>
+        <source>The plug-in %1 could not make its panel: printing works without it.</source>
+        <translation>플러그인 %1이(가) 패널을 만들지 못했습니다. 패널이 없어도 인쇄할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</source>
+        <translation>%2의 패널 ‘%1’에 표시할 화면이 없습니다. 값은 설정된 그대로 인쇄됩니다.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
+        <translation>패널 ‘%1’이(가) 값을 전달하지 못했습니다: %2</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
+        <translation>패널 ‘%1’이(가) 값을 되돌리지 못했습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 인쇄</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>프린터(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Tape:</source>
+        <translation>테이프(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>매수(&amp;C):</translation>
+    </message>
+    <message>
+        <source>Pa&amp;nel:</source>
+        <translation>패널(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>요약</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>되돌리기(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Go back to the values that the dialog was opened with</source>
+        <translation>대화 상자를 열었을 때의 값으로 되돌립니다</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>인쇄(&amp;P)</translation>
+    </message>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1(인쇄 대기열 없음)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1(%2)</translation>
+    </message>
+    <message>
+        <source>This panel has no view.</source>
+        <translation>이 패널에는 표시할 화면이 없습니다.</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>추가 옵션</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SummaryView</name>
+    <message>
+        <source>Summary</source>
+        <translation>요약</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::TapePreview</name>
+    <message>
+        <source>Tape preview</source>
+        <translation>테이프 미리 보기</translation>
+    </message>
+    <message>
+        <source>Length %1, width %2</source>
+        <translation>길이 %1, 폭 %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::job::Texts</name>
+    <message>
+        <source>they do not say why</source>
+        <translation>이유가 표시되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
+        <translation>인쇄 데이터를 %1에 쓸 수 없습니다(%2). 공간을 확보하거나 --output으로 다른 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
+        <translation>필터를 시작할 수 없습니다(%1). CUPS가 완전히 설치되어 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 could not print the document %2: %3.</source>
+        <translation>%1의 필터가 문서 %2을(를) 인쇄하지 못했습니다: %3.</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter is missing: install the package cups.</source>
+        <translation>cupsfilter 프로그램이 없습니다. cups 패키지를 설치하십시오.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another with --output.</source>
+        <translation>파일 %1에 쓸 수 없습니다(%2). --output으로 다른 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
+        <translation>%1의 필터가 문서에서 아무것도 만들지 못했습니다. 인쇄할 페이지가 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read (%2): name a readable file.</source>
+        <translation>문서 %1을(를) 읽을 수 없습니다(%2). 읽을 수 있는 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The print server did not take the document %1 (%2): see that it is a kind of document that the queue prints.</source>
+        <translation>인쇄 서버가 문서 %1을(를) 받지 않았습니다(%2). 대기열에서 인쇄할 수 있는 종류의 문서인지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</source>
+        <translation>대기열 %1에 연결할 수 없습니다(%2). 사용 가능한 대기열은 lpstat -e로 확인할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
+        <translation>대기열 %1이(가) 작업을 받지 않았습니다(%2). lpstat -p %1 -l을 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>%1=%2은(는) 프린터의 PPD에 있는 선택 항목이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
+        <translation>인쇄 서버가 옵션 %1을(를) 자체 속성 %2(으)로 여기므로 프린터 필터에 전달되지 않습니다. PPD에서 다른 이름을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>코드가 이 Qt에서 불러올 수 있는 플러그인이 아닙니다</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>다른 패널 인터페이스용으로 만들어졌습니다(%1)</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>메타데이터에 주 클래스 이름이 없습니다</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>프린터 패널을 제공하지 않습니다</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>파일 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>코드를 불러올 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>주 클래스 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>이 시스템에서는 작동하지 않습니다</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>플러그인 %1을(를) 사용하지 않습니다: %2. 플러그인이 없어도 인쇄할 수 있습니다. 번들을 업데이트하거나 제거하십시오.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>폴더입니다</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read (%2): name a readable PPD file.</source>
+        <translation>PPD 파일 %1을(를) 읽을 수 없습니다(%2). 읽을 수 있는 PPD 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
+        <translation>PPD 파일 %1이(가) 올바르지 않습니다(%2행: %3). 파일을 수정하거나 다른 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
+        <translation>인쇄 서버 %1이(가) 응답하지 않습니다. 서버를 시작하거나, CUPS_SERVER에 다른 서버를 지정하거나, --ppd 파일로 서버 없이 인쇄하십시오.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
+        <translation>기본 프린터가 없습니다. -d 대기열로 인쇄 대기열을 지정하거나 --ppd 파일로 대기열 없이 인쇄하십시오.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
+        <translation>인쇄 서버에 대기열 %1이(가) 없습니다. 사용 가능한 대기열은 lpstat -e로 확인할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
+        <translation>인쇄 서버에서 대기열 %1의 PPD를 가져올 수 없습니다(%2). 대기열이 설정되어 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>of queue %1</source>
+        <translation>(대기열 %1)</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>대기 중</translation>
+    </message>
+    <message>
+        <source>pending-held</source>
+        <translation>보류 중</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>처리 중</translation>
+    </message>
+    <message>
+        <source>processing-stopped</source>
+        <translation>중지됨</translation>
+    </message>
+    <message>
+        <source>canceled</source>
+        <translation>취소됨</translation>
+    </message>
+    <message>
+        <source>aborted</source>
+        <translation>중단됨</translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>전송됨</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes are in %1 (%2 bytes).</source>
+        <translation>인쇄 데이터는 %1에 있습니다(%2바이트).</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is %3.</source>
+        <translation>작업 %1-%2: %3.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,272 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="nl" sourcelanguage="en">
+<context>
+    <name>tapeprint::dialog::OptionsPage</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of an option</comment>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::Panels</name>
+    <message>
+        <source>The plug-in %1 could not make its panel: printing works without it.</source>
+        <translation>De plug-in %1 kon zijn paneel niet maken. Afdrukken kan ook zonder.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</source>
+        <translation>Het paneel ‘%1’ van %2 heeft geen weergave. De waarden worden afgedrukt zoals ze zijn ingesteld.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
+        <translation>Het paneel ‘%1’ kon zijn waarden niet doorgeven: %2</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
+        <translation>Het paneel ‘%1’ kon zijn waarden niet herstellen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 afdrukken</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>P&amp;rinter:</translation>
+    </message>
+    <message>
+        <source>&amp;Tape:</source>
+        <translation>&amp;Tape:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Kopieën:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;nel:</source>
+        <translation>Pa&amp;neel:</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Overzicht</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Herstellen</translation>
+    </message>
+    <message>
+        <source>Go back to the values that the dialog was opened with</source>
+        <translation>Teruggaan naar de waarden bij het openen van het venster</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Afdrukken</translation>
+    </message>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (geen afdrukwachtrij)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>This panel has no view.</source>
+        <translation>Dit paneel heeft geen weergave.</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Meer opties</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SummaryView</name>
+    <message>
+        <source>Summary</source>
+        <translation>Overzicht</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::TapePreview</name>
+    <message>
+        <source>Tape preview</source>
+        <translation>Voorbeeld van de tape</translation>
+    </message>
+    <message>
+        <source>Length %1, width %2</source>
+        <translation>Lengte %1, breedte %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::job::Texts</name>
+    <message>
+        <source>they do not say why</source>
+        <translation>zonder opgave van reden</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
+        <translation>De afdrukgegevens kunnen niet naar %1 worden geschreven (%2). Maak daar ruimte of geef met --output een ander bestand op.</translation>
+    </message>
+    <message>
+        <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
+        <translation>De filters kunnen niet worden gestart (%1). Controleer of CUPS volledig is geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 could not print the document %2: %3.</source>
+        <translation>De filters van %1 konden het document %2 niet afdrukken: %3.</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter is missing: install the package cups.</source>
+        <translation>Het programma cupsfilter ontbreekt. Installeer het pakket cups.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another with --output.</source>
+        <translation>Het bestand %1 kan niet worden geschreven (%2). Geef met --output een ander op.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
+        <translation>De filters van %1 hebben niets van het document gemaakt. Controleer of er pagina’s in staan.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read (%2): name a readable file.</source>
+        <translation>Het document %1 kan niet worden gelezen (%2). Geef een leesbaar bestand op.</translation>
+    </message>
+    <message>
+        <source>The print server did not take the document %1 (%2): see that it is a kind of document that the queue prints.</source>
+        <translation>De afdrukserver heeft het document %1 niet aangenomen (%2). Controleer of de wachtrij dit soort documenten afdrukt.</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</source>
+        <translation>De wachtrij %1 is niet bereikbaar (%2). Met lpstat -e ziet u welke wachtrijen er zijn.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
+        <translation>De wachtrij %1 heeft de taak niet aangenomen (%2). Zie lpstat -p %1 -l.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>%1=%2 komt niet voor in de keuzes van het PPD-bestand van de printer.</translation>
+    </message>
+    <message>
+        <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
+        <translation>De optie %1 bereikt het filter van de printer nooit, omdat de afdrukserver haar voor zijn eigen attribuut %2 houdt. Geef haar in het PPD-bestand een andere naam.</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>de code is geen plug-in die deze Qt kan laden</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>hij is gemaakt voor een andere paneelinterface (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>de metagegevens noemen geen hoofdklasse</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>hij levert geen printerpanelen</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>het bestand %1 ontbreekt</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>de code kan niet worden geladen: %1</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>de hoofdklasse %1 ontbreekt</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>hij werkt niet op dit systeem</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>De plug-in %1 wordt niet gebruikt: %2. Afdrukken kan ook zonder; werk de plug-in bij of verwijder hem.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>het is een map</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read (%2): name a readable PPD file.</source>
+        <translation>Het PPD-bestand %1 kan niet worden gelezen (%2). Geef een leesbaar PPD-bestand op.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
+        <translation>Het PPD-bestand %1 is niet geldig, regel %2: %3. Verbeter het bestand of geef een ander op.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
+        <translation>De afdrukserver %1 antwoordt niet. Start hem, noem een andere in CUPS_SERVER of druk zonder server af met --ppd BESTAND.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
+        <translation>Er is geen standaardprinter. Noem een wachtrij met -d WACHTRIJ of druk zonder wachtrij af met --ppd BESTAND.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
+        <translation>De afdrukserver kent geen wachtrij %1. Met lpstat -e ziet u welke wachtrijen er zijn.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
+        <translation>De afdrukserver levert het PPD-bestand van wachtrij %1 niet (%2). Controleer of de wachtrij is ingesteld.</translation>
+    </message>
+    <message>
+        <source>of queue %1</source>
+        <translation>van wachtrij %1</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>in de wacht</translation>
+    </message>
+    <message>
+        <source>pending-held</source>
+        <translation>vastgehouden</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>wordt afgedrukt</translation>
+    </message>
+    <message>
+        <source>processing-stopped</source>
+        <translation>onderbroken</translation>
+    </message>
+    <message>
+        <source>canceled</source>
+        <translation>geannuleerd</translation>
+    </message>
+    <message>
+        <source>aborted</source>
+        <translation>afgebroken</translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation>voltooid</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>verzonden</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes are in %1 (%2 bytes).</source>
+        <translation>De afdrukgegevens staan in %1 (%2 bytes).</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is %3.</source>
+        <translation>Taak %1-%2: %3.</translation>
+    </message>
+</context>
+</TS>

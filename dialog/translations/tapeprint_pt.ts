@@ -1,0 +1,272 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="pt" sourcelanguage="en">
+<context>
+    <name>tapeprint::dialog::OptionsPage</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of an option</comment>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::Panels</name>
+    <message>
+        <source>The plug-in %1 could not make its panel: printing works without it.</source>
+        <translation>A extensão %1 não conseguiu criar o seu painel. É possível imprimir sem ele.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</source>
+        <translation>O painel “%1” de %2 não tem vista. Os seus valores são impressos tal como estão definidos.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
+        <translation>O painel “%1” não conseguiu entregar os seus valores: %2</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
+        <translation>O painel “%1” não conseguiu repor os seus valores: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimir %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>I&amp;mpressora:</translation>
+    </message>
+    <message>
+        <source>&amp;Tape:</source>
+        <translation>&amp;Fita:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Cópias:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;nel:</source>
+        <translation>Pai&amp;nel:</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumo</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Repor</translation>
+    </message>
+    <message>
+        <source>Go back to the values that the dialog was opened with</source>
+        <translation>Voltar aos valores existentes quando a janela foi aberta</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimir</translation>
+    </message>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (sem fila de impressão)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>This panel has no view.</source>
+        <translation>Este painel não tem vista.</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Mais opções</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SummaryView</name>
+    <message>
+        <source>Summary</source>
+        <translation>Resumo</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::TapePreview</name>
+    <message>
+        <source>Tape preview</source>
+        <translation>Pré-visualização da fita</translation>
+    </message>
+    <message>
+        <source>Length %1, width %2</source>
+        <translation>Comprimento %1, largura %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::job::Texts</name>
+    <message>
+        <source>they do not say why</source>
+        <translation>sem indicação do motivo</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
+        <translation>Não é possível escrever os dados de impressão em %1 (%2). Liberte espaço ou indique outro ficheiro com --output.</translation>
+    </message>
+    <message>
+        <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
+        <translation>Não é possível iniciar os filtros (%1). Verifique se o CUPS está totalmente instalado.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 could not print the document %2: %3.</source>
+        <translation>Os filtros de %1 não conseguiram imprimir o documento %2: %3.</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter is missing: install the package cups.</source>
+        <translation>Falta o programa cupsfilter. Instale o pacote cups.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another with --output.</source>
+        <translation>Não é possível escrever o ficheiro %1 (%2). Indique outro com --output.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
+        <translation>Os filtros de %1 não produziram nada a partir do documento. Verifique se tem páginas para imprimir.</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read (%2): name a readable file.</source>
+        <translation>Não é possível ler o documento %1 (%2). Indique um ficheiro legível.</translation>
+    </message>
+    <message>
+        <source>The print server did not take the document %1 (%2): see that it is a kind of document that the queue prints.</source>
+        <translation>O servidor de impressão não aceitou o documento %1 (%2). Verifique se a fila imprime este tipo de documento.</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</source>
+        <translation>Não é possível aceder à fila %1 (%2). O comando lpstat -e mostra as filas existentes.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
+        <translation>A fila %1 não aceitou o trabalho (%2). Consulte lpstat -p %1 -l.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>%1=%2 não consta das escolhas do ficheiro PPD da impressora.</translation>
+    </message>
+    <message>
+        <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
+        <translation>A opção %1 nunca chega ao filtro da impressora, porque o servidor de impressão a toma pelo seu próprio atributo %2. Dê-lhe outro nome no ficheiro PPD.</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>o seu código não é uma extensão que esta versão do Qt consiga carregar</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>foi feita para outra interface de painéis (%1)</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>os seus metadados não indicam nenhuma classe principal</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>não oferece painéis de impressora</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>não tem o ficheiro %1</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>não é possível carregar o seu código: %1</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>não tem a classe principal %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>não pode funcionar neste sistema</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>A extensão %1 não é usada: %2. É possível imprimir sem ela; atualize-a ou remova-a.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>é uma pasta</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read (%2): name a readable PPD file.</source>
+        <translation>Não é possível ler o ficheiro PPD %1 (%2). Indique um ficheiro PPD legível.</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
+        <translation>O ficheiro PPD %1 não é válido, linha %2: %3. Corrija o ficheiro ou indique outro.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
+        <translation>O servidor de impressão %1 não responde. Inicie-o, indique outro em CUPS_SERVER ou imprima sem servidor com --ppd FICHEIRO.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
+        <translation>Não há nenhuma impressora predefinida. Indique uma fila de impressão com -d FILA ou imprima sem fila com --ppd FICHEIRO.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
+        <translation>O servidor de impressão não conhece a fila %1. O comando lpstat -e mostra as filas existentes.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
+        <translation>Não é possível obter do servidor de impressão o ficheiro PPD da fila %1 (%2). Verifique se a fila está configurada.</translation>
+    </message>
+    <message>
+        <source>of queue %1</source>
+        <translation>da fila %1</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>em espera</translation>
+    </message>
+    <message>
+        <source>pending-held</source>
+        <translation>retido</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>a imprimir</translation>
+    </message>
+    <message>
+        <source>processing-stopped</source>
+        <translation>parado</translation>
+    </message>
+    <message>
+        <source>canceled</source>
+        <translation>cancelado</translation>
+    </message>
+    <message>
+        <source>aborted</source>
+        <translation>interrompido</translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation>concluído</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>enviado</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes are in %1 (%2 bytes).</source>
+        <translation>Os dados de impressão estão em %1 (%2 bytes).</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is %3.</source>
+        <translation>Trabalho %1-%2: %3.</translation>
+    </message>
+</context>
+</TS>

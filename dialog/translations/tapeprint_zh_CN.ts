@@ -1,0 +1,272 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!-- SPDX-License-Identifier: Apache-2.0 -->
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>tapeprint::dialog::OptionsPage</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of an option</comment>
+        <translation>%1：</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::Panels</name>
+    <message>
+        <source>The plug-in %1 could not make its panel: printing works without it.</source>
+        <translation>插件 %1 无法创建其面板。没有该面板也可以打印。</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</source>
+        <translation>%2 的面板“%1”没有界面，其数值将按已有设置打印。</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
+        <translation>面板“%1”无法提交其数值：%2</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
+        <translation>面板“%1”无法恢复其数值：%2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintDialog</name>
+    <message>
+        <source>Print %1</source>
+        <translation>打印 %1</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>打印机(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Tape:</source>
+        <translation>标签带(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>份数(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Pa&amp;nel:</source>
+        <translation>面板(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>摘要</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>还原(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Go back to the values that the dialog was opened with</source>
+        <translation>恢复到打开对话框时的数值</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>打印(&amp;P)</translation>
+    </message>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1（无打印队列）</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>This panel has no view.</source>
+        <translation>此面板没有界面。</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>更多选项</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SummaryView</name>
+    <message>
+        <source>Summary</source>
+        <translation>摘要</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::TapePreview</name>
+    <message>
+        <source>Tape preview</source>
+        <translation>标签带预览</translation>
+    </message>
+    <message>
+        <source>Length %1, width %2</source>
+        <translation>长度 %1，宽度 %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::job::Texts</name>
+    <message>
+        <source>they do not say why</source>
+        <translation>未说明原因</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
+        <translation>无法将打印数据写入 %1（%2）。请腾出空间，或用 --output 指定其他文件。</translation>
+    </message>
+    <message>
+        <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
+        <translation>无法启动过滤器（%1）。请检查 CUPS 是否已完整安装。</translation>
+    </message>
+    <message>
+        <source>The filters of %1 could not print the document %2: %3.</source>
+        <translation>%1 的过滤器无法打印文档 %2：%3。</translation>
+    </message>
+    <message>
+        <source>The program cupsfilter is missing: install the package cups.</source>
+        <translation>缺少程序 cupsfilter。请安装软件包 cups。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another with --output.</source>
+        <translation>无法写入文件 %1（%2）。请用 --output 指定其他文件。</translation>
+    </message>
+    <message>
+        <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
+        <translation>%1 的过滤器没有从文档生成任何内容。请检查文档中是否有要打印的页面。</translation>
+    </message>
+    <message>
+        <source>The document %1 cannot be read (%2): name a readable file.</source>
+        <translation>无法读取文档 %1（%2）。请指定可读取的文件。</translation>
+    </message>
+    <message>
+        <source>The print server did not take the document %1 (%2): see that it is a kind of document that the queue prints.</source>
+        <translation>打印服务器没有接受文档 %1（%2）。请检查队列是否支持这种文档。</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</source>
+        <translation>无法连接队列 %1（%2）。可用 lpstat -e 查看现有队列。</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
+        <translation>队列 %1 没有接受作业（%2）。请查看 lpstat -p %1 -l。</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>%1=%2 不在打印机 PPD 列出的选项之中。</translation>
+    </message>
+    <message>
+        <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
+        <translation>选项 %1 无法到达打印机的过滤器，因为打印服务器将其当作自己的属性 %2。请在 PPD 中为其另取名称。</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>其代码不是此 Qt 可以加载的插件</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>它是为其他面板接口（%1）制作的</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>其元数据没有指明主类</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>它不提供打印机面板</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>它没有文件 %1</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>无法加载其代码：%1</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>它没有主类 %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>它无法在此系统上工作</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>未使用插件 %1：%2。没有该插件也可以打印；请更新或移除该插件包。</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>它是文件夹</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be read (%2): name a readable PPD file.</source>
+        <translation>无法读取 PPD 文件 %1（%2）。请指定可读取的 PPD 文件。</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
+        <translation>PPD 文件 %1 无效，第 %2 行：%3。请修正该文件或指定其他文件。</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
+        <translation>打印服务器 %1 没有响应。请启动它，或在 CUPS_SERVER 中指定其他服务器，或用 --ppd 文件 不经服务器打印。</translation>
+    </message>
+    <message>
+        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
+        <translation>没有默认打印机。请用 -d 队列 指定打印队列，或用 --ppd 文件 不经队列打印。</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
+        <translation>打印服务器没有队列 %1。可用 lpstat -e 查看现有队列。</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
+        <translation>无法从打印服务器获取队列 %1 的 PPD（%2）。请检查队列是否已设置。</translation>
+    </message>
+    <message>
+        <source>of queue %1</source>
+        <translation>（队列 %1）</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>pending-held</source>
+        <translation>已保留</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>正在处理</translation>
+    </message>
+    <message>
+        <source>processing-stopped</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>canceled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>aborted</source>
+        <translation>已中止</translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>已发送</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes are in %1 (%2 bytes).</source>
+        <translation>打印数据位于 %1（%2 字节）。</translation>
+    </message>
+    <message>
+        <source>Job %1-%2 is %3.</source>
+        <translation>作业 %1-%2：%3。</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+// Where a job goes, and what a front end asks for before there is one.
+#pragma once
+
+#include "job/JobOptions.h"
+#include "job/PpdFile.h"
+#include "job/Printers.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace tapeprint::job
+{
+
+/// What a front end asks for: a destination, and what is laid down for the job.
+struct JobRequest {
+    QString queue;      ///< empty: the default printer, or none with a PPD file
+    QString instance;   ///< a saved set of options of that queue; empty for the queue itself
+    JobOptions options; ///< laid down by name, in the order given
+    QString title;      ///< empty: the document's name
+    QString ppdPath;    ///< a PPD file that takes the place of the queue's
+    QString outputPath; ///< a file for the printer's bytes instead of a queue
+
+    /// QUEUE or QUEUE/INSTANCE; empty when no queue is named.
+    QString fullQueueName() const { return QueueName{queue, instance}.text(); }
+};
+
+/// A queue, or with a PPD file alone that PPD's filters and a file for the printer's bytes.
+struct Destination {
+    std::optional<PrintQueue> queue;
+    QString ppdPath;    ///< the local PPD file; empty when the PPD is the queue's
+    QString outputPath; ///< where the printer's bytes go; empty: to the queue
+    PpdFile ppd;        ///< null when the queue has none
+
+    /// Whether the job goes through the PPD's filters into a file.
+    bool isFile() const { return !outputPath.isEmpty() || !queue; }
+    /// The name for the person.
+    QString title() const;
+};
+
+/// Opens the queue and the PPD that a request names. \param error takes a sentence on failure.
+std::optional<Destination> openDestination(const JobRequest &request, QString *error);
+
+/// Opens a queue with its own PPD, as when the person picks another printer.
+std::optional<Destination> openDestination(const QString &queue, const QString &instance, QString *error);
+
+} // namespace tapeprint::job

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: Apache-2.0
+// The objects of one job are changed here and nowhere else, so that they always agree.
+#include "job/Job.h"
+
+#include "job/LaidDownOptions.h"
+
+#include <utility>
+
+#include <pdekit/Numbers.h>
+
+namespace tapeprint::job
+{
+
+void Job::open(Destination destination, const JobOptions &asked)
+{
+    close();
+    mDestination = std::move(destination);
+    describePrinter();
+    layDownOptions(asked);
+    mNotices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(ppd(), mOptions);
+    rememberAsOpened();
+    Q_EMIT changed();
+}
+
+void Job::close()
+{
+    mNotices.clear();
+    mSession = {};
+    mSettings = {};
+    mPageFormat = {};
+    mPrinter = {};
+    mOptions = {};
+    mLaidDown = {};
+    mOpenedWith = {};
+    mDestination = {};
+}
+
+void Job::describePrinter()
+{
+    if (ppd() != nullptr && ppd()->nickname != nullptr) {
+        mPrinter.makeModel = QString::fromUtf8(ppd()->nickname);
+    }
+    if (mDestination.queue) {
+        mPrinter.name = mDestination.queue->name;
+        mPrinter.instance = mDestination.queue->instance;
+        mPrinter.deviceUri = mDestination.queue->deviceUri;
+        if (!mDestination.queue->makeModel.isEmpty()) {
+            mPrinter.makeModel = mDestination.queue->makeModel;
+        }
+    }
+}
+
+void Job::layDownOptions(const JobOptions &asked)
+{
+    mLaidDown = mDestination.queue ? mDestination.queue->options : JobOptions();
+    for (const auto &[name, value] : asked.entries()) {
+        mLaidDown.set(name, value);
+    }
+    layDown(mLaidDown, ppd(), &mOptions);
+    layDownPages();
+    followMarkedTape();
+    if (const std::optional<double> lengthMm = laidDownLengthMm(mLaidDown, ppd())) {
+        setPaperLengthMm(*lengthMm);
+    }
+}
+
+void Job::layDownPages()
+{
+    pdekit::PMPrintSettingsSetValue(&mSettings, pdekit::PrintSettingsKey::copies, copies(), false);
+    const QString pages = mOptions.value(OptionName::pageRanges);
+    if (pages.isEmpty()) {
+        return;
+    }
+    // The settings know one range: from the first page named to the last; an open end has no last page.
+    const auto first = static_cast<std::uint32_t>(qMax(1, pdekit::intValue(pages)));
+    pdekit::PMSetFirstPage(&mSettings, first, false);
+    const qsizetype lastNumberAt = qMax(pages.lastIndexOf(u','), pages.lastIndexOf(u'-')) + 1;
+    const std::int32_t last = pdekit::intValue(QStringView(pages).mid(lastNumberAt));
+    if (last > 0) {
+        pdekit::PMSetLastPage(&mSettings, static_cast<std::uint32_t>(last), false);
+    }
+}
+
+bool Job::takeChoice(const QString &key, const QString &choice)
+{
+    // A value in braces would be dropped by the print server.
+    if (key.isEmpty() || choice.isEmpty() || choice.startsWith(u'{')) {
+        return false;
+    }
+    record(key, choice);
+    Q_EMIT optionChanged(key, choice);
+    Q_EMIT changed();
+    return true;
+}
+
+void Job::changeOption(const QString &key, const QString &choice)
+{
+    if (key.isEmpty() || choice.isEmpty()) {
+        return;
+    }
+    record(key, choice);
+    if (key == OptionName::tapeLength && pdekit::doubleValue(choice) > 0.0) {
+        setPaperLengthMm(pdekit::doubleValue(choice));
+    }
+    Q_EMIT optionChanged(key, choice);
+    Q_EMIT changed();
+}
+
+void Job::record(const QString &key, const QString &choice)
+{
+    markChoice(ppd(), key, choice);
+    mOptions.set(key, choice);
+    if (key == OptionName::pageSize) {
+        followMarkedTape();
+    }
+}
+
+void Job::setCopies(int copies)
+{
+    const int count = qMax(1, copies);
+    mOptions.set(OptionName::copies, QString::number(count));
+    pdekit::PMPrintSettingsSetValue(&mSettings, pdekit::PrintSettingsKey::copies, count, false);
+    Q_EMIT changed();
+}
+
+int Job::copies() const
+{
+    return qMax(1, pdekit::intValue(mOptions.value(OptionName::copies)));
+}
+
+void Job::followMarkedTape()
+{
+    mPageFormat.paper = markedPaper(ppd());
+    const QVariant name = mPageFormat.paper ? QVariant(mPageFormat.paper->ppdPaperName) : QVariant();
+    pdekit::PMPrintSettingsSetValue(&mSettings, pdekit::PrintSettingsKey::mediaName, name, false);
+}
+
+void Job::setPaperLengthMm(double lengthMm)
+{
+    if (mPageFormat.paper) {
+        mPageFormat.paper->heightPt = heightPtFromMm(lengthMm);
+    }
+}
+
+Job::Snapshot Job::takeSnapshot() const
+{
+    return {mOptions, takeMarks(ppd()), mPageFormat, mSettings};
+}
+
+void Job::revert()
+{
+    const JobOptions left = std::exchange(mOptions, mOpenedWith.options);
+    putMarks(ppd(), mOpenedWith.marks);
+    mPageFormat = mOpenedWith.pageFormat;
+    mSettings = mOpenedWith.settings;
+
+    for (const auto &[key, choice] : mOpenedWith.options.entries()) {
+        if (left.value(key) != choice) {
+            Q_EMIT optionChanged(key, choice);
+        }
+    }
+    for (const auto &[key, choice] : left.entries()) {
+        const QString marked = markedChoice(ppd(), key);
+        if (!mOptions.contains(key) && !marked.isNull()) {
+            Q_EMIT optionChanged(key, marked);
+        }
+    }
+    Q_EMIT changed();
+}
+
+} // namespace tapeprint::job

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: Apache-2.0
+// One job: the objects that a print dialog owns, and every change of them. Panels and windows are views on it.
+//
+//   Job ── Destination (queue, own copy of the PPD), PrintSession, PrintSettings, PageFormat, Printer, JobOptions
+#pragma once
+
+#include "job/Destination.h"
+#include "job/JobOptions.h"
+#include "job/PpdMarks.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <pdekit/PrintingCore.h>
+
+namespace tapeprint::job
+{
+
+class Job : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// Takes a destination and lays down its saved options and those asked for, which have the last word. Whoever
+    /// borrowed the objects of an earlier destination must have let go of them.
+    void open(Destination destination, const JobOptions &asked);
+    /// Lets go of the destination and its PPD.
+    void close();
+
+    /// Sentences about what the person should know: options that get lost, values that the PPD does not list.
+    const QStringList &notices() const { return mNotices; }
+
+    const Destination &destination() const { return mDestination; }
+    ppd_file_t *ppd() const { return mDestination.ppd.get(); }
+    pdekit::PrintSession &session() { return mSession; }
+    pdekit::PrintSettings &settings() { return mSettings; }
+    pdekit::PageFormat &pageFormat() { return mPageFormat; }
+    const pdekit::PageFormat &pageFormat() const { return mPageFormat; }
+    pdekit::Printer &printer() { return mPrinter; }
+    const JobOptions &options() const { return mOptions; }
+    /// What was laid down for this job: the queue's or instance's saved options under those asked for.
+    const JobOptions &laidDown() const { return mLaidDown; }
+
+    /// A panel sends a choice: marked when the PPD lists it, recorded in any case.
+    /// \return false, and nothing changed, for an empty keyword or choice and for a value that no job can carry.
+    bool takeChoice(const QString &key, const QString &choice);
+    /// The person changes an option in the dialog itself: the paper follows, too.
+    void changeOption(const QString &key, const QString &choice);
+    /// The number of copies, at least 1.
+    void setCopies(int copies);
+    int copies() const;
+
+    /// The job as it stands now is what revert() goes back to.
+    void rememberAsOpened() { mOpenedWith = takeSnapshot(); }
+    /// Goes back to the remembered job. Each option that changes by it is told as a change.
+    void revert();
+
+Q_SIGNALS:
+    /// An option has taken a choice; sent while the change is made, with the objects right already.
+    void optionChanged(const QString &key, const QString &choice);
+    /// The job's options changed.
+    void changed();
+
+private:
+    /// What "the values that the dialog was opened with" are.
+    struct Snapshot {
+        JobOptions options;
+        PpdMarks marks;
+        pdekit::PageFormat pageFormat;
+        pdekit::PrintSettings settings;
+    };
+
+    void describePrinter();
+    void layDownOptions(const JobOptions &asked);
+    void layDownPages();
+    void record(const QString &key, const QString &choice);
+    void followMarkedTape();
+    void setPaperLengthMm(double lengthMm);
+    Snapshot takeSnapshot() const;
+
+    QStringList mNotices;
+    Destination mDestination;
+    pdekit::PrintSession mSession;
+    pdekit::PrintSettings mSettings;
+    pdekit::PageFormat mPageFormat;
+    pdekit::Printer mPrinter;
+    JobOptions mOptions;
+    JobOptions mLaidDown;
+    Snapshot mOpenedWith;
+};
+
+} // namespace tapeprint::job

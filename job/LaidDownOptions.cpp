@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: Apache-2.0
+// Laying options down in the dialog's own copy of a PPD, with libcups' own mapping of IPP attributes to PPD options.
+#include "job/LaidDownOptions.h"
+
+#include "job/CupsOptions.h"
+#include "job/IppAttributeNames.h"
+#include "job/PpdMarks.h"
+#include "job/Texts.h"
+
+#include <QLocale>
+
+#include <cmath>
+#include <limits>
+
+#include <pdekit/Numbers.h>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+constexpr double pointsPerInch = 72.0;
+constexpr double inchesPerMm = 0.0393701;
+
+bool isNumber(const QString &text)
+{
+    bool isOne = false;
+    QLocale::c().toDouble(text, &isOne);
+    return isOne;
+}
+
+/// Names and values as the PPD spells them, so that an option never stands twice in a job.
+void layDownOne(const JobOptions::Entry &entry, ppd_file_t *ppd, JobOptions *job)
+{
+    const auto &[name, value] = entry;
+    const ppd_option_t *option = isIppJobAttribute(name) ? nullptr : findOption(ppd, name);
+    if (option == nullptr) {
+        job->set(name, value);
+        return;
+    }
+    const QString key = QString::fromUtf8(option->keyword);
+    const QString listed = listedChoice(ppd, key, value);
+    const QString spelled = listed.isNull() ? value : listed;
+    job->set(key, spelled);
+    markChoice(ppd, key, spelled);
+    if (!listed.isNull() || isNumber(value)) {
+        setDefaultChoice(ppd, key, spelled);
+    }
+}
+
+/// The tape that is shown is the tape that is printed on, whatever the queue's default becomes in the meantime.
+void nameTape(ppd_file_t *ppd, JobOptions *job)
+{
+    if (job->contains(OptionName::pageSize)) {
+        return;
+    }
+    const QString media = job->value(OptionName::media);
+    const bool isCustom = media.startsWith(QLatin1String("Custom."), Qt::CaseInsensitive);
+    const QString tape = isCustom ? media : markedChoice(ppd, OptionName::pageSize);
+    if (!tape.isNull()) {
+        job->set(OptionName::pageSize, tape);
+        setDefaultChoice(ppd, OptionName::pageSize, tape);
+    }
+}
+
+std::optional<double> positiveLength(const QString &text)
+{
+    const double length = pdekit::doubleValue(text);
+    return length > 0.0 ? std::optional(length) : std::nullopt;
+}
+
+} // namespace
+
+void layDown(const JobOptions &options, ppd_file_t *ppd, JobOptions *job)
+{
+    // First libcups' mapping, for "media", "sides", "print-quality" and their kin; then every option under its own
+    // name.
+    if (ppd != nullptr) {
+        const CupsOptions mapped(options);
+        cupsMarkOptions(ppd, mapped.count(), mapped.data());
+    }
+    for (const JobOptions::Entry &entry : options.entries()) {
+        layDownOne(entry, ppd, job);
+    }
+    nameTape(ppd, job);
+}
+
+std::optional<pdekit::Paper> markedPaper(ppd_file_t *ppd)
+{
+    const ppd_size_t *size = ppd == nullptr ? nullptr : ppdPageSize(ppd, nullptr);
+    if (size == nullptr) {
+        return std::nullopt;
+    }
+    return pdekit::Paper{QString::fromUtf8(size->name), static_cast<double>(size->width),
+                         static_cast<double>(size->length)};
+}
+
+std::optional<double> laidDownLengthMm(const JobOptions &chosen, ppd_file_t *ppd)
+{
+    if (chosen.contains(OptionName::tapeLength)) {
+        return positiveLength(chosen.value(OptionName::tapeLength));
+    }
+    // A tape that was chosen brings its own length.
+    if (chosen.contains(OptionName::pageSize) || chosen.contains(OptionName::media)) {
+        return std::nullopt;
+    }
+    const ppd_option_t *option = findOption(ppd, OptionName::tapeLength);
+    return option == nullptr ? std::nullopt : positiveLength(QString::fromUtf8(option->defchoice));
+}
+
+double heightPtFromMm(double lengthMm)
+{
+    double heightPt = lengthMm * inchesPerMm * pointsPerInch;
+    // A last bit lost on the way would turn 62 into 61 where a panel shows whole millimetres.
+    while (heightPt / pointsPerInch / inchesPerMm < lengthMm) {
+        heightPt = std::nextafter(heightPt, std::numeric_limits<double>::infinity());
+    }
+    return heightPt;
+}
+
+QStringList unlistedValues(ppd_file_t *ppd, const JobOptions &job)
+{
+    QStringList sentences;
+    for (const auto &[name, value] : job.entries()) {
+        const bool isPpdOption = !isIppJobAttribute(name) && findOption(ppd, name) != nullptr;
+        if (isPpdOption && !isNumber(value) && listedChoice(ppd, name, value).isNull()) {
+            sentences.append(Texts::tr("%1=%2 is none of the choices that the printer's PPD lists.").arg(name, value));
+        }
+    }
+    return sentences;
+}
+
+QStringList optionsThatNeverArrive(ppd_file_t *ppd, const JobOptions &job)
+{
+    QStringList sentences;
+    const auto examine = [&sentences](const QString &name) {
+        const QString attribute = ippJobAttributeInOtherLetters(name);
+        const QString sentence =
+            Texts::tr("Option %1 never reaches the printer's filter, because the print server takes it for its own "
+                      "attribute %2: give it another name in the PPD.")
+                .arg(name, attribute);
+        if (!attribute.isNull() && !sentences.contains(sentence)) {
+            sentences.append(sentence);
+        }
+    };
+    forEachOption(ppd, [&examine](const ppd_option_t &option) { examine(QString::fromUtf8(option.keyword)); });
+    for (const auto &[name, value] : job.entries()) {
+        examine(name);
+    }
+    return sentences;
+}
+
+} // namespace tapeprint::job

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: Apache-2.0
+// Print queues through libcups: the server, the saved options of the person, PPDs of local and remote queues.
+#include "job/Printers.h"
+
+#include "job/Texts.h"
+
+#include <QByteArray>
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+#include <ctime>
+#include <memory>
+#include <span>
+
+#include <cups/cups.h>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+constexpr int connectTimeoutMs = 5000;
+/// A busy server takes its time; one that says nothing for so long hangs.
+constexpr double answerTimeoutSeconds = 10.0;
+/// Local queues answer at once; printers found on the network are given this long.
+constexpr int discoveryTimeoutMs = 1000;
+
+struct ConnectionDeleter {
+    void operator()(http_t *connection) const { httpClose(connection); }
+};
+using Connection = std::unique_ptr<http_t, ConnectionDeleter>;
+
+/// Whether a server that took the connection also speaks. libcups waits minutes for each request to one that hangs.
+bool saysAnything(http_t *server)
+{
+    httpSetTimeout(
+        server, answerTimeoutSeconds, [](http_t * /*server*/, void * /*data*/) { return 0; }, nullptr);
+    httpClearFields(server);
+    if (httpOptions(server, "*") != 0) {
+        return false;
+    }
+    http_status_t status = HTTP_STATUS_CONTINUE;
+    while (status == HTTP_STATUS_CONTINUE) {
+        status = httpUpdate(server);
+    }
+    return status != HTTP_STATUS_ERROR; // a refusal is an answer as well
+}
+
+struct DestinationDeleter {
+    void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
+};
+using DestinationPtr = std::unique_ptr<cups_dest_t, DestinationDeleter>;
+
+/// What a server tells about a queue stands among its options; it is no option of a job.
+bool describesQueue(const QString &name)
+{
+    static const std::array prefixes{QLatin1String("printer-"), QLatin1String("marker-"), QLatin1String("auth-info"),
+                                     QLatin1String("queued-job-count")};
+    return name == u"device-uri" || std::any_of(prefixes.begin(), prefixes.end(), [&name](QLatin1String prefix) {
+               return name.startsWith(prefix) && name != u"printer-resolution";
+           });
+}
+
+QString optionOf(const cups_dest_t &destination, const char *name)
+{
+    return QString::fromUtf8(cupsGetOption(name, destination.num_options, destination.options));
+}
+
+PrintQueue queueFrom(const cups_dest_t &destination)
+{
+    PrintQueue queue;
+    queue.name = QString::fromUtf8(destination.name);
+    queue.instance = QString::fromUtf8(destination.instance);
+    queue.info = optionOf(destination, "printer-info");
+    queue.makeModel = optionOf(destination, "printer-make-and-model");
+    queue.deviceUri = optionOf(destination, "device-uri");
+    for (const cups_option_t &option :
+         std::span(destination.options, static_cast<std::size_t>(std::max(destination.num_options, 0)))) {
+        const QString name = QString::fromUtf8(option.name);
+        if (!describesQueue(name)) {
+            queue.options.set(name, QString::fromUtf8(option.value));
+        }
+    }
+    return queue;
+}
+
+struct ResponseDeleter {
+    void operator()(ipp_t *response) const { ippDelete(response); }
+};
+using Response = std::unique_ptr<ipp_t, ResponseDeleter>;
+
+/// A default of the server as libcups writes it among a destination's options.
+QString defaultText(ipp_attribute_t *attribute)
+{
+    if (ippGetValueTag(attribute) == IPP_TAG_ENUM) {
+        return QString::number(ippGetInteger(attribute, 0));
+    }
+    std::array<char, 1024> text{};
+    ippAttributeString(attribute, text.data(), text.size());
+    return QString::fromUtf8(text.data());
+}
+
+/// Takes away what the server adds to every job by itself: only what the person saved is laid down by the dialog.
+void removeServerDefaults(PrintQueue &queue)
+{
+    std::array<char, HTTP_MAX_URI> uri{};
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
+                     "/printers/%s", queue.name.toUtf8().constData());
+    ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+    const Response response(cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/"));
+
+    static const QLatin1String ending("-default");
+    for (ipp_attribute_t *attribute = ippFirstAttribute(response.get()); attribute != nullptr;
+         attribute = ippNextAttribute(response.get())) {
+        QString name = QString::fromUtf8(ippGetName(attribute));
+        if (!name.endsWith(ending)) {
+            continue;
+        }
+        name.chop(ending.size());
+        if (queue.options.contains(name) && queue.options.value(name) == defaultText(attribute)) {
+            queue.options.remove(name);
+        }
+    }
+}
+
+int collectQueue(void *queues, unsigned flags, cups_dest_t *destination)
+{
+    if ((flags & CUPS_DEST_FLAGS_REMOVED) == 0U) {
+        static_cast<std::vector<PrintQueue> *>(queues)->push_back(queueFrom(*destination));
+    }
+    return 1;
+}
+
+/// libcups answers any instance of a queue that exists: whether the person has one of that name is asked apart.
+bool instanceExists(const QString &name, const QString &instance)
+{
+    const std::vector<PrintQueue> queues = listQueues();
+    return std::any_of(queues.begin(), queues.end(), [&](const PrintQueue &queue) {
+        return queue.name.compare(name, Qt::CaseInsensitive) == 0 &&
+               queue.instance.compare(instance, Qt::CaseInsensitive) == 0;
+    });
+}
+
+} // namespace
+
+QueueName QueueName::parse(const QString &text)
+{
+    const qsizetype slash = text.indexOf(u'/');
+    return slash < 0 ? QueueName{text, {}} : QueueName{text.left(slash), text.mid(slash + 1)};
+}
+
+bool serverAnswers(QString *error)
+{
+    const Connection server(
+        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, connectTimeoutMs, nullptr));
+    if (server && saysAnything(server.get())) {
+        return true;
+    }
+    *error = Texts::tr("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
+                       "without one with --ppd FILE.")
+                 .arg(QString::fromUtf8(cupsServer()));
+    return false;
+}
+
+std::vector<PrintQueue> listQueues()
+{
+    std::vector<PrintQueue> queues;
+    cupsEnumDests(CUPS_DEST_FLAGS_NONE, discoveryTimeoutMs, nullptr, 0, 0, collectQueue, &queues);
+    return queues;
+}
+
+std::optional<PrintQueue> findQueue(const QString &name, const QString &instance, QString *error)
+{
+    if (!serverAnswers(error)) {
+        return std::nullopt;
+    }
+    const QByteArray nameBytes = name.toUtf8();
+    const QByteArray instanceBytes = instance.toUtf8();
+    const DestinationPtr destination(cupsGetNamedDest(CUPS_HTTP_DEFAULT,
+                                                      name.isEmpty() ? nullptr : nameBytes.constData(),
+                                                      instance.isEmpty() ? nullptr : instanceBytes.constData()));
+    if (destination && (instance.isEmpty() || instanceExists(name, instance))) {
+        PrintQueue queue = queueFrom(*destination);
+        removeServerDefaults(queue);
+        return queue;
+    }
+    if (name.isEmpty()) {
+        *error = Texts::tr("There is no default printer: name a print queue with -d QUEUE, or print without one "
+                           "with --ppd FILE.");
+    } else {
+        *error = Texts::tr("The print server knows no queue %1: see lpstat -e for the queues there are.")
+                     .arg(QueueName({name, instance}).text());
+    }
+    return std::nullopt;
+}
+
+PpdFile openQueuePpd(const PrintQueue &queue, QString *error)
+{
+    std::array<char, 1024> path{};
+    std::time_t modified = 0;
+    const http_status_t status =
+        cupsGetPPD3(CUPS_HTTP_DEFAULT, queue.name.toUtf8().constData(), &modified, path.data(), path.size());
+    if (status == HTTP_STATUS_NOT_FOUND) {
+        return nullptr;
+    }
+    if (status != HTTP_STATUS_OK) {
+        *error = Texts::tr("The PPD of queue %1 cannot be had from the print server (%2): see that the queue is "
+                           "set up.")
+                     .arg(queue.name, QString::fromUtf8(cupsLastErrorString()));
+        return nullptr;
+    }
+    PpdFile ppd = openPpdFile(QFile::decodeName(path.data()), error, Texts::tr("of queue %1").arg(queue.name));
+    QFile::remove(QFile::decodeName(path.data()));
+    return ppd;
+}
+
+} // namespace tapeprint::job

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+// Choosing the road of a job: a print queue, or filters alone.
+#include "job/Printing.h"
+
+#include "job/Texts.h"
+
+#include <array>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+/// The states of a job, named here for the translation catalogues.
+[[maybe_unused]] constexpr std::array jobStates{
+    QT_TRANSLATE_NOOP("tapeprint::job::Texts", "pending"),
+    QT_TRANSLATE_NOOP("tapeprint::job::Texts", "pending-held"),
+    QT_TRANSLATE_NOOP("tapeprint::job::Texts", "processing"),
+    QT_TRANSLATE_NOOP("tapeprint::job::Texts", "processing-stopped"),
+    QT_TRANSLATE_NOOP("tapeprint::job::Texts", "canceled"),
+    QT_TRANSLATE_NOOP("tapeprint::job::Texts", "aborted"),
+    QT_TRANSLATE_NOOP("tapeprint::job::Texts", "completed"),
+    QT_TRANSLATE_NOOP("tapeprint::job::Texts", "sent"),
+};
+
+} // namespace
+
+QString PrintedJob::sentence() const
+{
+    if (queue.isNull()) {
+        return Texts::tr("The printer's bytes are in %1 (%2 bytes).").arg(output.path, QString::number(output.bytes));
+    }
+    return Texts::tr("Job %1-%2 is %3.")
+        .arg(queue, QString::number(job.id), Texts::tr(job.state.toLatin1().constData()));
+}
+
+std::optional<PrintedJob> printJob(const Job &job, const QString &title, const QStringList &files, QString *error)
+{
+    const Destination &destination = job.destination();
+    if (destination.isFile()) {
+        const std::optional<FilterOutput> output =
+            runFilters({destination.ppdPath, title, job.options(), files, destination.outputPath}, error);
+        return output ? std::optional(PrintedJob{{}, {}, *output}) : std::nullopt;
+    }
+    const std::optional<SubmittedJob> submitted = submitJob(*destination.queue, title, job.options(), files, error);
+    return submitted ? std::optional(PrintedJob{destination.queue->name, *submitted, {}}) : std::nullopt;
+}
+
+} // namespace tapeprint::job

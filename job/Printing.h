@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+// From a settled job to printed bytes: a queue, or the PPD's filters and a file.
+#pragma once
+
+#include "job/FilterRun.h"
+#include "job/Job.h"
+#include "job/JobSubmission.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace tapeprint::job
+{
+
+/// What became of a job: it is in a queue, or its bytes are in a file.
+struct PrintedJob {
+    QString queue; ///< null when the bytes are in a file
+    SubmittedJob job;
+    FilterOutput output;
+
+    /// A sentence about it, in the language of the moment.
+    QString sentence() const;
+};
+
+/// Prints documents to the job's destination. \param title the job's title; \param files the documents, only read.
+/// \return what became of the job; std::nullopt, and a sentence in *error, on failure.
+std::optional<PrintedJob> printJob(const Job &job, const QString &title, const QStringList &files, QString *error);
+
+} // namespace tapeprint::job

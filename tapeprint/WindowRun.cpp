@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+// Opens what the command line names, shows the window, and says what became of the job.
+#include "tapeprint/WindowRun.h"
+
+#include "dialog/PrintDialog.h"
+#include "dialog/Translations.h"
+#include "job/DocumentSpool.h"
+#include "job/Printing.h"
+#include "tapeprint/OutputPath.h"
+
+#include <QEventLoop>
+
+namespace tapeprint
+{
+
+RunReport runWindow(const CommandLine &line)
+{
+    QString error;
+    std::optional<job::DocumentSpool> documents = job::DocumentSpool::collect(line.files, &error);
+    if (!documents) {
+        return failedRun(error);
+    }
+    job::JobRequest request = line.request;
+    nameOutput(request, documents->title(QString()));
+    std::optional<job::Destination> destination = job::openDestination(request, &error);
+    if (!destination) {
+        return failedRun(error);
+    }
+    // With a PPD file alone no print server is asked for anything.
+    std::vector<job::PrintQueue> queues = destination->queue ? job::listQueues() : std::vector<job::PrintQueue>();
+
+    // The window speaks the person's language; what is said on standard output and standard error does not, because
+    // scripts read it.
+    auto translations = std::make_optional<dialog::Translations>();
+    job::Job job;
+    dialog::Panels panels(job, dialog::bundleSearchPath());
+    panels.open(std::move(*destination), request.options);
+    const QString title = documents->title(request.title);
+    QString printed;
+    dialog::PrintDialog window(
+        job, panels, {request, title, documents->files(), std::move(queues)}, [&](QString *reason) {
+            const std::optional<job::PrintedJob> done = job::printJob(job, title, documents->files(), reason);
+            printed = done ? done->sentence() : QString();
+            return printed;
+        });
+    QEventLoop untilClosed;
+    QObject::connect(&window, &QDialog::finished, &untilClosed, &QEventLoop::quit);
+    window.open();
+    untilClosed.exec();
+    translations.reset();
+
+    RunReport report;
+    if (!printed.isNull() && !line.silent) {
+        report.output.append(printed);
+    }
+    return report;
+}
+
+} // namespace tapeprint

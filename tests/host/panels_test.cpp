@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: Apache-2.0
+// A job and what it and a panel say to each other, with a panel that writes every call down.
+#include "TestPrinter.h"
+
+#include "job/PpdMarks.h"
+#include "tests/support/TextPrinting.h"
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+#include <pdekit/Alert.h>
+
+namespace
+{
+
+using namespace tapeprint;
+using namespace tapeprint::job;
+using dialog::Panels;
+using dialog::PanelSummary;
+using hosttest::options;
+using hosttest::takeCalls;
+
+class PanelsTest : public testing::Test
+{
+protected:
+    void SetUp() override { takeCalls(); }
+
+    void open(const JobOptions &laidDown = {}) { panels.open(hosttest::testDestination(folder), laidDown); }
+
+    QString mediaName()
+    {
+        QVariant name;
+        pdekit::PMPrintSettingsGetValue(&job.settings(), pdekit::PrintSettingsKey::mediaName, &name);
+        return name.toString();
+    }
+
+    QTemporaryDir folder;
+    Job job;
+    Panels panels{job, hosttest::goodBundles()};
+};
+
+TEST_F(PanelsTest, Open_AsksThePanelInTheProtocolsOrder)
+{
+    open();
+    EXPECT_EQ(takeCalls(), (QStringList{u"made, margin 2.0"_qs, u"panelName"_qs, u"panelKind"_qs,
+                                        u"supportedPPDOptionKeys"_qs, u"panelView"_qs}));
+    EXPECT_TRUE(job.notices().isEmpty());
+    EXPECT_TRUE(panels.notices().isEmpty());
+    ASSERT_EQ(panels.entries().size(), 1U);
+    EXPECT_EQ(panels.entries().front().name, u"Test Panel"_qs);
+    EXPECT_NE(panels.entries().front().view, nullptr);
+    EXPECT_TRUE(panels.announced(u"KsMargin"_qs));
+    EXPECT_FALSE(panels.announced(u"CutMedia"_qs));
+}
+
+TEST_F(PanelsTest, Open_LaysDownBeforeThePanelIsMade)
+{
+    open(options({{u"KsMargin"_qs, u"3.3"_qs}, {u"PageSize"_qs, u"W24"_qs}, {u"KsTapeLength"_qs, u"100"_qs}}));
+    EXPECT_EQ(takeCalls().value(0), u"made, margin 3.3"_qs);
+    EXPECT_EQ(mediaName(), u"W24"_qs);
+    ASSERT_TRUE(job.pageFormat().paper.has_value());
+    EXPECT_EQ(job.pageFormat().paper->ppdPaperName, u"W24"_qs);
+    EXPECT_DOUBLE_EQ(job.pageFormat().paper->widthPt, 72.0);
+    // 100 mm x 0.0393701 inch/mm x 72 points/inch
+    EXPECT_NEAR(job.pageFormat().paper->heightPt, 283.46472, 1e-9);
+}
+
+TEST_F(PanelsTest, SavedOptionsOfTheQueue_GiveWayToTheCommandLine)
+{
+    Destination destination = hosttest::testDestination(folder);
+    destination.queue = PrintQueue();
+    destination.queue->name = u"tape"_qs;
+    destination.queue->deviceUri = u"usb://Test/Tape"_qs;
+    destination.queue->options = options({{u"KsMargin"_qs, u"5.0"_qs}, {u"CutMedia"_qs, u"Label"_qs}});
+    panels.open(std::move(destination), options({{u"KsMargin"_qs, u"2.0"_qs}}));
+    EXPECT_EQ(job.options().lines(), (QStringList{u"KsMargin=2.0"_qs, u"CutMedia=Label"_qs, u"PageSize=W12"_qs}));
+    EXPECT_EQ(job.printer().deviceUri, u"usb://Test/Tape"_qs);
+    EXPECT_EQ(job.printer().name, u"tape"_qs);
+}
+
+TEST_F(PanelsTest, Pages_StandInTheSettingsAsTheirOutermostNumbers)
+{
+    open(options({{u"page-ranges"_qs, u"3-4,7-12"_qs}}));
+    std::uint32_t page = 0;
+    EXPECT_EQ(pdekit::PMGetFirstPage(&job.settings(), &page), pdekit::kPMNoError);
+    EXPECT_EQ(page, 3U);
+    EXPECT_EQ(pdekit::PMGetLastPage(&job.settings(), &page), pdekit::kPMNoError);
+    EXPECT_EQ(page, 12U);
+    open(options({{u"page-ranges"_qs, u"3-"_qs}}));
+    EXPECT_EQ(pdekit::PMGetLastPage(&job.settings(), &page), pdekit::kPMKeyNotFound);
+}
+
+TEST_F(PanelsTest, PanelsChoice_IsMarkedWhenListedAndRecordedInAnyCase)
+{
+    open();
+    EXPECT_TRUE(job.takeChoice(u"KsMargin"_qs, u"5.0"_qs));
+    EXPECT_EQ(markedChoice(job.ppd(), u"KsMargin"_qs), u"5.0"_qs);
+    EXPECT_EQ(job.options().value(u"KsMargin"_qs), u"5.0"_qs);
+    EXPECT_TRUE(job.takeChoice(u"KsMargin"_qs, u"4.4"_qs));
+    EXPECT_EQ(markedChoice(job.ppd(), u"KsMargin"_qs), u"5.0"_qs);
+    EXPECT_EQ(job.options().value(u"KsMargin"_qs), u"4.4"_qs);
+    EXPECT_TRUE(job.takeChoice(u"KsTapeLength"_qs, u"62.0"_qs));
+    EXPECT_EQ(job.options().value(u"KsTapeLength"_qs), u"62.0"_qs);
+}
+
+TEST_F(PanelsTest, PanelsChoice_IsToldToEveryPanelTheSenderIncluded)
+{
+    open();
+    takeCalls();
+    job.takeChoice(u"KsMargin"_qs, u"5.0"_qs);
+    EXPECT_EQ(takeCalls(), QStringList{u"changed KsMargin=5.0, tape W12"_qs});
+}
+
+TEST_F(PanelsTest, PanelsChoice_WithoutKeywordOrValueOrInBraces_IsRefused)
+{
+    open();
+    const QStringList before = job.options().lines();
+    EXPECT_FALSE(job.takeChoice(QString(), u"5.0"_qs));
+    EXPECT_FALSE(job.takeChoice(u""_qs, u"5.0"_qs));
+    EXPECT_FALSE(job.takeChoice(u"KsMargin"_qs, u""_qs));
+    EXPECT_FALSE(job.takeChoice(u"KsMargin"_qs, u"{a=1}"_qs));
+    EXPECT_EQ(job.options().lines(), before);
+}
+
+TEST_F(PanelsTest, ChangeOfTheTape_IsInTheObjectsBeforeThePanelHearsOfIt)
+{
+    open(options({{u"KsTapeLength"_qs, u"100"_qs}}));
+    takeCalls();
+    job.changeOption(u"PageSize"_qs, u"W24"_qs);
+    EXPECT_EQ(takeCalls(), QStringList{u"changed PageSize=W24, tape W24"_qs});
+    EXPECT_EQ(job.options().value(u"PageSize"_qs), u"W24"_qs);
+    // The new tape brings its own length.
+    EXPECT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 144.0);
+}
+
+TEST_F(PanelsTest, ChangeOfAnotherOption_IsMarkedRecordedAndTold)
+{
+    open();
+    takeCalls();
+    job.changeOption(u"CutMedia"_qs, u"Label"_qs);
+    EXPECT_EQ(takeCalls(), QStringList{u"changed CutMedia=Label, tape W12"_qs});
+    EXPECT_EQ(markedChoice(job.ppd(), u"CutMedia"_qs), u"Label"_qs);
+    EXPECT_EQ(job.options().value(u"CutMedia"_qs), u"Label"_qs);
+}
+
+TEST_F(PanelsTest, Revert_BringsJobMarksAndTapeBackAndTellsThePanelOfEachChange)
+{
+    open();
+    panels.showAll();
+    const QStringList before = job.options().lines();
+    job.changeOption(u"PageSize"_qs, u"W24"_qs);
+    job.changeOption(u"CutMedia"_qs, u"Label"_qs);
+    takeCalls();
+    QString error;
+    EXPECT_TRUE(panels.revert(&error));
+    EXPECT_EQ(takeCalls(), (QStringList{u"changed PageSize=W12, tape W12"_qs, u"changed CutMedia=None, tape W12"_qs,
+                                        u"restore"_qs}));
+    EXPECT_EQ(job.options().lines(), before);
+    EXPECT_EQ(markedChoice(job.ppd(), u"PageSize"_qs), u"W12"_qs);
+    EXPECT_EQ(markedChoice(job.ppd(), u"CutMedia"_qs), u"None"_qs);
+    EXPECT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 288.0);
+    EXPECT_EQ(mediaName(), u"W12"_qs);
+}
+
+TEST_F(PanelsTest, Summary_StandsInThePanelsOrderWithoutEmptyTitles)
+{
+    open();
+    const std::vector<PanelSummary> summary = panels.summary();
+    ASSERT_EQ(summary.size(), 1U);
+    const std::vector<std::pair<QString, QString>> expected{{u"Tape"_qs, u"W12"_qs}, {u"Margin"_qs, u"2.0"_qs}};
+    EXPECT_EQ(summary.front().lines, expected);
+}
+
+TEST_F(PanelsTest, FailureToSave_NamesThePanelAndItsReason)
+{
+    open();
+    qApp->setProperty("hostTestFailSaving", true);
+    QString error;
+    EXPECT_FALSE(panels.saveValues(&error));
+    qApp->setProperty("hostTestFailSaving", QVariant());
+    EXPECT_TRUE(error.contains(u"Test Panel"_qs) && error.contains(u"no margin"_qs)) << error.toStdString();
+    EXPECT_TRUE(panels.saveValues(&error));
+}
+
+TEST_F(PanelsTest, Refusal_NamesThePanel)
+{
+    open();
+    qApp->setProperty("hostTestRefuse", true);
+    pdekit::setAlertHandler([](const pdekit::AlertRequest &) {});
+    QString refusedBy;
+    EXPECT_FALSE(panels.shouldPrint(&refusedBy));
+    pdekit::setAlertHandler({});
+    qApp->setProperty("hostTestRefuse", QVariant());
+    EXPECT_EQ(refusedBy, u"Test Panel"_qs);
+    EXPECT_TRUE(panels.shouldPrint(&refusedBy));
+}
+
+TEST_F(PanelsTest, AnotherDestination_ReleasesTheOldPanelWhileItsObjectsStand)
+{
+    open();
+    takeCalls();
+    open(options({{u"KsMargin"_qs, u"5.0"_qs}}));
+    const QStringList calls = takeCalls();
+    EXPECT_EQ(calls.value(0), u"released"_qs);
+    EXPECT_EQ(calls.value(1), u"made, margin 5.0"_qs);
+}
+
+TEST_F(PanelsTest, WithoutAPpd_StillMakesThePanelAndRecordsItsChoices)
+{
+    Destination destination;
+    destination.queue = PrintQueue();
+    destination.queue->name = u"raw"_qs;
+    panels.open(std::move(destination), {});
+    EXPECT_EQ(job.ppd(), nullptr);
+    EXPECT_FALSE(job.pageFormat().paper.has_value());
+    EXPECT_TRUE(job.takeChoice(u"KsMargin"_qs, u"1"_qs));
+    EXPECT_EQ(job.options().lines(), QStringList{u"KsMargin=1"_qs});
+}
+
+TEST_F(PanelsTest, BrokenBundles_AreNoticesAndThePanelIsThere)
+{
+    Panels mixed(job, {QStringLiteral(HOST_TEST_BUNDLES "/type"), hosttest::goodBundles().first()});
+    mixed.open(hosttest::testDestination(folder), {});
+    EXPECT_EQ(mixed.entries().size(), 1U);
+    ASSERT_EQ(mixed.notices().size(), 1);
+    EXPECT_TRUE(mixed.notices().first().contains(u"HostTestOtherType.bundle"_qs));
+}
+
+} // namespace
