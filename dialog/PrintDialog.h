@@ -92,6 +92,8 @@ private:
     void revert();
     void print();
     void tellProblem(const QString &sentence);
+    /// \param icon a QMessageBox::Icon.
+    void tell(int icon, const QString &sentence);
 
     job::Job &mJob;
     Panels &mPanels;

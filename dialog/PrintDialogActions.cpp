@@ -163,7 +163,7 @@ void PrintDialog::print()
         tellProblem(error);
         return;
     }
-    QMessageBox::information(this, windowTitle(), printed);
+    tell(QMessageBox::Information, printed);
     accept();
 }
 
@@ -179,7 +179,15 @@ void PrintDialog::done(int code)
 
 void PrintDialog::tellProblem(const QString &sentence)
 {
-    QMessageBox::critical(this, windowTitle(), sentence);
+    tell(QMessageBox::Critical, sentence);
+}
+
+void PrintDialog::tell(int icon, const QString &sentence)
+{
+    QMessageBox box(static_cast<QMessageBox::Icon>(icon), windowTitle(), sentence, QMessageBox::Ok, this);
+    // Names and messages of strangers stand in it: nothing of them is markup.
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 } // namespace tapeprint::dialog

@@ -2,6 +2,7 @@
 // The objects of one job are changed here and nowhere else, so that they always agree.
 #include "job/Job.h"
 
+#include "job/FilterRun.h"
 #include "job/LaidDownOptions.h"
 
 #include <utility>
@@ -18,6 +19,9 @@ void Job::open(Destination destination, const JobOptions &asked)
     describePrinter();
     layDownOptions(asked);
     mNotices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(ppd(), mOptions);
+    if (mDestination.isFile() && ppd() != nullptr) {
+        mNotices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
+    }
     rememberAsOpened();
     Q_EMIT changed();
 }

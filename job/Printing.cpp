@@ -2,6 +2,7 @@
 // Choosing the road of a job: a print queue, or filters alone.
 #include "job/Printing.h"
 
+#include "job/OutputFile.h"
 #include "job/Texts.h"
 
 #include <array>
@@ -29,7 +30,8 @@ namespace
 QString PrintedJob::sentence() const
 {
     if (queue.isNull()) {
-        return Texts::tr("The printer's bytes are in %1 (%2 bytes).").arg(output.path, QString::number(output.bytes));
+        return Texts::tr("The printer's bytes are in %1 (%2 bytes).")
+            .arg(outputName(output.path), QString::number(output.bytes));
     }
     return Texts::tr("Job %1-%2 is %3.")
         .arg(queue, QString::number(job.id), Texts::tr(job.state.toLatin1().constData()));
@@ -40,7 +42,9 @@ std::optional<PrintedJob> printJob(const Job &job, const QString &title, const Q
     const Destination &destination = job.destination();
     if (destination.isFile()) {
         const std::optional<FilterOutput> output =
-            runFilters({destination.ppdPath, title, job.options(), files, destination.outputPath}, error);
+            runFilters({destination.ppdPath, title, job.options(), files, destination.outputPath,
+                        destination.mayReplaceOutput, destination.trustsPpd, destination.documents},
+                       error);
         return output ? std::optional(PrintedJob{{}, {}, *output}) : std::nullopt;
     }
     const std::optional<SubmittedJob> submitted = submitJob(*destination.queue, title, job.options(), files, error);

@@ -73,6 +73,7 @@ RunReport runUnattended(const CommandLine &line)
         if (!documents) {
             return failedRun(error);
         }
+        request.documents = documents->sources();
         nameOutput(request, documents->title(QString()));
     }
     std::optional<job::Destination> destination = job::openDestination(request, &error);
@@ -98,8 +99,10 @@ RunReport runUnattended(const CommandLine &line)
         report.output += summaryLines(panels);
     }
     if (!line.onlyShows()) {
-        const std::optional<job::PrintedJob> printed =
-            job::printJob(job, documents->title(request.title), documents->files(), &error);
+        std::optional<job::PrintedJob> printed;
+        if (job::areUnchanged(documents->sources(), &error)) {
+            printed = job::printJob(job, documents->title(request.title), documents->files(), &error);
+        }
         if (!printed) {
             panels.windowWillClose(false);
             return failedRun(error);

@@ -21,6 +21,7 @@ RunReport runWindow(const CommandLine &line)
         return failedRun(error);
     }
     job::JobRequest request = line.request;
+    request.documents = documents->sources();
     nameOutput(request, documents->title(QString()));
     std::optional<job::Destination> destination = job::openDestination(request, &error);
     if (!destination) {
@@ -39,6 +40,11 @@ RunReport runWindow(const CommandLine &line)
     QString printed;
     dialog::PrintDialog window(
         job, panels, {request, title, documents->files(), std::move(queues)}, [&](QString *reason) {
+            // The window may have been open for hours, and the printer another one by now.
+            printed = QString();
+            if (!job::areUnchanged(documents->sources(), reason)) {
+                return printed;
+            }
             const std::optional<job::PrintedJob> done = job::printJob(job, title, documents->files(), reason);
             printed = done ? done->sentence() : QString();
             return printed;
