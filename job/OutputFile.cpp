@@ -350,9 +350,9 @@ bool mayWriteTo(const OutputTarget &target, QString *error)
     const std::optional<FileStamp> there = stampOf(target.path);
     for (const FileStamp &file : target.onlyRead) {
         if (there && there->isSameFile(file)) {
-            *error = Texts::tr("The output %1 is the file %2, which is only read: name another with --output.")
+            *error = Texts::tr("The output (%1) is the same file as %2, which is only read: name another with --output.")
                          .arg(outputName(target.path),
-                              file.path.isNull() ? Texts::tr("on standard input") : harmless(file.path));
+                              file.path.isNull() ? Texts::tr("standard input") : harmless(file.path));
             return false;
         }
     }

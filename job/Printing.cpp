@@ -29,6 +29,9 @@ namespace
 
 QString PrintedJob::sentence() const
 {
+    if (queue.isNull() && isStandardOutput(output.path)) {
+        return Texts::tr("The printer's bytes went to standard output (%1 bytes).").arg(QString::number(output.bytes));
+    }
     if (queue.isNull()) {
         return Texts::tr("The printer's bytes are in %1 (%2 bytes).")
             .arg(outputName(output.path), QString::number(output.bytes));

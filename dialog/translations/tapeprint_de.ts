@@ -268,5 +268,77 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Auftrag %1-%2: %3.</translation>
     </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation>Die Filter des Druckers laufen ohne Abschottung, weil bubblewrap fehlt: Installieren Sie das Paket bubblewrap.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation>Die Filter des Druckers laufen ohne Abschottung, weil dieser Rechner sie nicht erlaubt (%1): Lassen Sie Benutzer Namensräume anlegen.</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation>Das Dokument %1 ist nicht mehr da: Es wurde nichts gedruckt. Legen Sie es zurück, oder öffnen Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation>Das Dokument %1 wurde geändert, seit es geöffnet wurde: Es wurde nichts gedruckt. Öffnen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation>sie ist größer als jede Druckerbeschreibung</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>Die PPD-Datei %1 kann nicht in einer temporären Datei abgelegt werden (%2): Schaffen Sie dort Platz.</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>Das Drucken wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation>Die Filter von %1 wurden mit dem Dokument %2 nicht fertig und wurden angehalten.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation>Der Druckerbeschreibung %1 wird vertraut; sie führt eigene Programme oder Befehle aus: %2.</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>eine Datei dieses Namens ist schon da</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation>Die Datei %1 wird nur als Ganzes ersetzt, und neben sie kann nichts geschrieben werden (%2): Nennen Sie mit --output eine andere.</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>Standardausgabe</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation>Die Ausgabe (%1) ist dieselbe Datei wie %2, die nur gelesen wird: Nennen Sie mit --output eine andere.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation>sie ist eine Pipe oder ein Gerät</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation>Die Druckerbeschreibung %1 bringt eigene Programme oder Befehle mit, für die niemand bürgt: %2. Nichts davon wurde ausgeführt. Wenn Sie dem Verfasser vertrauen, wiederholen Sie es mit --trust-ppd.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>Die PPD-Datei der Warteschlange %1 kann nicht in einer temporären Datei abgelegt werden (%2): Schaffen Sie dort Platz.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation>Die Druckdaten gingen an die Standardausgabe (%1 Byte).</translation>
+    </message>
 </context>
 </TS>

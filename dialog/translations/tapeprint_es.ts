@@ -268,5 +268,77 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Trabajo %1-%2: %3.</translation>
     </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation>Los filtros de la impresora se ejecutan sin aislamiento porque falta bubblewrap: instale el paquete bubblewrap.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation>Los filtros de la impresora se ejecutan sin aislamiento porque este equipo no lo permite (%1): permita que los usuarios creen espacios de nombres.</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation>El documento %1 ya no está: no se imprimió nada. Vuelva a ponerlo o abra otro.</translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation>El documento %1 ha cambiado desde que se abrió: no se imprimió nada. Ábralo de nuevo.</translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation>es más grande que cualquier descripción de impresora</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>El archivo PPD %1 no se puede guardar en un archivo temporal (%2): libere espacio allí.</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>Se detuvo la impresión.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation>Los filtros de %1 no terminaban con el documento %2 y se detuvieron.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation>La descripción de impresora %1 es de confianza y ejecuta programas u órdenes propios: %2.</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>ya hay un archivo con este nombre</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation>El archivo %1 solo se reemplaza entero, y no se puede escribir nada a su lado (%2): indique otro con --output.</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>la salida estándar</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation>La salida (%1) es el mismo archivo que %2, que solo se lee: indique otra con --output.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>la entrada estándar</translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation>es una tubería o un dispositivo</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation>La descripción de impresora %1 trae programas u órdenes propios de los que nadie responde: %2. No se ejecutó nada. Si confía en su autor, repita con --trust-ppd.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>El PPD de la cola %1 no se puede guardar en un archivo temporal (%2): libere espacio allí.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation>Los datos de la impresora fueron a la salida estándar (%1 bytes).</translation>
+    </message>
 </context>
 </TS>

@@ -268,5 +268,77 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Tâche %1-%2&#xa0;: %3.</translation>
     </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation>Les filtres de l’imprimante s’exécutent sans confinement, car bubblewrap est absent : installez le paquet bubblewrap.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation>Les filtres de l’imprimante s’exécutent sans confinement, car cette machine ne le permet pas (%1) : autorisez les utilisateurs à créer des espaces de noms.</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation>Le document %1 a disparu : rien n’a été imprimé. Remettez-le en place ou ouvrez-en un autre.</translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation>Le document %1 a changé depuis son ouverture : rien n’a été imprimé. Ouvrez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation>il est plus grand que toute description d’imprimante</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>Le fichier PPD %1 ne peut pas être conservé dans un fichier temporaire (%2) : libérez-y de la place.</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>L’impression a été arrêtée.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation>Les filtres de %1 n’en finissaient pas avec le document %2 et ont été arrêtés.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation>La description d’imprimante %1 est jugée digne de confiance et exécute ses propres programmes ou commandes : %2.</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>un fichier de ce nom existe déjà</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation>Le fichier %1 n’est remplacé qu’en entier, et rien ne peut être écrit à côté (%2) : indiquez-en un autre avec --output.</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>la sortie standard</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation>La sortie (%1) est le même fichier que %2, qui n’est que lu : indiquez-en une autre avec --output.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>l’entrée standard</translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation>c’est un tube ou un périphérique</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation>La description d’imprimante %1 apporte ses propres programmes ou commandes, dont personne ne répond : %2. Rien n’a été exécuté. Si vous faites confiance à son auteur, recommencez avec --trust-ppd.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>Le PPD de la file %1 ne peut pas être conservé dans un fichier temporaire (%2) : libérez-y de la place.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation>Les données d’impression sont allées sur la sortie standard (%1 octets).</translation>
+    </message>
 </context>
 </TS>

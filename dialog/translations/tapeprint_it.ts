@@ -268,5 +268,77 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Lavoro %1-%2: %3.</translation>
     </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation>I filtri della stampante vengono eseguiti senza isolamento perché manca bubblewrap: installare il pacchetto bubblewrap.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation>I filtri della stampante vengono eseguiti senza isolamento perché questo computer non lo consente (%1): consentire agli utenti di creare spazi dei nomi.</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation>Il documento %1 non c’è più: non è stato stampato nulla. Rimetterlo al suo posto o aprirne un altro.</translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation>Il documento %1 è cambiato da quando è stato aperto: non è stato stampato nulla. Aprirlo di nuovo.</translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation>è più grande di qualsiasi descrizione di stampante</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>Il file PPD %1 non può essere conservato in un file temporaneo (%2): liberare spazio.</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>La stampa è stata interrotta.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation>I filtri di %1 non terminavano con il documento %2 e sono stati interrotti.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation>La descrizione di stampante %1 è considerata attendibile ed esegue programmi o comandi propri: %2.</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>esiste già un file con questo nome</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation>Il file %1 viene sostituito solo per intero e accanto non si può scrivere nulla (%2): indicarne un altro con --output.</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>lo standard output</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation>L’output (%1) è lo stesso file di %2, che viene solo letto: indicarne un altro con --output.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>lo standard input</translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation>è una pipe o un dispositivo</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation>La descrizione di stampante %1 porta programmi o comandi propri, di cui nessuno risponde: %2. Non è stato eseguito nulla. Se ci si fida dell’autore, ripetere con --trust-ppd.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>Il PPD della coda %1 non può essere conservato in un file temporaneo (%2): liberare spazio.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation>I dati di stampa sono andati allo standard output (%1 byte).</translation>
+    </message>
 </context>
 </TS>

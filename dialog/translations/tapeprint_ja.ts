@@ -268,5 +268,77 @@
         <source>Job %1-%2 is %3.</source>
         <translation>ジョブ %1-%2：%3。</translation>
     </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation>bubblewrap がないため、プリンターのフィルターは隔離されずに実行されます。パッケージ bubblewrap をインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation>このコンピューターでは許可されていないため (%1)、プリンターのフィルターは隔離されずに実行されます。ユーザーが名前空間を作れるようにしてください。</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation>書類 %1 がなくなりました。何も印刷されていません。元に戻すか、別の書類を開いてください。</translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation>書類 %1 は開いた後に変更されました。何も印刷されていません。もう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation>どのプリンター記述よりも大きいファイルです</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>PPD ファイル %1 を一時ファイルに保存できません (%2)。空きを作ってください。</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation>%1 のフィルターは書類 %2 の処理を終えなかったため、停止しました。</translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation>プリンター記述 %1 は信頼されており、独自のプログラムまたはコマンドを実行します: %2。</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>この名前のファイルがすでにあります</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation>ファイル %1 は全体としてのみ置き換えられますが、同じ場所に書き込めません (%2)。--output で別のファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>標準出力</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation>出力 (%1) は、読み取り専用で扱う %2 と同じファイルです。--output で別のファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>標準入力</translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation>パイプまたはデバイスです</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation>プリンター記述 %1 には、誰も保証していない独自のプログラムまたはコマンドが含まれています: %2。何も実行されていません。作成者を信頼する場合は、--trust-ppd を付けて繰り返してください。</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>キュー %1 の PPD を一時ファイルに保存できません (%2)。空きを作ってください。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation>プリンターのデータを標準出力に送りました (%1 バイト)。</translation>
+    </message>
 </context>
 </TS>

@@ -268,5 +268,77 @@
         <source>Job %1-%2 is %3.</source>
         <translation>작업 %1-%2: %3.</translation>
     </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation>bubblewrap가 없어 프린터 필터가 격리 없이 실행됩니다. bubblewrap 패키지를 설치하십시오.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation>이 컴퓨터에서 허용되지 않아(%1) 프린터 필터가 격리 없이 실행됩니다. 사용자가 네임스페이스를 만들 수 있게 하십시오.</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation>문서 %1이(가) 없어졌습니다. 아무것도 인쇄되지 않았습니다. 되돌려 놓거나 다른 문서를 여십시오.</translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation>문서 %1이(가) 연 뒤에 바뀌었습니다. 아무것도 인쇄되지 않았습니다. 다시 여십시오.</translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation>어떤 프린터 설명보다도 큽니다</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>PPD 파일 %1을(를) 임시 파일에 보관할 수 없습니다(%2). 공간을 확보하십시오.</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>인쇄를 중지했습니다.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation>%1의 필터가 문서 %2을(를) 끝내지 못해 중지되었습니다.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation>프린터 설명 %1은(는) 신뢰되어 자체 프로그램이나 명령을 실행합니다: %2.</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>같은 이름의 파일이 있습니다</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation>파일 %1은(는) 통째로만 바뀌는데 그 옆에 쓸 수 없습니다(%2). --output으로 다른 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>표준 출력</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation>출력(%1)은 읽기만 하는 %2와(과) 같은 파일입니다. --output으로 다른 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>표준 입력</translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation>파이프 또는 장치입니다</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation>프린터 설명 %1에 아무도 보증하지 않는 자체 프로그램이나 명령이 들어 있습니다: %2. 아무것도 실행되지 않았습니다. 만든 이를 신뢰한다면 --trust-ppd로 다시 실행하십시오.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>대기열 %1의 PPD를 임시 파일에 보관할 수 없습니다(%2). 공간을 확보하십시오.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation>프린터 데이터를 표준 출력으로 보냈습니다(%1바이트).</translation>
+    </message>
 </context>
 </TS>

@@ -268,5 +268,77 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Taak %1-%2: %3.</translation>
     </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation>De filters van de printer draaien zonder afscherming, omdat bubblewrap ontbreekt: installeer het pakket bubblewrap.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation>De filters van de printer draaien zonder afscherming, omdat deze computer dat niet toestaat (%1): laat gebruikers naamruimten maken.</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation>Het document %1 is verdwenen: er is niets afgedrukt. Zet het terug of open een ander.</translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation>Het document %1 is gewijzigd sinds het is geopend: er is niets afgedrukt. Open het opnieuw.</translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation>het is groter dan welke printerbeschrijving ook</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>Het PPD-bestand %1 kan niet in een tijdelijk bestand worden bewaard (%2): maak daar ruimte.</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>Het afdrukken is gestopt.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation>De filters van %1 kwamen niet klaar met het document %2 en zijn gestopt.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation>De printerbeschrijving %1 wordt vertrouwd en voert eigen programma’s of opdrachten uit: %2.</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>er is al een bestand met deze naam</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation>Het bestand %1 wordt alleen in zijn geheel vervangen, en ernaast kan niets worden geschreven (%2): noem een ander met --output.</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>standaarduitvoer</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation>De uitvoer (%1) is hetzelfde bestand als %2, dat alleen wordt gelezen: noem een ander met --output.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>standaardinvoer</translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation>het is een pijp of een apparaat</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation>De printerbeschrijving %1 brengt eigen programma’s of opdrachten mee, waarvoor niemand instaat: %2. Er is niets uitgevoerd. Vertrouwt u de maker, herhaal het dan met --trust-ppd.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>De PPD van wachtrij %1 kan niet in een tijdelijk bestand worden bewaard (%2): maak daar ruimte.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation>De printergegevens gingen naar de standaarduitvoer (%1 bytes).</translation>
+    </message>
 </context>
 </TS>

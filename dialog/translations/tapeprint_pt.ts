@@ -268,5 +268,77 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Trabalho %1-%2: %3.</translation>
     </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation>Os filtros da impressora são executados sem isolamento, porque falta o bubblewrap: instale o pacote bubblewrap.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation>Os filtros da impressora são executados sem isolamento, porque esta máquina não o permite (%1): deixe os utilizadores criar espaços de nomes.</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation>O documento %1 desapareceu: nada foi impresso. Reponha-o ou abra outro.</translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation>O documento %1 mudou desde que foi aberto: nada foi impresso. Abra-o de novo.</translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation>é maior do que qualquer descrição de impressora</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>O ficheiro PPD %1 não pode ser guardado num ficheiro temporário (%2): liberte espaço.</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>A impressão foi parada.</translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation>Os filtros de %1 não terminavam com o documento %2 e foram parados.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation>A descrição de impressora %1 é de confiança e executa programas ou comandos próprios: %2.</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>já existe um ficheiro com este nome</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation>O ficheiro %1 só é substituído por inteiro, e nada pode ser escrito ao lado dele (%2): indique outro com --output.</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>a saída padrão</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation>A saída (%1) é o mesmo ficheiro que %2, que só é lido: indique outra com --output.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>a entrada padrão</translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation>é um pipe ou um dispositivo</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation>A descrição de impressora %1 traz programas ou comandos próprios, pelos quais ninguém responde: %2. Nada foi executado. Se confia no autor, repita com --trust-ppd.</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>O PPD da fila %1 não pode ser guardado num ficheiro temporário (%2): liberte espaço.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation>Os dados da impressora foram para a saída padrão (%1 bytes).</translation>
+    </message>
 </context>
 </TS>

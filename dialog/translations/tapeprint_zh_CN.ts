@@ -268,5 +268,77 @@
         <source>Job %1-%2 is %3.</source>
         <translation>作业 %1-%2：%3。</translation>
     </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation>由于缺少 bubblewrap，打印机的过滤器在没有隔离的情况下运行：请安装软件包 bubblewrap。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation>由于这台计算机不允许（%1），打印机的过滤器在没有隔离的情况下运行：请允许用户创建命名空间。</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation>文档 %1 已不存在：没有打印任何内容。请将其放回，或打开另一个文档。</translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation>文档 %1 在打开之后已更改：没有打印任何内容。请重新打开。</translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation>它比任何打印机描述都大</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>无法将 PPD 文件 %1 保存到临时文件（%2）：请腾出空间。</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>打印已停止。</translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation>%1 的过滤器未能完成文档 %2，已被停止。</translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation>打印机描述 %1 受信任，会运行自带的程序或命令：%2。</translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation>已有同名文件</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation>文件 %1 只能整体替换，而其旁边无法写入（%2）：请用 --output 指定另一个文件。</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>标准输出</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation>输出（%1）与只读取的 %2 是同一个文件：请用 --output 指定另一个。</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation>它是管道或设备</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation>打印机描述 %1 自带无人担保的程序或命令：%2。没有运行任何内容。如果您信任其作者，请加上 --trust-ppd 重试。</translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation>无法将队列 %1 的 PPD 保存到临时文件（%2）：请腾出空间。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation>打印数据已送往标准输出（%1 字节）。</translation>
+    </message>
 </context>
 </TS>
