@@ -6,6 +6,7 @@
 #include "job/Texts.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace tapeprint::job
 {
@@ -44,6 +45,16 @@ bool FileStamp::isUnchanged(const FileStamp &later) const
 {
     return device == later.device && number == later.number && size == later.size &&
            changedAt.tv_sec == later.changedAt.tv_sec && changedAt.tv_nsec == later.changedAt.tv_nsec;
+}
+
+QString placeOf(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString folder = QFileInfo(info.path()).canonicalFilePath();
+    if (folder.isEmpty()) {
+        return path;
+    }
+    return folder == u"/" ? folder + info.fileName() : folder + u'/' + info.fileName();
 }
 
 bool areUnchanged(const FileStamps &files, QString *error)

@@ -32,6 +32,10 @@ struct FileStamp {
     bool isUnchanged(const FileStamp &later) const;
 };
 
+/// An absolute path in which the folders are real ones, without links and ".."; the last step stays as it is, because
+/// filters look at a document's ending. As given when there is no such folder.
+QString placeOf(const QString &path);
+
 /// Files that are only read.
 using FileStamps = std::vector<FileStamp>;
 

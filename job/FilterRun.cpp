@@ -11,7 +11,7 @@
 #include "job/Texts.h"
 
 #include <QByteArray>
-#include <QFileInfo>
+#include <QFile>
 #include <QStandardPaths>
 
 #include <array>
@@ -152,7 +152,7 @@ struct FilterChain {
 
 bool runOneFile(const FilterJob &job, const FilterChain &chain, const QString &file, OutputFile &output, QString *error)
 {
-    const QString path = QFileInfo(file).absoluteFilePath();
+    const QString path = placeOf(file);
     const ConfinedRun run = runConfined(
         {chain.program, filterArguments(job, chain.ppdPath, path), QStringList{chain.ppdPath, path} + chain.others},
         [&](const QByteArray &bytes) { return output.write(bytes, error); }, job.stop, job.longest);

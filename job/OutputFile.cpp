@@ -105,7 +105,7 @@ QString followLinks(QString path)
     for (int i = 0; i < mostLinks && QFileInfo(path).isSymLink(); ++i) {
         path = QFile::symLinkTarget(path);
     }
-    return path;
+    return placeOf(path);
 }
 
 std::optional<FileStamp> stampOf(const QString &path)
@@ -350,9 +350,10 @@ bool mayWriteTo(const OutputTarget &target, QString *error)
     const std::optional<FileStamp> there = stampOf(target.path);
     for (const FileStamp &file : target.onlyRead) {
         if (there && there->isSameFile(file)) {
-            *error = Texts::tr("The output (%1) is the same file as %2, which is only read: name another with --output.")
-                         .arg(outputName(target.path),
-                              file.path.isNull() ? Texts::tr("standard input") : harmless(file.path));
+            *error =
+                Texts::tr("The output (%1) is the same file as %2, which is only read: name another with --output.")
+                    .arg(outputName(target.path),
+                         file.path.isNull() ? Texts::tr("standard input") : harmless(file.path));
             return false;
         }
     }

@@ -144,6 +144,18 @@ TEST_F(Output, ThroughALinkToNothing_AppearsWhereTheLinkLeads)
     EXPECT_TRUE(contentsOf(path(u"tmp/new.prn"_qs)).endsWith("Hello\n"));
 }
 
+TEST_F(Output, AndDocumentThroughALinkedFolderAndBack_AreWhereTheSystemFindsThem)
+{
+    // "far" leads to tmp/deep, so that what is above it is tmp and not the folder in which the link stands.
+    QDir(folder.path()).mkpath(u"tmp/deep"_qs);
+    ASSERT_TRUE(QFile::link(u"tmp/deep"_qs, path(u"far"_qs)));
+    ASSERT_TRUE(QFile::rename(document, path(u"tmp/label.txt"_qs)));
+    const Outcome outcome = run(job(u"far/../out.prn"_qs, u"far/../label.txt"_qs));
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    EXPECT_TRUE(contentsOf(path(u"tmp/out.prn"_qs)).endsWith("Hello\n"));
+    EXPECT_FALSE(QFileInfo::exists(path(u"out.prn"_qs)));
+}
+
 TEST_F(Output, ThatIsNew_HasThePermissionsOfNewFiles)
 {
     const mode_t mask = umask(027);

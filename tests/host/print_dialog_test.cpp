@@ -207,6 +207,7 @@ TEST_F(PrintDialogTest, Print_SavesAsksPrintsAndSaysWhereTheBytesWent)
             if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
                 timer->stop();
                 said = box->text();
+                EXPECT_EQ(box->textFormat(), Qt::PlainText);
                 box->accept();
             }
         });
