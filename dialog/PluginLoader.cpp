@@ -61,6 +61,7 @@ QString loadBundle(const QString &path, LoadedBundle *loaded)
     auto *entry = qobject_cast<pdekit::PlugInEntry *>(root);
     const QString className = module.metaData().value(u"MetaData").toObject().value(u"PrincipalClass").toString();
     loaded->path = path;
+    loaded->tape = job::TapeKeywords::fromMetadata(module.metaData().value(u"MetaData").toObject());
     loaded->bundle = pdekit::Bundle::bundleWithPath(path);
     loaded->principal = entry == nullptr ? nullptr : entry->newPrincipalObject(className);
     if (!loaded->principal) {

@@ -31,6 +31,7 @@ void Job::close()
     mPrinter = {};
     mOptions = {};
     mLaidDown = {};
+    mTape = {};
     mOpenedWith = {};
     mDestination = {};
 }

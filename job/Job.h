@@ -7,9 +7,12 @@
 #include "job/Destination.h"
 #include "job/JobOptions.h"
 #include "job/PpdMarks.h"
+#include "job/TapeKeywords.h"
 
 #include <QObject>
 #include <QStringList>
+
+#include <utility>
 
 #include <pdekit/PrintingCore.h>
 
@@ -40,6 +43,10 @@ public:
     const pdekit::PageFormat &pageFormat() const { return mPageFormat; }
     pdekit::Printer &printer() { return mPrinter; }
     const JobOptions &options() const { return mOptions; }
+    /// What the options and attributes of a tape are called; empty as long as no panel says that the printer prints on
+    /// tape.
+    const TapeKeywords &tape() const { return mTape; }
+    void setTape(TapeKeywords tape) { mTape = std::move(tape); }
     /// What was laid down for this job: the queue's or instance's saved options under those asked for.
     const JobOptions &laidDown() const { return mLaidDown; }
 
@@ -88,6 +95,7 @@ private:
     pdekit::Printer mPrinter;
     JobOptions mOptions;
     JobOptions mLaidDown;
+    TapeKeywords mTape;
     Snapshot mOpenedWith;
 };
 
