@@ -5,8 +5,8 @@
 #include "dialog/ChoicePopUp.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PreviewArea.h"
 #include "dialog/SummaryView.h"
-#include "dialog/TapePreview.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -123,8 +123,8 @@ QWidget *PrintDialog::makeSummaryArea()
     summaryLayout->addWidget(mSummary);
     summaryBox->setMinimumWidth(summaryWidth);
     layout->addWidget(summaryBox, 1);
-    mPreview = new TapePreview(area);
-    mPreview->setDocument(mSetup.files.value(0));
+    mPreview = new PreviewArea(area);
+    mPreview->setDocuments(mSetup.files);
     layout->addWidget(mPreview);
     return area;
 }

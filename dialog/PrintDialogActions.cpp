@@ -3,9 +3,9 @@
 #include "dialog/ChoicePopUp.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/SummaryView.h"
-#include "dialog/TapePreview.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -49,7 +49,10 @@ void PrintDialog::connectControls()
 bool PrintDialog::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::KeyPress:
     case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseMove:
     case QEvent::Wheel:
@@ -126,13 +129,21 @@ void PrintDialog::follow()
         return;
     }
     mSummary->showSummary(mPanels.summary());
-    mPreview->follow(mJob.pageFormat().paper, mJob.options());
-    mPreview->setVisible(mJob.pageFormat().paper.has_value());
+    followInThePreview();
     selectChoice(mTapePopUp, job::markedChoice(mJob.ppd(), job::OptionName::pageSize));
     mCopiesField->setValue(mJob.copies());
     if (mOptionsPage) {
         mOptionsPage->follow();
     }
+}
+
+void PrintDialog::followInThePreview()
+{
+    // What a person is dragging or typing this moment counts, though the panel has not sent it yet.
+    const job::JobOptions options = mPanels.currentOptions();
+    const job::TapePage page = job::tapePageOf(mJob.ppd(), options, mJob.tape());
+    mPreview->follow(page, options, tapeLookOf(mJob.ppd(), options, mJob.tape()));
+    mPreview->setVisible(!page.isEmpty());
 }
 
 void PrintDialog::revert()

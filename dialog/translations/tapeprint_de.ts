@@ -30,6 +30,61 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Voriges Etikett</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Nächstes Etikett</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Etikett %1 von %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>Ein Teil der Seite wird abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>Auf dieser Seite ist nichts.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>Tinte dieser Farbe ist auf diesem Band schlecht zu sehen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n Blatt</numerusform>
+            <numerusform>%n Blätter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, %2 Band</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n Etikett</numerusform>
+            <numerusform>%n Etiketten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>Keine Vorschau: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -104,6 +159,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>Länge %1, Breite %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Papiervorschau</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1; ein Teil der Seite wird abgeschnitten</translation>
     </message>
 </context>
 <context>
@@ -267,6 +331,35 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Auftrag %1-%2: %3.</translation>
+    </message>
+    <message>
+        <source>It is no plain file.</source>
+        <translation>Es ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 ist beschädigt: Keine Seite ist lesbar.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 ist kein PDF-Dokument.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 ist durch ein Kennwort geschützt. Speichern Sie es ohne Kennwort und drucken Sie das.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 hat keine Seite.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 Zoll</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,61 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Previous label</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Next label</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Label %1 of %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>Part of the page is cut off.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>Nothing is drawn on this page.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>Ink of this colour is hard to see on this tape.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n sheet</numerusform>
+            <numerusform>%n sheets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, %2 of tape</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n label</numerusform>
+            <numerusform>%n labels</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>There is no preview: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -104,6 +159,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>Length %1, width %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Paper preview</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1; part of the page is cut off</translation>
     </message>
 </context>
 <context>
@@ -267,6 +331,35 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Job %1-%2 is %3.</translation>
+    </message>
+    <message>
+        <source>It is no plain file.</source>
+        <translation>It is no plain file.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 is broken: no page of it can be read.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 is no PDF document.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 is protected by a password: save it without one, and print that.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 has no page.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 in</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,61 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Etiqueta anterior</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Etiqueta siguiente</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Etiqueta %1 de %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>Parte de la página queda cortada.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>Esta página está vacía.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>La tinta de este color apenas se ve en esta cinta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n hoja</numerusform>
+            <numerusform>%n hojas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, %2 de cinta</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n etiqueta</numerusform>
+            <numerusform>%n etiquetas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>Sin vista previa: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -104,6 +159,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>Longitud %1, ancho %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Vista previa del papel</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1; parte de la página queda cortada</translation>
     </message>
 </context>
 <context>
@@ -267,6 +331,35 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Trabajo %1-%2: %3.</translation>
+    </message>
+    <message>
+        <source>It is no plain file.</source>
+        <translation>No es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>No se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 está dañado: no se puede leer ninguna página.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 no es un documento PDF.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 está protegido con contraseña: guárdelo sin ella e imprima esa copia.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 no tiene ninguna página.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 pulg.</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,61 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Étiquette précédente</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Étiquette suivante</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Étiquette %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>Une partie de la page est coupée.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>Cette page est vide.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>L’encre de cette couleur se voit mal sur ce ruban.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n feuille</numerusform>
+            <numerusform>%n feuilles</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, %2 de ruban</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n étiquette</numerusform>
+            <numerusform>%n étiquettes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>Pas d’aperçu : %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -104,6 +159,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>Longueur %1, largeur %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Aperçu du papier</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1 ; une partie de la page est coupée</translation>
     </message>
 </context>
 <context>
@@ -267,6 +331,35 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Tâche %1-%2&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>It is no plain file.</source>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossible de lire %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 est endommagé : aucune page n’est lisible.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 n’est pas un document PDF.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 est protégé par un mot de passe : enregistrez-le sans mot de passe et imprimez cette copie.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 n’a aucune page.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 po</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,61 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Etichetta precedente</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Etichetta successiva</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Etichetta %1 di %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>Una parte della pagina viene tagliata.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>Questa pagina è vuota.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>L’inchiostro di questo colore si vede male su questo nastro.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n foglio</numerusform>
+            <numerusform>%n fogli</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, %2 di nastro</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n etichetta</numerusform>
+            <numerusform>%n etichette</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>Nessuna anteprima: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -104,6 +159,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>Lunghezza %1, larghezza %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Anteprima della carta</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1; una parte della pagina viene tagliata</translation>
     </message>
 </context>
 <context>
@@ -267,6 +331,35 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Lavoro %1-%2: %3.</translation>
+    </message>
+    <message>
+        <source>It is no plain file.</source>
+        <translation>Non è un file normale.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossibile leggere %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 è danneggiato: nessuna pagina è leggibile.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 non è un documento PDF.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 è protetto da password: salvarlo senza password e stampare quella copia.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 non ha pagine.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 pollici</translation>
     </message>
 </context>
 </TS>

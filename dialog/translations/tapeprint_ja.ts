@@ -30,6 +30,59 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>前のラベル</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>次のラベル</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>ラベル %1 / %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>ページの一部が切れています。</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>このページには何も描かれていません。</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>この色のインクはこのテープでは見えにくくなります。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n 枚</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1、テープ %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>ラベル %n 枚</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>プレビューはありません：%1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -104,6 +157,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>長さ %1、幅 %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>用紙のプレビュー</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1。ページの一部が切れています</translation>
     </message>
 </context>
 <context>
@@ -267,6 +329,35 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>ジョブ %1-%2：%3。</translation>
+    </message>
+    <message>
+        <source>It is no plain file.</source>
+        <translation>通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません：%2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 は壊れています：ページを読み取れません。</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 は PDF 文書ではありません。</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 はパスワードで保護されています。パスワードなしで保存し、それを印刷してください。</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 にはページがありません。</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 インチ</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,59 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>이전 라벨</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>다음 라벨</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>라벨 %1 / %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>페이지의 일부가 잘립니다.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>이 페이지에는 아무것도 없습니다.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>이 색의 잉크는 이 테이프에서 잘 보이지 않습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n장</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, 테이프 %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>라벨 %n장</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>미리 보기 없음: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -104,6 +157,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>길이 %1, 폭 %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>용지 미리 보기</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1, 페이지의 일부가 잘림</translation>
     </message>
 </context>
 <context>
@@ -267,6 +329,35 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>작업 %1-%2: %3.</translation>
+    </message>
+    <message>
+        <source>It is no plain file.</source>
+        <translation>일반 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1을(를) 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1이(가) 손상되었습니다: 읽을 수 있는 페이지가 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1은(는) PDF 문서가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1은(는) 암호로 보호되어 있습니다. 암호 없이 저장한 다음 인쇄하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1에 페이지가 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 인치</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,59 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>上一张标签</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>下一张标签</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>第 %1 张标签，共 %2 张</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>页面的一部分会被裁掉。</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>此页上没有任何内容。</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>此颜色的墨水在此标签带上不易看清。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n 张</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1，标签带 %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n 张标签</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>没有预览：%1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -104,6 +157,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>长度 %1，宽度 %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>纸张预览</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1；页面的一部分会被裁掉</translation>
     </message>
 </context>
 <context>
@@ -267,6 +329,35 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>作业 %1-%2：%3。</translation>
+    </message>
+    <message>
+        <source>It is no plain file.</source>
+        <translation>它不是普通文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 已损坏：无法读取任何页面。</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 不是 PDF 文档。</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 受密码保护：请另存为不带密码的文件后再打印。</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 没有页面。</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 英寸</translation>
     </message>
 </context>
 </TS>
