@@ -8,6 +8,7 @@
 #include "job/JobOptions.h"
 #include "job/PpdMarks.h"
 #include "job/TapeKeywords.h"
+#include "job/TapePage.h"
 
 #include <QObject>
 #include <QStringList>
@@ -47,6 +48,8 @@ public:
     /// tape.
     const TapeKeywords &tape() const { return mTape; }
     void setTape(TapeKeywords tape) { mTape = std::move(tape); }
+    /// The page that comes out of the printer, with the options as they stand.
+    TapePage page() const { return tapePageOf(ppd(), mOptions, mTape); }
     /// What was laid down for this job: the queue's or instance's saved options under those asked for.
     const JobOptions &laidDown() const { return mLaidDown; }
 

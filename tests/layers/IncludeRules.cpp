@@ -33,7 +33,7 @@ const std::array<Room, 9> &rooms()
     static const std::array<Room, 9> table = {{
         {"tapeprint", {"dialog", "job", "pdekit"}, {"cups/"}},
         {"dialog", {"job", "pdekit"}, {"cups/"}},
-        {"job", {"pdekit"}, {"cups/"}, false},
+        {"job", {"pdekit"}, {"cups/", "qpdf/", "poppler-qt6.h"}, false},
         {"panel", {"plugin", "controls", "ppd", "pdekit"}, {"cups/ppd.h"}},
         {"plugin", {"panel", "ppd", "pdekit"}, {"cups/ppd.h"}},
         {"controls", {"ppd", "pdekit"}, {"cups/ppd.h"}},
