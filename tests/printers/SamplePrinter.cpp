@@ -56,6 +56,7 @@ std::vector<SamplePrinter> printersAtTheirFinest()
     }
     finest.emplace(u"fixed"_qs, at(u"fixed"_qs, 300, 600));
     std::vector<SamplePrinter> printers;
+    printers.reserve(finest.size());
     for (const auto &[name, printer] : finest) {
         printers.push_back(printer);
     }
