@@ -192,6 +192,7 @@ bool pictureToPdf(const QString &document, const QString &path, QString *error)
         *error = noRoom(path);
         return false;
     }
+    painter.setRenderHint(QPainter::LosslessImageRendering); // a bar code is not to be smeared
     painter.drawImage(QRectF(0, 0, writer.width(), writer.height()), picture);
     return painter.end();
 }

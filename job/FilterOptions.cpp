@@ -10,10 +10,11 @@ namespace tapeprint::job
 
 JobOptions filterOptions(const JobOptions &options, const TapePage &page)
 {
-    if (!page.isTape) {
-        return options;
-    }
     JobOptions result = options;
+    result.remove(OptionName::fitLength); // the dialog's own
+    if (!page.isTape) {
+        return result;
+    }
     for (const QString &name : layoutOptionNames() + selectionOptionNames()) {
         result.remove(name);
     }

@@ -116,6 +116,12 @@ void Job::record(const QString &key, const QString &choice)
     }
 }
 
+void Job::changePaperLength(double lengthMm)
+{
+    setPaperLengthMm(lengthMm);
+    Q_EMIT changed();
+}
+
 void Job::setCopies(int copies)
 {
     const int count = qMax(1, copies);

@@ -58,6 +58,8 @@ public:
     bool takeChoice(const QString &key, const QString &choice);
     /// The person changes an option in the dialog itself: the paper follows, too.
     void changeOption(const QString &key, const QString &choice);
+    /// The paper becomes a tape of another length. Panels take it over when they are shown again.
+    void changePaperLength(double lengthMm);
     /// The number of copies, at least 1.
     void setCopies(int copies);
     int copies() const;

@@ -3,6 +3,7 @@
 // and leaves it as it is.
 #include "job/LaidOutDocument.h"
 
+#include "job/PageBox.h"
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
@@ -33,7 +34,6 @@ namespace
 {
 
 constexpr int decimals = 5;
-constexpr int quarterDegrees = 90;
 
 std::string number(double value)
 {
@@ -46,59 +46,31 @@ std::string matrixText(const QTransform &matrix)
            ' ' + number(matrix.dx()) + ' ' + number(matrix.dy());
 }
 
-/// A rectangle of a page dictionary, whichever corners it names.
-QRectF rectangleOf(QPDFObjectHandle box)
-{
-    const QPDFObjectHandle::Rectangle corners = box.getArrayAsRectangle();
-    return QRectF(QPointF(std::min(corners.llx, corners.urx), std::min(corners.lly, corners.ury)),
-                  QPointF(std::max(corners.llx, corners.urx), std::max(corners.lly, corners.ury)));
-}
-
-/// One page of a document: what of it is shown, and how it is turned to be read.
+/// One page of a document: its form in the target, and which part of it is the page.
 struct SourcePage {
     QPDFObjectHandle form;
-    QRectF box; ///< the crop box within the media box, in the page's own units, y up
-    int quarters = 0;
-    double unit = 1.0; ///< points in a unit of the page
+    PageBox box;
 
-    QSizeF sizeAsRead() const
-    {
-        const QSizeF size = box.size() * unit;
-        return quarters % 2 == 0 ? size : size.transposed();
-    }
-
-    /// From the page's own units to points of the page as it is read, from its top left.
+    /// From the page's own units, y upwards, to points of the page as it is read, from its top left.
     QTransform asRead() const
     {
-        const QTransform upright = QTransform(unit, 0, 0, -unit, -box.left() * unit, (box.top() + box.height()) * unit);
-        const double width = box.width() * unit;
-        const double height = box.height() * unit;
-        switch (quarters) {
-        case 1:
+        const double unit = box.unitPt;
+        const QRectF &page = box.page;
+        const QTransform upright(unit, 0, 0, -unit, -page.left() * unit, (page.top() + page.height()) * unit);
+        const double width = page.width() * unit;
+        const double height = page.height() * unit;
+        switch (box.turn) {
+        case 90:
             return upright * QTransform(0, 1, -1, 0, height, 0);
-        case 2:
+        case 180:
             return upright * QTransform(-1, 0, 0, -1, width, height);
-        case 3:
+        case 270:
             return upright * QTransform(0, -1, 1, 0, 0, width);
         default:
             return upright;
         }
     }
 };
-
-/// What of a page is shown and how, without its form.
-SourcePage sourcePage(QPDFPageObjectHelper &page)
-{
-    SourcePage result;
-    const QRectF media = rectangleOf(page.getMediaBox(false));
-    const QRectF shown = rectangleOf(page.getCropBox(false)).intersected(media);
-    result.box = shown.isEmpty() ? media : shown;
-    QPDFObjectHandle rotate = page.getAttribute("/Rotate", false);
-    result.quarters = rotate.isInteger() ? ((rotate.getIntValueAsInt() / quarterDegrees) % 4 + 4) % 4 : 0;
-    QPDFObjectHandle unit = page.getObjectHandle().getKey("/UserUnit");
-    result.unit = unit.isNumber() && unit.getNumericValue() > 0.0 ? unit.getNumericValue() : 1.0;
-    return result;
-}
 
 /// A document as libqpdf reads it, with forms and notes drawn into its pages.
 class Source
@@ -124,11 +96,11 @@ public:
             return known->second;
         }
         QPDFPageObjectHelper &page = mPages.at(static_cast<std::size_t>(index));
-        SourcePage copied = sourcePage(page);
+        SourcePage copied{{}, pageBoxOf(page)};
         QPDFObjectHandle form = page.getFormXObjectForPage(false);
-        form.getDict().replaceKey("/BBox",
-                                  QPDFObjectHandle::newFromRectangle(
-                                      {copied.box.left(), copied.box.top(), copied.box.right(), copied.box.bottom()}));
+        const QRectF &box = copied.box.page;
+        form.getDict().replaceKey(
+            "/BBox", QPDFObjectHandle::newFromRectangle({box.left(), box.top(), box.right(), box.bottom()}));
         copied.form = target.copyForeignObject(form);
         return mCopied.emplace(index, copied).first->second;
     }
@@ -205,8 +177,8 @@ std::optional<PageSizes> pageSizesOf(const QString &pdf, QString *error, const Q
         document.setSuppressWarnings(true);
         document.processFile(QFile::encodeName(pdf).constData());
         PageSizes sizes;
-        for (QPDFPageObjectHelper &page : QPDFPageDocumentHelper(document).getAllPages()) {
-            sizes.push_back(sourcePage(page).sizeAsRead());
+        for (const PageBox &box : pageBoxesOf(document)) {
+            sizes.push_back(box.sizePt());
         }
         if (sizes.empty()) {
             *error = Texts::tr("The document %1 has no page: name one with something to print.").arg(name);

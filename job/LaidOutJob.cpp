@@ -4,6 +4,7 @@
 
 #include "job/Conversion.h"
 #include "job/LaidOutDocument.h"
+#include "job/PdfPages.h"
 #include "job/Texts.h"
 
 #include <algorithm>
@@ -16,6 +17,11 @@ namespace tapeprint::job
 namespace
 {
 
+bool fitsLength(const Job &job)
+{
+    return job.page().isTape && layoutChoicesOf(job.options()).fitLength;
+}
+
 QString lengthText(double points)
 {
     return pdekit::fixedDecimals(mmFromPoints(points), 1);
@@ -23,9 +29,10 @@ QString lengthText(double points)
 
 } // namespace
 
-std::optional<PdfDocuments> collectPdfs(const QStringList &files, const QSizeF &textPagePt,
-                                        const std::atomic<bool> &stop, QString *error)
+std::optional<PdfDocuments> collectPdfs(const Job &job, const QStringList &files, const std::atomic<bool> &stop,
+                                        QString *error)
 {
+    const QSizeF textPagePt = textPageOf(job);
     PdfDocuments documents;
     documents.files = files;
     for (const QString &file : files) {
@@ -46,13 +53,45 @@ std::optional<PdfDocuments> collectPdfs(const QStringList &files, const QSizeF &
         documents.pdfs.append(pdf);
         documents.sizes.push_back(*sizes);
     }
+    if (fitsLength(job) && !findDrawnRects(documents, stop, error)) {
+        return std::nullopt;
+    }
     return documents;
 }
 
-QSizeF textPageOf(const TapePage &page)
+bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, QString *error)
 {
+    documents.drawn.clear();
+    for (const QString &pdf : documents.pdfs) {
+        const QString shownAs = documents.files.value(documents.pdfs.indexOf(pdf));
+        const std::unique_ptr<PdfPages> pages = PdfPages::open(pdf, error, shownAs);
+        if (!pages) {
+            return false;
+        }
+        DrawnRects drawn;
+        for (int page = 0; page < pages->count() && !stop; ++page) {
+            drawn.push_back(pages->drawnRect(page, stop).value_or(QRectF()));
+        }
+        documents.drawn.push_back(std::move(drawn));
+    }
+    return !stop;
+}
+
+QSizeF textPageOf(const Job &job)
+{
+    const TapePage page = job.page();
     const QSizeF area = page.layoutRect().size();
+    const double mostMm = lengthRulesOf(job.ppd(), job.tape()).most;
+    if (fitsLength(job) && mostMm > 0.0) {
+        return {std::max(area.height(), pointsFromMm(mostMm) - 2.0 * page.freeEndsPt), area.width()};
+    }
     return area.height() > area.width() ? area.transposed() : area;
+}
+
+std::optional<AutomaticLength> automaticLength(const Job &job, const PdfDocuments &documents)
+{
+    return automaticLength(documents.sizes, documents.drawn, job.page(), job.options(),
+                           lengthRulesOf(job.ppd(), job.tape()));
 }
 
 QString lengthNotice(const TapePage &page)

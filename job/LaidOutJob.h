@@ -3,6 +3,7 @@
 // they become.
 #pragma once
 
+#include "job/AutomaticLength.h"
 #include "job/Job.h"
 #include "job/LabelPlan.h"
 
@@ -11,7 +12,9 @@
 #include <QTemporaryDir>
 
 #include <atomic>
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace tapeprint::job
 {
@@ -25,13 +28,20 @@ struct PdfDocuments {
     std::shared_ptr<QTemporaryDir> folder;
 };
 
-/// Makes PDFs of documents, which are only read. \param textPagePt the page that text is set on, as it is read.
+/// Makes PDFs of a job's documents, which are only read. With fit-length it also looks at what is drawn on them.
 /// \param error takes a sentence about the first document that cannot be used.
-std::optional<PdfDocuments> collectPdfs(const QStringList &files, const QSizeF &textPagePt,
-                                        const std::atomic<bool> &stop, QString *error);
+std::optional<PdfDocuments> collectPdfs(const Job &job, const QStringList &files, const std::atomic<bool> &stop,
+                                        QString *error);
 
-/// The page that text is set on for a job's page: what is laid out on, lying, so that lines run along the tape.
-QSizeF textPageOf(const TapePage &page);
+/// Looks at what is drawn on the pages of documents. \return false when it was stopped or a document cannot be read.
+bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, QString *error);
+
+/// The page that text is set on for a job: what is laid out on, lying, so that lines run along the tape. With
+/// fit-length it is as long as the tape may become, so that no line is broken for want of tape.
+QSizeF textPageOf(const Job &job);
+
+/// The length that the job's documents need, for fit-length; nothing when nothing is drawn on their selected pages.
+std::optional<AutomaticLength> automaticLength(const Job &job, const PdfDocuments &documents);
 
 /// A sentence about a page whose length is not the one that was chosen; null when there is nothing to say.
 QString lengthNotice(const TapePage &page);

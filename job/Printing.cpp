@@ -2,7 +2,11 @@
 // Choosing the road of a job: a print queue, or filters alone.
 #include "job/Printing.h"
 
+#include "job/FilterOptions.h"
+#include "job/LaidOutJob.h"
 #include "job/Texts.h"
+
+#include <QTemporaryDir>
 
 #include <array>
 
@@ -35,15 +39,31 @@ QString PrintedJob::sentence() const
         .arg(queue, QString::number(job.id), Texts::tr(job.state.toLatin1().constData()));
 }
 
-std::optional<PrintedJob> printJob(const Job &job, const QString &title, const QStringList &files, QString *error)
+JobOptions carriedOptions(const Job &job)
 {
+    return filterOptions(job.options(), job.page());
+}
+
+std::optional<PrintedJob> printJob(const Job &job, const QString &title, const QStringList &files,
+                                   const std::atomic<bool> &stop, QString *error)
+{
+    QTemporaryDir folder;
+    QStringList printed = files;
+    if (job.page().isTape) {
+        const std::optional<PdfDocuments> documents = collectPdfs(job, files, stop, error);
+        printed = {folder.filePath(QStringLiteral("labels.pdf"))};
+        if (!documents || !layOutJob(job, *documents, printed.first(), stop, error)) {
+            return std::nullopt;
+        }
+    }
     const Destination &destination = job.destination();
     if (destination.isFile()) {
         const std::optional<FilterOutput> output =
-            runFilters({destination.ppdPath, title, job.options(), files, destination.outputPath}, error);
+            runFilters({destination.ppdPath, title, carriedOptions(job), printed, destination.outputPath}, error);
         return output ? std::optional(PrintedJob{{}, {}, *output}) : std::nullopt;
     }
-    const std::optional<SubmittedJob> submitted = submitJob(*destination.queue, title, job.options(), files, error);
+    const std::optional<SubmittedJob> submitted =
+        submitJob(*destination.queue, title, carriedOptions(job), printed, error);
     return submitted ? std::optional(PrintedJob{destination.queue->name, *submitted, {}}) : std::nullopt;
 }
 

@@ -4,9 +4,14 @@
 
 #include "dialog/Panels.h"
 #include "job/DocumentSpool.h"
+#include "job/LaidOutJob.h"
 #include "job/Printing.h"
 #include "job/ReplacedOptions.h"
 #include "tapeprint/OutputPath.h"
+
+#include <QScopeGuard>
+
+#include <atomic>
 
 #include <pdekit/Alert.h>
 
@@ -61,6 +66,36 @@ QString settleJob(dialog::Panels &panels, const AlertLines &alerts)
     return {};
 }
 
+const std::atomic<bool> neverStopped{false};
+
+/// Makes the tape as long as the documents need. \param messages takes what the person should know of it.
+bool fitLength(job::Job &job, const QStringList &files, QStringList &messages, QString *error)
+{
+    if (!job.page().isTape) {
+        *error = QStringLiteral("--fit-length is for tape, and this printer prints on paper: leave it out.");
+        return false;
+    }
+    if (job.laidDown().contains(job.tape().lengthOption)) {
+        *error = QStringLiteral("--fit-length and -o %1 both say how long the tape is: give one of them.")
+                     .arg(job.tape().lengthOption);
+        return false;
+    }
+    const std::optional<job::PdfDocuments> documents = job::collectPdfs(job, files, neverStopped, error);
+    if (!documents) {
+        return false;
+    }
+    const std::optional<job::AutomaticLength> length = job::automaticLength(job, *documents);
+    if (!length) {
+        messages.append(QStringLiteral("Nothing is drawn on the document: the tape keeps its length."));
+        return true;
+    }
+    if (length->isHeld) {
+        messages.append(QStringLiteral("The document needs more tape than the printer takes: it is made smaller."));
+    }
+    job.changePaperLength(length->lengthMm);
+    return true;
+}
+
 } // namespace
 
 RunReport runUnattended(const CommandLine &line)
@@ -68,7 +103,7 @@ RunReport runUnattended(const CommandLine &line)
     QString error;
     job::JobRequest request = line.request;
     std::optional<job::DocumentSpool> documents;
-    if (!line.onlyShows()) {
+    if (!line.onlyShows() || line.fitLength) {
         documents = job::DocumentSpool::collect(line.files, &error);
         if (!documents) {
             return failedRun(error);
@@ -84,33 +119,39 @@ RunReport runUnattended(const CommandLine &line)
     job::Job job;
     dialog::Panels panels(job, dialog::bundleSearchPath());
     panels.open(std::move(*destination), request.options);
-    const QString refusal = settleJob(panels, alerts);
-    if (!refusal.isNull()) {
-        panels.windowWillClose(false);
-        return failedRun(refusal);
-    }
+    // However it ends, the panels hear of it.
+    bool printed = false;
+    const auto close = qScopeGuard([&panels, &printed] { panels.windowWillClose(printed); });
 
     RunReport report;
+    if (line.fitLength && !fitLength(job, documents->files(), report.messages, &error)) {
+        return failedRun(error);
+    }
+    const QString refusal = settleJob(panels, alerts);
+    if (!refusal.isNull()) {
+        return failedRun(refusal);
+    }
     if (line.showOptions) {
-        report.output += job.options().lines();
+        report.output += job::carriedOptions(job).lines();
     }
     if (line.summary) {
         report.output += summaryLines(panels);
     }
     if (!line.onlyShows()) {
-        const std::optional<job::PrintedJob> printed =
-            job::printJob(job, documents->title(request.title), documents->files(), &error);
-        if (!printed) {
-            panels.windowWillClose(false);
+        const std::optional<job::PrintedJob> result =
+            job::printJob(job, documents->title(request.title), documents->files(), neverStopped, &error);
+        if (!result) {
             return failedRun(error);
         }
+        printed = true;
         if (!line.silent) {
-            report.output.append(printed->sentence());
+            report.output.append(result->sentence());
         }
     }
-    report.messages =
-        job.notices() + panels.notices() + alerts.lines() + job::replacedOptions(request.options, job.options());
-    panels.windowWillClose(!line.onlyShows());
+    const QString notice = job::lengthNotice(job.page());
+    report.messages += job.notices() + panels.notices() + alerts.lines() +
+                       (notice.isNull() ? QStringList() : QStringList{notice}) +
+                       job::replacedOptions(request.options, job.options());
     return report;
 }
 
