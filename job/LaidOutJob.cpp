@@ -17,11 +17,6 @@ namespace tapeprint::job
 namespace
 {
 
-bool fitsLength(const Job &job)
-{
-    return job.page().isTape && layoutChoicesOf(job.options()).fitLength;
-}
-
 QString lengthText(double points)
 {
     return pdekit::fixedDecimals(mmFromPoints(points), 1);
@@ -29,7 +24,7 @@ QString lengthText(double points)
 
 } // namespace
 
-std::optional<PdfDocuments> collectPdfs(const Job &job, const QStringList &files, const std::atomic<bool> &stop,
+std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
                                         QString *error)
 {
     const QSizeF textPagePt = textPageOf(job);
@@ -53,7 +48,7 @@ std::optional<PdfDocuments> collectPdfs(const Job &job, const QStringList &files
         documents.pdfs.append(pdf);
         documents.sizes.push_back(*sizes);
     }
-    if (fitsLength(job) && !findDrawnRects(documents, stop, error)) {
+    if (job.fitsLength() && !findDrawnRects(documents, stop, error)) {
         return std::nullopt;
     }
     return documents;
@@ -77,21 +72,20 @@ bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, QStr
     return !stop;
 }
 
-QSizeF textPageOf(const Job &job)
+QSizeF textPageOf(const SettledJob &job)
 {
-    const TapePage page = job.page();
+    const TapePage page = job.page;
     const QSizeF area = page.layoutRect().size();
-    const double mostMm = lengthRulesOf(job.ppd(), job.tape()).most;
-    if (fitsLength(job) && mostMm > 0.0) {
+    const double mostMm = job.lengths.most;
+    if (job.fitsLength() && mostMm > 0.0) {
         return {std::max(area.height(), pointsFromMm(mostMm) - 2.0 * page.freeEndsPt), area.width()};
     }
     return area.height() > area.width() ? area.transposed() : area;
 }
 
-std::optional<AutomaticLength> automaticLength(const Job &job, const PdfDocuments &documents)
+std::optional<AutomaticLength> automaticLength(const SettledJob &job, const PdfDocuments &documents)
 {
-    return automaticLength(documents.sizes, documents.drawn, job.page(), job.options(),
-                           lengthRulesOf(job.ppd(), job.tape()));
+    return automaticLength(documents.sizes, documents.drawn, job.page, job.options, job.lengths);
 }
 
 QString lengthNotice(const TapePage &page)
@@ -112,21 +106,21 @@ QString lengthNotice(const TapePage &page)
     return {};
 }
 
-std::optional<LabelPlan> layOutJob(const Job &job, const PdfDocuments &documents, const QString &path,
+std::optional<LabelPlan> layOutJob(const SettledJob &job, const PdfDocuments &documents, const QString &path,
                                    const std::atomic<bool> &stop, QString *error)
 {
-    const TapePage page = job.page();
+    const TapePage page = job.page;
     if (page.layoutRect().isEmpty()) {
         *error = Texts::tr("The margins leave nothing of the tape to print on: make the tape longer or the margin "
                            "smaller.");
         return std::nullopt;
     }
-    LabelPlan plan = planLabels(documents.sizes, page, job.options(), documents.drawn);
+    LabelPlan plan = planLabels(documents.sizes, page, job.options, documents.drawn);
     if (plan.labels.empty()) {
         *error = Texts::tr("None of the document's pages is chosen: change the page range.");
         return std::nullopt;
     }
-    if (!writeLaidOut(plan, documents.pdfs, rasterShiftOf(job.ppd(), page), path, stop, error)) {
+    if (!writeLaidOut(plan, documents.pdfs, job.shift, path, stop, error)) {
         return std::nullopt;
     }
     return plan;

@@ -3,9 +3,8 @@
 // they become.
 #pragma once
 
-#include "job/AutomaticLength.h"
-#include "job/Job.h"
 #include "job/LabelPlan.h"
+#include "job/SettledJob.h"
 
 #include <QString>
 #include <QStringList>
@@ -30,7 +29,7 @@ struct PdfDocuments {
 
 /// Makes PDFs of a job's documents, which are only read. With fit-length it also looks at what is drawn on them.
 /// \param error takes a sentence about the first document that cannot be used.
-std::optional<PdfDocuments> collectPdfs(const Job &job, const QStringList &files, const std::atomic<bool> &stop,
+std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
                                         QString *error);
 
 /// Looks at what is drawn on the pages of documents. \return false when it was stopped or a document cannot be read.
@@ -38,16 +37,16 @@ bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, QStr
 
 /// The page that text is set on for a job: what is laid out on, lying, so that lines run along the tape. With
 /// fit-length it is as long as the tape may become, so that no line is broken for want of tape.
-QSizeF textPageOf(const Job &job);
+QSizeF textPageOf(const SettledJob &job);
 
 /// The length that the job's documents need, for fit-length; nothing when nothing is drawn on their selected pages.
-std::optional<AutomaticLength> automaticLength(const Job &job, const PdfDocuments &documents);
+std::optional<AutomaticLength> automaticLength(const SettledJob &job, const PdfDocuments &documents);
 
 /// A sentence about a page whose length is not the one that was chosen; null when there is nothing to say.
 QString lengthNotice(const TapePage &page);
 
 /// Lays a job's documents out on its page. \param path the PDF to write. \return the plan that was followed.
-std::optional<LabelPlan> layOutJob(const Job &job, const PdfDocuments &documents, const QString &path,
+std::optional<LabelPlan> layOutJob(const SettledJob &job, const PdfDocuments &documents, const QString &path,
                                    const std::atomic<bool> &stop, QString *error);
 
 } // namespace tapeprint::job

@@ -80,11 +80,12 @@ bool fitLength(job::Job &job, const QStringList &files, QStringList &messages, Q
                      .arg(job.tape().lengthOption);
         return false;
     }
-    const std::optional<job::PdfDocuments> documents = job::collectPdfs(job, files, neverStopped, error);
+    const job::SettledJob settled = job::settle(job);
+    const std::optional<job::PdfDocuments> documents = job::collectPdfs(settled, files, neverStopped, error);
     if (!documents) {
         return false;
     }
-    const std::optional<job::AutomaticLength> length = job::automaticLength(job, *documents);
+    const std::optional<job::AutomaticLength> length = job::automaticLength(settled, *documents);
     if (!length) {
         messages.append(QStringLiteral("Nothing is drawn on the document: the tape keeps its length."));
         return true;
@@ -132,14 +133,14 @@ RunReport runUnattended(const CommandLine &line)
         return failedRun(refusal);
     }
     if (line.showOptions) {
-        report.output += job::carriedOptions(job).lines();
+        report.output += job::settle(job).carried().lines();
     }
     if (line.summary) {
         report.output += summaryLines(panels);
     }
     if (!line.onlyShows()) {
         const std::optional<job::PrintedJob> result =
-            job::printJob(job, documents->title(request.title), documents->files(), neverStopped, &error);
+            job::printJob(job::settle(job), documents->title(request.title), documents->files(), neverStopped, &error);
         if (!result) {
             return failedRun(error);
         }

@@ -49,7 +49,7 @@ RunReport runWindow(const CommandLine &line)
     dialog::PrintDialog window(job, panels, {request, title, documents->files(), std::move(queues)},
                                [&](QString *reason) {
                                    const std::optional<job::PrintedJob> done =
-                                       job::printJob(job, title, documents->files(), neverStopped, reason);
+                                       job::printJob(job::settle(job), title, documents->files(), neverStopped, reason);
                                    printed = done ? done->sentence() : QString();
                                    return printed;
                                });

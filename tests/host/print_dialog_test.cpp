@@ -31,6 +31,8 @@ using namespace tapeprint::dialog;
 using hosttest::takeCalls;
 using job::DocumentSpool;
 
+const std::atomic<bool> neverStopped{false};
+
 class PrintDialogTest : public testing::Test
 {
 protected:
@@ -55,7 +57,8 @@ protected:
 
     QString print(QString *error)
     {
-        const std::optional<job::PrintedJob> done = job::printJob(printJob, u"label.txt"_qs, files, error);
+        const std::optional<job::PrintedJob> done =
+            job::printJob(job::settle(printJob), u"label.txt"_qs, files, neverStopped, error);
         return printed = done ? done->sentence() : QString();
     }
 
