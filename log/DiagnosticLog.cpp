@@ -4,6 +4,7 @@
 
 #include "log/LogFormat.h"
 #include "pdekit/Log.h"
+#include "pdekit/Numbers.h"
 #include "pdekit/PrintingCore.h"
 #include "pdekit/StringEncoding.h"
 
@@ -158,7 +159,7 @@ void _PDELog_ppd_option_t(ppd_file_t *ppd, const char *ppdOptionName)
     logField("***** text | ", option->text);
     systemLog(QString::asprintf("***** ui == %d", static_cast<int>(option->ui)));
     systemLog(QString::asprintf("***** section == %d", static_cast<int>(option->section)));
-    systemLog(QString::asprintf("***** order == %f", static_cast<double>(option->order)));
+    logText("***** order == ", pdekit::fixedDecimals(static_cast<double>(option->order), 6));
     systemLog(QString::asprintf("***** num_choices == %d", option->num_choices));
     logFirstByteOn("***** choices->marked | ", choice);
     logField("***** choices->choice | ", choice == nullptr ? nullptr : choice->choice);

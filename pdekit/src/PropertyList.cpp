@@ -3,6 +3,7 @@
 // before a tree is made of it.
 #include "pdekit/PropertyList.h"
 
+#include "pdekit/CLocale.h"
 #include "pdekit/Numbers.h"
 
 #include <QDateTime>
@@ -10,7 +11,6 @@
 #include <QVariantMap>
 #include <QXmlStreamReader>
 
-#include <clocale>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -40,25 +40,6 @@ struct MallocDeleter {
     void operator()(void *memory) const { std::free(memory); }
 };
 using CString = std::unique_ptr<char, MallocDeleter>;
-
-/// libplist reads reals with the C library: the C locale holds while one of these lives, on this thread alone.
-class CLocale
-{
-public:
-    CLocale() : mBefore(uselocale(cLocale())) {}
-    ~CLocale() { uselocale(mBefore); }
-    CLocale(const CLocale &) = delete;
-    CLocale &operator=(const CLocale &) = delete;
-
-private:
-    static locale_t cLocale()
-    {
-        static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
-        return locale;
-    }
-
-    locale_t mBefore;
-};
 
 /// Whether bytes are well-formed XML that nests no deeper than can be walked.
 bool isSafeXml(const QByteArray &xml)
@@ -270,7 +251,7 @@ std::optional<QVariant> propertyListFromXml(const QByteArray &xml)
     if (xml.isEmpty() || xml.size() > std::numeric_limits<std::int32_t>::max() || !isSafeXml(xml)) {
         return std::nullopt;
     }
-    const CLocale locale;
+    const CLocale locale; // libplist reads and writes reals with the C library
     plist_t root = nullptr;
     plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &root);
     const Plist owned(root);
