@@ -94,6 +94,23 @@ TEST_F(TicketTest, NumbersOfAnySize_GiveFourBitsEach)
     EXPECT_EQ(info.inkColor, 2U);
 }
 
+TEST_F(TicketTest, NumberThatBeginsWithZero_IsDecimal)
+{
+    // 35 is 0x23; an octal 035 would be 29, which is 0x1D.
+    useTicket(QByteArray("<plist version=\"1.0\"><dict><key>LxHNLabelType</key><integer>035</integer></dict></plist>"));
+    read();
+    EXPECT_EQ(info.labelMaterial, 2U);
+    EXPECT_EQ(info.labelColor, 3U);
+}
+
+TEST_F(TicketTest, TicketInAnotherEncoding_IsReadByItsDeclaration)
+{
+    useTicket(QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><plist version=\"1.0\"><dict>"
+                         "<key>LxPaperName2</key><string>B\xE4nd</string></dict></plist>"));
+    read();
+    EXPECT_EQ(info.paperName, u"B\u00E4nd");
+}
+
 TEST_F(TicketTest, NoSettings_ClearsAndAnswersNoError)
 {
     EXPECT_EQ(GetTapeInfo2(nullptr, nullptr, &info), kPMNoError);
