@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
-// The diagnostic functions, by what they leave in the system log, on standard error, in a descriptor and in a file.
-#include "log/DiagnosticLog.h"
+// The diagnostic functions, by what they leave in the system log, on standard error and in a descriptor.
+#include "pagesettings/Exports.h"
 
+#include "MemoryOption.h"
 #include "TextPrinting.h"
-#include "pdekit/PrintingCore.h"
-#include "pdekit/PropertyList.h"
 
-#include <QDir>
+#include "plugin/KSHNPageSettingsPlugIn13_v100_.h"
+#include "ppd/PDEChoice.h"
+
 #include <QFile>
-#include <QFileInfo>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QObject>
@@ -105,6 +105,47 @@ TEST_F(SystemLog, Object_StandsBeforeTheTextByItsDescription)
     _PDELog(&object, "%d of %d", 2, 3);
     const QString address = QString::number(reinterpret_cast<quintptr>(&object), 16);
     EXPECT_EQ(mLog.lines, QStringList(QStringLiteral("LOG self(<QObject: 0x%1>) 2 of 3").arg(address)));
+}
+
+TEST_F(SystemLog, NullObject_IsNoObject)
+{
+    _PDELog(static_cast<const QObject *>(nullptr), "x");
+    _PDELog(static_cast<const PDEChoice *>(nullptr), "x");
+    EXPECT_EQ(mLog.lines, QStringList({QStringLiteral("LOG x"), QStringLiteral("LOG x")}));
+}
+
+TEST_F(SystemLog, Choice_StandsBeforeTheTextByItsOwnDescription)
+{
+    const MemoryOption memory("A", {{"A", "First"}, {"B", "Second"}});
+    const PDEChoice choice(&memory.choices[1]);
+    _PDEProlog(&choice, "%d", 5);
+    const QString address = QString::number(reinterpret_cast<quintptr>(&choice), 16);
+    EXPECT_EQ(
+        mLog.lines,
+        QStringList(
+            QStringLiteral("BEGIN self(<PDEChoice 0x%1 userTitle:\"Second\" ppdTitle:\"B\" marked:NO choice:2 of 2>) 5")
+                .arg(address)));
+}
+
+TEST_F(SystemLog, PercentInADescription_TakesNoArgument)
+{
+    const MemoryOption memory("A", {{"A", "100%s %n %d"}});
+    const PDEChoice choice(&memory.choices[0]);
+    _PDELog(&choice, "%d", 5);
+    ASSERT_EQ(mLog.lines.size(), 1);
+    EXPECT_TRUE(mLog.lines[0].contains(QStringLiteral("userTitle:\"100%s %n %d\" ppdTitle:\"A\"")));
+    EXPECT_TRUE(mLog.lines[0].endsWith(QStringLiteral("choice:1 of 1>) 5")));
+}
+
+TEST_F(SystemLog, PrincipalObject_StandsBeforeTheTextByItsClassAndAddress)
+{
+    const KSHNPageSettingsPlugIn13_v100_ plugIn;
+    const pdekit::PlugIn *asTheDialogHoldsIt = &plugIn;
+    _PDELog(&plugIn, "x");
+    _PDEEpilog(asTheDialogHoldsIt, "x");
+    const QString self = QStringLiteral("self(<KSHNPageSettingsPlugIn13_v100_: 0x%1>) x")
+                             .arg(QString::number(reinterpret_cast<quintptr>(&plugIn), 16));
+    EXPECT_EQ(mLog.lines, QStringList({QStringLiteral("LOG ") + self, QStringLiteral("END ") + self}));
 }
 
 TEST_F(SystemLog, CategorySwitchedOff_StillGetsTheLine)
@@ -489,51 +530,6 @@ TEST(MemoryCheck, NothingToDo_WritesNothing)
     EXPECT_EQ(dumped(0, nullptr, 3), QByteArray());
     EXPECT_EQ(dumped(0, kBytes, 0), QByteArray());
     EXPECT_EQ(dumped(0, kBytes, -1), QByteArray());
-}
-
-/// A file name that no other run uses.
-QByteArray uniqueName()
-{
-    return "unit_log_" + QByteArray::number(qlonglong(::getpid()));
-}
-
-TEST(SettingsToFile, MissingArguments_WriteNothing)
-{
-    const QString pattern = QStringLiteral("KsPDE_*");
-    const QStringList before = QDir(QStringLiteral("/")).entryList({pattern});
-    const pdekit::PrintSettings settings;
-    _PDELog_PMPrintSettings_WriteToFile(nullptr, uniqueName().constData());
-    _PDELog_PMPrintSettings_WriteToFile(&settings, nullptr);
-    EXPECT_EQ(QDir(QStringLiteral("/")).entryList({pattern}), before);
-}
-
-TEST(SettingsToFile, Settings_LandInTheRootDirectoryWhenItCanBeWritten)
-{
-    const QByteArray name = uniqueName();
-    const QString path = QStringLiteral("/KsPDE_") + QString::fromLatin1(name) + QStringLiteral(".plist");
-    pdekit::PrintSettings settings;
-    ASSERT_EQ(pdekit::PMSetFirstPage(&settings, 7, false), pdekit::kPMNoError);
-    QByteArray expected;
-    ASSERT_EQ(pdekit::PMPrintSettingsCreateDataRepresentation(&settings, &expected), pdekit::kPMNoError);
-    ASSERT_FALSE(expected.isEmpty());
-
-    _PDELog_PMPrintSettings_WriteToFile(&settings, name.constData());
-
-    if (!QFileInfo(QStringLiteral("/")).isWritable()) {
-        EXPECT_FALSE(QFile::exists(path));
-        return;
-    }
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), expected);
-    EXPECT_TRUE(file.remove());
-}
-
-TEST(SettingsToFile, PathThatCannotBeWritten_IsLeftOutInSilence)
-{
-    const pdekit::PrintSettings settings;
-    _PDELog_PMPrintSettings_WriteToFile(&settings, "no_such_directory/x");
-    EXPECT_FALSE(QFile::exists(QStringLiteral("/KsPDE_no_such_directory/x.plist")));
 }
 
 } // namespace

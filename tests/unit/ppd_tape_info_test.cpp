@@ -4,8 +4,8 @@
 #include "PpdText.h"
 #include "TextPrinting.h"
 
+#include "pagesettings/Exports.h"
 #include "pdekit/PropertyList.h"
-#include "ppd/TapeInfo.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 // The vendor ticket in the print settings, and numbers in the session's data.
 #include "TextPrinting.h"
 
+#include "pagesettings/Exports.h"
 #include "pdekit/PropertyList.h"
-#include "ppd/TapeInfo.h"
 
 #include <gtest/gtest.h>
 
