@@ -4,6 +4,7 @@
 #include "panel/BundleImages.h"
 #include "panel/ChoiceOption.h"
 #include "panel/PageSettingPDE13_v100_.h"
+#include "panel/PlainLabel.h"
 #include "panel/PopUpItems.h"
 
 #include "pdekit/NotificationCenter.h"
@@ -107,8 +108,9 @@ void PageSettingPDE13_v100_::titleChoiceLabel(const ChoiceOption &option)
         return;
     }
     const QString title = PDEUtilsMethod13::newOptionTitle(this->*option.option);
-    (this->*option.label)
-        ->setText(localized(title.isNull() ? QString::fromLatin1(option.titleKey) : title + QLatin1StringView(" : ")));
+    QWidget *control = option.matrix != nullptr ? static_cast<QWidget *>(this->*option.matrix) : this->*option.popUp;
+    showTitle(this->*option.label, control,
+              localized(title.isNull() ? QString::fromLatin1(option.titleKey) : title + QLatin1StringView(" : ")));
 }
 
 void PageSettingPDE13_v100_::fillRadioMatrix(const ChoiceOption &option)

@@ -3,6 +3,7 @@
 // fields.
 #include "panel/ChoiceOption.h"
 #include "panel/PageSettingPDE13_v100_.h"
+#include "panel/PlainLabel.h"
 
 #include "ppd/PDEUtilsMethod13.h"
 
@@ -121,6 +122,7 @@ void PageSettingPDE13_v100_::localizeInterface()
             for (int row = 0; row < matrix->numberOfRows(); ++row) {
                 matrix->setTitleOfCell(localized(matrix->titles().at(row)), row, 0);
             }
+        makePlain(*label);
             control = matrix;
         }
         PDEUtilsMethod13::setEnabledForText(control != nullptr && control->isEnabledTo(kPDEView), this->*option.label);
