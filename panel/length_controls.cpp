@@ -178,6 +178,7 @@ void PageSettingPDE13_v100_::controlTextDidEndEditing(QObject *field)
     const EventType type = currentEventType();
     if (field != nullptr && field == mLengthTxFld && isEndOfEditing(type)) {
         checkTapeLength();
+        return; // no field is both, and the panel may be gone
     }
     if (field != nullptr && field == mTapeLengthTxFld && isEndOfEditing(type)) {
         checkKsPrintTapeLength();
