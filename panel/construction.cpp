@@ -37,6 +37,8 @@ PageSettingPDE13_v100_::PageSettingPDE13_v100_() = default;
 
 PageSettingPDE13_v100_::~PageSettingPDE13_v100_()
 {
+    // The view goes later, with the base: an edit that ends then has nobody to check it.
+    mReceiver.reset();
     NotificationCenter::defaultCenter().removeObserver(this);
 }
 
@@ -129,6 +131,13 @@ void PageSettingPDE13_v100_::initUI()
     if (set_formatSetting) {
         return;
     }
+    buildControls();
+    saveAllSettings();
+    set_formatSetting = true;
+}
+
+void PageSettingPDE13_v100_::buildControls()
+{
     initializeUI_Width();
     initializeUI_Length();
     initializeUI_Margin();
@@ -141,8 +150,6 @@ void PageSettingPDE13_v100_::initUI()
     initializeUI_InkColor();
     // Last: its limits follow from the tape width and the tape material found above.
     initializeUI_PrintTapeLength();
-    saveAllSettings();
-    set_formatSetting = true;
 }
 
 void PageSettingPDE13_v100_::setPDEItems()
