@@ -29,8 +29,9 @@ public:
     /// Lets go of the destination and its PPD.
     void close();
 
-    /// Sentences about what the person should know: options that get lost, values that the PPD does not list.
-    const QStringList &notices() const { return mNotices; }
+    /// Sentences about what the person should know of the job as it is now: options that get lost, values that the PPD
+    /// does not list.
+    QStringList notices() const;
 
     const Destination &destination() const { return mDestination; }
     ppd_file_t *ppd() const { return mDestination.ppd.get(); }
@@ -40,10 +41,12 @@ public:
     const pdekit::PageFormat &pageFormat() const { return mPageFormat; }
     pdekit::Printer &printer() { return mPrinter; }
     const JobOptions &options() const { return mOptions; }
-    /// What was laid down for this job: the queue's or instance's saved options under those asked for.
+    /// What was laid down for this job: the queue's or instance's saved options under those asked for. PageRegion
+    /// stands there as PageSize.
     const JobOptions &laidDown() const { return mLaidDown; }
 
-    /// A panel sends a choice: marked when the PPD lists it, recorded in any case.
+    /// A panel sends a choice: marked when the PPD lists it, recorded in any case. A number becomes the default choice
+    /// too: a panel that fills a control anew, from the default, then finds what it sent last and not the PPD's.
     /// \return false, and nothing changed, for an empty keyword or choice and for a value that no job can carry.
     bool takeChoice(const QString &key, const QString &choice);
     /// The person changes an option in the dialog itself: the paper follows, too.
@@ -68,6 +71,7 @@ private:
     struct Snapshot {
         JobOptions options;
         PpdMarks marks;
+        PpdMarks defaults;
         pdekit::PageFormat pageFormat;
         pdekit::PrintSettings settings;
     };
@@ -80,7 +84,6 @@ private:
     void setPaperLengthMm(double lengthMm);
     Snapshot takeSnapshot() const;
 
-    QStringList mNotices;
     Destination mDestination;
     pdekit::PrintSession mSession;
     pdekit::PrintSettings mSettings;
@@ -88,6 +91,7 @@ private:
     pdekit::Printer mPrinter;
     JobOptions mOptions;
     JobOptions mLaidDown;
+    JobOptions mChosen; ///< what was laid down, and what the person changed in the dialog since
     Snapshot mOpenedWith;
 };
 
