@@ -56,7 +56,8 @@ TEST(HostilePropertyList, ZeroToEightBytes_AreRefused)
                                      "\xEF\xBB\xBF<a/>"};
     for (const QByteArray &beginning : beginnings) {
         for (qsizetype size = 0; size <= beginning.size(); ++size) {
-            EXPECT_FALSE(propertyListFromXml(beginning.left(size)).has_value()) << beginning.left(size).toHex().toStdString();
+            EXPECT_FALSE(propertyListFromXml(beginning.left(size)).has_value())
+                << beginning.left(size).toHex().toStdString();
         }
     }
 }
