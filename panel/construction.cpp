@@ -37,8 +37,6 @@ PageSettingPDE13_v100_::PageSettingPDE13_v100_() = default;
 
 PageSettingPDE13_v100_::~PageSettingPDE13_v100_()
 {
-    // The view goes later, with the base: an edit that ends then has nobody to check it.
-    mReceiver.reset();
     NotificationCenter::defaultCenter().removeObserver(this);
 }
 

@@ -127,6 +127,15 @@ TEST(InterruptedPress, WithTheButtonStillDown_IsCompletedOnce)
     EXPECT_EQ(panel.callback->sentFor(u"Resolution"_qs), std::vector<QString>{u"300x600dpi"_qs});
 }
 
+/// Presses without a turn of the event loop afterwards.
+void pressAtOnce(PanelUnderTest &panel, QPoint place)
+{
+    static int time = 100000; // milliseconds, beyond a double click of what was pressed before
+    time += 1000;
+    qt_handleMouseEvent(panel.window.windowHandle(), place, panel.window.mapToGlobal(place), Qt::LeftButton,
+                        Qt::LeftButton, QEvent::MouseButtonPress, Qt::NoModifier, time);
+}
+
 TEST(InterruptedPress, OnAField_CompletesNoLaterPress)
 {
     PanelUnderTest panel(tape(oneDecimal(), 100.0));
@@ -135,9 +144,9 @@ TEST(InterruptedPress, OnAField_CompletesNoLaterPress)
     const auto *field = panel.field("mMarginTxFld");
     const QPoint place = field->mapTo(&panel.window, field->rect().center());
     const Person person(panel, place);
-    press(panel, place);
+    pressAtOnce(panel, place);
     EXPECT_EQ(person.texts.size(), 1);
-    press(panel, knob(panel, "mTapeLengthSlider"));
+    pressAtOnce(panel, knob(panel, "mTapeLengthSlider")); // the very next event
     EXPECT_TRUE(panel.slider("mTapeLengthSlider")->isSliderDown());
     release(panel, knob(panel, "mTapeLengthSlider"));
     EXPECT_FALSE(panel.slider("mTapeLengthSlider")->isSliderDown());

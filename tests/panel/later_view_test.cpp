@@ -68,7 +68,8 @@ void setEverything(PanelUnderTest &panel)
     panel.pickItem("mTapeColorPopBtn", 1);
     panel.pickItem("mInkColorPopBtn", 2);
     panel.pickItem("mKsResolutionPUBtn", 2);
-    panel.pickRow("mResolutionRdBtn", 1);
+    panel.pickRow("mPrintQualityRdBtn", 1);
+    panel.pickRow("mResolutionRdBtn", 1); // the second quality stays selected, and counts no more
     panel.pickRow("mCompressRdBtn", 1);
     QCoreApplication::processEvents();
 }
@@ -85,6 +86,7 @@ void expectEverything(const PanelUnderTest &panel)
     EXPECT_EQ(panel.popUp("mKsResolutionPUBtn")->currentIndex(), 2);
     EXPECT_EQ(panel.matrix("mResolutionRdBtn")->selectedRow(), 1);
     EXPECT_EQ(panel.matrix("mCompressRdBtn")->selectedRow(), 1);
+    EXPECT_EQ(panel.matrix("mPrintQualityRdBtn")->selectedRow(), 1);
     EXPECT_FALSE(panel.matrix("mPrintQualityRdBtn")->isEnabled());
 }
 

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QTest>
 
@@ -41,13 +42,36 @@ public:
     QPointer<QWidget> view;
 };
 
+/// Does something while a key press is the application's current event.
+class DuringAKeyPress : public QObject
+{
+public:
+    explicit DuringAKeyPress(std::function<void()> act) : mAct(std::move(act))
+    {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(this, &press);
+    }
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::KeyPress) {
+            mAct();
+        }
+        return true;
+    }
+
+private:
+    std::function<void()> mAct;
+};
+
 TEST(Release, WithAnOpenEditInAViewOfItsOwn_ChecksNothing)
 {
     OwnWindow own;
-    // The key that was pressed last is still the current event: an end of editing would be checked.
     own.panel.callback->sent.clear();
-    own.panel.panel.reset();
-    own.panel.plugIn.reset();
+    // As by a key that closes the dialog: an edit that ends by a key is one that is checked.
+    const DuringAKeyPress press([&] {
+        own.panel.panel.reset();
+        own.panel.plugIn.reset();
+    });
     EXPECT_EQ(own.view, nullptr);
     EXPECT_TRUE(own.panel.alerts.empty());
     EXPECT_TRUE(own.panel.callback->sent.empty());
