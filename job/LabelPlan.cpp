@@ -39,18 +39,34 @@ struct PageOfAll {
     std::size_t document;
     int page;
     QSizeF size;
+    QRectF drawn;
 };
 
-std::vector<PageOfAll> allPages(const std::vector<PageSizes> &documents)
+QRectF drawnRect(const std::vector<DrawnRects> &drawn, std::size_t document, std::size_t page)
+{
+    return document < drawn.size() && page < drawn[document].size() ? drawn[document][page] : QRectF();
+}
+
+std::vector<PageOfAll> allPages(const std::vector<PageSizes> &documents, const std::vector<DrawnRects> &drawn)
 {
     std::vector<PageOfAll> pages;
     for (std::size_t document = 0; document < documents.size(); ++document) {
-        int number = 0;
-        for (const QSizeF &size : documents[document]) {
-            pages.push_back({document, number++, size});
+        for (std::size_t page = 0; page < documents[document].size(); ++page) {
+            pages.push_back(
+                {document, static_cast<int>(page), documents[document][page], drawnRect(drawn, document, page)});
         }
     }
     return pages;
+}
+
+PlacedPage placed(const PageOfAll &source, const QRectF &place, const LayoutChoices &choices)
+{
+    const PagePart part = partThatCounts(source.size, source.drawn, choices);
+    LayoutChoices turned = choices;
+    turned.turn = part.turn; // what a whole page would do, also when little of it counts
+    return {source.document, source.page,
+            QTransform::fromTranslate(-part.part.left(), -part.part.top()) * placePage(part.part.size(), place, turned),
+            place};
 }
 
 } // namespace
@@ -87,7 +103,8 @@ std::vector<int> selectedPages(int total, const JobOptions &options)
     return pages;
 }
 
-LabelPlan planLabels(const std::vector<PageSizes> &documents, const TapePage &page, const JobOptions &options)
+LabelPlan planLabels(const std::vector<PageSizes> &documents, const TapePage &page, const JobOptions &options,
+                     const std::vector<DrawnRects> &drawn)
 {
     LabelPlan plan;
     plan.page = page;
@@ -95,7 +112,7 @@ LabelPlan planLabels(const std::vector<PageSizes> &documents, const TapePage &pa
     const LayoutChoices choices = layoutChoicesOf(options);
     // Paper is laid out on what can be printed of it, as the filters do; tape keeps its margins free as well.
     const QRectF area = page.layoutRect();
-    const std::vector<PageOfAll> all = allPages(documents);
+    const std::vector<PageOfAll> all = allPages(documents, drawn);
     const std::vector<int> selected = selectedPages(static_cast<int>(all.size()), options);
     const auto perSheet = static_cast<std::size_t>(choices.pagesPerSheet);
     for (std::size_t first = 0; first < selected.size(); first += perSheet) {
@@ -107,7 +124,7 @@ LabelPlan planLabels(const std::vector<PageSizes> &documents, const TapePage &pa
         for (std::size_t i = 0; i < count; ++i) {
             const PageOfAll &source = all[static_cast<std::size_t>(selected[first + i])];
             const QRectF &place = places[std::min(i, places.size() - 1)];
-            label.push_back({source.document, source.page, placePage(source.size, place, choices), place});
+            label.push_back(placed(source, place, choices));
         }
         plan.labels.push_back(std::move(label));
     }

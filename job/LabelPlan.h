@@ -47,7 +47,12 @@ std::vector<int> selectedPages(int total, const JobOptions &options);
 /// Names of the options that selectedPages() reads.
 const QStringList &selectionOptionNames();
 
-/// The plan of a job. \param documents the page sizes of each document, in their order.
-LabelPlan planLabels(const std::vector<PageSizes> &documents, const TapePage &page, const JobOptions &options);
+/// What of a document's pages is drawn on, in points; an empty rectangle for a page that is blank or not looked at.
+using DrawnRects = std::vector<QRectF>;
+
+/// The plan of a job. \param documents the page sizes of each document, in their order. \param drawn what of the pages
+/// is drawn on, for fit-length; without it pages count whole.
+LabelPlan planLabels(const std::vector<PageSizes> &documents, const TapePage &page, const JobOptions &options,
+                     const std::vector<DrawnRects> &drawn = {});
 
 } // namespace tapeprint::job

@@ -139,7 +139,8 @@ const QStringList &layoutOptionNames()
                                    QStringLiteral("position"),
                                    QStringLiteral("number-up"),
                                    QStringLiteral("number-up-layout"),
-                                   QStringLiteral("page-border")};
+                                   QStringLiteral("page-border"),
+                                   OptionName::fitLength};
     return names;
 }
 
@@ -164,7 +165,42 @@ LayoutChoices layoutChoicesOf(const JobOptions &options)
     constexpr int mostPages = 16;
     choices.pagesPerSheet = std::clamp(pdekit::intValue(options.value(QStringLiteral("number-up"))), std::int32_t{1},
                                        std::int32_t{mostPages});
+    choices.fitLength = isTrue(options.value(OptionName::fitLength));
+    if (choices.fitLength) {
+        choices.pagesPerSheet = 1;
+    }
     return choices;
+}
+
+PagePart partThatCounts(const QSizeF &pagePt, const QRectF &drawnPt, const LayoutChoices &choices)
+{
+    static constexpr std::array turnOfQuarters{Turn::None, Turn::Right, Turn::Half, Turn::Left};
+    const int quarters = quarterTurns(choices.turn, pagePt);
+    PagePart part{QRectF(QPointF(), pagePt), turnOfQuarters[static_cast<std::size_t>(quarters)]};
+    if (choices.fitLength && !drawnPt.isEmpty()) {
+        if (quarters % 2 == 0) {
+            part.part.setTop(drawnPt.top());
+            part.part.setBottom(drawnPt.bottom());
+        } else {
+            part.part.setLeft(drawnPt.left());
+            part.part.setRight(drawnPt.right());
+        }
+    }
+    return part;
+}
+
+double lengthNeeded(const PagePart &part, double width, const LayoutChoices &choices)
+{
+    const bool isTurned = part.turn == Turn::Left || part.turn == Turn::Right;
+    const QSizeF turned = isTurned ? part.part.size().transposed() : part.part.size();
+    if (turned.isEmpty() || !(width > 0.0)) {
+        return 0.0;
+    }
+    const double across = width / turned.width();
+    // Without a bound along the tape, fitting and filling both go by the width alone.
+    const bool byWidth = choices.scaling == Scaling::Fit || choices.scaling == Scaling::Fill ||
+                         (choices.scaling == Scaling::Auto && turned.width() > width + slackPt);
+    return turned.height() * (byWidth ? across : 1.0);
 }
 
 QTransform placePage(const QSizeF &pagePt, const QRectF &area, const LayoutChoices &choices)

@@ -40,16 +40,28 @@ struct LayoutChoices {
     Place across = Place::Middle; ///< over the width; Start is the left of the standing page
     Place along = Place::Middle;  ///< over the height; Start is the top of the standing page
     int pagesPerSheet = 1;
+    bool fitLength = false; ///< of each page only what is drawn on counts along the height, and each has its own sheet
 
     bool operator==(const LayoutChoices &) const = default;
 };
 
 /// The choices that a job's options make, by the names that CUPS has for them: print-scaling (or fit-to-page),
-/// orientation-requested, position, number-up. Values that are none of theirs leave the choice as it is by itself.
+/// orientation-requested, position, number-up; and by fit-length. Values that are none of theirs leave the choice as it
+/// is by itself.
 LayoutChoices layoutChoicesOf(const JobOptions &options);
 
 /// Names of the options that layoutChoicesOf() reads: a job that is laid out carries none of them to the filters.
 const QStringList &layoutOptionNames();
+
+/// A page's part that counts, and how it is turned: all of it, or with fitLength what is drawn on along the height.
+struct PagePart {
+    QRectF part; ///< in points of the document's page
+    Turn turn = Turn::None;
+};
+PagePart partThatCounts(const QSizeF &pagePt, const QRectF &drawnPt, const LayoutChoices &choices);
+
+/// How long a part becomes along the height of a sheet that is as long as needed. \param width the room across.
+double lengthNeeded(const PagePart &part, double width, const LayoutChoices &choices);
 
 /// Maps points of a document's page (origin top left, y down) to points of the job's page. \param area where it goes.
 QTransform placePage(const QSizeF &pagePt, const QRectF &area, const LayoutChoices &choices);

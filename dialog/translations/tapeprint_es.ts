@@ -142,6 +142,10 @@
         <source>More Options</source>
         <translation>Más opciones</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>&amp;Papel:</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -355,6 +359,82 @@
     <message>
         <source>%1 has no page.</source>
         <translation>%1 no tiene ninguna página.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>El panel «%1» mantiene %2 dentro de sus límites y pasos: en lugar de %3, el trabajo lleva %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 no figura entre las opciones del archivo PPD de la impresora: el trabajo lleva %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>La descripción de la impresora pide el complemento %1, que no está instalado. Se puede imprimir sin él.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>El panel «%1» no ofrece %2=%3, que la impresora tiene: el trabajo lleva %4=%5.</translation>
     </message>
     <message>
         <source>%1 in</source>
