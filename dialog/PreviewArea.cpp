@@ -3,6 +3,7 @@
 #include "dialog/PreviewArea.h"
 
 #include "dialog/TapePreview.h"
+#include "job/Texts.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -178,7 +179,9 @@ QSizeF PreviewArea::sizeOf(const job::PlacedPage &page) const
 
 bool PreviewArea::isCutOff() const
 {
-    return std::any_of(shownLabel().begin(), shownLabel().end(),
+    // Where nothing is printed at all, that is what is said.
+    return !mPage.layoutRect().isEmpty() &&
+           std::any_of(shownLabel().begin(), shownLabel().end(),
                        [this](const job::PlacedPage &page) { return dialog::isCutOff(page, sizeOf(page)); });
 }
 
@@ -199,7 +202,10 @@ QStringList PreviewArea::messages()
             sentences.append(tr("There is no preview: %1").arg(document.problem));
         }
     }
-    if (isCutOff()) {
+    if (!shownLabel().empty() && mPage.layoutRect().isEmpty()) {
+        sentences.append(job::Texts::tr("The margins leave nothing of the tape to print on: make the tape longer or "
+                                        "the margin smaller."));
+    } else if (isCutOff()) {
         sentences.append(tr("Part of the page is cut off."));
     }
     if (isBlank()) {

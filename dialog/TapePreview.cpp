@@ -15,25 +15,25 @@ namespace
 {
 
 // Pixels, all of them.
-constexpr int edge = 6;         ///< around the drawing
-constexpr int tick = 4;         ///< half the length of the lines that end a measure
-constexpr int measureGap = 8;   ///< between the tape and the line of a measure
-constexpr int textGap = 6;      ///< between that line and its text
-constexpr int corner = 4;       ///< radius
-constexpr int thinnest = 16;    ///< a tape that would be thinner than this is broken
-constexpr int brokenWidth = 30; ///< width of a broken tape
-constexpr int breakGap = 10;    ///< between two pieces
-constexpr int breakDepth = 3;   ///< how far the torn edge swings to either side
-constexpr int breakTeeth = 4;   ///< swings over the tape's width
-constexpr int beforeContent = 8;
+constexpr int edge = 6;           ///< around the drawing
+constexpr int tick = 4;           ///< half the length of the lines that end a measure
+constexpr int measureGap = 8;     ///< between the tape and the line of a measure
+constexpr int textGap = 6;        ///< between that line and its text
+constexpr int corner = 4;         ///< radius
+constexpr int thinnest = 16;      ///< a tape that would be thinner than this is broken
+constexpr int brokenWidth = 30;   ///< width of a broken tape
+constexpr int breakGap = 10;      ///< between two pieces
+constexpr int breakDepth = 3;     ///< how far the torn edge swings to either side
+constexpr int breakTeeth = 4;     ///< swings over the tape's width
+constexpr int beforeContent = 8;  ///< to each side of what is printed, in a piece of its own
+constexpr int leastEndPiece = 28; ///< beside such a piece
 constexpr int tapeHeight = 90;
 constexpr int paperHeight = 190;
 constexpr int usualWidth = 280;
 constexpr int leastWidth = 180;
 constexpr int checker = 5; ///< side of a square
 
-constexpr double ghostOpacity = 0.25;  ///< of what is cut off
-constexpr double endPieceShare = 0.25; ///< of the room, when the content has a piece of its own
+constexpr double ghostOpacity = 0.25; ///< of what is cut off
 
 QPainterPath outlineOf(const QRectF &strip, bool isRounded)
 {
@@ -172,8 +172,9 @@ std::vector<TapePreview::Stretch> TapePreview::stretches(double width, double le
     if (mShown.contentPt.isEmpty() || start < half / 2.0) {
         return {{0.0, half, 0.0}, {length - half, length, width - half}};
     }
-    // What is printed begins in the part that would be left out: it gets a piece between the two ends.
-    const double end = width * endPieceShare;
+    // What is printed begins in the part that would be left out: it gets a piece between the two ends, whole if it can.
+    const double content = fromLabel().mapRect(mShown.contentPt).width() + 2.0 * beforeContent;
+    const double end = std::max<double>(leastEndPiece, (width - content) / 2.0 - breakGap);
     const double middle = width - 2.0 * (end + breakGap);
     const double from = std::clamp(start, end, length - end - middle);
     return {{0.0, end, 0.0}, {from, from + middle, end + breakGap}, {length - end, length, width - end}};

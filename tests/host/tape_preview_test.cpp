@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPalette>
 #include <QSlider>
 #include <QSpinBox>
@@ -334,6 +335,17 @@ TEST_F(TapePreviewTest, WhatIsCutOff_IsSaidAndFaintlySeen)
     showTape(36.0, 144.0); // made to fit
     EXPECT_TRUE(words(u"previewMessages"_qs).isEmpty());
     EXPECT_EQ(preview->accessibleDescription(), u"Length 50.8 mm, width 12.7 mm"_qs);
+}
+
+TEST_F(TapePreviewTest, MarginsThatLeaveNothing_AreSaid)
+{
+    tape.freeEndsPt = 72.0;
+    showTape(36.0, 144.0);
+    showDocument(pdf("0 0 144 36", "0 0 144 36 re f"));
+
+    EXPECT_TRUE(extent(inkColour).isEmpty());
+    EXPECT_EQ(words(u"previewMessages"_qs),
+              u"The margins leave nothing of the tape to print on: make the tape longer or the margin smaller."_qs);
 }
 
 TEST_F(TapePreviewTest, LongTape_HasABreakInItsMiddleAndKeepsItsEnds)
@@ -693,6 +705,83 @@ TEST_F(PreviewInTheDialog, ColourOfTheMarkedInk_IsShown)
     QApplication::processEvents();
     image = preview->grab().toImage();
     EXPECT_FALSE(has(inkColour));
+}
+
+/// The real panel on a sample printer.
+class PreviewOfPageSettings : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        QString error;
+        Destination destination;
+        destination.ppdPath = QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd");
+        destination.ppd = openPpdFile(destination.ppdPath, &error);
+        ASSERT_NE(destination.ppd, nullptr) << error.toStdString();
+        panels.open(std::move(destination), {});
+        const QByteArray label = pdf("0 0 100 30", "0 0 50 30 re f");
+        dialog = std::make_unique<PrintDialog>(
+            job, panels, PrintDialog::Setup{{}, u"label.pdf"_qs, {writeFile(folder, u"label.pdf"_qs, label)}, {}},
+            nullptr);
+        dialog->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
+        QApplication::processEvents();
+        preview = dialog->findChild<TapePreview *>();
+        ASSERT_NE(preview, nullptr);
+        before = job.options().value(u"KsTapeLength"_qs);
+    }
+
+    QString said() { return preview->accessibleDescription(); }
+
+    QTemporaryDir folder;
+    Job job;
+    Panels panels{job, {QStringLiteral(TAPEPRINT_BUNDLE_DIR)}};
+    std::unique_ptr<PrintDialog> dialog;
+    TapePreview *preview = nullptr;
+    QString before; ///< the tape length that the job has
+};
+
+TEST_F(PreviewOfPageSettings, Opens_WithTheTapeOfThePanel)
+{
+    EXPECT_EQ(said(), u"Length 100.0 mm, width 24.0 mm"_qs);
+    EXPECT_EQ(preview->accessibleName(), u"Tape preview"_qs);
+    EXPECT_EQ(dialog->findChild<QComboBox *>(u"KsTapeLength"_qs), nullptr);
+}
+
+TEST_F(PreviewOfPageSettings, LengthThatIsTyped_IsFollowedKeyByKey)
+{
+    auto *field = dialog->findChild<QLineEdit *>(u"mLengthTxFld"_qs);
+    ASSERT_NE(field, nullptr);
+    field->setFocus();
+    field->selectAll();
+    for (const auto &[key, length] : {std::pair{'4', u"4.0"_qs}, {'5', u"45.0"_qs}, {'6', u"456.0"_qs}}) {
+        QTest::keyClick(field, key);
+        QApplication::processEvents();
+        EXPECT_EQ(said(), u"Length %1 mm, width 24.0 mm"_qs.arg(length));
+    }
+    EXPECT_EQ(job.options().value(u"KsTapeLength"_qs), before); // nothing was sent
+}
+
+TEST_F(PreviewOfPageSettings, SliderThatIsDragged_IsFollowedWhileTheButtonIsDown)
+{
+    auto *slider = dialog->findChild<QAbstractSlider *>(u"mLengthSlider"_qs);
+    auto *field = dialog->findChild<QLineEdit *>(u"mLengthTxFld"_qs);
+    ASSERT_NE(slider, nullptr);
+    const int middle = slider->height() / 2;
+    const auto moveTo = [&](int x) {
+        QMouseEvent move(QEvent::MouseMove, QPointF(x, middle), slider->mapToGlobal(QPointF(x, middle)), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(slider, &move);
+        QApplication::processEvents();
+    };
+    QTest::mousePress(slider, Qt::LeftButton, {}, QPoint(slider->width() / 2, middle));
+    moveTo(slider->width() / 2 + 4);
+    const QString first = said();
+    EXPECT_EQ(first, u"Length %1 mm, width 24.0 mm"_qs.arg(field->text()));
+    moveTo(slider->width() / 2 + 14);
+    EXPECT_EQ(said(), u"Length %1 mm, width 24.0 mm"_qs.arg(field->text()));
+    EXPECT_NE(said(), first);
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, QPoint(slider->width() / 2 + 14, middle));
 }
 
 } // namespace
