@@ -146,13 +146,18 @@ QStringList confinedArguments(const ConfinedCommand &command)
     return arguments;
 }
 
+/// What keeps this machine from confining anything.
+struct Obstacle {
+    bool isMissing = false; ///< bubblewrap is not there
+    QString reason;         ///< null: nothing does
+};
+
 /// Tries the room itself: a kernel or an administrator may forbid it, and says so only then.
-QString probe()
+Obstacle findObstacle()
 {
     const QString bubblewrap = findBubblewrap();
     if (bubblewrap.isEmpty()) {
-        return Texts::tr("The printer's filters run without confinement, because bubblewrap is missing: install the "
-                         "package bubblewrap.");
+        return {true, {}};
     }
     QProcess process;
     process.setStandardInputFile(QProcess::nullDevice());
@@ -162,24 +167,40 @@ QString probe()
         return {};
     }
     const QString said = QString::fromLocal8Bit(process.readAllStandardError()).simplified();
+    const QString reason = said.isEmpty() ? process.errorString() : said;
     process.kill();
     process.waitForFinished();
-    return Texts::tr("The printer's filters run without confinement, because this machine does not allow it (%1): "
-                     "let users make name spaces.")
-        .arg(harmless(said.isEmpty() ? process.errorString() : said));
+    return {false, harmless(reason)};
+}
+
+const Obstacle &obstacle()
+{
+    static const Obstacle found = findObstacle();
+    return found;
+}
+
+bool isPossible()
+{
+    return !obstacle().isMissing && obstacle().reason.isNull();
 }
 
 } // namespace
 
 QString confinementProblem()
 {
-    static const QString problem = probe();
-    return problem;
+    if (obstacle().isMissing) {
+        return Texts::tr("The printer's filters run without confinement, because bubblewrap is missing: install the "
+                         "package bubblewrap.");
+    }
+    return isPossible() ? QString()
+                        : Texts::tr("The printer's filters run without confinement, because this machine does not "
+                                    "allow it (%1): let users make name spaces.")
+                              .arg(obstacle().reason);
 }
 
 ConfinedLaunch confine(const ConfinedCommand &command)
 {
-    if (confinementProblem().isNull()) {
+    if (isPossible()) {
         return {findBubblewrap(), confinedArguments(command), true};
     }
     return {findEnv(), boundArguments(command, QDir::tempPath()), false};

@@ -2,6 +2,7 @@
 // The objects of one job are changed here and nowhere else, so that they always agree.
 #include "job/Job.h"
 
+#include "job/FilterRun.h"
 #include "job/LaidDownOptions.h"
 
 #include <utility>
@@ -86,7 +87,11 @@ void Job::layDownPages()
 
 QStringList Job::notices() const
 {
-    return unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen);
+    QStringList notices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen);
+    if (mDestination.isFile() && ppd() != nullptr) {
+        notices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
+    }
+    return notices;
 }
 
 bool Job::takeChoice(const QString &key, const QString &choice)
