@@ -3,10 +3,12 @@
 #include "dialog/OptionsPage.h"
 
 #include "dialog/ChoicePopUp.h"
+#include "dialog/PlainText.h"
 #include "job/PpdMarks.h"
 
 #include <QComboBox>
 #include <QFormLayout>
+#include <QLabel>
 
 namespace tapeprint::dialog
 {
@@ -46,9 +48,8 @@ void OptionsPage::addOption(const ppd_option_t &option)
     fillWithChoices(popUp, option);
     connect(popUp, &QComboBox::activated, this,
             [this, popUp, key] { Q_EMIT picked(key, popUp->currentData().toString()); });
-    QString text = QString::fromUtf8(option.text);
-    text.replace(u'&', QLatin1String("&&")); // a PPD's "&" is no mnemonic
-    qobject_cast<QFormLayout *>(layout())->addRow(tr("%1:", "name of an option").arg(text), popUp);
+    const QString text = tr("%1:", "name of an option").arg(QString::fromUtf8(option.text));
+    qobject_cast<QFormLayout *>(layout())->addRow(plainLabel(text, popUp), popUp);
     mPopUps.push_back(popUp);
 }
 

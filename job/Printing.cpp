@@ -2,7 +2,10 @@
 // Choosing the road of a job: a print queue, or filters alone.
 #include "job/Printing.h"
 
+#include "job/LaidOutJob.h"
 #include "job/Texts.h"
+
+#include <QTemporaryDir>
 
 #include <array>
 
@@ -35,16 +38,25 @@ QString PrintedJob::sentence() const
         .arg(queue, QString::number(job.id), Texts::tr(job.state.toLatin1().constData()));
 }
 
-std::optional<PrintedJob> printJob(const Job &job, const QString &title, const QStringList &files, QString *error)
+std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
+                                   const std::atomic<bool> &stop, QString *error)
 {
-    const Destination &destination = job.destination();
-    if (destination.isFile()) {
+    QTemporaryDir folder;
+    QStringList printed = files;
+    if (job.page.isTape) {
+        const std::optional<PdfDocuments> documents = collectPdfs(job, files, stop, error);
+        printed = {folder.filePath(QStringLiteral("labels.pdf"))};
+        if (!documents || !layOutJob(job, *documents, printed.first(), stop, error)) {
+            return std::nullopt;
+        }
+    }
+    if (job.isFile()) {
         const std::optional<FilterOutput> output =
-            runFilters({destination.ppdPath, title, job.options(), files, destination.outputPath}, error);
+            runFilters({job.ppdPath, title, job.carried(), printed, job.outputPath}, error);
         return output ? std::optional(PrintedJob{{}, {}, *output}) : std::nullopt;
     }
-    const std::optional<SubmittedJob> submitted = submitJob(*destination.queue, title, job.options(), files, error);
-    return submitted ? std::optional(PrintedJob{destination.queue->name, *submitted, {}}) : std::nullopt;
+    const std::optional<SubmittedJob> submitted = submitJob(*job.queue, title, job.carried(), printed, error);
+    return submitted ? std::optional(PrintedJob{job.queue->name, *submitted, {}}) : std::nullopt;
 }
 
 } // namespace tapeprint::job

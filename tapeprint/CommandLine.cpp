@@ -116,6 +116,7 @@ const std::array valueOptions{
 
 const std::array flags{
     Flag{QLatin1String("--no-dialog"), &CommandLine::noDialog},
+    Flag{QLatin1String("--fit-length"), &CommandLine::fitLength},
     Flag{QLatin1String("--show-options"), &CommandLine::showOptions},
     Flag{QLatin1String("--summary"), &CommandLine::summary},
     Flag{QLatin1String("--help"), &CommandLine::help},
@@ -201,6 +202,9 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
             return std::nullopt;
         }
     }
+    if (line.fitLength) {
+        line.request.options.set(job::OptionName::fitLength, QStringLiteral("true"));
+    }
     return fitsTogether(line, error) ? std::optional(line) : std::nullopt;
 }
 
@@ -208,7 +212,8 @@ QString commandLineHelp()
 {
     return QStringLiteral(
         "Usage: tapeprint [-d QUEUE[/INSTANCE]] [-n COPIES] [-o NAME=VALUE]... [-P PAGES] [-t TITLE]\n"
-        "                 [--ppd FILE [--output FILE]] [--no-dialog] [--show-options] [--summary] [FILE...]\n"
+        "                 [--ppd FILE [--output FILE]] [--fit-length] [--no-dialog] [--show-options] [--summary] "
+        "[FILE...]\n"
         "\n"
         "Opens the print dialog for tape and label printers. Without FILE, standard input is printed.\n"
         "\n"
@@ -222,6 +227,7 @@ QString commandLineHelp()
         "  --ppd FILE           take the printer's description from a PPD file; without -d no print server is\n"
         "                       needed: the document runs through the filters that the PPD names\n"
         "  --output FILE        with --ppd: where the printer's bytes go; no print queue is used\n"
+        "  --fit-length         make the tape as long as what is drawn on the document needs, with both margins\n"
         "  --no-dialog          do the same job without a window\n"
         "  --show-options       print the options that the job would carry, and submit nothing\n"
         "  --summary            print the summary of the job as \"title: value\" lines, and submit nothing\n"

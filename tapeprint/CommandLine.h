@@ -17,6 +17,7 @@ struct CommandLine {
     /// -d QUEUE/INSTANCE, -t TITLE, --ppd FILE, --output FILE; the options of -o, -n and -P in the order given.
     job::JobRequest request;
     bool noDialog = false;
+    bool fitLength = false; ///< the tape becomes as long as the document needs
     bool showOptions = false;
     bool summary = false;
     bool help = false;

@@ -10,8 +10,17 @@
 
 #include <QEventLoop>
 
+#include <atomic>
+
 namespace tapeprint
 {
+
+namespace
+{
+
+const std::atomic<bool> neverStopped{false};
+
+} // namespace
 
 RunReport runWindow(const CommandLine &line)
 {
@@ -37,12 +46,13 @@ RunReport runWindow(const CommandLine &line)
     panels.open(std::move(*destination), request.options);
     const QString title = documents->title(request.title);
     QString printed;
-    dialog::PrintDialog window(
-        job, panels, {request, title, documents->files(), std::move(queues)}, [&](QString *reason) {
-            const std::optional<job::PrintedJob> done = job::printJob(job, title, documents->files(), reason);
-            printed = done ? done->sentence() : QString();
-            return printed;
-        });
+    dialog::PrintDialog window(job, panels, {request, title, documents->files(), std::move(queues)},
+                               [&](QString *reason) {
+                                   const std::optional<job::PrintedJob> done =
+                                       job::printJob(job::settle(job), title, documents->files(), neverStopped, reason);
+                                   printed = done ? done->sentence() : QString();
+                                   return printed;
+                               });
     QEventLoop untilClosed;
     QObject::connect(&window, &QDialog::finished, &untilClosed, &QEventLoop::quit);
     window.open();

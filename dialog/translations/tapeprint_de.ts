@@ -87,6 +87,18 @@
         <source>More Options</source>
         <translation>Weitere Optionen</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>Tape preview</source>
+        <translation>Bandvorschau</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Papiervorschau</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -267,6 +279,22 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Auftrag %1-%2: %3.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>Der Bereich „%1“ bietet %2=%3 nicht an, obwohl der Drucker es hat. Der Auftrag enthält %4=%5.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>Der Bereich „%1“ hält %2 in seinen Grenzen und Schritten. Statt %3 enthält der Auftrag %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 gehört nicht zu den Werten, die die PPD-Datei des Druckers aufführt. Der Auftrag enthält %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>Die Beschreibung des Druckers verlangt das Plug-in %1, das nicht installiert ist. Gedruckt werden kann auch ohne es.</translation>
     </message>
 </context>
 </TS>

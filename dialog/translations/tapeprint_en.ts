@@ -87,6 +87,18 @@
         <source>More Options</source>
         <translation>More Options</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>P&amp;aper:</translation>
+    </message>
+    <message>
+        <source>Tape preview</source>
+        <translation>Tape preview</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Paper preview</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -267,6 +279,22 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Job %1-%2 is %3.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</translation>
     </message>
 </context>
 </TS>

@@ -87,6 +87,18 @@
         <source>More Options</source>
         <translation>Más opciones</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>&amp;Papel:</translation>
+    </message>
+    <message>
+        <source>Tape preview</source>
+        <translation>Vista previa de la cinta</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Vista previa del papel</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -267,6 +279,22 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Trabajo %1-%2: %3.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>El panel «%1» no ofrece %2=%3, que la impresora tiene: el trabajo lleva %4=%5.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>El panel «%1» mantiene %2 dentro de sus límites y pasos: en lugar de %3, el trabajo lleva %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 no figura entre las opciones del archivo PPD de la impresora: el trabajo lleva %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>La descripción de la impresora pide el complemento %1, que no está instalado. Se puede imprimir sin él.</translation>
     </message>
 </context>
 </TS>

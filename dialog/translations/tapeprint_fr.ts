@@ -87,6 +87,18 @@
         <source>More Options</source>
         <translation>Autres options</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>&amp;Papier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Tape preview</source>
+        <translation>Aperçu du ruban</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Aperçu du papier</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -267,6 +279,22 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Tâche %1-%2&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>Le volet «&#xa0;%1&#xa0;» ne propose pas %2=%3, que l’imprimante possède&#xa0;: la tâche porte %4=%5.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>Le volet «&#xa0;%1&#xa0;» maintient %2 dans ses limites et ses pas&#xa0;: au lieu de %3, la tâche porte %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 ne figure pas parmi les choix du fichier PPD de l’imprimante&#xa0;: la tâche porte %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>La description de l’imprimante demande le module %1, qui n’est pas installé. L’impression fonctionne sans lui.</translation>
     </message>
 </context>
 </TS>

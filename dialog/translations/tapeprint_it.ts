@@ -87,6 +87,18 @@
         <source>More Options</source>
         <translation>Altre opzioni</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>C&amp;arta:</translation>
+    </message>
+    <message>
+        <source>Tape preview</source>
+        <translation>Anteprima del nastro</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Anteprima della carta</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -267,6 +279,22 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Lavoro %1-%2: %3.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>Il pannello &quot;%1&quot; non offre %2=%3, che la stampante possiede: il lavoro contiene %4=%5.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>Il pannello &quot;%1&quot; mantiene %2 entro i suoi limiti e passi: invece di %3 il lavoro contiene %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 non è tra le scelte elencate nel file PPD della stampante: il lavoro contiene %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>La descrizione della stampante richiede il plug-in %1, che non è installato. La stampa funziona anche senza.</translation>
     </message>
 </context>
 </TS>

@@ -87,6 +87,18 @@
         <source>More Options</source>
         <translation>その他のオプション</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>用紙(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>Tape preview</source>
+        <translation>テープのプレビュー</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>用紙のプレビュー</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -267,6 +279,22 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>ジョブ %1-%2：%3。</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>プリンターにある %2=%3 は、パネル「%1」では選べません。ジョブには %4=%5 が入ります。</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>パネル「%1」は %2 を範囲と刻みに合わせます。ジョブには %3 ではなく %4 が入ります。</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 は、プリンターの PPD にある選択肢ではありません。ジョブには %3=%4 が入ります。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>プリンターの記述が求めるプラグイン %1 はインストールされていません。プラグインがなくても印刷できます。</translation>
     </message>
 </context>
 </TS>

@@ -87,6 +87,18 @@
         <source>More Options</source>
         <translation>추가 옵션</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>용지(&amp;A):</translation>
+    </message>
+    <message>
+        <source>Tape preview</source>
+        <translation>테이프 미리 보기</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>용지 미리 보기</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -267,6 +279,22 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>작업 %1-%2: %3.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>프린터에는 %2=%3이(가) 있지만 패널 ‘%1’에서는 선택할 수 없습니다. 작업에는 %4=%5이(가) 들어갑니다.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>패널 ‘%1’은(는) %2을(를) 한도와 단계에 맞춥니다. 작업에는 %3 대신 %4이(가) 들어갑니다.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2은(는) 프린터의 PPD에 있는 선택 항목이 아닙니다. 작업에는 %3=%4이(가) 들어갑니다.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>프린터 설명에서 요구하는 플러그인 %1이(가) 설치되어 있지 않습니다. 플러그인이 없어도 인쇄할 수 있습니다.</translation>
     </message>
 </context>
 </TS>

@@ -87,6 +87,18 @@
         <source>More Options</source>
         <translation>Meer opties</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>Pap&amp;ier:</translation>
+    </message>
+    <message>
+        <source>Tape preview</source>
+        <translation>Voorbeeld van de tape</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Voorbeeld van het papier</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -267,6 +279,22 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Taak %1-%2: %3.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>Het paneel ‘%1’ biedt %2=%3 niet aan, hoewel de printer het heeft: de taak bevat %4=%5.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>Het paneel ‘%1’ houdt %2 binnen zijn grenzen en stappen: in plaats van %3 bevat de taak %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 komt niet voor in de keuzes van het PPD-bestand van de printer: de taak bevat %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>De beschrijving van de printer vraagt om de plug-in %1, die niet is geïnstalleerd. Afdrukken kan ook zonder.</translation>
     </message>
 </context>
 </TS>

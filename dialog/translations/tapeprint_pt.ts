@@ -87,6 +87,18 @@
         <source>More Options</source>
         <translation>Mais opções</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>&amp;Papel:</translation>
+    </message>
+    <message>
+        <source>Tape preview</source>
+        <translation>Pré-visualização da fita</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Pré-visualização do papel</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -267,6 +279,22 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>Trabalho %1-%2: %3.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>O painel “%1” não oferece %2=%3, que a impressora tem: o trabalho leva %4=%5.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>O painel “%1” mantém %2 dentro dos seus limites e passos: em vez de %3, o trabalho leva %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 não consta das escolhas do ficheiro PPD da impressora: o trabalho leva %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>A descrição da impressora pede a extensão %1, que não está instalada. É possível imprimir sem ela.</translation>
     </message>
 </context>
 </TS>

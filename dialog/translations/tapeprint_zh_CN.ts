@@ -87,6 +87,18 @@
         <source>More Options</source>
         <translation>更多选项</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>纸张(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>Tape preview</source>
+        <translation>标签带预览</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>纸张预览</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -267,6 +279,22 @@
     <message>
         <source>Job %1-%2 is %3.</source>
         <translation>作业 %1-%2：%3。</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>打印机具有 %2=%3，但面板“%1”不提供：作业采用 %4=%5。</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>面板“%1”将 %2 保持在其限值和步长之内：作业采用 %4，而不是 %3。</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 不在打印机 PPD 列出的选项之中：作业采用 %3=%4。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>打印机描述要求插件 %1，但该插件未安装。没有该插件也可以打印。</translation>
     </message>
 </context>
 </TS>

@@ -186,7 +186,7 @@ TEST_F(Program, OptionThatThePanelReplaces_IsNamed)
     const QString tooLong(41, u'9');
     const Outcome outcome = run({u"--ppd"_qs, ppd, u"--show-options"_qs, u"-o"_qs, u"KsMargin="_qs + tooLong});
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_TRUE(outcome.messages.contains("the job carries KsMargin=2.0")) << outcome.messages.toStdString();
+    EXPECT_TRUE(outcome.messages.contains("the job carries 2.0.")) << outcome.messages.toStdString();
 }
 
 TEST_F(Program, BadInput_IsOneLineAndStatusOne)

@@ -70,6 +70,18 @@ TEST_P(TranslatedWindow, Buttons_SpeakTheLocalesLanguage)
     EXPECT_EQ(cancel->text(), QString::fromUtf8(GetParam().cancel));
 }
 
+TEST_P(TranslatedWindow, MnemonicOfThePaper_IsTakenByNothingElseEither)
+{
+    // A printer without a panel has no chooser, whose letter is free then.
+    const QKeySequence paper =
+        QKeySequence::mnemonic(QCoreApplication::translate("tapeprint::dialog::PrintDialog", "P&aper:"));
+    ASSERT_FALSE(paper.isEmpty());
+    for (const char *other : {"P&rinter:", "&Copies:", "Re&vert", "&Print"}) {
+        EXPECT_NE(QKeySequence::mnemonic(QCoreApplication::translate("tapeprint::dialog::PrintDialog", other)), paper)
+            << other;
+    }
+}
+
 TEST_P(TranslatedWindow, Mnemonics_AreThereAndNoneIsThereTwice)
 {
     QStringList letters;
