@@ -17,9 +17,12 @@ namespace
 {
 
 /// Whether an option is one that the dialog's other controls do not show, and a pop-up can.
-bool isShown(const Panels &panels, const ppd_option_t &option)
+bool isShown(const job::TapeKeywords &tape, const Panels &panels, const ppd_option_t &option)
 {
     const QString key = QString::fromUtf8(option.keyword);
+    if (key == tape.lengthOption || key == tape.marginOption) { // a panel's, announced or not
+        return false;
+    }
     const bool isOneOf = option.ui == PPD_UI_PICKONE || option.ui == PPD_UI_BOOLEAN;
     return isOneOf && option.num_choices > 0 && key != job::OptionName::pageSize &&
            key != job::OptionName::pageRegion && !panels.announced(key);
@@ -32,7 +35,7 @@ OptionsPage::OptionsPage(const job::Job &job, const Panels &panels, QWidget *par
     auto *form = new QFormLayout(this);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     job::forEachOption(job.ppd(), [this, &panels](const ppd_option_t &option) {
-        if (isShown(panels, option)) {
+        if (isShown(mJob.tape(), panels, option)) {
             addOption(option);
         }
     });

@@ -234,6 +234,19 @@ bool Panels::revert(QString *error)
     return restored;
 }
 
+job::JobOptions Panels::currentOptions() const
+{
+    job::JobOptions options = mJob.options();
+    for (const PanelEntry &entry : mPanels) {
+        if (const auto *live = dynamic_cast<const pdekit::PanelLiveValues *>(entry.panel.get())) {
+            for (const auto &[key, choice] : live->currentValues()) {
+                options.set(key, choice);
+            }
+        }
+    }
+    return options;
+}
+
 std::vector<PanelSummary> Panels::summary() const
 {
     std::vector<PanelSummary> summaries;

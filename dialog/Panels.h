@@ -75,6 +75,8 @@ public:
     /// Job and panels go back to the values that the dialog was opened with. \param error takes the sentence of a panel
     /// that could not.
     bool revert(QString *error);
+    /// The job's options with what each panel's controls say this moment laid over them, sent or not.
+    job::JobOptions currentOptions() const;
     /// What the panels set.
     std::vector<PanelSummary> summary() const;
 

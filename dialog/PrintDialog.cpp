@@ -7,8 +7,8 @@
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
 #include "dialog/PlainText.h"
+#include "dialog/PreviewArea.h"
 #include "dialog/SummaryView.h"
-#include "dialog/TapePreview.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -131,8 +131,8 @@ QWidget *PrintDialog::makeSummaryArea()
     summaryLayout->addWidget(mSummary);
     summaryBox->setMinimumWidth(summaryWidth);
     layout->addWidget(summaryBox, 1);
-    mPreview = new TapePreview(area);
-    mPreview->setDocument(mSetup.files.value(0));
+    mPreview = new PreviewArea(area);
+    mPreview->setDocuments(mSetup.files);
     layout->addWidget(mPreview);
     return area;
 }
@@ -206,7 +206,6 @@ void PrintDialog::nameThePaper()
     // A printer that a panel serves is loaded with tape.
     const bool isTape = !mPanels.entries().empty();
     mTapeLabel->setText(isTape ? tr("&Tape:") : tr("P&aper:"));
-    mPreview->setAccessibleName(isTape ? tr("Tape preview") : tr("Paper preview"));
 }
 
 void PrintDialog::showTapes()

@@ -6,7 +6,7 @@
 //     ├─ notices                    skipped bundles, options that get lost
 //     ├─ panel chooser
 //     ├─ panel area (scrolls)       the panels' views, and the page of other options
-//     ├─ SummaryView, TapePreview
+//     ├─ SummaryView, PreviewArea
 //     └─ Revert, Cancel, Print
 #pragma once
 
@@ -33,8 +33,8 @@ namespace tapeprint::dialog
 
 class OptionsPage;
 class PanelArea;
+class PreviewArea;
 class SummaryView;
-class TapePreview;
 
 class PrintDialog : public QDialog
 {
@@ -92,6 +92,7 @@ private:
     void pickOption(const QString &key, const QString &choice);
     void pickPage(int index);
     void follow();
+    void followInThePreview();
     void revert();
     void print();
     void tellProblem(const QString &sentence);
@@ -119,7 +120,7 @@ private:
     PanelArea *mPanelArea = nullptr;
     QStackedWidget *mPages = nullptr;
     SummaryView *mSummary = nullptr;
-    TapePreview *mPreview = nullptr;
+    PreviewArea *mPreview = nullptr;
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;

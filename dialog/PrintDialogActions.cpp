@@ -3,9 +3,9 @@
 #include "dialog/ChoicePopUp.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/SummaryView.h"
-#include "dialog/TapePreview.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -61,7 +61,10 @@ bool PrintDialog::eventFilter(QObject *watched, QEvent *event)
             mWishedSize = static_cast<QResizeEvent *>(event)->size();
         }
         break;
+    case QEvent::KeyPress:
     case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseMove:
     case QEvent::Wheel:
@@ -144,13 +147,21 @@ void PrintDialog::follow()
     }
     showNotices();
     mSummary->showSummary(mPanels.summary());
-    mPreview->follow(mJob.pageFormat().paper, mJob.options());
-    mPreview->setVisible(mJob.pageFormat().paper.has_value());
+    followInThePreview();
     selectChoice(mTapePopUp, job::markedChoice(mJob.ppd(), job::OptionName::pageSize));
     mCopiesField->setValue(mJob.copies());
     if (mOptionsPage) {
         mOptionsPage->follow();
     }
+}
+
+void PrintDialog::followInThePreview()
+{
+    // What a person is dragging or typing this moment counts, though the panel has not sent it yet.
+    const job::JobOptions options = mPanels.currentOptions();
+    const job::TapePage page = job::tapePageOf(mJob.ppd(), options, mJob.tape());
+    mPreview->follow(page, options, tapeLookOf(mJob.ppd(), options, mJob.tape()));
+    mPreview->setVisible(!page.isEmpty());
 }
 
 void PrintDialog::revert()

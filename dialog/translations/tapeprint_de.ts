@@ -30,6 +30,61 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Voriges Etikett</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Nächstes Etikett</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Etikett %1 von %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>Ein Teil der Seite wird abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>Auf dieser Seite ist nichts.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>Tinte dieser Farbe ist auf diesem Band schlecht zu sehen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n Blatt</numerusform>
+            <numerusform>%n Blätter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, %2 Band</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n Etikett</numerusform>
+            <numerusform>%n Etiketten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>Keine Vorschau: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -91,14 +146,6 @@
         <source>P&amp;aper:</source>
         <translation>&amp;Papier:</translation>
     </message>
-    <message>
-        <source>Tape preview</source>
-        <translation>Bandvorschau</translation>
-    </message>
-    <message>
-        <source>Paper preview</source>
-        <translation>Papiervorschau</translation>
-    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -116,6 +163,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>Länge %1, Breite %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Papiervorschau</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1; ein Teil der Seite wird abgeschnitten</translation>
     </message>
 </context>
 <context>
@@ -281,8 +337,28 @@
         <translation>Auftrag %1-%2: %3.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
-        <translation>Der Bereich „%1“ bietet %2=%3 nicht an, obwohl der Drucker es hat. Der Auftrag enthält %4=%5.</translation>
+        <source>It is no plain file.</source>
+        <translation>Es ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 ist beschädigt: Keine Seite ist lesbar.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 ist kein PDF-Dokument.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 ist durch ein Kennwort geschützt. Speichern Sie es ohne Kennwort und drucken Sie das.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 hat keine Seite.</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
@@ -295,6 +371,75 @@
     <message>
         <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
         <translation>Die Beschreibung des Druckers verlangt das Plug-in %1, das nicht installiert ist. Gedruckt werden kann auch ohne es.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>Der Bereich „%1“ bietet %2=%3 nicht an, obwohl der Drucker es hat. Der Auftrag enthält %4=%5.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 Zoll</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,59 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>이전 라벨</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>다음 라벨</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>라벨 %1 / %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>페이지의 일부가 잘립니다.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>이 페이지에는 아무것도 없습니다.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>이 색의 잉크는 이 테이프에서 잘 보이지 않습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n장</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, 테이프 %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>라벨 %n장</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>미리 보기 없음: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -91,14 +144,6 @@
         <source>P&amp;aper:</source>
         <translation>용지(&amp;A):</translation>
     </message>
-    <message>
-        <source>Tape preview</source>
-        <translation>테이프 미리 보기</translation>
-    </message>
-    <message>
-        <source>Paper preview</source>
-        <translation>용지 미리 보기</translation>
-    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -116,6 +161,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>길이 %1, 폭 %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>용지 미리 보기</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1, 페이지의 일부가 잘림</translation>
     </message>
 </context>
 <context>
@@ -281,8 +335,28 @@
         <translation>작업 %1-%2: %3.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
-        <translation>프린터에는 %2=%3이(가) 있지만 패널 ‘%1’에서는 선택할 수 없습니다. 작업에는 %4=%5이(가) 들어갑니다.</translation>
+        <source>It is no plain file.</source>
+        <translation>일반 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1을(를) 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1이(가) 손상되었습니다: 읽을 수 있는 페이지가 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1은(는) PDF 문서가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1은(는) 암호로 보호되어 있습니다. 암호 없이 저장한 다음 인쇄하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1에 페이지가 없습니다.</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
@@ -295,6 +369,75 @@
     <message>
         <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
         <translation>프린터 설명에서 요구하는 플러그인 %1이(가) 설치되어 있지 않습니다. 플러그인이 없어도 인쇄할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>프린터에는 %2=%3이(가) 있지만 패널 ‘%1’에서는 선택할 수 없습니다. 작업에는 %4=%5이(가) 들어갑니다.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 인치</translation>
     </message>
 </context>
 </TS>

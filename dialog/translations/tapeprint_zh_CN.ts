@@ -30,6 +30,59 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>上一张标签</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>下一张标签</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>第 %1 张标签，共 %2 张</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>页面的一部分会被裁掉。</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>此页上没有任何内容。</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>此颜色的墨水在此标签带上不易看清。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n 张</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1，标签带 %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n 张标签</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>没有预览：%1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -91,14 +144,6 @@
         <source>P&amp;aper:</source>
         <translation>纸张(&amp;A)：</translation>
     </message>
-    <message>
-        <source>Tape preview</source>
-        <translation>标签带预览</translation>
-    </message>
-    <message>
-        <source>Paper preview</source>
-        <translation>纸张预览</translation>
-    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -116,6 +161,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>长度 %1，宽度 %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>纸张预览</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1；页面的一部分会被裁掉</translation>
     </message>
 </context>
 <context>
@@ -281,8 +335,28 @@
         <translation>作业 %1-%2：%3。</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
-        <translation>打印机具有 %2=%3，但面板“%1”不提供：作业采用 %4=%5。</translation>
+        <source>It is no plain file.</source>
+        <translation>它不是普通文件。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 已损坏：无法读取任何页面。</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 不是 PDF 文档。</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 受密码保护：请另存为不带密码的文件后再打印。</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 没有页面。</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
@@ -295,6 +369,75 @@
     <message>
         <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
         <translation>打印机描述要求插件 %1，但该插件未安装。没有该插件也可以打印。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>打印机具有 %2=%3，但面板“%1”不提供：作业采用 %4=%5。</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 英寸</translation>
     </message>
 </context>
 </TS>

@@ -118,6 +118,15 @@ TEST(TranslationsTest, Sentences_AreTranslatedAsLongAsTheTranslationsLive)
     EXPECT_EQ(job.sentence(), u"Job tape-7 is pending."_qs);
 }
 
+TEST(TranslationsTest, NumbersOfThings_HaveEnglishsPluralFormsInLanguagesWithoutACatalogue)
+{
+    const DefaultLocale locale(u"sv_SE"_qs);
+    const Translations translations;
+    const char *const context = "tapeprint::dialog::PreviewArea";
+    EXPECT_EQ(QCoreApplication::translate(context, "%n label(s)", nullptr, 1), u"1 label"_qs);
+    EXPECT_EQ(QCoreApplication::translate(context, "%n label(s)", nullptr, 2), u"2 labels"_qs);
+}
+
 TEST(TranslationsTest, OptionNames_AreFollowedByTheLanguagesColon)
 {
     const DefaultLocale locale(u"ja_JP"_qs);
