@@ -41,7 +41,7 @@ public:
             *error = qt_error_string(errno);
             return {};
         }
-        const QString place = QStringLiteral("%1/%2").arg(mPath, QString::number(++mPlaces));
+        QString place = QStringLiteral("%1/%2").arg(mPath, QString::number(++mPlaces));
         if (mkdir(QFile::encodeName(place).constData(), S_IRWXU) != 0) {
             *error = qt_error_string(errno);
             return {};

@@ -195,6 +195,22 @@ TEST_F(WindowJob, BrokenBundle_TheDialogStillPrints)
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm());
 }
 
+TEST_F(WindowJob, DocumentThatChanged_IsSaidAndNotPrinted)
+{
+    document = systemtest::writeFile(workFolder + u"/label.pdf"_qs, systemtest::contentsOf(document));
+    ASSERT_NO_FATAL_FAILURE(open());
+    systemtest::writeFile(document, "%PDF-1.4\nAnother document.\n");
+    dialog.clickPrint();
+    const QString sentence = dialog.waitForFurtherWindow();
+    ASSERT_FALSE(sentence.isNull()) << "no word about the document";
+    dialog.press({u"Return"_qs});
+    ASSERT_TRUE(dialog.waitForGone(sentence));
+    EXPECT_EQ(dialog.windows(), QStringList{dialog.window()}); // the window stays
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(dialog.waitForEnd().output, "");
+    EXPECT_TRUE(cups.jobs().empty());
+}
+
 TEST_F(WindowJob, Cancel_PrintsNothing)
 {
     ASSERT_NO_FATAL_FAILURE(open());
