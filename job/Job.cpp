@@ -56,6 +56,9 @@ void Job::layDownOptions(const JobOptions &asked)
     // Each is named before they are joined: a PageRegion that is asked for counts more than a saved PageSize.
     mLaidDown = mDestination.queue ? withNamedSize(mDestination.queue->options, ppd()) : JobOptions();
     const JobOptions named = withNamedSize(asked, ppd());
+    if (named.contains(OptionName::media) && !named.contains(OptionName::pageSize)) {
+        mLaidDown.remove(OptionName::pageSize); // the media asked for is another paper
+    }
     for (const auto &[name, value] : named.entries()) {
         mLaidDown.set(name, value);
     }

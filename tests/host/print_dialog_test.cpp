@@ -305,6 +305,7 @@ TEST_F(PlainDialog, ShowsThePrintersOptionsFirstAndNoChooser)
     EXPECT_TRUE(child<QComboBox>(u"CutMedia"_qs)->isVisible());
     EXPECT_TRUE(child<QComboBox>(u"Margin"_qs)->isVisible());
     EXPECT_FALSE(child<QComboBox>(u"pageChooser"_qs)->isVisible());
+    EXPECT_FALSE(child<QWidget>(u"summary"_qs)->isVisible()); // of panels: there is none
     EXPECT_FALSE(child<QLabel>(u"notices"_qs)->isVisible());
     EXPECT_EQ(dialog->findChild<QPushButton *>(u"wideMargin"_qs), nullptr);
 }
