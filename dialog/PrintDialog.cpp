@@ -186,7 +186,7 @@ void PrintDialog::fillPrinters()
 
 void PrintDialog::showDestination()
 {
-    nameThePaper();
+    showWhetherTape();
     showTapes();
     makePages();
     follow();
@@ -201,11 +201,12 @@ void PrintDialog::showNotices()
     mNotices->setVisible(!notices.isEmpty());
 }
 
-void PrintDialog::nameThePaper()
+void PrintDialog::showWhetherTape()
 {
     // A printer that a panel serves is loaded with tape.
     const bool isTape = !mPanels.entries().empty();
     mTapeLabel->setText(isTape ? tr("&Tape:") : tr("P&aper:"));
+    mSummary->parentWidget()->setVisible(isTape); // it is the panels' summary
 }
 
 void PrintDialog::showTapes()

@@ -98,7 +98,7 @@ private:
     void tellProblem(const QString &sentence);
     void say(QMessageBox::Icon icon, const QString &sentence);
     void showNotices();
-    void nameThePaper();
+    void showWhetherTape();
     void fitPanel();
     bool isPage(const QObject *object) const;
 

@@ -70,12 +70,6 @@ QByteArray pageDescription(const QSizeF &sizePt)
            size + "\"\n*DefaultPaperDimension: Page\n*PaperDimension Page: \"" + size + "\"\n";
 }
 
-QString noRoom(const QString &reason)
-{
-    return Texts::tr("A temporary file cannot be written (%1): make room in the folder for temporary files.")
-        .arg(reason);
-}
-
 bool writeDescription(const QString &path, const QSizeF &sizePt, QString *error)
 {
     QFile file(path);
@@ -83,7 +77,7 @@ bool writeDescription(const QString &path, const QSizeF &sizePt, QString *error)
     if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush()) {
         return true;
     }
-    *error = noRoom(file.errorString());
+    *error = noRoomForTemporaryFiles(file.errorString());
     return false;
 }
 
@@ -123,7 +117,7 @@ bool convertByFilters(const QString &document, const QString &type, const QStrin
 
     QFile output(path);
     if (!output.open(QIODevice::WriteOnly)) {
-        *error = noRoom(output.errorString());
+        *error = noRoomForTemporaryFiles(output.errorString());
         return false;
     }
     const ConfinedRun run = runConfined(
@@ -132,7 +126,7 @@ bool convertByFilters(const QString &document, const QString &type, const QStrin
         return false;
     }
     if (run.end == ConfinedRun::End::refused || !output.flush()) {
-        *error = noRoom(output.errorString());
+        *error = noRoomForTemporaryFiles(output.errorString());
         return false;
     }
     if (run.end != ConfinedRun::End::finished || run.exitCode != 0 || output.size() == 0) {
@@ -189,7 +183,7 @@ bool pictureToPdf(const QString &document, const QString &path, QString *error)
                                      QPageLayout::Portrait, QMarginsF()));
     QPainter painter;
     if (!painter.begin(&writer)) {
-        *error = noRoom(path);
+        *error = noRoomForTemporaryFiles(path);
         return false;
     }
     painter.setRenderHint(QPainter::LosslessImageRendering); // a bar code is not to be smeared
@@ -198,6 +192,12 @@ bool pictureToPdf(const QString &document, const QString &path, QString *error)
 }
 
 } // namespace
+
+QString noRoomForTemporaryFiles(const QString &reason)
+{
+    return Texts::tr("A temporary file cannot be written (%1): make room in the folder for temporary files.")
+        .arg(reason);
+}
 
 DocumentKind documentKindOf(const QString &path)
 {

@@ -2,6 +2,7 @@
 // The objects of one job are changed here and nowhere else, so that they always agree.
 #include "job/Job.h"
 
+#include "job/FilterRun.h"
 #include "job/LaidDownOptions.h"
 
 #include <utility>
@@ -55,6 +56,9 @@ void Job::layDownOptions(const JobOptions &asked)
     // Each is named before they are joined: a PageRegion that is asked for counts more than a saved PageSize.
     mLaidDown = mDestination.queue ? withNamedSize(mDestination.queue->options, ppd()) : JobOptions();
     const JobOptions named = withNamedSize(asked, ppd());
+    if (named.contains(OptionName::media) && !named.contains(OptionName::pageSize)) {
+        mLaidDown.remove(OptionName::pageSize); // the media asked for is another paper
+    }
     for (const auto &[name, value] : named.entries()) {
         mLaidDown.set(name, value);
     }
@@ -86,7 +90,11 @@ void Job::layDownPages()
 
 QStringList Job::notices() const
 {
-    return unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen);
+    QStringList notices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen);
+    if (mDestination.isFile() && ppd() != nullptr) {
+        notices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
+    }
+    return notices;
 }
 
 bool Job::takeChoice(const QString &key, const QString &choice)

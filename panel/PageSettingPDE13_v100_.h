@@ -321,8 +321,8 @@ private:
     const PDEChoice *mTapeColor_Selection = nullptr;
 
     std::optional<ShownValues> mKeptValues; ///< of a view that the dialog deleted, until there is another
-    /// The receiver of all that the view's controls send. A view of the panel's own goes after it, with the base: an edit
-    /// that ends then reaches nobody.
+    /// The receiver of all that the view's controls send. A view of the panel's own goes after it, with the base: an
+    /// edit that ends then reaches nobody.
     std::unique_ptr<QObject> mReceiver;
 
     std::unique_ptr<BundleImages> mImages; ///< of the choices; null until a control with images is filled

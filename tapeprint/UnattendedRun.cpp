@@ -90,6 +90,7 @@ RunReport runUnattended(const CommandLine &line)
         if (!documents) {
             return failedRun(error);
         }
+        request.documents = documents->sources();
         nameOutput(request, documents->title(QString()));
     }
     std::optional<job::Destination> destination = job::openDestination(request, &error);
@@ -120,8 +121,11 @@ RunReport runUnattended(const CommandLine &line)
         report.output += summaryLines(panels);
     }
     if (!line.onlyShows()) {
-        const std::optional<job::PrintedJob> result =
-            job::printJob(job::settle(job), documents->title(request.title), documents->files(), neverStopped, &error);
+        std::optional<job::PrintedJob> result;
+        if (job::areUnchanged(documents->sources(), &error)) {
+            result = job::printJob(job::settle(job), documents->title(request.title), documents->files(), neverStopped,
+                                   &error);
+        }
         if (!result) {
             return failedRun(error);
         }

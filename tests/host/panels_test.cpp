@@ -92,6 +92,15 @@ TEST_F(PanelsTest, PageRegion_ChoosesTheTapeAndCountsMoreThanASavedSize)
     EXPECT_EQ(markedChoice(job.ppd(), u"PageSize"_qs), u"W24"_qs);
 }
 
+TEST_F(PanelsTest, MediaAskedFor_CountsMoreThanASavedSize)
+{
+    Destination destination = hosttest::testDestination(folder);
+    destination.queue = PrintQueue();
+    destination.queue->options = options({{u"PageSize"_qs, u"W12"_qs}});
+    panels.open(std::move(destination), options({{u"media"_qs, u"W24"_qs}}));
+    EXPECT_EQ(job.options().lines(), (QStringList{u"media=W24"_qs, u"PageSize=W24"_qs}));
+}
+
 TEST_F(PanelsTest, OptionThatNeverArrives_IsSaidToWhoSetsItAlone)
 {
     const QByteArray media = "*OpenUI *Media/Media: PickOne\n*DefaultMedia: A\n*Media A/A: \"\"\n*Media B/B: \"\"\n"
