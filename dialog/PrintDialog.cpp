@@ -3,10 +3,12 @@
 #include "dialog/PrintDialog.h"
 
 #include "dialog/ChoicePopUp.h"
+#include "dialog/GatheredAlerts.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PlainText.h"
+#include "dialog/PreviewArea.h"
 #include "dialog/SummaryView.h"
-#include "dialog/TapePreview.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -36,10 +38,12 @@ constexpr int summaryWidth = 280;
 PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction)
     : mJob(job), mPanels(panels), mSetup(std::move(setup)), mPrintAction(std::move(printAction))
 {
-    setWindowTitle(tr("Print %1").arg(mSetup.title));
+    setWindowTitle(plainTitle(tr("Print %1").arg(mSetup.title)));
     setSizeGripEnabled(true);
     mFollowTimer.setSingleShot(true);
     mFollowTimer.setInterval(0);
+    mRestTimer.setSingleShot(true);
+    mRestTimer.setInterval(0);
     buildControls();
     fillPrinters();
     connectControls();
@@ -85,7 +89,9 @@ QWidget *PrintDialog::makeDestinationControls()
     mCopiesField->setObjectName(QStringLiteral("copies"));
     mCopiesField->setRange(1, mostCopies);
     form->addRow(tr("P&rinter:"), mPrinterPopUp);
-    form->addRow(tr("&Tape:"), mTapePopUp);
+    mTapeLabel = new QLabel(controls);
+    mTapeLabel->setBuddy(mTapePopUp);
+    form->addRow(mTapeLabel, mTapePopUp);
     form->addRow(tr("&Copies:"), mCopiesField);
     return controls;
 }
@@ -97,12 +103,14 @@ QWidget *PrintDialog::makePanelArea()
     layout->setContentsMargins({});
     mPageChooser = new QComboBox(area);
     mPageChooser->setObjectName(QStringLiteral("pageChooser"));
-    auto *label = new QLabel(tr("Pa&nel:"), area);
+    mChooserRow = new QWidget(area);
+    auto *label = new QLabel(tr("Pa&nel:"), mChooserRow);
     label->setBuddy(mPageChooser);
-    auto *chooserRow = new QHBoxLayout;
-    chooserRow->addWidget(label);
-    chooserRow->addWidget(mPageChooser, 1);
-    layout->addLayout(chooserRow);
+    auto *chooserLayout = new QHBoxLayout(mChooserRow);
+    chooserLayout->setContentsMargins({});
+    chooserLayout->addWidget(label);
+    chooserLayout->addWidget(mPageChooser, 1);
+    layout->addWidget(mChooserRow);
     mPanelArea = new PanelArea(area);
     mPanelArea->setWidgetResizable(true);
     mPanelArea->setMinimumSize(smallestPanelArea);
@@ -123,8 +131,8 @@ QWidget *PrintDialog::makeSummaryArea()
     summaryLayout->addWidget(mSummary);
     summaryBox->setMinimumWidth(summaryWidth);
     layout->addWidget(summaryBox, 1);
-    mPreview = new TapePreview(area);
-    mPreview->setDocument(mSetup.files.value(0));
+    mPreview = new PreviewArea(area);
+    mPreview->setDocuments(mSetup.files);
     layout->addWidget(mPreview);
     return area;
 }
@@ -178,12 +186,27 @@ void PrintDialog::fillPrinters()
 
 void PrintDialog::showDestination()
 {
-    const QStringList notices = mJob.notices() + mPanels.notices();
-    mNotices->setText(notices.join(u'\n'));
-    mNotices->setVisible(!notices.isEmpty());
+    showWhetherTape();
     showTapes();
     makePages();
     follow();
+}
+
+void PrintDialog::showNotices()
+{
+    const QString notices = (mJob.notices() + mPanels.notices() + mAlerts).join(u'\n');
+    if (notices != mNotices->text()) {
+        mNotices->setText(notices);
+    }
+    mNotices->setVisible(!notices.isEmpty());
+}
+
+void PrintDialog::showWhetherTape()
+{
+    // A printer that a panel serves is loaded with tape.
+    const bool isTape = !mPanels.entries().empty();
+    mTapeLabel->setText(isTape ? tr("&Tape:") : tr("P&aper:"));
+    mSummary->parentWidget()->setVisible(isTape); // it is the panels' summary
 }
 
 void PrintDialog::showTapes()
@@ -215,10 +238,22 @@ void PrintDialog::makePages()
         connect(mOptionsPage, &OptionsPage::picked, this, &PrintDialog::pickOption);
         addPage(mOptionsPage, tr("More Options"), std::nullopt);
     }
+    mChooserRow->setVisible(mPageList.size() > 1);
+    settlePanels();
     orderByTab();
     turnToPage(0);
     mPanelArea->updateGeometry();
     mJob.rememberAsOpened();
+}
+
+void PrintDialog::settlePanels()
+{
+    // What a panel makes of the values laid down is known before the person looks at them. An alert has no window to
+    // stand over yet; a panel that cannot hand over its values says so when it is to print.
+    const GatheredAlerts alerts;
+    QString error;
+    mPanels.settle(&error);
+    mAlerts = alerts.lines();
 }
 
 void PrintDialog::orderByTab()

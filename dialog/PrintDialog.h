@@ -6,7 +6,7 @@
 //     ├─ notices                    skipped bundles, options that get lost
 //     ├─ panel chooser
 //     ├─ panel area (scrolls)       the panels' views, and the page of other options
-//     ├─ SummaryView, TapePreview
+//     ├─ SummaryView, PreviewArea
 //     └─ Revert, Cancel, Print
 #pragma once
 
@@ -15,6 +15,7 @@
 #include "job/Job.h"
 
 #include <QDialog>
+#include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
 
@@ -32,8 +33,8 @@ namespace tapeprint::dialog
 
 class OptionsPage;
 class PanelArea;
+class PreviewArea;
 class SummaryView;
-class TapePreview;
 
 class PrintDialog : public QDialog
 {
@@ -80,20 +81,26 @@ private:
     void showTapes();
     void makePages();
     void orderByTab();
+    void settlePanels();
     void removePages();
     void turnToPage(int index);
     const Page *currentPage() const;
     void showCurrentPanel();
 
     void pickPrinter(int index);
+    void pickTape(const QString &tape);
     void pickOption(const QString &key, const QString &choice);
     void pickPage(int index);
     void follow();
+    void followInThePreview();
     void revert();
     void print();
     void tellProblem(const QString &sentence);
-    /// \param icon a QMessageBox::Icon.
-    void tell(int icon, const QString &sentence);
+    void say(QMessageBox::Icon icon, const QString &sentence);
+    void showNotices();
+    void showWhetherTape();
+    void fitPanel();
+    bool isPage(const QObject *object) const;
 
     job::Job &mJob;
     Panels &mPanels;
@@ -101,20 +108,25 @@ private:
     PrintAction mPrintAction;
     bool mClosed = false;
     QTimer mFollowTimer; ///< gathers changes of one event into one look at the job
+    QTimer mRestTimer;   ///< a change of the views' areas has come to rest when nothing else waits to be done
 
     QComboBox *mPrinterPopUp = nullptr;
     QComboBox *mTapePopUp = nullptr;
     QSpinBox *mCopiesField = nullptr;
+    QLabel *mTapeLabel = nullptr;
     QLabel *mNotices = nullptr;
+    QWidget *mChooserRow = nullptr; ///< hidden while there is one page alone
     QComboBox *mPageChooser = nullptr;
     PanelArea *mPanelArea = nullptr;
     QStackedWidget *mPages = nullptr;
     SummaryView *mSummary = nullptr;
-    TapePreview *mPreview = nullptr;
+    PreviewArea *mPreview = nullptr;
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;
 
+    QSize mWishedSize;   ///< that a panel gave its view and waits to be fitted; invalid when there is none
+    QStringList mAlerts; ///< what panels said of the values that were laid down
     std::vector<Page> mPageList;
     QPointer<OptionsPage> mOptionsPage;
     int mCurrentPrinter = 0;

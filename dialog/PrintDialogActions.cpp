@@ -3,9 +3,9 @@
 #include "dialog/ChoicePopUp.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/SummaryView.h"
-#include "dialog/TapePreview.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -14,8 +14,13 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QResizeEvent>
+#include <QScreen>
 #include <QSpinBox>
 #include <QStackedWidget>
+
+#include <algorithm>
+#include <utility>
 
 namespace tapeprint::dialog
 {
@@ -24,8 +29,7 @@ void PrintDialog::connectControls()
 {
     // "activated" is the person's act alone; setting a control from code sends nothing.
     connect(mPrinterPopUp, &QComboBox::activated, this, &PrintDialog::pickPrinter);
-    connect(mTapePopUp, &QComboBox::activated, this,
-            [this] { pickOption(job::OptionName::pageSize, mTapePopUp->currentData().toString()); });
+    connect(mTapePopUp, &QComboBox::activated, this, [this] { pickTape(mTapePopUp->currentData().toString()); });
     connect(mCopiesField, &QSpinBox::valueChanged, this, [this](int copies) {
         if (copies != mJob.copies()) {
             mJob.setCopies(copies);
@@ -38,10 +42,8 @@ void PrintDialog::connectControls()
 
     connect(&mFollowTimer, &QTimer::timeout, this, &PrintDialog::follow);
     connect(&mJob, &job::Job::changed, this, [this] { mFollowTimer.start(); });
-    connect(&mPanels, &Panels::panelResized, this, [this] {
-        mPages->updateGeometry();
-        mPanelArea->updateGeometry();
-    });
+    connect(&mPanels, &Panels::panelResized, this, &PrintDialog::fitPanel);
+    connect(&mRestTimer, &QTimer::timeout, &mPanels, &Panels::tellAreasChanged);
     // Not every act in a panel sends a choice at once, but its summary changes: the summary is read again after it.
     QApplication::instance()->installEventFilter(this);
 }
@@ -49,7 +51,20 @@ void PrintDialog::connectControls()
 bool PrintDialog::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::Resize:
+        // Told when the layouts that follow from it have been made as well.
+        if (watched == this || isPage(watched)) {
+            mRestTimer.start();
+        }
+        // A page that does not fill its place was resized by its panel. Layouts would take that back before it is told.
+        if (isPage(watched) && static_cast<QResizeEvent *>(event)->size() != mPages->size()) {
+            mWishedSize = static_cast<QResizeEvent *>(event)->size();
+        }
+        break;
+    case QEvent::KeyPress:
     case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseMove:
     case QEvent::Wheel:
@@ -103,6 +118,11 @@ void PrintDialog::pickPrinter(int index)
     showDestination();
 }
 
+void PrintDialog::pickTape(const QString &tape)
+{
+    mPanels.changePaper(tape);
+}
+
 void PrintDialog::pickOption(const QString &key, const QString &choice)
 {
     mJob.changeOption(key, choice);
@@ -125,14 +145,23 @@ void PrintDialog::follow()
     if (mClosed) {
         return;
     }
+    showNotices();
     mSummary->showSummary(mPanels.summary());
-    mPreview->follow(mJob.pageFormat().paper, mJob.options());
-    mPreview->setVisible(mJob.pageFormat().paper.has_value());
+    followInThePreview();
     selectChoice(mTapePopUp, job::markedChoice(mJob.ppd(), job::OptionName::pageSize));
     mCopiesField->setValue(mJob.copies());
     if (mOptionsPage) {
         mOptionsPage->follow();
     }
+}
+
+void PrintDialog::followInThePreview()
+{
+    // What a person is dragging or typing this moment counts, though the panel has not sent it yet.
+    const job::JobOptions options = mPanels.currentOptions();
+    const job::TapePage page = job::tapePageOf(mJob.ppd(), options, mJob.tape());
+    mPreview->follow(page, options, tapeLookOf(mJob.ppd(), options, mJob.tape()));
+    mPreview->setVisible(!page.isEmpty());
 }
 
 void PrintDialog::revert()
@@ -163,7 +192,7 @@ void PrintDialog::print()
         tellProblem(error);
         return;
     }
-    tell(QMessageBox::Information, printed);
+    say(QMessageBox::Information, printed);
     accept();
 }
 
@@ -179,15 +208,33 @@ void PrintDialog::done(int code)
 
 void PrintDialog::tellProblem(const QString &sentence)
 {
-    tell(QMessageBox::Critical, sentence);
+    say(QMessageBox::Critical, sentence);
 }
 
-void PrintDialog::tell(int icon, const QString &sentence)
+void PrintDialog::say(QMessageBox::Icon icon, const QString &sentence)
 {
-    QMessageBox box(static_cast<QMessageBox::Icon>(icon), windowTitle(), sentence, QMessageBox::Ok, this);
-    // Names and messages of strangers stand in it: nothing of them is markup.
+    // Sentences hold names of strangers.
+    QMessageBox box(icon, windowTitle(), {}, QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
+    box.setText(sentence);
     box.exec();
+}
+
+bool PrintDialog::isPage(const QObject *object) const
+{
+    return std::any_of(mPageList.begin(), mPageList.end(),
+                       [object](const Page &page) { return page.widget == object; });
+}
+
+void PrintDialog::fitPanel()
+{
+    const QSize wished = std::exchange(mWishedSize, {});
+    if (const Page *page = currentPage(); wished.isValid() && page != nullptr && page->widget != nullptr) {
+        page->widget->setMinimumSize(wished);
+    }
+    mPages->updateGeometry();
+    mPanelArea->updateGeometry();
+    resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
 }
 
 } // namespace tapeprint::dialog

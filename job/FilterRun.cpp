@@ -3,6 +3,7 @@
 // written here, not by the filters: they need no right to, and a full disk is seen and named.
 #include "job/FilterRun.h"
 
+#include "job/CupsfilterProgram.h"
 #include "job/OutputFile.h"
 #include "job/PlainText.h"
 #include "job/PpdFile.h"
@@ -27,16 +28,6 @@ namespace
 
 /// A description of 600 choices in ten languages has a megabyte; a small compressed file may hold any number of them.
 constexpr qsizetype largestPpdBytes = 64 << 20;
-
-QString findCupsfilter()
-{
-    const QString program = QStringLiteral("cupsfilter");
-    const QString inPath = QStandardPaths::findExecutable(program);
-    // Debian keeps it among the administrator's programs, which are not on everybody's path.
-    return inPath.isEmpty() ? QStandardPaths::findExecutable(
-                                  program, {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/local/sbin")})
-                            : inPath;
-}
 
 /// NAME=VALUE as -o takes it: blanks, quotes and backslashes of the value are escaped.
 QString optionArgument(const JobOptions::Entry &option)
@@ -195,7 +186,7 @@ std::optional<FilterOutput> runFilters(const FilterJob &job, QString *error)
 {
     const QString program = findCupsfilter();
     if (program.isEmpty()) {
-        *error = Texts::tr("The program cupsfilter is missing: install the package cups.");
+        *error = cupsfilterMissing();
         return std::nullopt;
     }
     const std::unique_ptr<PrivateFile> copy = copyOfPpd(job, error);

@@ -18,23 +18,20 @@ void Job::open(Destination destination, const JobOptions &asked)
     mDestination = std::move(destination);
     describePrinter();
     layDownOptions(asked);
-    mNotices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(ppd(), mOptions);
-    if (mDestination.isFile() && ppd() != nullptr) {
-        mNotices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
-    }
     rememberAsOpened();
     Q_EMIT changed();
 }
 
 void Job::close()
 {
-    mNotices.clear();
     mSession = {};
     mSettings = {};
     mPageFormat = {};
     mPrinter = {};
     mOptions = {};
     mLaidDown = {};
+    mTape = {};
+    mChosen = {};
     mOpenedWith = {};
     mDestination = {};
 }
@@ -56,10 +53,16 @@ void Job::describePrinter()
 
 void Job::layDownOptions(const JobOptions &asked)
 {
-    mLaidDown = mDestination.queue ? mDestination.queue->options : JobOptions();
-    for (const auto &[name, value] : asked.entries()) {
+    // Each is named before they are joined: a PageRegion that is asked for counts more than a saved PageSize.
+    mLaidDown = mDestination.queue ? withNamedSize(mDestination.queue->options, ppd()) : JobOptions();
+    const JobOptions named = withNamedSize(asked, ppd());
+    if (named.contains(OptionName::media) && !named.contains(OptionName::pageSize)) {
+        mLaidDown.remove(OptionName::pageSize); // the media asked for is another paper
+    }
+    for (const auto &[name, value] : named.entries()) {
         mLaidDown.set(name, value);
     }
+    mChosen = mLaidDown;
     layDown(mLaidDown, ppd(), &mOptions);
     layDownPages();
     followMarkedTape();
@@ -85,6 +88,15 @@ void Job::layDownPages()
     }
 }
 
+QStringList Job::notices() const
+{
+    QStringList notices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen);
+    if (mDestination.isFile() && ppd() != nullptr) {
+        notices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
+    }
+    return notices;
+}
+
 bool Job::takeChoice(const QString &key, const QString &choice)
 {
     // A value in braces would be dropped by the print server.
@@ -92,6 +104,9 @@ bool Job::takeChoice(const QString &key, const QString &choice)
         return false;
     }
     record(key, choice);
+    if (isNumber(choice)) {
+        setDefaultChoice(ppd(), key, choice);
+    }
     Q_EMIT optionChanged(key, choice);
     Q_EMIT changed();
     return true;
@@ -103,6 +118,7 @@ void Job::changeOption(const QString &key, const QString &choice)
         return;
     }
     record(key, choice);
+    mChosen.set(key, choice);
     if (key == OptionName::tapeLength && pdekit::doubleValue(choice) > 0.0) {
         setPaperLengthMm(pdekit::doubleValue(choice));
     }
@@ -117,6 +133,12 @@ void Job::record(const QString &key, const QString &choice)
     if (key == OptionName::pageSize) {
         followMarkedTape();
     }
+}
+
+void Job::changePaperLength(double lengthMm)
+{
+    setPaperLengthMm(lengthMm);
+    Q_EMIT changed();
 }
 
 void Job::setCopies(int copies)
@@ -148,13 +170,15 @@ void Job::setPaperLengthMm(double lengthMm)
 
 Job::Snapshot Job::takeSnapshot() const
 {
-    return {mOptions, takeMarks(ppd()), mPageFormat, mSettings};
+    return {mOptions, takeMarks(ppd()), takeDefaults(ppd()), mPageFormat, mSettings};
 }
 
 void Job::revert()
 {
     const JobOptions left = std::exchange(mOptions, mOpenedWith.options);
     putMarks(ppd(), mOpenedWith.marks);
+    putDefaults(ppd(), mOpenedWith.defaults);
+    mChosen = mLaidDown;
     mPageFormat = mOpenedWith.pageFormat;
     mSettings = mOpenedWith.settings;
 

@@ -7,9 +7,13 @@
 #include "job/Destination.h"
 #include "job/JobOptions.h"
 #include "job/PpdMarks.h"
+#include "job/TapeKeywords.h"
+#include "job/TapePage.h"
 
 #include <QObject>
 #include <QStringList>
+
+#include <utility>
 
 #include <pdekit/PrintingCore.h>
 
@@ -29,8 +33,9 @@ public:
     /// Lets go of the destination and its PPD.
     void close();
 
-    /// Sentences about what the person should know: options that get lost, values that the PPD does not list.
-    const QStringList &notices() const { return mNotices; }
+    /// Sentences about what the person should know of the job as it is now: options that get lost, values that the PPD
+    /// does not list.
+    QStringList notices() const;
 
     const Destination &destination() const { return mDestination; }
     ppd_file_t *ppd() const { return mDestination.ppd.get(); }
@@ -40,14 +45,24 @@ public:
     const pdekit::PageFormat &pageFormat() const { return mPageFormat; }
     pdekit::Printer &printer() { return mPrinter; }
     const JobOptions &options() const { return mOptions; }
-    /// What was laid down for this job: the queue's or instance's saved options under those asked for.
+    /// What the options and attributes of a tape are called; empty as long as no panel says that the printer prints on
+    /// tape.
+    const TapeKeywords &tape() const { return mTape; }
+    void setTape(TapeKeywords tape) { mTape = std::move(tape); }
+    /// The page that comes out of the printer, with the options as they stand.
+    TapePage page() const { return tapePageOf(ppd(), mOptions, mTape); }
+    /// What was laid down for this job: the queue's or instance's saved options under those asked for. PageRegion
+    /// stands there as PageSize.
     const JobOptions &laidDown() const { return mLaidDown; }
 
-    /// A panel sends a choice: marked when the PPD lists it, recorded in any case.
+    /// A panel sends a choice: marked when the PPD lists it, recorded in any case. A number becomes the default choice
+    /// too: a panel that fills a control anew, from the default, then finds what it sent last and not the PPD's.
     /// \return false, and nothing changed, for an empty keyword or choice and for a value that no job can carry.
     bool takeChoice(const QString &key, const QString &choice);
     /// The person changes an option in the dialog itself: the paper follows, too.
     void changeOption(const QString &key, const QString &choice);
+    /// The paper becomes a tape of another length. Panels take it over when they are shown again.
+    void changePaperLength(double lengthMm);
     /// The number of copies, at least 1.
     void setCopies(int copies);
     int copies() const;
@@ -68,6 +83,7 @@ private:
     struct Snapshot {
         JobOptions options;
         PpdMarks marks;
+        PpdMarks defaults;
         pdekit::PageFormat pageFormat;
         pdekit::PrintSettings settings;
     };
@@ -80,7 +96,6 @@ private:
     void setPaperLengthMm(double lengthMm);
     Snapshot takeSnapshot() const;
 
-    QStringList mNotices;
     Destination mDestination;
     pdekit::PrintSession mSession;
     pdekit::PrintSettings mSettings;
@@ -88,6 +103,8 @@ private:
     pdekit::Printer mPrinter;
     JobOptions mOptions;
     JobOptions mLaidDown;
+    TapeKeywords mTape;
+    JobOptions mChosen; ///< what was laid down, and what the person changed in the dialog since
     Snapshot mOpenedWith;
 };
 

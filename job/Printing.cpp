@@ -2,10 +2,14 @@
 // Choosing the road of a job: a print queue, or filters alone.
 #include "job/Printing.h"
 
+#include "job/Conversion.h"
+#include "job/LaidOutJob.h"
 #include "job/OutputFile.h"
+#include "job/PrivateFile.h"
 #include "job/Texts.h"
 
 #include <array>
+#include <memory>
 
 namespace tapeprint::job
 {
@@ -25,6 +29,20 @@ namespace
     QT_TRANSLATE_NOOP("tapeprint::job::Texts", "sent"),
 };
 
+/// The documents as one of labels.
+std::unique_ptr<PrivateFile> layOut(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
+                                    QString *error)
+{
+    QString reason;
+    std::unique_ptr<PrivateFile> labels = PrivateFile::create(QStringLiteral("labels.pdf"), &reason);
+    if (!labels) {
+        *error = noRoomForTemporaryFiles(reason);
+        return nullptr;
+    }
+    const std::optional<PdfDocuments> documents = collectPdfs(job, files, stop, error);
+    return documents && layOutJob(job, *documents, labels->path(), stop, error) ? std::move(labels) : nullptr;
+}
+
 } // namespace
 
 QString PrintedJob::sentence() const
@@ -40,18 +58,27 @@ QString PrintedJob::sentence() const
         .arg(queue, QString::number(job.id), Texts::tr(job.state.toLatin1().constData()));
 }
 
-std::optional<PrintedJob> printJob(const Job &job, const QString &title, const QStringList &files, QString *error)
+std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
+                                   const std::atomic<bool> &stop, QString *error)
 {
-    const Destination &destination = job.destination();
-    if (destination.isFile()) {
+    QStringList printed = files;
+    std::unique_ptr<PrivateFile> labels;
+    if (job.page.isTape) {
+        labels = layOut(job, files, stop, error);
+        if (!labels) {
+            return std::nullopt;
+        }
+        printed = {labels->path()};
+    }
+    if (job.isFile()) {
         const std::optional<FilterOutput> output =
-            runFilters({destination.ppdPath, title, job.options(), files, destination.outputPath,
-                        destination.mayReplaceOutput, destination.trustsPpd, destination.documents},
+            runFilters({job.ppdPath, title, job.carried(), printed, job.outputPath, job.mayReplaceOutput, job.trustsPpd,
+                        job.documents, &stop},
                        error);
         return output ? std::optional(PrintedJob{{}, {}, *output}) : std::nullopt;
     }
-    const std::optional<SubmittedJob> submitted = submitJob(*destination.queue, title, job.options(), files, error);
-    return submitted ? std::optional(PrintedJob{destination.queue->name, *submitted, {}}) : std::nullopt;
+    const std::optional<SubmittedJob> submitted = submitJob(*job.queue, title, job.carried(), printed, error);
+    return submitted ? std::optional(PrintedJob{job.queue->name, *submitted, {}}) : std::nullopt;
 }
 
 } // namespace tapeprint::job

@@ -116,6 +116,7 @@ const std::array valueOptions{
 
 const std::array flags{
     Flag{QLatin1String("--no-dialog"), &CommandLine::noDialog},
+    Flag{QLatin1String("--fit-length"), &CommandLine::fitLength},
     Flag{QLatin1String("--show-options"), &CommandLine::showOptions},
     Flag{QLatin1String("--summary"), &CommandLine::summary},
     Flag{QLatin1String("--help"), &CommandLine::help},
@@ -206,6 +207,9 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
             return std::nullopt;
         }
     }
+    if (line.fitLength) {
+        line.request.options.set(job::OptionName::fitLength, QStringLiteral("true"));
+    }
     line.request.trustsPpd = line.trustPpd;
     line.request.onlyShows = line.onlyShows();
     return fitsTogether(line, error) ? std::optional(line) : std::nullopt;
@@ -215,8 +219,8 @@ QString commandLineHelp()
 {
     return QStringLiteral(
         "Usage: tapeprint [-d QUEUE[/INSTANCE]] [-n COPIES] [-o NAME=VALUE]... [-P PAGES] [-t TITLE]\n"
-        "                 [--ppd FILE [--output FILE] [--trust-ppd]] [--no-dialog] [--show-options] [--summary]\n"
-        "                 [FILE...]\n"
+        "                 [--ppd FILE [--output FILE] [--trust-ppd]] [--fit-length] [--no-dialog]\n"
+        "                 [--show-options] [--summary] [FILE...]\n"
         "\n"
         "Opens the print dialog for tape and label printers. Without FILE, standard input is printed.\n"
         "\n"
@@ -232,6 +236,7 @@ QString commandLineHelp()
         "  --output FILE        with --ppd: where the printer's bytes go, - for standard output; no print queue is\n"
         "                       used\n"
         "  --trust-ppd          with --ppd: run programs and commands of its own that the PPD file names\n"
+        "  --fit-length         make the tape as long as what is drawn on the document needs, with both margins\n"
         "  --no-dialog          do the same job without a window\n"
         "  --show-options       print the options that the job would carry, and submit nothing\n"
         "  --summary            print the summary of the job as \"title: value\" lines, and submit nothing\n"

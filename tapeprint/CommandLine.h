@@ -18,6 +18,7 @@ struct CommandLine {
     /// given.
     job::JobRequest request;
     bool noDialog = false;
+    bool fitLength = false; ///< the tape becomes as long as the document needs
     bool showOptions = false;
     bool summary = false;
     bool help = false;

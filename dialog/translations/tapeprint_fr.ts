@@ -30,6 +30,61 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Étiquette précédente</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Étiquette suivante</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Étiquette %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>Une partie de la page est coupée.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>Cette page est vide.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>L’encre de cette couleur se voit mal sur ce ruban.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n feuille</numerusform>
+            <numerusform>%n feuilles</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, %2 de ruban</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n étiquette</numerusform>
+            <numerusform>%n étiquettes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>Pas d’aperçu : %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -87,6 +142,10 @@
         <source>More Options</source>
         <translation>Autres options</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>&amp;Papier&#xa0;:</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -104,6 +163,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>Longueur %1, largeur %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Aperçu du papier</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1 ; une partie de la page est coupée</translation>
     </message>
 </context>
 <context>
@@ -269,76 +337,109 @@
         <translation>Tâche %1-%2&#xa0;: %3.</translation>
     </message>
     <message>
+        <source>It is no plain file.</source>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossible de lire %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 est endommagé : aucune page n’est lisible.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 n’est pas un document PDF.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 est protégé par un mot de passe : enregistrez-le sans mot de passe et imprimez cette copie.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 n’a aucune page.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>Le volet «&#xa0;%1&#xa0;» maintient %2 dans ses limites et ses pas&#xa0;: au lieu de %3, la tâche porte %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 ne figure pas parmi les choix du fichier PPD de l’imprimante&#xa0;: la tâche porte %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>La description de l’imprimante demande le module %1, qui n’est pas installé. L’impression fonctionne sans lui.</translation>
+    </message>
+    <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation>Les filtres de l’imprimante s’exécutent sans confinement, car bubblewrap est absent : installez le paquet bubblewrap.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation>Les filtres de l’imprimante s’exécutent sans confinement, car cette machine ne le permet pas (%1) : autorisez les utilisateurs à créer des espaces de noms.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation>Le document %1 a disparu : rien n’a été imprimé. Remettez-le en place ou ouvrez-en un autre.</translation>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation>Le document %1 a changé depuis son ouverture : rien n’a été imprimé. Ouvrez-le de nouveau.</translation>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is larger than any printer description</source>
-        <translation>il est plus grand que toute description d’imprimante</translation>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation>Le fichier PPD %1 ne peut pas être conservé dans un fichier temporaire (%2) : libérez-y de la place.</translation>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Printing was stopped.</source>
-        <translation>L’impression a été arrêtée.</translation>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation>Les filtres de %1 n’en finissaient pas avec le document %2 et ont été arrêtés.</translation>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation>La description d’imprimante %1 est jugée digne de confiance et exécute ses propres programmes ou commandes : %2.</translation>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>a file of this name is there</source>
-        <translation>un fichier de ce nom existe déjà</translation>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>Le fichier %1 n’est remplacé qu’en entier, et rien ne peut être écrit à côté (%2) : indiquez-en un autre avec --output.</translation>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>standard output</source>
-        <translation>la sortie standard</translation>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>La sortie (%1) est le même fichier que %2, qui n’est que lu : indiquez-en une autre avec --output.</translation>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>standard input</source>
-        <translation>l’entrée standard</translation>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is a pipe or a device</source>
-        <translation>c’est un tube ou un périphérique</translation>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>La description d’imprimante %1 apporte ses propres programmes ou commandes, dont personne ne répond : %2. Rien n’a été exécuté. Si vous faites confiance à son auteur, recommencez avec --trust-ppd.</translation>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>Le volet «&#xa0;%1&#xa0;» ne propose pas %2=%3, que l’imprimante possède&#xa0;: la tâche porte %4=%5.</translation>
     </message>
     <message>
-        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation>Le PPD de la file %1 ne peut pas être conservé dans un fichier temporaire (%2) : libérez-y de la place.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation>Les données d’impression sont allées sur la sortie standard (%1 octets).</translation>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 po</translation>
     </message>
 </context>
 </TS>

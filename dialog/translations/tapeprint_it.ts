@@ -30,6 +30,61 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Etichetta precedente</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Etichetta successiva</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Etichetta %1 di %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>Una parte della pagina viene tagliata.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>Questa pagina è vuota.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>L’inchiostro di questo colore si vede male su questo nastro.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n foglio</numerusform>
+            <numerusform>%n fogli</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, %2 di nastro</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n etichetta</numerusform>
+            <numerusform>%n etichette</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>Nessuna anteprima: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -87,6 +142,10 @@
         <source>More Options</source>
         <translation>Altre opzioni</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>C&amp;arta:</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -104,6 +163,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>Lunghezza %1, larghezza %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Anteprima della carta</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1; una parte della pagina viene tagliata</translation>
     </message>
 </context>
 <context>
@@ -269,76 +337,109 @@
         <translation>Lavoro %1-%2: %3.</translation>
     </message>
     <message>
+        <source>It is no plain file.</source>
+        <translation>Non è un file normale.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossibile leggere %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 è danneggiato: nessuna pagina è leggibile.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 non è un documento PDF.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 è protetto da password: salvarlo senza password e stampare quella copia.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 non ha pagine.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>Il pannello &quot;%1&quot; mantiene %2 entro i suoi limiti e passi: invece di %3 il lavoro contiene %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 non è tra le scelte elencate nel file PPD della stampante: il lavoro contiene %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>La descrizione della stampante richiede il plug-in %1, che non è installato. La stampa funziona anche senza.</translation>
+    </message>
+    <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation>I filtri della stampante vengono eseguiti senza isolamento perché manca bubblewrap: installare il pacchetto bubblewrap.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation>I filtri della stampante vengono eseguiti senza isolamento perché questo computer non lo consente (%1): consentire agli utenti di creare spazi dei nomi.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation>Il documento %1 non c’è più: non è stato stampato nulla. Rimetterlo al suo posto o aprirne un altro.</translation>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation>Il documento %1 è cambiato da quando è stato aperto: non è stato stampato nulla. Aprirlo di nuovo.</translation>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is larger than any printer description</source>
-        <translation>è più grande di qualsiasi descrizione di stampante</translation>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation>Il file PPD %1 non può essere conservato in un file temporaneo (%2): liberare spazio.</translation>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Printing was stopped.</source>
-        <translation>La stampa è stata interrotta.</translation>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation>I filtri di %1 non terminavano con il documento %2 e sono stati interrotti.</translation>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation>La descrizione di stampante %1 è considerata attendibile ed esegue programmi o comandi propri: %2.</translation>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>a file of this name is there</source>
-        <translation>esiste già un file con questo nome</translation>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>Il file %1 viene sostituito solo per intero e accanto non si può scrivere nulla (%2): indicarne un altro con --output.</translation>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>standard output</source>
-        <translation>lo standard output</translation>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>L’output (%1) è lo stesso file di %2, che viene solo letto: indicarne un altro con --output.</translation>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>standard input</source>
-        <translation>lo standard input</translation>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is a pipe or a device</source>
-        <translation>è una pipe o un dispositivo</translation>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>La descrizione di stampante %1 porta programmi o comandi propri, di cui nessuno risponde: %2. Non è stato eseguito nulla. Se ci si fida dell’autore, ripetere con --trust-ppd.</translation>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>Il pannello &quot;%1&quot; non offre %2=%3, che la stampante possiede: il lavoro contiene %4=%5.</translation>
     </message>
     <message>
-        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation>Il PPD della coda %1 non può essere conservato in un file temporaneo (%2): liberare spazio.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation>I dati di stampa sono andati allo standard output (%1 byte).</translation>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 pollici</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,59 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>前のラベル</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>次のラベル</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>ラベル %1 / %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>ページの一部が切れています。</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>このページには何も描かれていません。</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>この色のインクはこのテープでは見えにくくなります。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n 枚</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1、テープ %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>ラベル %n 枚</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>プレビューはありません：%1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -87,6 +140,10 @@
         <source>More Options</source>
         <translation>その他のオプション</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>用紙(&amp;A)：</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -104,6 +161,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>長さ %1、幅 %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>用紙のプレビュー</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1。ページの一部が切れています</translation>
     </message>
 </context>
 <context>
@@ -269,76 +335,109 @@
         <translation>ジョブ %1-%2：%3。</translation>
     </message>
     <message>
+        <source>It is no plain file.</source>
+        <translation>通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません：%2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 は壊れています：ページを読み取れません。</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 は PDF 文書ではありません。</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 はパスワードで保護されています。パスワードなしで保存し、それを印刷してください。</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 にはページがありません。</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>パネル「%1」は %2 を範囲と刻みに合わせます。ジョブには %3 ではなく %4 が入ります。</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 は、プリンターの PPD にある選択肢ではありません。ジョブには %3=%4 が入ります。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>プリンターの記述が求めるプラグイン %1 はインストールされていません。プラグインがなくても印刷できます。</translation>
+    </message>
+    <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation>bubblewrap がないため、プリンターのフィルターは隔離されずに実行されます。パッケージ bubblewrap をインストールしてください。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation>このコンピューターでは許可されていないため (%1)、プリンターのフィルターは隔離されずに実行されます。ユーザーが名前空間を作れるようにしてください。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation>書類 %1 がなくなりました。何も印刷されていません。元に戻すか、別の書類を開いてください。</translation>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation>書類 %1 は開いた後に変更されました。何も印刷されていません。もう一度開いてください。</translation>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is larger than any printer description</source>
-        <translation>どのプリンター記述よりも大きいファイルです</translation>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation>PPD ファイル %1 を一時ファイルに保存できません (%2)。空きを作ってください。</translation>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Printing was stopped.</source>
-        <translation>印刷を中止しました。</translation>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation>%1 のフィルターは書類 %2 の処理を終えなかったため、停止しました。</translation>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation>プリンター記述 %1 は信頼されており、独自のプログラムまたはコマンドを実行します: %2。</translation>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>a file of this name is there</source>
-        <translation>この名前のファイルがすでにあります</translation>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>ファイル %1 は全体としてのみ置き換えられますが、同じ場所に書き込めません (%2)。--output で別のファイルを指定してください。</translation>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>standard output</source>
-        <translation>標準出力</translation>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>出力 (%1) は、読み取り専用で扱う %2 と同じファイルです。--output で別のファイルを指定してください。</translation>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>standard input</source>
-        <translation>標準入力</translation>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is a pipe or a device</source>
-        <translation>パイプまたはデバイスです</translation>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>プリンター記述 %1 には、誰も保証していない独自のプログラムまたはコマンドが含まれています: %2。何も実行されていません。作成者を信頼する場合は、--trust-ppd を付けて繰り返してください。</translation>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>プリンターにある %2=%3 は、パネル「%1」では選べません。ジョブには %4=%5 が入ります。</translation>
     </message>
     <message>
-        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation>キュー %1 の PPD を一時ファイルに保存できません (%2)。空きを作ってください。</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation>プリンターのデータを標準出力に送りました (%1 バイト)。</translation>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 インチ</translation>
     </message>
 </context>
 </TS>

@@ -106,7 +106,23 @@ TEST_F(Program, OptionThatThePanelReplaces_IsNamed)
     const QString tooLong(41, u'9');
     const Outcome outcome = run({u"--ppd"_qs, ppd, u"--show-options"_qs, u"-o"_qs, u"KsMargin="_qs + tooLong});
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_TRUE(outcome.messages.contains("the job carries KsMargin=2.0")) << outcome.messages.toStdString();
+    EXPECT_TRUE(outcome.messages.contains("the job carries 2.0.")) << outcome.messages.toStdString();
+}
+
+TEST_F(Program, ResolutionThatThePanelCannotShow_IsSaidAndTheRestDone)
+{
+    bundles = QStringLiteral(TAPEPRINT_BUNDLE_DIR);
+    const QString three =
+        hosttest::writeFile(folder, u"three.ppd"_qs,
+                            hosttest::testPpd("*OpenUI *Resolution/Resolution: PickOne\n*DefaultResolution: A\n"
+                                              "*Resolution A/A: \"\"\n*Resolution B/B: \"\"\n"
+                                              "*Resolution C/C: \"\"\n*CloseUI: *Resolution\n"
+                                              "*KsMaxTapeLength: \"500\"\n*KsMaxMargin: \"20\"\n"));
+    const Outcome outcome = run({u"--ppd"_qs, three, u"--show-options"_qs, u"-o"_qs, u"Resolution=C"_qs});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_TRUE(outcome.output.contains("Resolution=A\n")) << outcome.output.toStdString();
+    EXPECT_EQ(outcome.messages, "tapeprint: The panel \"Page Settings\" does not offer Resolution=C, which the printer "
+                                "has: the job carries Resolution=A.\n");
 }
 
 TEST_F(Program, BadInput_IsOneLineAndStatusOne)

@@ -38,13 +38,12 @@ TEST_F(UnattendedJob, UntouchedPanel_EveryKeywordReachesTheFilterAndALabelThePri
     EXPECT_EQ(calls[0].copies(), "1");
 
     const QByteArray bytes = cups.printedBy(u"tape"_qs);
-    EXPECT_TRUE(bytes.startsWith("~DGR:")) << bytes.left(40).toStdString();
+    EXPECT_TRUE(bytes.startsWith("~SD24\n~DGR:")) << bytes.left(40).toStdString(); // quality's darkness, an image
     const std::vector<Label> labels = labelsIn(bytes);
     ASSERT_EQ(labels.size(), 1U);
-    // 24 mm of tape with a blank half millimetre at each edge are 271.7 dots, in 34 bytes; 100 mm with a blank
-    // millimetre at each end are 1157.5 rows.
+    // 24 mm of tape with a blank half millimetre at each edge are 271.7 dots, in 34 bytes; 100 mm are 1181.1 rows.
     EXPECT_EQ(labels[0].bytesPerRow, 34);
-    expectDots(labels[0].rows, 98.0, 300.0);
+    expectDots(labels[0].rows, 100.0, 300.0);
     EXPECT_EQ(labels[0].copies, 1);
 }
 
@@ -101,7 +100,7 @@ TEST_F(UnattendedJob, OptionsLaidDown_ArriveAndShapeTheJob)
     const std::vector<Label> labels = labelsIn(cups.printedBy(u"tape"_qs));
     ASSERT_EQ(labels.size(), 1U);
     EXPECT_EQ(labels[0].bytesPerRow, 34);
-    expectDots(labels[0].rows, 98.0, 600.0);
+    expectDots(labels[0].rows, 100.0, 600.0);
 }
 
 TEST_F(UnattendedJob, ValueThatThePpdDoesNotList_ArrivesAsItIs)
@@ -128,7 +127,7 @@ TEST_F(UnattendedJob, FixedLengthTape_IsSentWithItsOwnLength)
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"PageSize=DC24x80", "KsTapeLength=80.0"}));
     const std::vector<Label> labels = labelsIn(cups.printedBy(u"tape"_qs));
     ASSERT_EQ(labels.size(), 1U);
-    expectDots(labels[0].rows, 78.0, 300.0);
+    expectDots(labels[0].rows, 80.0, 300.0);
 }
 
 TEST_F(UnattendedJob, GermanSession_SendsPoints)
@@ -144,12 +143,22 @@ TEST_F(UnattendedJob, GermanSession_SendsPoints)
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=60.5", "KsMargin=3.3"}));
 }
 
-TEST_F(UnattendedJob, BrokenBundle_IsNamedAndTheJobPrinted)
+TEST_F(UnattendedJob, PrinterWithNoneOfThePanelsKeywords_GetsItsPaperAndWhatWasAskedFor)
+{
+    ASSERT_TRUE(cups.addRecordedQueue(u"plain"_qs, u"plain"_qs).isNull());
+    const std::vector<FilterCall> calls = filterCallsOf(
+        tapeprint({u"-d"_qs, u"plain"_qs, u"--no-dialog"_qs, u"-o"_qs, u"Resolution=180x180dpi"_qs, document}));
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), Words({"PageSize=24mm", "Resolution=180x180dpi"}));
+}
+
+TEST_F(UnattendedJob, BrokenBundleThatThePpdNames_IsNamedAndTheJobPrinted)
 {
     const QString bundle = folder.makeFolder(u"bundles/Broken.bundle"_qs);
     systemtest::writeFile(bundle + u"/Broken.so"_qs, "This is no code.\n");
     moreVariables = {{u"TAPEPRINT_PLUGIN_PATH"_qs, folder.path(u"bundles"_qs)}};
-    const Outcome outcome = tapeprint({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document});
+    const QString ppd = ppdThatNames(u"/opt/maker/Broken.bundle"_qs);
+    const Outcome outcome = tapeprint({u"-d"_qs, u"tape"_qs, u"--ppd"_qs, ppd, u"--no-dialog"_qs, document});
     EXPECT_TRUE(outcome.messages.contains("Broken.bundle")) << outcome.messages.toStdString();
     EXPECT_EQ(outcome.messages.count('\n'), 1) << outcome.messages.toStdString();
     const std::vector<FilterCall> calls = filterCallsOf(outcome);

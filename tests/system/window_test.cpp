@@ -75,8 +75,8 @@ TEST_F(WindowJob, PicksAndATypedLength_ReachTheFilter)
                                                      "KsPriority=KsPrioritySpeed", "KsTapeLength=75.5"}));
     const auto labels = labelsIn(cups.printedBy(u"tape"_qs));
     ASSERT_EQ(labels.size(), 1U);
-    // 98 mm at 600 dpi are 2315.0 rows, at 300 dpi they would be 1157.5.
-    EXPECT_NEAR(labels[0].rows, 2315, 1);
+    // 100 mm at 600 dpi are 2362.2 rows, at 300 dpi they would be 1181.1.
+    EXPECT_NEAR(labels[0].rows, 2362, 1);
 }
 
 TEST_F(WindowJob, UntouchedWindow_SendsWhatAJobWithoutAWindowSends)
@@ -98,7 +98,7 @@ TEST_F(WindowJob, ChangeOfTape_ChangesWhatIsSent)
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"PageSize=DC24x80", "KsTapeLength=80.0"}));
     const auto labels = labelsIn(cups.printedBy(u"tape"_qs));
     ASSERT_EQ(labels.size(), 1U);
-    EXPECT_NEAR(labels[0].rows, 921, 1); // 78 mm at 300 dpi are 921.3 rows
+    EXPECT_NEAR(labels[0].rows, 945, 1); // 80 mm at 300 dpi are 944.9 rows
 }
 
 TEST_F(WindowJob, CopiesAndAllLengthsTyped_ReachTheFilter)
@@ -106,13 +106,13 @@ TEST_F(WindowJob, CopiesAndAllLengthsTyped_ReachTheFilter)
     ASSERT_NO_FATAL_FAILURE(open());
     dialog.press({u"alt+c"_qs, u"ctrl+a"_qs});
     dialog.type(u"2"_qs);
-    // A pick of the material fills the print tape length anew, by its own maximum, and so goes before it.
-    dialog.goTo(PanelControl::tapeMaterial);
-    dialog.press({u"Down"_qs});
     dialog.goTo(PanelControl::margin);
     dialog.type(u"12.3"_qs);
+    // A pick of the material fills the print tape length anew, by its own maximum, and keeps what was typed.
     dialog.goTo(PanelControl::printTapeLength);
     dialog.type(u"4.5"_qs);
+    dialog.goTo(PanelControl::tapeMaterial);
+    dialog.press({u"Down"_qs});
     dialog.goTo(PanelControl::inkColour);
     dialog.press({u"End"_qs});
     const std::vector<FilterCall> calls = print();
@@ -184,12 +184,12 @@ TEST_F(WindowJob, GermanSession_SendsPoints)
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=75.5", "KsMargin=3.3"}));
 }
 
-TEST_F(WindowJob, BrokenBundle_TheDialogStillPrints)
+TEST_F(WindowJob, BrokenBundleThatThePpdNames_TheDialogStillPrints)
 {
     const QString bundle = folder.makeFolder(u"bundles/Broken.bundle"_qs);
     systemtest::writeFile(bundle + u"/Broken.so"_qs, "This is no code.\n");
     moreVariables = {{u"TAPEPRINT_PLUGIN_PATH"_qs, folder.path(u"bundles"_qs)}};
-    ASSERT_NO_FATAL_FAILURE(open());
+    ASSERT_NO_FATAL_FAILURE(open({u"--ppd"_qs, ppdThatNames(u"Broken.bundle"_qs)}));
     const std::vector<FilterCall> calls = print();
     ASSERT_EQ(calls.size(), 1U);
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm());
