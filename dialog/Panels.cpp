@@ -135,6 +135,15 @@ void Panels::showAll()
     }
 }
 
+void Panels::remake()
+{
+    release();
+    mNotices.clear();
+    mJob.makeDefaultsOfOptions();
+    make();
+    showAll();
+}
+
 bool Panels::settle(QString *error)
 {
     showAll();

@@ -68,6 +68,13 @@ public:
     /// they have been shown with the new paper: what they learn by that shows in every control.
     void changePaper(const QString &paper);
 
+    /// Every panel's controls are to follow the job's objects.
+    void showAll();
+
+    /// The panels are released and made anew on the job as it stands: what they keep in their fields alone is gone. No
+    /// call of a panel may be under way.
+    void remake();
+
     /// Every panel hands over its values. \param error takes the sentence of the panel that could not.
     bool saveValues(QString *error);
     /// Every panel's last word. \param refusedBy takes the name of the panel that says no.
@@ -96,7 +103,6 @@ private:
     void make();
     void addPanel(const std::shared_ptr<pdekit::Panel> &panel, const QString &bundlePath);
     void tell(const QString &key, const QString &choice);
-    void showAll();
     void tellPaperAgain();
     QString panelOf(const QString &key) const;
 

@@ -109,6 +109,18 @@ void PreviewArea::setDocuments(const QStringList &pdfPaths, const QStringList &s
     planAnew();
 }
 
+void PreviewArea::setDrawn(std::vector<job::DrawnRects> drawn)
+{
+    mDrawn = std::move(drawn);
+    planAnew();
+}
+
+void PreviewArea::setProblem(const QString &problem)
+{
+    mProblem = problem;
+    showWords();
+}
+
 void PreviewArea::follow(const job::TapePage &page, const job::JobOptions &options, const TapeLook &look)
 {
     if (page == mPage && options == mOptions && look == mLook) {
@@ -126,7 +138,7 @@ void PreviewArea::planAnew()
     for (const ReadDocument &document : mRenderer.documents()) {
         sizes.push_back(document.sizes);
     }
-    mPlan = job::planLabels(sizes, mPage, mOptions);
+    mPlan = job::planLabels(sizes, mPage, mOptions, mDrawn);
     turnTo(mLabel);
 }
 
@@ -197,6 +209,9 @@ bool PreviewArea::isBlank()
 QStringList PreviewArea::messages()
 {
     QStringList sentences;
+    if (!mProblem.isNull()) {
+        sentences.append(tr("There is no preview: %1").arg(mProblem));
+    }
     for (const ReadDocument &document : mRenderer.documents()) {
         if (!document.problem.isNull()) {
             sentences.append(tr("There is no preview: %1").arg(document.problem));

@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <cstddef>
+#include <vector>
 
 class QLabel;
 class QToolButton;
@@ -29,6 +30,10 @@ public:
     /// The documents of the job, as PDF files; they are shown as soon as they are read. \param shownAs how sentences
     /// name them, one by one; where it ends, by their paths.
     void setDocuments(const QStringList &pdfPaths, const QStringList &shownAs = {});
+    /// What is drawn on the documents' pages, for a tape that is to fit; empty when it is not known.
+    void setDrawn(std::vector<job::DrawnRects> drawn);
+    /// Why the documents cannot be shown, in a sentence; null when they can.
+    void setProblem(const QString &problem);
     /// Follows the job. \param options its options as they stand this moment.
     void follow(const job::TapePage &page, const job::JobOptions &options, const TapeLook &look);
 
@@ -62,6 +67,8 @@ private:
     job::TapePage mPage;
     job::JobOptions mOptions;
     TapeLook mLook;
+    std::vector<job::DrawnRects> mDrawn;
+    QString mProblem;
     job::LabelPlan mPlan;
     std::size_t mLabel = 0;
 

@@ -4,17 +4,20 @@
 
 #include "dialog/ChoicePopUp.h"
 #include "dialog/GatheredAlerts.h"
+#include "dialog/LayoutPage.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
 #include "dialog/PlainText.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/SummaryView.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QSpinBox>
@@ -36,7 +39,7 @@ constexpr int summaryWidth = 280;
 } // namespace
 
 PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction)
-    : mJob(job), mPanels(panels), mSetup(std::move(setup)), mPrintAction(std::move(printAction))
+    : mJob(job), mPanels(panels), mSetup(std::move(setup)), mPrintAction(std::move(printAction)), mDesk(mSetup.files)
 {
     setWindowTitle(plainTitle(tr("Print %1").arg(mSetup.title)));
     setSizeGripEnabled(true);
@@ -132,9 +135,26 @@ QWidget *PrintDialog::makeSummaryArea()
     summaryBox->setMinimumWidth(summaryWidth);
     layout->addWidget(summaryBox, 1);
     mPreview = new PreviewArea(area);
-    mPreview->setDocuments(mSetup.files);
     layout->addWidget(mPreview);
+    layout->addWidget(makeFitControls());
     return area;
+}
+
+QWidget *PrintDialog::makeFitControls()
+{
+    mFitControls = new QWidget(this);
+    auto *layout = new QHBoxLayout(mFitControls);
+    layout->setContentsMargins({});
+    mFitButton = new QPushButton(tr("&Fit Length"), mFitControls);
+    mFitButton->setObjectName(QStringLiteral("fitLength"));
+    mFitButton->setAutoDefault(false);
+    mFitButton->setToolTip(tr("Make the tape as long as what is drawn needs, with both margins"));
+    mKeepFitting = new QCheckBox(tr("&Keep it fitted"), mFitControls);
+    mKeepFitting->setObjectName(QStringLiteral("keepFitting"));
+    layout->addWidget(mFitButton);
+    layout->addWidget(mKeepFitting);
+    layout->addStretch();
+    return mFitControls;
 }
 
 QWidget *PrintDialog::makeButtons()
@@ -151,8 +171,20 @@ QWidget *PrintDialog::makeButtons()
     mPrintButton->setObjectName(QStringLiteral("print"));
     mPrintButton->setDefault(true);
     mRevertButton->setAutoDefault(false);
+    auto *progress = new QWidget(buttons);
+    auto *progressLayout = new QHBoxLayout(progress);
+    progressLayout->setContentsMargins({});
+    auto *bar = new QProgressBar(progress);
+    bar->setRange(0, 0); // how long filters and servers take is not known
+    bar->setTextVisible(false);
+    bar->setAccessibleName(tr("Printing"));
+    progressLayout->addWidget(new QLabel(tr("Printing…"), progress));
+    progressLayout->addWidget(bar);
+    mProgress = progress;
+    mProgress->hide();
     layout->addWidget(mRevertButton);
     layout->addStretch();
+    layout->addWidget(mProgress);
     layout->addWidget(mCancelButton);
     layout->addWidget(mPrintButton);
     return buttons;
@@ -189,6 +221,9 @@ void PrintDialog::showDestination()
     showWhetherTape();
     showTapes();
     makePages();
+    settlePanels();
+    showPages(0);
+    mJob.rememberAsOpened();
     follow();
 }
 
@@ -207,6 +242,7 @@ void PrintDialog::showWhetherTape()
     const bool isTape = !mPanels.entries().empty();
     mTapeLabel->setText(isTape ? tr("&Tape:") : tr("P&aper:"));
     mSummary->parentWidget()->setVisible(isTape); // it is the panels' summary
+    mFitControls->setVisible(isTape);
 }
 
 void PrintDialog::showTapes()
@@ -231,6 +267,11 @@ void PrintDialog::makePages()
         const PanelEntry &entry = mPanels.entries()[i];
         addPage(entry.view != nullptr ? entry.view.data() : new QLabel(tr("This panel has no view.")), entry.name, i);
     }
+    if (!mJob.tape().isEmpty()) {
+        mLayoutPage = new LayoutPage(mJob, mPages);
+        connect(mLayoutPage, &LayoutPage::picked, this, &PrintDialog::pickOption);
+        addPage(mLayoutPage, tr("Layout"), std::nullopt);
+    }
     mOptionsPage = new OptionsPage(mJob, mPanels, mPages);
     if (mOptionsPage->isEmpty() && !mPanels.entries().empty()) {
         delete mOptionsPage;
@@ -239,11 +280,13 @@ void PrintDialog::makePages()
         addPage(mOptionsPage, tr("More Options"), std::nullopt);
     }
     mChooserRow->setVisible(mPageList.size() > 1);
-    settlePanels();
+}
+
+void PrintDialog::showPages(int first)
+{
     orderByTab();
-    turnToPage(0);
+    turnToPage(std::clamp(first, 0, static_cast<int>(mPageList.size()) - 1));
     mPanelArea->updateGeometry();
-    mJob.rememberAsOpened();
 }
 
 void PrintDialog::settlePanels()
@@ -265,7 +308,8 @@ void PrintDialog::orderByTab()
             last = next; // only what takes the focus has a place in the order
         }
     }
-    for (QWidget *widget : std::initializer_list<QWidget *>{mSummary, mRevertButton, mCancelButton, mPrintButton}) {
+    for (QWidget *widget : std::initializer_list<QWidget *>{mSummary, mFitButton, mKeepFitting, mRevertButton,
+                                                            mCancelButton, mPrintButton}) {
         setTabOrder(last, widget);
         last = widget;
     }

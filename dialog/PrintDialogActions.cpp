@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the window does when the person acts: picks, Revert, Print, Cancel, and the live summary.
 #include "dialog/ChoicePopUp.h"
+#include "dialog/LayoutPage.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
 #include "dialog/PreviewArea.h"
@@ -9,6 +10,7 @@
 
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -39,6 +41,13 @@ void PrintDialog::connectControls()
     connect(mRevertButton, &QPushButton::clicked, this, &PrintDialog::revert);
     connect(mCancelButton, &QPushButton::clicked, this, &PrintDialog::reject);
     connect(mPrintButton, &QPushButton::clicked, this, &PrintDialog::print);
+    connect(mFitButton, &QPushButton::clicked, this, &PrintDialog::fitOnce);
+    connect(mKeepFitting, &QCheckBox::clicked, this, [this](bool keep) {
+        if (keep) {
+            fitOnce();
+        }
+    });
+    connect(&mDesk, &DocumentDesk::changed, this, &PrintDialog::takeDocuments);
 
     connect(&mFollowTimer, &QTimer::timeout, this, &PrintDialog::follow);
     connect(&mJob, &job::Job::changed, this, [this] { mFollowTimer.start(); });
@@ -113,7 +122,9 @@ void PrintDialog::pickPrinter(int index)
     }
     mCurrentPrinter = index;
     // The old page goes before the panel and the PPD that it shows.
+    delete mLayoutPage;
     delete mOptionsPage;
+    mKeepFitting->setChecked(false);
     mPanels.open(std::move(*destination), mSetup.request.options);
     showDestination();
 }
@@ -150,6 +161,9 @@ void PrintDialog::follow()
     followInThePreview();
     selectChoice(mTapePopUp, job::markedChoice(mJob.ppd(), job::OptionName::pageSize));
     mCopiesField->setValue(mJob.copies());
+    if (mLayoutPage) {
+        mLayoutPage->follow();
+    }
     if (mOptionsPage) {
         mOptionsPage->follow();
     }
@@ -157,11 +171,20 @@ void PrintDialog::follow()
 
 void PrintDialog::followInThePreview()
 {
+    const job::SettledJob current = currentJob();
+    mDesk.follow(current);
+    mPreview->follow(current.page, current.options, tapeLookOf(mJob.ppd(), current.options, mJob.tape()));
+    mPreview->setVisible(!current.page.isEmpty());
+    fitTape();
+}
+
+job::SettledJob PrintDialog::currentJob() const
+{
     // What a person is dragging or typing this moment counts, though the panel has not sent it yet.
-    const job::JobOptions options = mPanels.currentOptions();
-    const job::TapePage page = job::tapePageOf(mJob.ppd(), options, mJob.tape());
-    mPreview->follow(page, options, tapeLookOf(mJob.ppd(), options, mJob.tape()));
-    mPreview->setVisible(!page.isEmpty());
+    job::SettledJob current = job::settle(mJob);
+    current.options = mPanels.currentOptions();
+    current.page = job::tapePageOf(mJob.ppd(), current.options, mJob.tape());
+    return current;
 }
 
 void PrintDialog::revert()
@@ -170,7 +193,20 @@ void PrintDialog::revert()
     if (!mPanels.revert(&error)) {
         tellProblem(error);
     }
+    // A length that was typed stands in the panel's field alone: only a panel made anew shows the first values.
+    remakePanels();
+    mKeepFitting->setChecked(false);
     follow();
+}
+
+void PrintDialog::remakePanels()
+{
+    const int shown = mCurrentPage;
+    delete mLayoutPage;
+    delete mOptionsPage;
+    mPanels.remake();
+    makePages();
+    showPages(shown);
 }
 
 void PrintDialog::print()
@@ -185,15 +221,53 @@ void PrintDialog::print()
         follow();
         return;
     }
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString printed = mPrintAction(&error);
-    QApplication::restoreOverrideCursor();
-    if (printed.isNull()) {
-        tellProblem(error);
+    setPrinting(true);
+    mPrinting.start([this, action = mPrintAction,
+                     job = job::settle(mJob)](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
+        QString problem;
+        std::optional<job::PrintedJob> printed = action(job, stop, &problem);
+        return [this, printed = std::move(printed), problem] { finishPrinting(printed, problem); };
+    });
+}
+
+void PrintDialog::setPrinting(bool isPrinting)
+{
+    // Only Cancel is left: what is being printed is not to be changed under the person's hands.
+    for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (widget != mCancelButton->parentWidget()) {
+            widget->setEnabled(!isPrinting);
+        }
+    }
+    mRevertButton->setEnabled(!isPrinting);
+    mPrintButton->setEnabled(!isPrinting);
+    mProgress->setVisible(isPrinting);
+    if (isPrinting) {
+        mCancelButton->setFocus();
+    }
+}
+
+void PrintDialog::finishPrinting(std::optional<job::PrintedJob> printed, const QString &error)
+{
+    setPrinting(false);
+    if (!printed) {
+        if (!error.isNull()) { // without a sentence it was stopped
+            tellProblem(error);
+        }
+        mPrintButton->setFocus();
         return;
     }
-    say(QMessageBox::Information, printed);
+    mPrinted = std::move(printed);
+    say(QMessageBox::Information, mPrinted->sentence());
     accept();
+}
+
+void PrintDialog::reject()
+{
+    if (mPrinting.isRunning()) {
+        mPrinting.stop();
+        return;
+    }
+    QDialog::reject();
 }
 
 void PrintDialog::done(int code)

@@ -141,6 +141,15 @@ void Job::changePaperLength(double lengthMm)
     Q_EMIT changed();
 }
 
+void Job::makeDefaultsOfOptions()
+{
+    for (const auto &[key, value] : mOptions.entries()) {
+        if (isNumber(value) || !listedChoice(ppd(), key, value).isNull()) {
+            setDefaultChoice(ppd(), key, value);
+        }
+    }
+}
+
 void Job::setCopies(int copies)
 {
     const int count = qMax(1, copies);

@@ -63,6 +63,9 @@ public:
     void changeOption(const QString &key, const QString &choice);
     /// The paper becomes a tape of another length. Panels take it over when they are shown again.
     void changePaperLength(double lengthMm);
+    /// The choices that the job carries become the defaults of this PPD copy, from which panels that are made anew
+    /// start.
+    void makeDefaultsOfOptions();
     /// The number of copies, at least 1.
     void setCopies(int copies);
     int copies() const;

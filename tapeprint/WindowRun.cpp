@@ -15,13 +15,6 @@
 namespace tapeprint
 {
 
-namespace
-{
-
-const std::atomic<bool> neverStopped{false};
-
-} // namespace
-
 RunReport runWindow(const CommandLine &line)
 {
     QString error;
@@ -46,13 +39,10 @@ RunReport runWindow(const CommandLine &line)
     dialog::Panels panels(job, dialog::bundleSearchPath());
     panels.open(std::move(*destination), request.options);
     const QString title = documents->title(request.title);
-    std::optional<job::PrintedJob> printed;
-    const auto print = [&](QString *reason) {
+    const auto print = [title, files = documents->files(), sources = documents->sources()](
+                           const job::SettledJob &settled, const std::atomic<bool> &stop, QString *reason) {
         // The window may have been open for hours, and the document another one by now.
-        if (job::areUnchanged(documents->sources(), reason)) {
-            printed = job::printJob(job::settle(job), title, documents->files(), neverStopped, reason);
-        }
-        return printed ? printed->sentence() : QString();
+        return job::areUnchanged(sources, reason) ? job::printJob(settled, title, files, stop, reason) : std::nullopt;
     };
     dialog::PrintDialog window(job, panels, {request, title, documents->files(), std::move(queues)}, print);
     QEventLoop untilClosed;
@@ -62,8 +52,9 @@ RunReport runWindow(const CommandLine &line)
     translations.reset();
 
     RunReport report;
-    if (printed && !line.silent) {
-        report.output.append(printed->sentence()); // scripts read it: in English, now that the window is closed
+    if (window.printed() && !line.silent) {
+        report.output.append(
+            window.printed()->sentence()); // scripts read it: in English, now that the window is closed
     }
     return report;
 }
