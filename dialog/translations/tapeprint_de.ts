@@ -268,5 +268,73 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Auftrag %1-%2: %3.</translation>
     </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation>Eine temporäre Datei kann nicht geschrieben werden (%1). Schaffen Sie im Ordner für temporäre Dateien Platz.</translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation>Die Filter konnten aus dem Dokument %1 keine Seiten machen: %2.</translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation>Das Dokument %1 lässt sich nicht auf Band setzen. Drucken Sie ein PDF, eine PostScript-Datei, ein Bild oder reinen Text.</translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation>Das Dokument %1 ist mit einem Kennwort geschützt. Speichern Sie es ohne Kennwort und drucken Sie dieses.</translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation>Das Dokument %1 ist beschädigt (%2). Erstellen Sie es neu oder nennen Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation>Das Dokument %1 hat keine Seite. Nennen Sie eines, in dem etwas zu drucken ist.</translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>Die Etiketten können nicht gesetzt werden (%1). Prüfen Sie, ob das Dokument vollständig ist und ob Platz für temporäre Dateien da ist.</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>Seite %1 des Dokuments %2 hat keine Größe. Lassen Sie sie weg oder erstellen Sie sie neu.</translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation>Die Beschreibung dieses Druckers erlaubt keine Seite der gewählten Länge. Die Seite bleibt %1 mm lang, und die Länge bleibt dem Treiber überlassen.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation>Eine Länge, die so nah an der des Bandes selbst liegt, macht das Drucksystem zu dieser: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>Eine Länge, die so nah an der eines anderen Papiers liegt, macht das Drucksystem zu dieser: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation>Die Ränder lassen vom Band nichts zum Bedrucken übrig. Wählen Sie ein längeres Band oder einen kleineren Rand.</translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation>Keine Seite des Dokuments ist ausgewählt. Ändern Sie den Seitenbereich.</translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation>Das Bild %1 (%2 x %3 Punkte) kann nicht entpackt werden (%4). Verkleinern Sie es oder drucken Sie es als PDF.</translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation>Das Bild %1 ist beschädigt (%2). Erstellen Sie es neu oder nennen Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>mehr als %1 MiB Speicher wären nötig</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>Die Seiten des Dokuments %1 können nicht geschrieben werden (%2). Schaffen Sie im Ordner für temporäre Dateien Platz.</translation>
+    </message>
 </context>
 </TS>

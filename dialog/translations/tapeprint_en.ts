@@ -268,5 +268,73 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Job %1-%2 is %3.</translation>
     </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation>A temporary file cannot be written (%1): make room in the folder for temporary files.</translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation>The filters could not make pages of the document %1: %2.</translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation>The document %1 is locked with a password: save it without one and print that.</translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation>The document %1 is damaged (%2): make it anew or name another.</translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation>The document %1 has no page: name one with something to print.</translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>Page %1 of the document %2 has no size: leave it out or make it anew.</translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>The print system makes a length so near to that of another paper into that: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation>None of the document&apos;s pages is chosen: change the page range.</translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation>The picture %1 is damaged (%2): make it anew or name another.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>more than %1 MiB of memory would be needed</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</translation>
+    </message>
 </context>
 </TS>

@@ -268,5 +268,73 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Trabajo %1-%2: %3.</translation>
     </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation>No se puede escribir un archivo temporal (%1). Libere espacio en la carpeta de archivos temporales.</translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation>Los filtros no pudieron generar páginas del documento %1: %2.</translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation>El documento %1 no se puede componer en la cinta. Imprima un PDF, un archivo PostScript, una imagen o texto sin formato.</translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation>El documento %1 está protegido con contraseña. Guárdelo sin ella e imprima ese.</translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation>El documento %1 está dañado (%2). Vuelva a crearlo o indique otro.</translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation>El documento %1 no tiene páginas. Indique uno con algo que imprimir.</translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>No se pueden componer las etiquetas (%1). Compruebe que el documento está completo y que hay espacio para archivos temporales.</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>La página %1 del documento %2 no tiene tamaño. Omítala o vuelva a crearla.</translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation>La descripción de esta impresora no admite páginas de la longitud elegida. La página sigue midiendo %1 mm de largo y la longitud queda a cargo del controlador.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation>El sistema de impresión convierte una longitud tan próxima a la de la cinta en esa misma: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>El sistema de impresión convierte una longitud tan próxima a la de otro papel en esa misma: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation>Los márgenes no dejan cinta en la que imprimir. Alargue la cinta o reduzca el margen.</translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation>No se ha elegido ninguna página del documento. Cambie el intervalo de páginas.</translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation>La imagen %1 (%2 x %3 puntos) no se puede descomprimir (%4). Redúzcala o imprímala como PDF.</translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation>La imagen %1 está dañada (%2). Vuelva a crearla o indique otra.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>se necesitarían más de %1 MiB de memoria</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>No se pueden escribir las páginas del documento %1 (%2). Libere espacio en la carpeta de archivos temporales.</translation>
+    </message>
 </context>
 </TS>

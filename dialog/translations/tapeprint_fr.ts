@@ -268,5 +268,73 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Tâche %1-%2&#xa0;: %3.</translation>
     </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation>Un fichier temporaire ne peut pas être écrit (%1). Libérez de la place dans le dossier des fichiers temporaires.</translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation>Les filtres n’ont pas pu faire de pages du document %1 : %2.</translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation>Le document %1 ne peut pas être mis en page sur un ruban. Imprimez un PDF, un fichier PostScript, une image ou du texte brut.</translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation>Le document %1 est protégé par un mot de passe. Enregistrez-le sans mot de passe et imprimez celui-ci.</translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation>Le document %1 est endommagé (%2). Recréez-le ou indiquez-en un autre.</translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation>Le document %1 n’a aucune page. Indiquez-en un qui contienne quelque chose à imprimer.</translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>Les étiquettes ne peuvent pas être mises en page (%1). Vérifiez que le document est complet et qu’il y a de la place pour les fichiers temporaires.</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>La page %1 du document %2 n’a pas de taille. Omettez-la ou recréez-la.</translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation>La description de cette imprimante n’accepte aucune page de la longueur choisie. La page garde une longueur de %1 mm et la longueur est laissée au pilote.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation>Une longueur aussi proche de celle du ruban est remplacée par celle-ci par le système d’impression : %1 mm.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>Une longueur aussi proche de celle d’un autre papier est remplacée par celle-ci par le système d’impression : %1 mm.</translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation>Les marges ne laissent rien du ruban à imprimer. Allongez le ruban ou réduisez la marge.</translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation>Aucune page du document n’est choisie. Modifiez l’étendue de pages.</translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation>L’image %1 (%2 x %3 points) ne peut pas être décompressée (%4). Réduisez-la ou imprimez-la en PDF.</translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation>L’image %1 est endommagée (%2). Recréez-la ou indiquez-en une autre.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>plus de %1 Mio de mémoire seraient nécessaires</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>Les pages du document %1 ne peuvent pas être écrites (%2). Libérez de la place dans le dossier des fichiers temporaires.</translation>
+    </message>
 </context>
 </TS>

@@ -268,5 +268,73 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Lavoro %1-%2: %3.</translation>
     </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation>Impossibile scrivere un file temporaneo (%1). Liberare spazio nella cartella dei file temporanei.</translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation>I filtri non sono riusciti a creare pagine dal documento %1: %2.</translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation>Il documento %1 non può essere disposto sul nastro. Stampare un PDF, un file PostScript, un’immagine o testo semplice.</translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation>Il documento %1 è protetto da password. Salvarlo senza password e stampare quello.</translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation>Il documento %1 è danneggiato (%2). Ricrearlo o indicarne un altro.</translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation>Il documento %1 non ha pagine. Indicarne uno con qualcosa da stampare.</translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>Impossibile disporre le etichette (%1). Verificare che il documento sia completo e che ci sia spazio per i file temporanei.</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>La pagina %1 del documento %2 non ha dimensioni. Tralasciarla o ricrearla.</translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation>La descrizione di questa stampante non accetta pagine della lunghezza scelta. La pagina resta lunga %1 mm e la lunghezza è lasciata al driver.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation>Il sistema di stampa trasforma una lunghezza così vicina a quella del nastro in quest’ultima: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>Il sistema di stampa trasforma una lunghezza così vicina a quella di un’altra carta in quest’ultima: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation>I margini non lasciano nastro su cui stampare. Allungare il nastro o ridurre il margine.</translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation>Nessuna pagina del documento è selezionata. Modificare l’intervallo di pagine.</translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation>L’immagine %1 (%2 x %3 punti) non può essere decompressa (%4). Ridurla o stamparla come PDF.</translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation>L’immagine %1 è danneggiata (%2). Ricrearla o indicarne un’altra.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>servirebbero più di %1 MiB di memoria</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>Impossibile scrivere le pagine del documento %1 (%2). Liberare spazio nella cartella dei file temporanei.</translation>
+    </message>
 </context>
 </TS>

@@ -268,5 +268,73 @@
         <source>Job %1-%2 is %3.</source>
         <translation>작업 %1-%2: %3.</translation>
     </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation>임시 파일을 쓸 수 없습니다(%1). 임시 파일 폴더의 공간을 확보하십시오.</translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation>필터가 문서 %1을(를) 페이지로 만들지 못했습니다: %2.</translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation>문서 %1은(는) 테이프에 배치할 수 없습니다. PDF, PostScript 파일, 그림 또는 일반 텍스트를 인쇄하십시오.</translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation>문서 %1은(는) 암호로 잠겨 있습니다. 암호 없이 저장한 다음 그 문서를 인쇄하십시오.</translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation>문서 %1이(가) 손상되었습니다(%2). 다시 만들거나 다른 문서를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation>문서 %1에 페이지가 없습니다. 인쇄할 내용이 있는 문서를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>라벨을 배치할 수 없습니다(%1). 문서가 온전한지, 임시 파일을 위한 공간이 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>문서 %2의 %1페이지에 크기가 없습니다. 그 페이지를 빼거나 다시 만드십시오.</translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation>이 프린터의 설명은 선택한 길이의 페이지를 허용하지 않습니다. 페이지 길이는 %1 mm로 유지되고 길이는 드라이버에 맡겨집니다.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation>테이프 자체의 길이에 이렇게 가까운 길이는 인쇄 시스템이 그 길이로 바꿉니다: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>다른 용지의 길이에 이렇게 가까운 길이는 인쇄 시스템이 그 길이로 바꿉니다: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation>여백 때문에 테이프에 인쇄할 부분이 남지 않습니다. 테이프를 길게 하거나 여백을 줄이십시오.</translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation>문서의 페이지가 하나도 선택되지 않았습니다. 페이지 범위를 변경하십시오.</translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation>그림 %1(%2 x %3 도트)을(를) 풀 수 없습니다(%4). 작게 만들거나 PDF로 인쇄하십시오.</translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation>그림 %1이(가) 손상되었습니다(%2). 다시 만들거나 다른 그림을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>%1 MiB가 넘는 메모리가 필요합니다</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>문서 %1의 페이지를 쓸 수 없습니다(%2). 임시 파일 폴더의 공간을 확보하십시오.</translation>
+    </message>
 </context>
 </TS>

@@ -268,5 +268,73 @@
         <source>Job %1-%2 is %3.</source>
         <translation>Trabalho %1-%2: %3.</translation>
     </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation>Não é possível gravar um ficheiro temporário (%1). Liberte espaço na pasta dos ficheiros temporários.</translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation>Os filtros não conseguiram criar páginas do documento %1: %2.</translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation>O documento %1 não pode ser disposto na fita. Imprima um PDF, um ficheiro PostScript, uma imagem ou texto simples.</translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation>O documento %1 está protegido por palavra-passe. Guarde-o sem ela e imprima esse.</translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation>O documento %1 está danificado (%2). Crie-o de novo ou indique outro.</translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation>O documento %1 não tem páginas. Indique um que tenha algo para imprimir.</translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>Não é possível dispor as etiquetas (%1). Verifique se o documento está completo e se há espaço para ficheiros temporários.</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>A página %1 do documento %2 não tem tamanho. Omita-a ou crie-a de novo.</translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation>A descrição desta impressora não aceita páginas com o comprimento escolhido. A página continua com %1 mm e o comprimento fica a cargo do controlador.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation>O sistema de impressão transforma um comprimento tão próximo do da própria fita neste: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>O sistema de impressão transforma um comprimento tão próximo do de outro papel neste: %1 mm.</translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation>As margens não deixam fita para imprimir. Aumente o comprimento da fita ou reduza a margem.</translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation>Nenhuma página do documento está escolhida. Altere o intervalo de páginas.</translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation>Não é possível descomprimir a imagem %1 (%2 x %3 pontos) (%4). Reduza-a ou imprima-a como PDF.</translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation>A imagem %1 está danificada (%2). Crie-a de novo ou indique outra.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>seriam necessários mais de %1 MiB de memória</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>Não é possível gravar as páginas do documento %1 (%2). Liberte espaço na pasta dos ficheiros temporários.</translation>
+    </message>
 </context>
 </TS>

@@ -268,5 +268,73 @@
         <source>Job %1-%2 is %3.</source>
         <translation>作业 %1-%2：%3。</translation>
     </message>
+    <message>
+        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
+        <translation>无法写入临时文件（%1）。请在临时文件夹中腾出空间。</translation>
+    </message>
+    <message>
+        <source>The filters could not make pages of the document %1: %2.</source>
+        <translation>过滤器无法将文档 %1 转换为页面：%2。</translation>
+    </message>
+    <message>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation>文档 %1 无法排在标签带上。请打印 PDF、PostScript 文件、图片或纯文本。</translation>
+    </message>
+    <message>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation>文档 %1 受密码保护。请另存为无密码的文档再打印。</translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation>文档 %1 已损坏（%2）。请重新生成或指定其他文档。</translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation>文档 %1 没有页面。请指定有内容可打印的文档。</translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>无法排版标签（%1）。请检查文档是否完整，以及临时文件是否有空间。</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>文档 %2 的第 %1 页没有尺寸。请略过该页或重新生成。</translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation>此打印机的描述不支持所选长度的页面。页面长度仍为 %1 毫米，实际长度由驱动程序决定。</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation>与标签带自身长度如此接近的长度会被打印系统改为该长度：%1 毫米。</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>与另一种纸张长度如此接近的长度会被打印系统改为该长度：%1 毫米。</translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation>边距使标签带上没有可打印的部分。请增加长度或减小边距。</translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation>未选择文档的任何页面。请更改页面范围。</translation>
+    </message>
+    <message>
+        <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
+        <translation>图片 %1（%2 x %3 点）无法解压（%4）。请缩小图片，或将其打印为 PDF。</translation>
+    </message>
+    <message>
+        <source>The picture %1 is damaged (%2): make it anew or name another.</source>
+        <translation>图片 %1 已损坏（%2）。请重新生成或指定其他图片。</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>需要超过 %1 MiB 的内存</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>无法写入文档 %1 的页面（%2）。请在临时文件夹中腾出空间。</translation>
+    </message>
 </context>
 </TS>
