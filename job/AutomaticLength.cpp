@@ -16,9 +16,8 @@ namespace
 constexpr double mmPerInch = 25.4;
 constexpr double wholeStep = 1.0;
 constexpr double tenthStep = 0.1;
-/// Lengths in inches are kept in hundredths and saved in tenths of a millimetre: half of such a tenth may get lost.
-constexpr double inchStep = 0.01;
-constexpr double lostInInches = 0.05;
+/// Lengths in inches are chosen in hundredths, and saved in steps of a millimetre all the same.
+constexpr double inchStepMm = 0.01 * mmPerInch;
 /// What a length may be beyond a whole step without needing the next one: sums of floats.
 constexpr double slackMm = 0.001;
 
@@ -31,10 +30,16 @@ QString attribute(ppd_file_t *ppd, const QString &name)
 
 double roundedUp(double mm, const LengthRules &rules)
 {
-    if (rules.inInches) {
-        return std::ceil((mm + lostInInches) / mmPerInch / inchStep) * inchStep * mmPerInch;
+    const double least = mm - slackMm;
+    if (!rules.inInches) {
+        return std::ceil(least / rules.step) * rules.step;
     }
-    return std::ceil((mm - slackMm) / rules.step) * rules.step;
+    const auto saved = [&rules](double chosen) { return std::round(chosen / rules.step) * rules.step; };
+    double hundredths = std::ceil(least / inchStepMm);
+    while (saved(hundredths * inchStepMm) < least) { // a step is at most four hundredths of an inch
+        ++hundredths;
+    }
+    return hundredths * inchStepMm;
 }
 
 } // namespace

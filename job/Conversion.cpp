@@ -4,6 +4,8 @@
 
 #include "job/ConfinedRun.h"
 #include "job/CupsfilterProgram.h"
+#include "job/EpsPage.h"
+#include "job/PicturePdf.h"
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
@@ -11,9 +13,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QPageLayout>
-#include <QPainter>
-#include <QPdfWriter>
+#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -26,13 +26,8 @@ namespace
 {
 
 constexpr qint64 looksAtBytes = 4096;
+constexpr qint64 pieceBytes = 65536;
 constexpr qint64 pdfHeaderWithin = 1024;
-constexpr double pointsPerInch = 72.0;
-constexpr double inchesPerMetre = 39.3700787;
-/// A picture that does not say its resolution is taken as one of a screen.
-constexpr double usualDotsPerInch = 96.0;
-/// What a picture may take in memory when it is unpacked, in MiB.
-constexpr int pictureMemoryMiB = 512;
 
 /// A PPD of one page, so that the filter sets text on exactly that page, whatever the printer's own description says.
 QByteArray pageDescription(const QSizeF &sizePt)
@@ -92,8 +87,14 @@ QString complaintOf(const QByteArray &messages)
     return Texts::tr("they do not say why");
 }
 
+/// A document as the person knows it, and the file that is read in its place.
+struct Input {
+    QString name;
+    QString file;
+};
+
 /// Runs cupsfilter from a document type to PDF. \param description a PPD, or null.
-bool convertByFilters(const QString &document, const QString &type, const QString &description,
+bool convertByFilters(const Input &document, const QString &type, const QString &description,
                       const QStringList &options, const QString &path, const std::atomic<bool> &stop, QString *error)
 {
     ConfinedCommand command;
@@ -102,7 +103,7 @@ bool convertByFilters(const QString &document, const QString &type, const QStrin
         *error = cupsfilterMissing();
         return false;
     }
-    const QString source = QFileInfo(document).absoluteFilePath();
+    const QString source = QFileInfo(document.file).absoluteFilePath();
     command.readable << source;
     command.arguments << QStringLiteral("-i") << type << QStringLiteral("-m") << QStringLiteral("application/pdf")
                       << QStringLiteral("-e");
@@ -131,17 +132,46 @@ bool convertByFilters(const QString &document, const QString &type, const QStrin
     }
     if (run.end != ConfinedRun::End::finished || run.exitCode != 0 || output.size() == 0) {
         *error = Texts::tr("The filters could not make pages of the document %1: %2.")
-                     .arg(harmless(document), run.reason.isEmpty() ? complaintOf(run.messages) : run.reason);
+                     .arg(harmless(document.name), run.reason.isEmpty() ? complaintOf(run.messages) : run.reason);
         return false;
     }
     return true;
 }
 
+/// CUPS takes text as UTF-8. What is none is Latin-1, and is written anew beside the PDF.
+/// \return the file to print; null, and a sentence in *error, when that cannot be written.
+QString asUtf8(const QString &document, const QString &path, QString *error)
+{
+    QFile file(document);
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return document; // the filters say so
+    }
+    while (!file.atEnd() && !decoder.hasError()) {
+        const QString decoded = decoder(file.read(pieceBytes));
+    }
+    if (!decoder.hasError()) {
+        return document;
+    }
+    QFile copy(path + QLatin1String(".txt"));
+    bool written = file.seek(0) && copy.open(QIODevice::WriteOnly);
+    while (written && !file.atEnd()) {
+        const QByteArray piece = QString::fromLatin1(file.read(pieceBytes)).toUtf8();
+        written = copy.write(piece) == piece.size();
+    }
+    if (!written || !copy.flush()) {
+        *error = noRoomForTemporaryFiles(copy.errorString());
+        return {};
+    }
+    return copy.fileName();
+}
+
 bool textToPdf(const QString &document, const QSizeF &pagePt, const QString &path, const std::atomic<bool> &stop,
                QString *error)
 {
+    const QString text = asUtf8(document, path, error);
     const QString description = path + QLatin1String(".ppd");
-    if (!writeDescription(description, pagePt, error)) {
+    if (text.isNull() || !writeDescription(description, pagePt, error)) {
         return false;
     }
     // The margins of the label are kept free by the layout; text begins at the very edge of its page.
@@ -149,46 +179,33 @@ bool textToPdf(const QString &document, const QSizeF &pagePt, const QString &pat
     for (const char *edge : {"page-left=0", "page-right=0", "page-top=0", "page-bottom=0"}) {
         options << QString::fromLatin1(edge);
     }
-    const bool done = convertByFilters(document, QStringLiteral("text/plain"), description, options, path, stop, error);
+    const bool done =
+        convertByFilters({document, text}, QStringLiteral("text/plain"), description, options, path, stop, error);
     QFile::remove(description);
+    if (text != document) {
+        QFile::remove(text);
+    }
     return done;
 }
 
-bool pictureToPdf(const QString &document, const QString &path, QString *error)
+bool postScriptToPdf(const QString &document, const QString &path, const std::atomic<bool> &stop, QString *error)
 {
-    QImageReader reader(document);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    QImageReader::setAllocationLimit(pictureMemoryMiB);
-    const QImage picture = reader.read();
-    if (picture.isNull()) {
-        const QSize size = reader.size();
-        *error = size.isValid() && size.width() > 0
-                     ? Texts::tr("The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it "
-                                 "as a PDF.")
-                           .arg(harmless(document), QString::number(size.width()), QString::number(size.height()),
-                                reader.errorString())
-                     : Texts::tr("The picture %1 is damaged (%2): make it anew or name another.")
-                           .arg(harmless(document), reader.errorString());
+    const QString type = QStringLiteral("application/postscript");
+    QFile file(document);
+    const std::optional<QRectF> box =
+        file.open(QIODevice::ReadOnly) ? epsBoxOf(file.read(looksAtBytes)) : std::optional<QRectF>();
+    if (!box) {
+        return convertByFilters({document, document}, type, {}, {}, path, stop, error);
+    }
+    const QString page = path + QLatin1String(".ps");
+    QString reason;
+    if (!writeEpsPage(document, *box, page, &reason)) {
+        *error = noRoomForTemporaryFiles(reason);
         return false;
     }
-    // Qt says 96 dots an inch, rounded to the metre, for a picture that says nothing.
-    const auto dotsPerInch = [](int dotsPerMetre) {
-        return dotsPerMetre > 0 ? dotsPerMetre / inchesPerMetre : usualDotsPerInch;
-    };
-    const QSizeF pagePt(picture.width() / dotsPerInch(picture.dotsPerMeterX()) * pointsPerInch,
-                        picture.height() / dotsPerInch(picture.dotsPerMeterY()) * pointsPerInch);
-    QPdfWriter writer(path);
-    writer.setPageLayout(QPageLayout(QPageSize(pagePt, QPageSize::Point, QString(), QPageSize::ExactMatch),
-                                     QPageLayout::Portrait, QMarginsF()));
-    QPainter painter;
-    if (!painter.begin(&writer)) {
-        *error = noRoomForTemporaryFiles(path);
-        return false;
-    }
-    painter.setRenderHint(QPainter::LosslessImageRendering); // a bar code is not to be smeared
-    painter.drawImage(QRectF(0, 0, writer.width(), writer.height()), picture);
-    return painter.end();
+    const bool done = convertByFilters({document, page}, type, {}, {}, path, stop, error);
+    QFile::remove(page);
+    return done;
 }
 
 } // namespace
@@ -234,7 +251,7 @@ bool convertToPdf(const QString &document, const QSizeF &textPagePt, const QStri
     case DocumentKind::Pdf:
         return QFile::copy(document, path);
     case DocumentKind::PostScript:
-        return convertByFilters(document, QStringLiteral("application/postscript"), {}, {}, path, stop, error);
+        return postScriptToPdf(document, path, stop, error);
     case DocumentKind::Picture:
         return pictureToPdf(document, path, error);
     case DocumentKind::Text:

@@ -34,15 +34,22 @@ namespace
 {
 
 constexpr int decimals = 5;
+/// Factors are multiplied by coordinates, of a page of ten metres by 28,000.
+constexpr int factorDecimals = 10;
 
 std::string number(double value)
 {
     return pdekit::fixedDecimals(value, decimals).toStdString();
 }
 
+std::string factor(double value)
+{
+    return pdekit::fixedDecimals(value, factorDecimals).toStdString();
+}
+
 std::string matrixText(const QTransform &matrix)
 {
-    return number(matrix.m11()) + ' ' + number(matrix.m12()) + ' ' + number(matrix.m21()) + ' ' + number(matrix.m22()) +
+    return factor(matrix.m11()) + ' ' + factor(matrix.m12()) + ' ' + factor(matrix.m21()) + ' ' + factor(matrix.m22()) +
            ' ' + number(matrix.dx()) + ' ' + number(matrix.dy());
 }
 

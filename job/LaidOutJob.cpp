@@ -5,6 +5,7 @@
 #include "job/Conversion.h"
 #include "job/LaidOutDocument.h"
 #include "job/PdfPages.h"
+#include "job/PlainText.h"
 #include "job/Texts.h"
 
 #include <algorithm>
@@ -16,6 +17,21 @@ namespace tapeprint::job
 
 namespace
 {
+
+/// A sentence about the first page of a plan that has no size; null when each has one.
+QString pageWithoutSize(const LabelPlan &plan, const PdfDocuments &documents)
+{
+    for (const Label &label : plan.labels) {
+        for (const PlacedPage &placed : label) {
+            if (documents.sizes.at(placed.document).at(static_cast<std::size_t>(placed.page)).isEmpty()) {
+                return Texts::tr("Page %1 of the document %2 has no size: leave it out or make it anew.")
+                    .arg(QString::number(placed.page + 1),
+                         harmless(documents.files.value(static_cast<qsizetype>(placed.document))));
+            }
+        }
+    }
+    return {};
+}
 
 QString lengthText(double points)
 {
@@ -102,6 +118,9 @@ QString lengthNotice(const TapePage &page)
     case PageLength::PaperForNear:
         return Texts::tr("The print system makes a length so near to the tape's own into that: %1 mm.")
             .arg(lengthText(page.sizePt.height()));
+    case PageLength::NamedForNear:
+        return Texts::tr("The print system makes a length so near to that of another paper into that: %1 mm.")
+            .arg(lengthText(page.sizePt.height()));
     case PageLength::Paper:
     case PageLength::Chosen:
         break;
@@ -121,6 +140,10 @@ std::optional<LabelPlan> layOutJob(const SettledJob &job, const PdfDocuments &do
     LabelPlan plan = planLabels(documents.sizes, page, job.options, documents.drawn);
     if (plan.labels.empty()) {
         *error = Texts::tr("None of the document's pages is chosen: change the page range.");
+        return std::nullopt;
+    }
+    if (const QString problem = pageWithoutSize(plan, documents); !problem.isNull()) {
+        *error = problem;
         return std::nullopt;
     }
     if (!writeLaidOut(plan, documents.pdfs, job.shift, path, stop, error)) {

@@ -140,6 +140,12 @@ const QStringList &layoutOptionNames()
                                    QStringLiteral("number-up"),
                                    QStringLiteral("number-up-layout"),
                                    QStringLiteral("page-border"),
+                                   QStringLiteral("page-left"),
+                                   QStringLiteral("page-right"),
+                                   QStringLiteral("page-top"),
+                                   QStringLiteral("page-bottom"),
+                                   QStringLiteral("pdfAutorotate"),
+                                   QStringLiteral("nopdfAutorotate"),
                                    OptionName::fitLength};
     return names;
 }
@@ -227,10 +233,11 @@ QTransform placePage(const QSizeF &pagePt, const QRectF &area, const LayoutChoic
 
 std::vector<QRectF> placesOnSheet(int count, const QRectF &area, const QSizeF &pagePt, const LayoutChoices &choices)
 {
-    if (count <= 1 || pagePt.isEmpty() || area.isEmpty()) {
+    if (count <= 1 || area.isEmpty()) {
         return {area};
     }
-    const QSizeF turned = turnedSize(pagePt, quarterTurns(choices.turn, pagePt));
+    // A page without a size must not bring the others on its sheet on top of each other.
+    const QSizeF turned = pagePt.isEmpty() ? area.size() : turnedSize(pagePt, quarterTurns(choices.turn, pagePt));
     int bestColumns = 1;
     double bestScale = 0.0;
     for (int columns = 1; columns <= count; ++columns) {

@@ -50,7 +50,8 @@ struct LayoutChoices {
 /// is by itself.
 LayoutChoices layoutChoicesOf(const JobOptions &options);
 
-/// Names of the options that layoutChoicesOf() reads: a job that is laid out carries none of them to the filters.
+/// Names of the options by which filters place pages, those among them that layoutChoicesOf() reads: a job that is laid
+/// out carries none of them to the filters.
 const QStringList &layoutOptionNames();
 
 /// A page's part that counts, and how it is turned: all of it, or with fitLength what is drawn on along the height.

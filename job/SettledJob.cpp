@@ -10,7 +10,7 @@ namespace tapeprint::job
 
 bool SettledJob::fitsLength() const
 {
-    return page.isTape && layoutChoicesOf(options).fitLength;
+    return page.isTape && !page.hasFixedLength && layoutChoicesOf(options).fitLength;
 }
 
 JobOptions SettledJob::carried() const

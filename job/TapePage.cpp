@@ -72,32 +72,44 @@ bool takesCustomSize(const ppd_file_t *ppd, const QSizeF &sizePt)
            holds(sizePt.height(), ppd->custom_min[1], ppd->custom_max[1]);
 }
 
-/// How far beside a named size a custom one lies, as the rasteriser compares them; nothing when it is no match.
-std::optional<double> mismatch(const QSizeF &sizePt, const ppd_size_t &size)
+QSizeF wholeOf(const ppd_size_t &size)
+{
+    return {static_cast<double>(size.width), static_cast<double>(size.length)};
+}
+
+QSizeF printableOf(const ppd_size_t &size)
+{
+    return {static_cast<double>(size.right - size.left), static_cast<double>(size.top - size.bottom)};
+}
+
+bool isNamed(const ppd_size_t &size)
+{
+    // libcups lists the custom size among the others.
+    return size.width > 0.0F && size.length > 0.0F && QLatin1String(size.name) != QLatin1String("Custom");
+}
+
+/// How far a custom size lies beside what was measured of a named one, as the rasteriser compares them; nothing when it
+/// is no match.
+std::optional<double> mismatch(const QSizeF &sizePt, const QSizeF &measured, const QSizeF &named)
 {
     constexpr double mostApart = 0.01;
     constexpr double offset = 0.0001;
-    const auto apart = [](double value, float named) {
-        return std::abs(value - static_cast<double>(named)) / static_cast<double>(named) + offset;
-    };
-    if (!(size.width > 0.0F) || !(size.length > 0.0F)) {
-        return std::nullopt;
-    }
-    const double across = apart(sizePt.width(), size.width);
-    const double along = apart(sizePt.height(), size.length);
+    const double across = std::abs(sizePt.width() - measured.width()) / named.width() + offset;
+    const double along = std::abs(sizePt.height() - measured.height()) / named.height() + offset;
     return across < mostApart && along < mostApart ? std::optional(across * along) : std::nullopt;
 }
 
 /// The rasteriser takes a named size of the PPD in place of a custom one that lies within a hundredth of it in both
 /// directions, whatever the custom size's own measures are.
-const ppd_size_t *namedSizeTaken(const ppd_file_t *ppd, const QSizeF &sizePt)
+const ppd_size_t *namedSizeTaken(const ppd_file_t *ppd, const QSizeF &sizePt, const ppd_size_t &paper)
 {
     const ppd_size_t *best = nullptr;
     double least = 0.0;
     for (const ppd_size_t &size : sizesOf(ppd)) {
-        const std::optional<double> apart = mismatch(sizePt, size);
-        const bool isNamed = QLatin1String(size.name) != QLatin1String("Custom"); // libcups lists it among the others
-        if (isNamed && apart && (best == nullptr || *apart < least)) {
+        const std::optional<double> apart =
+            isNamed(size) ? mismatch(sizePt, wholeOf(size), wholeOf(size)) : std::nullopt;
+        const bool isBetter = apart && (best == nullptr || *apart < least || (*apart == least && &size == &paper));
+        if (isBetter) {
             best = &size;
             least = *apart;
         }
@@ -105,7 +117,34 @@ const ppd_size_t *namedSizeTaken(const ppd_file_t *ppd, const QSizeF &sizePt)
     return best;
 }
 
-bool hasFixedLength(const QString &paper, const TapeKeywords &keywords)
+/// Failing that, it takes a named size of which the custom one is the printable area, or which lies across it: then the
+/// content comes out displaced by the strips, or turned.
+bool isTakenAskew(const ppd_file_t *ppd, const QSizeF &sizePt)
+{
+    const std::span<const ppd_size_t> sizes = sizesOf(ppd);
+    return std::any_of(sizes.begin(), sizes.end(), [&sizePt](const ppd_size_t &size) {
+        return isNamed(size) && (mismatch(sizePt, printableOf(size), wholeOf(size)) ||
+                                 mismatch(sizePt.transposed(), wholeOf(size), wholeOf(size)) ||
+                                 mismatch(sizePt.transposed(), printableOf(size), wholeOf(size)));
+    });
+}
+
+/// A page of that length that the rasteriser takes as it is: a little wider than the tape where nothing else helps.
+/// \return nothing when the PPD takes no such page.
+std::optional<QSizeF> takenAsItIs(const ppd_file_t *ppd, const QSizeF &sizePt)
+{
+    constexpr double step = 0.0101; // just over what the rasteriser lets pass
+    constexpr int mostSteps = 3;
+    for (int i = 0; i <= mostSteps; ++i) {
+        const QSizeF size(pointsFromMm(roundedMm(sizePt.width() * (1.0 + i * step))), sizePt.height());
+        if (!isTakenAskew(ppd, size)) {
+            return takesCustomSize(ppd, size) ? std::optional(size) : std::nullopt;
+        }
+    }
+    return std::nullopt;
+}
+
+bool isOfFixedLength(const QString &paper, const TapeKeywords &keywords)
 {
     return std::any_of(keywords.fixedLengthPapers.begin(), keywords.fixedLengthPapers.end(),
                        [&paper](const QString &beginning) { return paper.startsWith(beginning); });
@@ -130,6 +169,17 @@ bool isPapersOwn(double lengthPt, const ppd_size_t &size)
     return std::abs(mmFromPoints(lengthPt - static_cast<double>(size.length))) < halfADotMm;
 }
 
+void takeNamedSize(TapePage &page, const ppd_size_t &named, const ppd_size_t &paper, double lengthPt)
+{
+    if (&named == &paper) {
+        page.length = PageLength::PaperForNear;
+        return;
+    }
+    takePaper(page, named);
+    page.length = isPapersOwn(lengthPt, named) ? PageLength::Chosen : PageLength::NamedForNear;
+    page.pageSize = customName(page.sizePt);
+}
+
 void takeChosenLength(TapePage &page, const ppd_file_t *ppd, const ppd_size_t &paper, double lengthPt)
 {
     // The page is what the custom name says, to the last decimal.
@@ -138,17 +188,19 @@ void takeChosenLength(TapePage &page, const ppd_file_t *ppd, const ppd_size_t &p
         page.length = PageLength::LeftToDriver;
         return;
     }
-    const ppd_size_t *named = namedSizeTaken(ppd, wanted);
-    if (named == &paper) {
-        page.length = PageLength::PaperForNear;
+    if (const ppd_size_t *named = namedSizeTaken(ppd, wanted, paper)) {
+        takeNamedSize(page, *named, paper, lengthPt);
+        return;
+    }
+    const std::optional<QSizeF> taken = takenAsItIs(ppd, wanted);
+    if (!taken) {
+        page.length = PageLength::LeftToDriver;
         return;
     }
     page.length = PageLength::Chosen;
+    page.sizePt = *taken;
     page.unprintablePt = customMargins(ppd);
-    page.sizePt = wanted;
-    if (named != nullptr) {
-        takePaper(page, *named);
-    }
+    page.unprintablePt.setRight(page.unprintablePt.right() + taken->width() - wanted.width());
     page.pageSize = customName(page.sizePt);
 }
 
@@ -190,7 +242,8 @@ TapePage tapePageOf(ppd_file_t *ppd, const JobOptions &options, const TapeKeywor
         return page;
     }
     page.freeEndsPt = positiveLengthPt(options, keywords.marginOption).value_or(0.0);
-    if (!hasFixedLength(name, keywords) && !isPapersOwn(*lengthPt, *paper)) {
+    page.hasFixedLength = isOfFixedLength(name, keywords);
+    if (!page.hasFixedLength && !isPapersOwn(*lengthPt, *paper)) {
         takeChosenLength(page, ppd, *paper, *lengthPt);
     }
     return page;

@@ -20,6 +20,7 @@ enum class PageLength {
     Paper,        ///< the paper: it is no tape, its length is fixed, or the chosen length is the paper's own
     Chosen,       ///< the tape length: the job carries a custom page size
     PaperForNear, ///< the paper, though a length a little beside it was chosen: the filters take the nearer named size
+    NamedForNear, ///< another of the PPD's sizes, which the filters take for a length a little beside it
     LeftToDriver, ///< the paper, because the PPD takes no custom page size that holds the tape: the driver has the rest
 };
 
@@ -31,6 +32,7 @@ struct TapePage {
     double freeEndsPt = 0.0; ///< the margin kept free at both ends, counted from the tape's ends
     PageLength length = PageLength::Paper;
     bool isTape = false; ///< whether the printer prints on tape: the pages are then laid out on it by the job itself
+    bool hasFixedLength = false; ///< whether the tape is one whose length nobody chooses
 
     bool isEmpty() const { return sizePt.isEmpty(); }
     QRectF wholeRect() const { return {QPointF(), sizePt}; }

@@ -6,6 +6,7 @@
 #include "dialog/Panels.h"
 #include "job/DocumentSpool.h"
 #include "job/LaidOutJob.h"
+#include "job/PageLayout.h"
 #include "job/Printing.h"
 #include "tapeprint/OutputPath.h"
 
@@ -61,6 +62,11 @@ bool fitLength(job::Job &job, const QStringList &files, QStringList &messages, Q
                      .arg(job.tape().lengthOption);
         return false;
     }
+    if (job.page().hasFixedLength) {
+        messages.append(
+            QStringLiteral("The length of %1 is fixed: --fit-length does not change it.").arg(job.page().pageSize));
+        return true;
+    }
     const job::SettledJob settled = job::settle(job);
     const std::optional<job::PdfDocuments> documents = job::collectPdfs(settled, files, neverStopped, error);
     if (!documents) {
@@ -84,8 +90,9 @@ RunReport runUnattended(const CommandLine &line)
 {
     QString error;
     job::JobRequest request = line.request;
+    const bool fitsLength = job::layoutChoicesOf(request.options).fitLength; // by --fit-length or by -o
     std::optional<job::DocumentSpool> documents;
-    if (!line.onlyShows() || line.fitLength) {
+    if (!line.onlyShows() || fitsLength) {
         documents = job::DocumentSpool::collect(line.files, &error);
         if (!documents) {
             return failedRun(error);
@@ -107,7 +114,7 @@ RunReport runUnattended(const CommandLine &line)
     const auto close = qScopeGuard([&panels, &printed] { panels.windowWillClose(printed); });
 
     RunReport report;
-    if (line.fitLength && !fitLength(job, documents->files(), report.messages, &error)) {
+    if (fitsLength && !fitLength(job, documents->files(), report.messages, &error)) {
         return failedRun(error);
     }
     const QString refusal = settleJob(panels, alerts);

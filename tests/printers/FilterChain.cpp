@@ -77,7 +77,11 @@ QRect RasterPage::blackIn(const QRect &area) const
 
 std::vector<RasterPage> rasterOf(const QString &printer, const QStringList &options, const QByteArray &pdf)
 {
-    const QByteArray bytes = filtered(printer, options, pdf, {u"-m"_qs, u"application/vnd.cups-raster"_qs});
+    return rasterPagesIn(filtered(printer, options, pdf, {u"-m"_qs, u"application/vnd.cups-raster"_qs}));
+}
+
+std::vector<RasterPage> rasterPagesIn(const QByteArray &bytes)
+{
     Rest rest{bytes};
     const std::unique_ptr<cups_raster_t, RasterDeleter> raster(cupsRasterOpenIO(readRest, &rest, CUPS_RASTER_READ));
     std::vector<RasterPage> pages;

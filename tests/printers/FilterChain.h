@@ -25,6 +25,9 @@ struct RasterPage {
     QRect blackIn(const QRect &area) const;
 };
 
+/// Pages of a CUPS raster of one bit a dot. None, and a failure, for any other.
+std::vector<RasterPage> rasterPagesIn(const QByteArray &bytes);
+
 /// Pages of the CUPS raster that the job becomes. None when a filter fails.
 std::vector<RasterPage> rasterOf(const QString &printer, const QStringList &options, const QByteArray &pdf);
 

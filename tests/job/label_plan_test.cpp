@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: Apache-2.0
+// Which pages are printed, in which order, and on which label.
+#include "job/LabelPlan.h"
+#include "tests/job/TapePpd.h"
+#include "tests/support/TextPrinting.h"
+
+#include <QElapsedTimer>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace tapeprint::job; // NOLINT(google-build-using-namespace): the test is about all of it
+using jobtest::options;
+using Pages = std::vector<int>;
+
+Pages selected(int total, const QString &ranges)
+{
+    return selectedPages(total, options({{u"page-ranges"_qs, ranges}}));
+}
+
+TEST(PageSelection, Ranges_AreInTheDocumentsOrder)
+{
+    EXPECT_EQ(selected(9, u"7,3"_qs), Pages({2, 6}));
+    EXPECT_EQ(selected(9, u"1-3,7"_qs), Pages({0, 1, 2, 6}));
+    EXPECT_EQ(selected(9, u"2-4,3-5"_qs), Pages({1, 2, 3, 4}));
+    EXPECT_EQ(selected(3, u""_qs), Pages({0, 1, 2}));
+}
+
+TEST(PageSelection, OpenRanges_GoToTheDocumentsEnds)
+{
+    EXPECT_EQ(selected(5, u"4-"_qs), Pages({3, 4}));
+    EXPECT_EQ(selected(5, u"-2"_qs), Pages({0, 1}));
+    EXPECT_EQ(selected(5, u"1, 4-"_qs), Pages({0, 3, 4}));
+}
+
+TEST(PageSelection, BeyondTheEnd_IsNothing)
+{
+    EXPECT_EQ(selected(5, u"6"_qs), Pages());
+    EXPECT_EQ(selected(5, u"6-"_qs), Pages());
+    EXPECT_EQ(selected(5, u"4-99999999999"_qs), Pages({3, 4}));
+    EXPECT_EQ(selected(0, u"1-"_qs), Pages());
+}
+
+TEST(PageSelection, EvenAndOdd_CountFromOne)
+{
+    EXPECT_EQ(selectedPages(5, options({{u"page-set"_qs, u"even"_qs}})), Pages({1, 3}));
+    EXPECT_EQ(selectedPages(5, options({{u"page-set"_qs, u"odd"_qs}})), Pages({0, 2, 4}));
+    EXPECT_EQ(selectedPages(5, options({{u"page-set"_qs, u"all"_qs}})), Pages({0, 1, 2, 3, 4}));
+    EXPECT_EQ(selectedPages(9, options({{u"page-set"_qs, u"odd"_qs}, {u"page-ranges"_qs, u"2-5"_qs}})), Pages({2, 4}));
+}
+
+TEST(PageSelection, Reverse_TurnsTheOrder)
+{
+    EXPECT_EQ(selectedPages(3, options({{u"outputorder"_qs, u"reverse"_qs}})), Pages({2, 1, 0}));
+    EXPECT_EQ(selectedPages(3, options({{u"OutputOrder"_qs, u"Reverse"_qs}})), Pages({2, 1, 0}));
+    EXPECT_EQ(selectedPages(3, options({{u"outputorder"_qs, u"normal"_qs}, {u"OutputOrder"_qs, u"Reverse"_qs}})),
+              Pages({0, 1, 2}));
+}
+
+/// A tape of 72 x 288 points (101.6 mm), all of it printable.
+TapePage tape()
+{
+    TapePage page;
+    page.pageSize = u"T"_qs;
+    page.sizePt = {72, 288};
+    page.isTape = true;
+    return page;
+}
+
+PageSizes pages(int count, const QSizeF &size = {72, 288})
+{
+    return PageSizes(static_cast<std::size_t>(count), size);
+}
+
+/// Documents and pages of the labels, as "0.2" for the third page of the first; labels apart by blanks.
+QString told(const LabelPlan &plan)
+{
+    QStringList labels;
+    for (const Label &label : plan.labels) {
+        QStringList members;
+        for (const PlacedPage &page : label) {
+            members << QStringLiteral("%1.%2").arg(QString::number(page.document), QString::number(page.page));
+        }
+        labels << members.join(u'+');
+    }
+    return labels.join(u' ');
+}
+
+TEST(LabelPlan_Documents, SeveralDocuments_AreNumberedThrough)
+{
+    EXPECT_EQ(told(planLabels({pages(2), pages(3)}, tape(), {})), u"0.0 0.1 1.0 1.1 1.2"_qs);
+    EXPECT_EQ(told(planLabels({pages(2), pages(3)}, tape(), options({{u"page-ranges"_qs, u"2-3,5"_qs}}))),
+              u"0.1 1.0 1.2"_qs);
+}
+
+TEST(LabelPlan_Documents, NoDocumentOrNoPage_IsNoLabel)
+{
+    EXPECT_TRUE(planLabels({}, tape(), {}).labels.empty());
+    EXPECT_TRUE(planLabels({{}, {}}, tape(), {}).labels.empty());
+}
+
+TEST(LabelPlan_Sheets, LastSheetThatIsNotFull_KeepsThePlacesOfAFullOne)
+{
+    const LabelPlan plan = planLabels({pages(3, {72, 142.5})}, tape(), options({{u"number-up"_qs, u"2"_qs}}));
+    ASSERT_EQ(told(plan), u"0.0+0.1 0.2"_qs);
+    EXPECT_EQ(plan.labels[0][0].clip, QRectF(0, 0, 72, 142.5));
+    EXPECT_EQ(plan.labels[0][1].clip, QRectF(0, 145.5, 72, 142.5));
+    EXPECT_EQ(plan.labels[1][0].clip, QRectF(0, 0, 72, 142.5));
+    EXPECT_EQ(plan.labels[0][1].place, QTransform(1, 0, 0, 1, 0, 145.5));
+}
+
+TEST(LabelPlan_Sheets, SelectionComesBeforeSheets)
+{
+    EXPECT_EQ(
+        told(planLabels(
+            {pages(6)}, tape(),
+            options({{u"number-up"_qs, u"2"_qs}, {u"page-set"_qs, u"even"_qs}, {u"outputorder"_qs, u"reverse"_qs}}))),
+        u"0.5+0.3 0.1"_qs);
+}
+
+TEST(LabelPlan_Copies, CountForLabelsAndTape)
+{
+    const LabelPlan plan = planLabels({pages(3)}, tape(), options({{u"copies"_qs, u"4"_qs}}));
+    EXPECT_EQ(plan.labels.size(), 3U);
+    EXPECT_EQ(plan.labelCount(), 12U);
+    EXPECT_NEAR(plan.tapeLengthMm(), 12 * 101.6, 1e-9);
+    EXPECT_EQ(planLabels({pages(1)}, tape(), options({{u"copies"_qs, u"-2"_qs}})).copies, 1);
+}
+
+TEST(LabelPlan_Place, Page_IsPutIntoThePlaceLessTheMargins)
+{
+    TapePage page = tape();
+    page.unprintablePt = {3, 0, 3, 0};
+    page.freeEndsPt = 14;
+    // 66 x 260 are left; 33 x 130 stand in their middle.
+    const LabelPlan plan = planLabels({{{33, 130}}}, page, {});
+    ASSERT_EQ(plan.labels.size(), 1U);
+    EXPECT_EQ(plan.labels[0][0].clip, QRectF(3, 14, 66, 260));
+    EXPECT_EQ(plan.labels[0][0].place, QTransform(1, 0, 0, 1, 19.5, 79));
+}
+
+TEST(LabelPlan_FitLength, DrawnPart_IsWhatIsPlaced)
+{
+    TapePage page = tape();
+    page.freeEndsPt = 10;
+    // Of 72 x 500 points the rows from 300 to 400 are drawn on; 288 less 20 are left: the part stands at 94.
+    const LabelPlan plan =
+        planLabels({{{72, 500}}}, page, options({{u"fit-length"_qs, u"true"_qs}}), {{{20, 300, 10, 100}}});
+    EXPECT_EQ(plan.labels[0][0].place, QTransform(1, 0, 0, 1, 0, -300 + 94));
+    const LabelPlan lying =
+        planLabels({{{500, 72}}}, page, options({{u"fit-length"_qs, u"true"_qs}}), {{{300, 20, 100, 10}}});
+    // Turned against the clock: the part's right end is at the top.
+    EXPECT_EQ(lying.labels[0][0].place.map(QPointF(400, 0)), QPointF(0, 94));
+    EXPECT_EQ(lying.labels[0][0].place.map(QPointF(300, 72)), QPointF(72, 194));
+}
+
+TEST(LabelPlan_FitLength, BlankPage_CountsWhole)
+{
+    const LabelPlan plan = planLabels({{{72, 100}}}, tape(), options({{u"fit-length"_qs, u"true"_qs}}), {{QRectF()}});
+    EXPECT_EQ(plan.labels[0][0].place, QTransform(1, 0, 0, 1, 0, 94));
+}
+
+TEST(LabelPlan_Odd, PageOfNothing_DoesNotTakeTheOthersAlong)
+{
+    const LabelPlan plan = planLabels({{{0, 0}, {72, 142.5}}}, tape(), options({{u"number-up"_qs, u"2"_qs}}));
+    ASSERT_EQ(told(plan), u"0.0+0.1"_qs);
+    EXPECT_NE(plan.labels[0][0].clip, plan.labels[0][1].clip);
+}
+
+TEST(LabelPlan_Speed, TwoThousandPages_TakeMilliseconds)
+{
+    QStringList ranges;
+    for (int page = 1; page <= 2000; ++page) {
+        ranges << QString::number(page);
+    }
+    QElapsedTimer timer;
+    timer.start();
+    const LabelPlan plan = planLabels({pages(2000)}, tape(),
+                                      options({{u"page-ranges"_qs, ranges.join(u',')}, {u"number-up"_qs, u"2"_qs}}));
+    EXPECT_LT(timer.elapsed(), 500); // of an unoptimised build on a busy machine
+    EXPECT_EQ(plan.labels.size(), 1000U);
+}
+
+} // namespace
