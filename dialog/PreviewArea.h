@@ -37,7 +37,7 @@ public:
     /// Index of the label that is shown.
     std::size_t label() const { return mLabel; }
     /// Whether something is still to come: documents being read, pages being rendered.
-    bool isWorking() const { return mRenderer.isReading() || mRenderer.isRendering(); }
+    bool isWorking() const { return mRenderer.isReading() || mRenderer.isMeasuring() || mRenderer.isRendering(); }
 
 Q_SIGNALS:
     /// The documents have been read: the plan has its labels.
@@ -53,7 +53,7 @@ private:
     void askForPages();
     void showWords();
     const job::Label &shownLabel() const;
-    QSizeF sizeOf(const job::PlacedPage &page) const;
+    QRectF partThatCounts(const job::PlacedPage &page) const;
     bool isCutOff() const;
     bool isBlank();
     QStringList messages();
