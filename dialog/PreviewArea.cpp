@@ -109,6 +109,11 @@ void PreviewArea::setDocuments(const QStringList &pdfPaths, const QStringList &s
     planAnew();
 }
 
+void PreviewArea::setIsTapePrinter(bool isTapePrinter)
+{
+    mPreview->setIsTapePrinter(isTapePrinter);
+}
+
 void PreviewArea::follow(const job::TapePage &page, const job::JobOptions &options, const TapeLook &look)
 {
     if (page == mPage && options == mOptions && look == mLook) {

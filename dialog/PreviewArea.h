@@ -29,6 +29,8 @@ public:
     /// The documents of the job, as PDF files; they are shown as soon as they are read. \param shownAs how sentences
     /// name them, one by one; where it ends, by their paths.
     void setDocuments(const QStringList &pdfPaths, const QStringList &shownAs = {});
+    /// Whether the printer is one that is loaded with tape, whatever the page in it.
+    void setIsTapePrinter(bool isTapePrinter);
     /// Follows the job. \param options its options as they stand this moment.
     void follow(const job::TapePage &page, const job::JobOptions &options, const TapeLook &look);
 
