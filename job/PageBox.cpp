@@ -2,7 +2,6 @@
 // The page's boxes are read with QPDF: Poppler's interface for Qt tells the size that it draws and no box.
 #include "job/PageBox.h"
 
-#include <qpdf/JSON.hh> // whole, as clang asks for it
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>

@@ -15,7 +15,6 @@
 #include <vector>
 
 #include <poppler-qt6.h>
-#include <qpdf/JSON.hh> // whole, as clang asks for it
 #include <qpdf/QPDF.hh>
 
 namespace tapeprint::job
