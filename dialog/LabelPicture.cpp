@@ -43,10 +43,10 @@ double scaleOf(const job::PlacedPage &page)
     return std::sqrt(std::abs(page.place.determinant()));
 }
 
-bool isCutOff(const job::PlacedPage &page, const QSizeF &sizePt)
+bool isCutOff(const job::PlacedPage &page, const QRectF &partPt)
 {
-    const QRectF covered = page.place.mapRect(QRectF({}, sizePt));
-    return !sizePt.isEmpty() && !page.clip.adjusted(-slackPt, -slackPt, slackPt, slackPt).contains(covered);
+    const QRectF covered = page.place.mapRect(partPt);
+    return !partPt.isEmpty() && !page.clip.adjusted(-slackPt, -slackPt, slackPt, slackPt).contains(covered);
 }
 
 void drawPages(QPainter &painter, const job::Label &label, const PagePictures &pictures, bool isClipped)

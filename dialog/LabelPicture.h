@@ -24,9 +24,9 @@ using PagePictures = std::function<job::RenderedPage(const job::PlacedPage &page
 /// How much larger a page is on its label.
 double scaleOf(const job::PlacedPage &page);
 
-/// Whether a page is cut off: something of its rectangle lies outside of what it may cover.
-/// \param sizePt the page's own size.
-bool isCutOff(const job::PlacedPage &page, const QSizeF &sizePt);
+/// Whether a page is cut off: something of a part of it lies outside of what it may cover.
+/// \param partPt the part that counts, in points of the page: all of it, or what is drawn on.
+bool isCutOff(const job::PlacedPage &page, const QRectF &partPt);
 
 /// Draws a label's pages. \param painter whose units are points of the label. \param isClipped whether what is cut off
 /// stays undrawn, as it does in the printer.

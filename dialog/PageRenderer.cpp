@@ -95,6 +95,13 @@ public:
         mWake.notify_all();
     }
 
+    void measure()
+    {
+        const std::lock_guard lock(mMutex);
+        mIsToMeasure = true;
+        mWake.notify_all();
+    }
+
     void leave()
     {
         std::unique_lock lock(mMutex);
@@ -113,6 +120,8 @@ private:
                 readDocuments(lock);
             } else if (!mWanted.empty()) {
                 renderFirst(lock);
+            } else if (mIsToMeasure) {
+                measureNext(lock);
             } else {
                 mWake.wait(lock);
             }
@@ -164,6 +173,35 @@ private:
         });
     }
 
+    /// One page at a time, so that pictures need not wait for all of them.
+    void measureNext(std::unique_lock<std::mutex> &lock)
+    {
+        const auto isWhole = [this] {
+            const auto &pages = mPages[mDrawn.size() - 1];
+            return mDrawn.back().size() == (pages == nullptr ? 0 : static_cast<std::size_t>(pages->count()));
+        };
+        if (mDrawn.empty() ? mPages.empty() : mDrawn.size() == mPages.size() && isWhole()) {
+            mIsToMeasure = false;
+            deliver([generation = mGeneration, drawn = mDrawn](PageRenderer *owner) mutable {
+                owner->takeDrawn(generation, std::move(drawn));
+            });
+            return;
+        }
+        if (mDrawn.empty() || isWhole()) {
+            mDrawn.emplace_back();
+            return;
+        }
+        mStop = false;
+        const job::PdfPages &pages = *mPages[mDrawn.size() - 1];
+        const auto page = static_cast<int>(mDrawn.back().size());
+        lock.unlock();
+        const std::optional<QRectF> drawn = pages.drawnRect(page, mStop);
+        lock.lock();
+        if (!mStop) {
+            mDrawn.back().push_back(drawn.value_or(QRectF()));
+        }
+    }
+
     PagePicture render(const WantedPage &wanted) const
     {
         PagePicture picture;
@@ -196,11 +234,13 @@ private:
     QStringList mPaths;
     QStringList mShownAs;
     bool mIsToRead = false;
+    bool mIsToMeasure = false;
     bool mHasEnded = false;
     std::vector<WantedPage> mWanted;
     std::optional<WantedPage> mCurrent;
     std::atomic<bool> mStop = false;
     std::vector<std::unique_ptr<job::PdfPages>> mPages; ///< the worker's alone
+    std::vector<job::DrawnRects> mDrawn;                ///< likewise, as far as it got
 };
 
 PageRenderer::PageRenderer(QObject *parent) : QObject(parent) {}
@@ -216,6 +256,8 @@ void PageRenderer::setDocuments(const QStringList &pdfPaths, const QStringList &
 {
     ++mGeneration;
     mDocuments.clear();
+    mDrawn.clear();
+    mIsMeasuring = false;
     mKept.clear();
     mWanted.clear();
     mIsReading = true;
@@ -234,6 +276,24 @@ void PageRenderer::takeDocuments(quint64 generation, std::vector<ReadDocument> d
     }
     mIsReading = false;
     mDocuments = std::move(documents);
+    Q_EMIT documentsRead();
+}
+
+void PageRenderer::measure()
+{
+    if (mWorker && !mIsMeasuring && mDrawn.empty()) {
+        mIsMeasuring = true;
+        mWorker->measure();
+    }
+}
+
+void PageRenderer::takeDrawn(quint64 generation, std::vector<job::DrawnRects> drawn)
+{
+    if (generation != mGeneration) {
+        return;
+    }
+    mIsMeasuring = false;
+    mDrawn = std::move(drawn);
     Q_EMIT documentsRead();
 }
 

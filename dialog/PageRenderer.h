@@ -56,6 +56,12 @@ public:
     /// The documents in their order; none as long as they are being read.
     const std::vector<ReadDocument> &documents() const { return mDocuments; }
 
+    /// Asks what of every page is drawn on; documentsRead() is sent once more when that is known.
+    void measure();
+    /// What is drawn on the documents' pages; none as long as nobody asked or it is not known yet.
+    const std::vector<job::DrawnRects> &drawn() const { return mDrawn; }
+    bool isMeasuring() const { return mIsMeasuring; }
+
     /// Asks for pictures, the first first. What was asked for before and is not any more is given up. A page of which
     /// there is a picture at least that sharp is not rendered again.
     void want(std::vector<WantedPage> pages);
@@ -65,6 +71,7 @@ public:
     const PagePicture *picture(std::size_t document, int page);
 
 Q_SIGNALS:
+    /// What is known of the documents has changed.
     void documentsRead();
     /// A picture has come.
     void rendered();
@@ -79,6 +86,7 @@ private:
     };
 
     void takeDocuments(quint64 generation, std::vector<ReadDocument> documents);
+    void takeDrawn(quint64 generation, std::vector<job::DrawnRects> drawn);
     void takePicture(quint64 generation, const WantedPage &wanted, PagePicture picture);
     Kept *kept(std::size_t document, int page);
     bool isSharpEnough(const WantedPage &wanted);
@@ -87,7 +95,9 @@ private:
     std::shared_ptr<Worker> mWorker;
     quint64 mGeneration = 0; ///< of the documents
     bool mIsReading = false;
+    bool mIsMeasuring = false;
     std::vector<ReadDocument> mDocuments;
+    std::vector<job::DrawnRects> mDrawn;
     std::vector<WantedPage> mWanted; ///< what the worker has not delivered yet
     std::vector<Kept> mKept;
     quint64 mUses = 0;

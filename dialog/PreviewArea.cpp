@@ -109,16 +109,15 @@ void PreviewArea::setDocuments(const QStringList &pdfPaths, const QStringList &s
     planAnew();
 }
 
-void PreviewArea::setDrawn(std::vector<job::DrawnRects> drawn)
-{
-    mDrawn = std::move(drawn);
-    planAnew();
-}
-
 void PreviewArea::setProblem(const QString &problem)
 {
     mProblem = problem;
     showWords();
+}
+
+void PreviewArea::setIsTapePrinter(bool isTapePrinter)
+{
+    mPreview->setIsTapePrinter(isTapePrinter);
 }
 
 void PreviewArea::follow(const job::TapePage &page, const job::JobOptions &options, const TapeLook &look)
@@ -138,7 +137,11 @@ void PreviewArea::planAnew()
     for (const ReadDocument &document : mRenderer.documents()) {
         sizes.push_back(document.sizes);
     }
-    mPlan = job::planLabels(sizes, mPage, mOptions, mDrawn);
+    const bool fitsLength = job::layoutChoicesOf(mOptions).fitLength;
+    if (fitsLength) {
+        mRenderer.measure();
+    }
+    mPlan = job::planLabels(sizes, mPage, mOptions, fitsLength ? mRenderer.drawn() : std::vector<job::DrawnRects>());
     turnTo(mLabel);
 }
 
@@ -158,7 +161,7 @@ void PreviewArea::showLabel()
 {
     QRectF content;
     for (const job::PlacedPage &page : shownLabel()) {
-        content |= page.place.mapRect(QRectF({}, sizeOf(page))).intersected(page.clip);
+        content |= page.place.mapRect(partThatCounts(page)).intersected(page.clip);
     }
     mPreview->showLabel({mPage, shownLabel(), content, isCutOff(), mLook});
     askForPages();
@@ -184,9 +187,12 @@ void PreviewArea::askForPages()
     mRenderer.want(std::move(wanted));
 }
 
-QSizeF PreviewArea::sizeOf(const job::PlacedPage &page) const
+QRectF PreviewArea::partThatCounts(const job::PlacedPage &page) const
 {
-    return mRenderer.documents()[page.document].sizes[static_cast<std::size_t>(page.page)];
+    const auto number = static_cast<std::size_t>(page.page);
+    const bool isDrawnAlone = job::layoutChoicesOf(mOptions).fitLength && page.document < mRenderer.drawn().size();
+    return isDrawnAlone ? mRenderer.drawn()[page.document][number]
+                        : QRectF({}, mRenderer.documents()[page.document].sizes[number]);
 }
 
 bool PreviewArea::isCutOff() const
@@ -194,7 +200,7 @@ bool PreviewArea::isCutOff() const
     // Where nothing is printed at all, that is what is said.
     return !mPage.layoutRect().isEmpty() &&
            std::any_of(shownLabel().begin(), shownLabel().end(),
-                       [this](const job::PlacedPage &page) { return dialog::isCutOff(page, sizeOf(page)); });
+                       [this](const job::PlacedPage &page) { return dialog::isCutOff(page, partThatCounts(page)); });
 }
 
 bool PreviewArea::isBlank()

@@ -30,10 +30,10 @@ public:
     /// The documents of the job, as PDF files; they are shown as soon as they are read. \param shownAs how sentences
     /// name them, one by one; where it ends, by their paths.
     void setDocuments(const QStringList &pdfPaths, const QStringList &shownAs = {});
-    /// What is drawn on the documents' pages, for a tape that is to fit; empty when it is not known.
-    void setDrawn(std::vector<job::DrawnRects> drawn);
     /// Why the documents cannot be shown, in a sentence; null when they can.
     void setProblem(const QString &problem);
+    /// Whether the printer is one that is loaded with tape, whatever the page in it.
+    void setIsTapePrinter(bool isTapePrinter);
     /// Follows the job. \param options its options as they stand this moment.
     void follow(const job::TapePage &page, const job::JobOptions &options, const TapeLook &look);
 
@@ -42,7 +42,7 @@ public:
     /// Index of the label that is shown.
     std::size_t label() const { return mLabel; }
     /// Whether something is still to come: documents being read, pages being rendered.
-    bool isWorking() const { return mRenderer.isReading() || mRenderer.isRendering(); }
+    bool isWorking() const { return mRenderer.isReading() || mRenderer.isMeasuring() || mRenderer.isRendering(); }
 
 Q_SIGNALS:
     /// The documents have been read: the plan has its labels.
@@ -58,7 +58,7 @@ private:
     void askForPages();
     void showWords();
     const job::Label &shownLabel() const;
-    QSizeF sizeOf(const job::PlacedPage &page) const;
+    QRectF partThatCounts(const job::PlacedPage &page) const;
     bool isCutOff() const;
     bool isBlank();
     QStringList messages();
@@ -67,7 +67,6 @@ private:
     job::TapePage mPage;
     job::JobOptions mOptions;
     TapeLook mLook;
-    std::vector<job::DrawnRects> mDrawn;
     QString mProblem;
     job::LabelPlan mPlan;
     std::size_t mLabel = 0;

@@ -241,6 +241,7 @@ void PrintDialog::showWhetherTape()
     // A printer that a panel serves is loaded with tape.
     const bool isTape = !mPanels.entries().empty();
     mTapeLabel->setText(isTape ? tr("&Tape:") : tr("P&aper:"));
+    mPreview->setIsTapePrinter(isTape);
     mSummary->parentWidget()->setVisible(isTape); // it is the panels' summary
     mFitControls->setVisible(isTape);
 }

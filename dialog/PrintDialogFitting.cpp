@@ -38,7 +38,6 @@ void PrintDialog::takeDocuments()
     }
     mPreview->setProblem(QString());
     mPreview->setDocuments(mDesk.documents()->pdfs, mDesk.documents()->files);
-    mPreview->setDrawn(mDesk.documents()->drawn);
     fitTape();
 }
 

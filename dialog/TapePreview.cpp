@@ -97,7 +97,7 @@ void TapePreview::showLabel(ShownLabel label)
     const bool isEmpty = mShown.page.isEmpty();
     mLengthText = isEmpty ? QString() : measureText(drawn.width(), mShown.look.unit);
     mWidthText = isEmpty ? QString() : measureText(drawn.height(), mShown.look.unit);
-    setAccessibleName(isPaper() ? tr("Paper preview") : tr("Tape preview"));
+    nameIt();
     if (const QString words = describe(); words != accessibleDescription()) {
         setAccessibleDescription(words);
         setToolTip(words);
@@ -106,6 +106,17 @@ void TapePreview::showLabel(ShownLabel label)
         updateGeometry();
     }
     update();
+}
+
+void TapePreview::setIsTapePrinter(bool isTapePrinter)
+{
+    mIsTapePrinter = isTapePrinter;
+    nameIt();
+}
+
+void TapePreview::nameIt()
+{
+    setAccessibleName(isPaper() && !mIsTapePrinter ? tr("Paper preview") : tr("Tape preview"));
 }
 
 bool TapePreview::isPaper() const

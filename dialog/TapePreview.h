@@ -32,6 +32,8 @@ public:
     explicit TapePreview(QWidget *parent = nullptr);
 
     void showLabel(ShownLabel label);
+    /// Whether the printer is one that is loaded with tape, whatever the page in it: it is then called tape.
+    void setIsTapePrinter(bool isTapePrinter);
     /// Where pictures of pages come from; asked at each painting. Call update() when others have come.
     void setPictures(PagePictures pictures) { mPictures = std::move(pictures); }
 
@@ -71,7 +73,10 @@ private:
     void drawLimits(QPainter &painter, const QTransform &fromLabel) const;
     void drawMeasures(QPainter &painter, const QRectF &strip) const;
 
+    void nameIt();
+
     ShownLabel mShown;
+    bool mIsTapePrinter = false;
     PagePictures mPictures;
     QString mLengthText; ///< beside the drawing's width
     QString mWidthText;  ///< beside its height

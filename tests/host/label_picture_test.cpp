@@ -79,7 +79,7 @@ TEST_F(LabelPictureTest, WhatStandsOver_IsCutOff)
     tape.freeEndsPt = 10.0;
     planPage(pdf("0 0 40 200", "0 0 40 200 re f"), hosttest::options({{u"print-scaling"_qs, u"none"_qs}}));
     EXPECT_EQ(ink(render({2.0, 2.0})), QRect(0, 20, 72, 248));
-    EXPECT_TRUE(isCutOff(plan.labels[0][0], pages->sizePt(0)));
+    EXPECT_TRUE(isCutOff(plan.labels[0][0], QRectF({}, pages->sizePt(0))));
 }
 
 TEST_F(LabelPictureTest, PartOfTheLabel_BeginsAtItsDots)
@@ -89,7 +89,7 @@ TEST_F(LabelPictureTest, PartOfTheLabel_BeginsAtItsDots)
     const QImage image = render({2.0, 2.0}, tape.printableRect());
     EXPECT_EQ(image.size(), QSize(54, 288));
     EXPECT_EQ(ink(image), QRect(0, 0, 54, 200));
-    EXPECT_FALSE(isCutOff(plan.labels[0][0], pages->sizePt(0)));
+    EXPECT_FALSE(isCutOff(plan.labels[0][0], QRectF({}, pages->sizePt(0))));
 }
 
 TEST_F(LabelPictureTest, DotsThatAreNoSquares_AreCountedAcrossAndAlong)

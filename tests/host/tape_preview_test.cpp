@@ -337,6 +337,19 @@ TEST_F(TapePreviewTest, WhatIsCutOff_IsSaidAndFaintlySeen)
     EXPECT_EQ(preview->accessibleDescription(), u"Length 50.8 mm, width 12.7 mm"_qs);
 }
 
+TEST_F(TapePreviewTest, LengthThatFitsTheContent_ShowsWhatIsDrawnAlone)
+{
+    // A quarter of the page is drawn on, from its middle on; the tape is as long as that.
+    const JobOptions fit = hosttest::options({{u"fit-length"_qs, u"true"_qs}});
+    showTape(36.0, 36.0, fit);
+    showDocument(pdf("0 0 144 36", "72 0 36 36 re f"));
+
+    const QRect ink = extent(inkColour);
+    EXPECT_NEAR(ink.width(), ink.height(), 3);
+    EXPECT_GT(ink.height(), 60);
+    EXPECT_TRUE(words(u"previewMessages"_qs).isEmpty());
+}
+
 TEST_F(TapePreviewTest, MarginsThatLeaveNothing_AreSaid)
 {
     tape.freeEndsPt = 72.0;
