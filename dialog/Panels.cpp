@@ -59,6 +59,11 @@ void Panels::make()
     mNotices += loaded.problems;
     mBundles = std::move(loaded.bundles);
     for (const LoadedBundle &bundle : mBundles) {
+        if (mJob.tape().isEmpty()) {
+            mJob.setTape(bundle.tape);
+        }
+    }
+    for (const LoadedBundle &bundle : mBundles) {
         const pdekit::PanelArray *panels = bundle.principal->PDEPanelsForType(pdekit::kPrinterModulePanelType, mHost);
         if (panels == nullptr) {
             mNotices.append(tr("The plug-in %1 could not make its panel: printing works without it.").arg(bundle.path));

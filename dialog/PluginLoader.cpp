@@ -67,6 +67,7 @@ QString loadBundle(const QString &path, QPluginLoader &module, LoadedBundle *loa
     auto *entry = qobject_cast<pdekit::PlugInEntry *>(root);
     const QString className = ownMetadata(module).value(u"PrincipalClass").toString();
     loaded->path = path;
+    loaded->tape = job::TapeKeywords::fromMetadata(module.metaData().value(u"MetaData").toObject());
     loaded->bundle = pdekit::Bundle::bundleWithPath(path);
     loaded->principal = entry == nullptr ? nullptr : entry->newPrincipalObject(className);
     if (!loaded->principal) {

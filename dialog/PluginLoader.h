@@ -2,6 +2,8 @@
 // Finds plug-in bundles and loads those that belong to a printer; names those that it wanted and skips, and why.
 #pragma once
 
+#include "job/TapeKeywords.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -22,6 +24,7 @@ struct LoadedBundle {
     QString path; ///< the bundle's directory
     std::shared_ptr<pdekit::Bundle> bundle;
     std::unique_ptr<pdekit::PlugIn> principal;
+    job::TapeKeywords tape; ///< what its metadata says of tapes
 };
 
 struct LoadedBundles {

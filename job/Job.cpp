@@ -2,6 +2,7 @@
 // The objects of one job are changed here and nowhere else, so that they always agree.
 #include "job/Job.h"
 
+#include "job/FilterRun.h"
 #include "job/LaidDownOptions.h"
 
 #include <utility>
@@ -29,6 +30,7 @@ void Job::close()
     mPrinter = {};
     mOptions = {};
     mLaidDown = {};
+    mTape = {};
     mChosen = {};
     mOpenedWith = {};
     mDestination = {};
@@ -88,7 +90,11 @@ void Job::layDownPages()
 
 QStringList Job::notices() const
 {
-    return unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen);
+    QStringList notices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen);
+    if (mDestination.isFile() && ppd() != nullptr) {
+        notices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
+    }
+    return notices;
 }
 
 bool Job::takeChoice(const QString &key, const QString &choice)
@@ -127,6 +133,12 @@ void Job::record(const QString &key, const QString &choice)
     if (key == OptionName::pageSize) {
         followMarkedTape();
     }
+}
+
+void Job::changePaperLength(double lengthMm)
+{
+    setPaperLengthMm(lengthMm);
+    Q_EMIT changed();
 }
 
 void Job::setCopies(int copies)

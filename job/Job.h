@@ -7,9 +7,13 @@
 #include "job/Destination.h"
 #include "job/JobOptions.h"
 #include "job/PpdMarks.h"
+#include "job/TapeKeywords.h"
+#include "job/TapePage.h"
 
 #include <QObject>
 #include <QStringList>
+
+#include <utility>
 
 #include <pdekit/PrintingCore.h>
 
@@ -41,6 +45,12 @@ public:
     const pdekit::PageFormat &pageFormat() const { return mPageFormat; }
     pdekit::Printer &printer() { return mPrinter; }
     const JobOptions &options() const { return mOptions; }
+    /// What the options and attributes of a tape are called; empty as long as no panel says that the printer prints on
+    /// tape.
+    const TapeKeywords &tape() const { return mTape; }
+    void setTape(TapeKeywords tape) { mTape = std::move(tape); }
+    /// The page that comes out of the printer, with the options as they stand.
+    TapePage page() const { return tapePageOf(ppd(), mOptions, mTape); }
     /// What was laid down for this job: the queue's or instance's saved options under those asked for. PageRegion
     /// stands there as PageSize.
     const JobOptions &laidDown() const { return mLaidDown; }
@@ -51,6 +61,8 @@ public:
     bool takeChoice(const QString &key, const QString &choice);
     /// The person changes an option in the dialog itself: the paper follows, too.
     void changeOption(const QString &key, const QString &choice);
+    /// The paper becomes a tape of another length. Panels take it over when they are shown again.
+    void changePaperLength(double lengthMm);
     /// The number of copies, at least 1.
     void setCopies(int copies);
     int copies() const;
@@ -91,6 +103,7 @@ private:
     pdekit::Printer mPrinter;
     JobOptions mOptions;
     JobOptions mLaidDown;
+    TapeKeywords mTape;
     JobOptions mChosen; ///< what was laid down, and what the person changed in the dialog since
     Snapshot mOpenedWith;
 };

@@ -3,12 +3,13 @@
 #pragma once
 
 #include "job/FilterRun.h"
-#include "job/Job.h"
 #include "job/JobSubmission.h"
+#include "job/SettledJob.h"
 
 #include <QString>
 #include <QStringList>
 
+#include <atomic>
 #include <optional>
 
 namespace tapeprint::job
@@ -24,8 +25,11 @@ struct PrintedJob {
     QString sentence() const;
 };
 
-/// Prints documents to the job's destination. \param title the job's title; \param files the documents, only read.
-/// \return what became of the job; std::nullopt, and a sentence in *error, on failure.
-std::optional<PrintedJob> printJob(const Job &job, const QString &title, const QStringList &files, QString *error);
+/// Prints documents, away from a window's thread if one is there, to the job's destination: for tape laid out on
+/// labels, for paper as they are, because the filters lay those out. \param title the job's title; \param files the
+/// documents, only read. \param stop when it becomes true, printing ends with nothing printed. \return what became of
+/// the job; std::nullopt, and a sentence in *error, on failure.
+std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
+                                   const std::atomic<bool> &stop, QString *error);
 
 } // namespace tapeprint::job

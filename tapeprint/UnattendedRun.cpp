@@ -5,8 +5,15 @@
 #include "dialog/GatheredAlerts.h"
 #include "dialog/Panels.h"
 #include "job/DocumentSpool.h"
+#include "job/LaidOutJob.h"
 #include "job/Printing.h"
 #include "tapeprint/OutputPath.h"
+
+#include <QScopeGuard>
+
+#include <atomic>
+
+#include <pdekit/Alert.h>
 
 namespace tapeprint
 {
@@ -40,6 +47,37 @@ QString settleJob(dialog::Panels &panels, const dialog::GatheredAlerts &alerts)
     return {};
 }
 
+const std::atomic<bool> neverStopped{false};
+
+/// Makes the tape as long as the documents need. \param messages takes what the person should know of it.
+bool fitLength(job::Job &job, const QStringList &files, QStringList &messages, QString *error)
+{
+    if (!job.page().isTape) {
+        *error = QStringLiteral("--fit-length is for tape, and this printer prints on paper: leave it out.");
+        return false;
+    }
+    if (job.laidDown().contains(job.tape().lengthOption)) {
+        *error = QStringLiteral("--fit-length and -o %1 both say how long the tape is: give one of them.")
+                     .arg(job.tape().lengthOption);
+        return false;
+    }
+    const job::SettledJob settled = job::settle(job);
+    const std::optional<job::PdfDocuments> documents = job::collectPdfs(settled, files, neverStopped, error);
+    if (!documents) {
+        return false;
+    }
+    const std::optional<job::AutomaticLength> length = job::automaticLength(settled, *documents);
+    if (!length) {
+        messages.append(QStringLiteral("Nothing is drawn on the document: the tape keeps its length."));
+        return true;
+    }
+    if (length->isHeld) {
+        messages.append(QStringLiteral("The document needs more tape than the printer takes: it is made smaller."));
+    }
+    job.changePaperLength(length->lengthMm);
+    return true;
+}
+
 } // namespace
 
 RunReport runUnattended(const CommandLine &line)
@@ -47,11 +85,12 @@ RunReport runUnattended(const CommandLine &line)
     QString error;
     job::JobRequest request = line.request;
     std::optional<job::DocumentSpool> documents;
-    if (!line.onlyShows()) {
+    if (!line.onlyShows() || line.fitLength) {
         documents = job::DocumentSpool::collect(line.files, &error);
         if (!documents) {
             return failedRun(error);
         }
+        request.documents = documents->sources();
         nameOutput(request, documents->title(QString()));
     }
     std::optional<job::Destination> destination = job::openDestination(request, &error);
@@ -63,32 +102,41 @@ RunReport runUnattended(const CommandLine &line)
     job::Job job;
     dialog::Panels panels(job, dialog::bundleSearchPath());
     panels.open(std::move(*destination), request.options);
-    const QString refusal = settleJob(panels, alerts);
-    if (!refusal.isNull()) {
-        panels.windowWillClose(false);
-        return failedRun(refusal);
-    }
+    // However it ends, the panels hear of it.
+    bool printed = false;
+    const auto close = qScopeGuard([&panels, &printed] { panels.windowWillClose(printed); });
 
     RunReport report;
+    if (line.fitLength && !fitLength(job, documents->files(), report.messages, &error)) {
+        return failedRun(error);
+    }
+    const QString refusal = settleJob(panels, alerts);
+    if (!refusal.isNull()) {
+        return failedRun(refusal);
+    }
     if (line.showOptions) {
-        report.output += job.options().lines();
+        report.output += job::settle(job).carried().lines();
     }
     if (line.summary) {
         report.output += summaryLines(panels);
     }
     if (!line.onlyShows()) {
-        const std::optional<job::PrintedJob> printed =
-            job::printJob(job, documents->title(request.title), documents->files(), &error);
-        if (!printed) {
-            panels.windowWillClose(false);
+        std::optional<job::PrintedJob> result;
+        if (job::areUnchanged(documents->sources(), &error)) {
+            result = job::printJob(job::settle(job), documents->title(request.title), documents->files(), neverStopped,
+                                   &error);
+        }
+        if (!result) {
             return failedRun(error);
         }
+        printed = true;
         if (!line.silent) {
-            report.output.append(printed->sentence());
+            report.output.append(result->sentence());
         }
     }
-    report.messages = job.notices() + panels.notices() + alerts.lines();
-    panels.windowWillClose(!line.onlyShows());
+    const QString notice = job::lengthNotice(job.page());
+    report.messages +=
+        job.notices() + panels.notices() + alerts.lines() + (notice.isNull() ? QStringList() : QStringList{notice});
     return report;
 }
 

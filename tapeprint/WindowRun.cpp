@@ -10,8 +10,17 @@
 
 #include <QEventLoop>
 
+#include <atomic>
+
 namespace tapeprint
 {
+
+namespace
+{
+
+const std::atomic<bool> neverStopped{false};
+
+} // namespace
 
 RunReport runWindow(const CommandLine &line)
 {
@@ -21,6 +30,7 @@ RunReport runWindow(const CommandLine &line)
         return failedRun(error);
     }
     job::JobRequest request = line.request;
+    request.documents = documents->sources();
     nameOutput(request, documents->title(QString()));
     std::optional<job::Destination> destination = job::openDestination(request, &error);
     if (!destination) {
@@ -36,13 +46,15 @@ RunReport runWindow(const CommandLine &line)
     dialog::Panels panels(job, dialog::bundleSearchPath());
     panels.open(std::move(*destination), request.options);
     const QString title = documents->title(request.title);
-    QString printed;
-    dialog::PrintDialog window(
-        job, panels, {request, title, documents->files(), std::move(queues)}, [&](QString *reason) {
-            const std::optional<job::PrintedJob> done = job::printJob(job, title, documents->files(), reason);
-            printed = done ? done->sentence() : QString();
-            return printed;
-        });
+    std::optional<job::PrintedJob> printed;
+    const auto print = [&](QString *reason) {
+        // The window may have been open for hours, and the document another one by now.
+        if (job::areUnchanged(documents->sources(), reason)) {
+            printed = job::printJob(job::settle(job), title, documents->files(), neverStopped, reason);
+        }
+        return printed ? printed->sentence() : QString();
+    };
+    dialog::PrintDialog window(job, panels, {request, title, documents->files(), std::move(queues)}, print);
     QEventLoop untilClosed;
     QObject::connect(&window, &QDialog::finished, &untilClosed, &QEventLoop::quit);
     window.open();
@@ -50,8 +62,8 @@ RunReport runWindow(const CommandLine &line)
     translations.reset();
 
     RunReport report;
-    if (!printed.isNull() && !line.silent) {
-        report.output.append(printed);
+    if (printed && !line.silent) {
+        report.output.append(printed->sentence()); // scripts read it: in English, now that the window is closed
     }
     return report;
 }

@@ -10,9 +10,10 @@ namespace systemtest
 
 std::vector<Label> labelsIn(const QByteArray &bytes)
 {
-    // The image is downloaded, printed, and deleted again; a cutter's command (^CN) may follow.
+    // The darkness may be set (~SD); the image is downloaded, printed, and deleted again; a cutter's command (^CN) may
+    // follow.
     static const QRegularExpression label(
-        QStringLiteral(R"(\G~DGR:CUPS\.GRF,(\d+),(\d+),\n[0-9A-Za-z,:!\n]*)"
+        QStringLiteral(R"(\G(?:~SD\d\d\n)?~DGR:CUPS\.GRF,(\d+),(\d+),\n[0-9A-Za-z,:!\n]*)"
                        R"(\^XA\n((?:[\^~][^\n]*\n)*?)\^FO0,0\^XGR:CUPS\.GRF,1,1\^FS\n\^XZ\n)"
                        R"(\^XA\n\^IDR:CUPS\.GRF\^FS\n\^XZ\n(?:\^CN\d\n)?)"));
     static const QRegularExpression quantity(QStringLiteral(R"(\^PQ(\d+))"));

@@ -21,6 +21,12 @@ TEST(LabelBytes, TwoLabels_AreCountedAndMeasured)
     EXPECT_EQ(labels[1].copies, 2);
 }
 
+TEST(LabelBytes, DarknessBeforeALabel_BelongsToIt)
+{
+    EXPECT_EQ(labelsIn("~SD24\n" + oneLabel + "~SD24\n" + oneLabel).size(), 2U);
+    EXPECT_TRUE(labelsIn(oneLabel + "~SD24\n").empty());
+}
+
 TEST(LabelBytes, AnythingElse_IsNoLabel)
 {
     EXPECT_TRUE(labelsIn("").empty());

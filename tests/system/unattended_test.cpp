@@ -38,13 +38,12 @@ TEST_F(UnattendedJob, UntouchedPanel_EveryKeywordReachesTheFilterAndALabelThePri
     EXPECT_EQ(calls[0].copies(), "1");
 
     const QByteArray bytes = cups.printedBy(u"tape"_qs);
-    EXPECT_TRUE(bytes.startsWith("~DGR:")) << bytes.left(40).toStdString();
+    EXPECT_TRUE(bytes.startsWith("~SD24\n~DGR:")) << bytes.left(40).toStdString(); // quality's darkness, an image
     const std::vector<Label> labels = labelsIn(bytes);
     ASSERT_EQ(labels.size(), 1U);
-    // 24 mm of tape with a blank half millimetre at each edge are 271.7 dots, in 34 bytes; 100 mm with a blank
-    // millimetre at each end are 1157.5 rows.
+    // 24 mm of tape with a blank half millimetre at each edge are 271.7 dots, in 34 bytes; 100 mm are 1181.1 rows.
     EXPECT_EQ(labels[0].bytesPerRow, 34);
-    expectDots(labels[0].rows, 98.0, 300.0);
+    expectDots(labels[0].rows, 100.0, 300.0);
     EXPECT_EQ(labels[0].copies, 1);
 }
 
@@ -101,7 +100,7 @@ TEST_F(UnattendedJob, OptionsLaidDown_ArriveAndShapeTheJob)
     const std::vector<Label> labels = labelsIn(cups.printedBy(u"tape"_qs));
     ASSERT_EQ(labels.size(), 1U);
     EXPECT_EQ(labels[0].bytesPerRow, 34);
-    expectDots(labels[0].rows, 98.0, 600.0);
+    expectDots(labels[0].rows, 100.0, 600.0);
 }
 
 TEST_F(UnattendedJob, ValueThatThePpdDoesNotList_ArrivesAsItIs)
@@ -128,7 +127,7 @@ TEST_F(UnattendedJob, FixedLengthTape_IsSentWithItsOwnLength)
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"PageSize=DC24x80", "KsTapeLength=80.0"}));
     const std::vector<Label> labels = labelsIn(cups.printedBy(u"tape"_qs));
     ASSERT_EQ(labels.size(), 1U);
-    expectDots(labels[0].rows, 78.0, 300.0);
+    expectDots(labels[0].rows, 80.0, 300.0);
 }
 
 TEST_F(UnattendedJob, GermanSession_SendsPoints)

@@ -75,8 +75,8 @@ TEST_F(WindowJob, PicksAndATypedLength_ReachTheFilter)
                                                      "KsPriority=KsPrioritySpeed", "KsTapeLength=75.5"}));
     const auto labels = labelsIn(cups.printedBy(u"tape"_qs));
     ASSERT_EQ(labels.size(), 1U);
-    // 98 mm at 600 dpi are 2315.0 rows, at 300 dpi they would be 1157.5.
-    EXPECT_NEAR(labels[0].rows, 2315, 1);
+    // 100 mm at 600 dpi are 2362.2 rows, at 300 dpi they would be 1181.1.
+    EXPECT_NEAR(labels[0].rows, 2362, 1);
 }
 
 TEST_F(WindowJob, UntouchedWindow_SendsWhatAJobWithoutAWindowSends)
@@ -98,7 +98,7 @@ TEST_F(WindowJob, ChangeOfTape_ChangesWhatIsSent)
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"PageSize=DC24x80", "KsTapeLength=80.0"}));
     const auto labels = labelsIn(cups.printedBy(u"tape"_qs));
     ASSERT_EQ(labels.size(), 1U);
-    EXPECT_NEAR(labels[0].rows, 921, 1); // 78 mm at 300 dpi are 921.3 rows
+    EXPECT_NEAR(labels[0].rows, 945, 1); // 80 mm at 300 dpi are 944.9 rows
 }
 
 TEST_F(WindowJob, CopiesAndAllLengthsTyped_ReachTheFilter)

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: Apache-2.0
+// Confinement by bubblewrap, which needs no rights of its own where the kernel lets users make name spaces.
+#include "job/Confinement.h"
+
+#include "job/PlainText.h"
+#include "job/Texts.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <array>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+// The bounds of one process. They are there for what never ends, not to ration work: 2,000 pages of labels take the
+// filters some minutes and 300 MB on a slow machine, and an image of 200 megapixels 800 MB.
+constexpr qint64 mostMemoryBytes = qint64(4) << 30;
+constexpr int mostProcessorSeconds = 3600;
+/// The temporary folder is memory: a document and its copy between two filters have to fit.
+constexpr qint64 mostTemporaryBytes = qint64(2) << 30;
+constexpr int probeTimeoutMs = 10000;
+
+constexpr QLatin1String insideTemporary("/tmp");
+
+/// What of the system is seen beside /etc, where it exists. Nothing of /run: sockets of the session and of services
+/// would be reached through it without a network.
+constexpr std::array systemFolders{"/usr",
+                                   "/opt",
+                                   "/bin",
+                                   "/sbin",
+                                   "/lib",
+                                   "/lib32",
+                                   "/lib64",
+                                   "/libx32",
+                                   "/var/lib/ghostscript",
+                                   "/var/cache/fontconfig"};
+
+/// Where among the settings something may stand that is not for everybody; root, who may read it, does not show it.
+constexpr std::array settingsFolders{"/etc", "/etc/cups"};
+
+QStringList systemArguments()
+{
+    QStringList arguments;
+    for (const char *name : systemFolders) {
+        const QString path = QString::fromLatin1(name);
+        const QFileInfo info(path);
+        // A machine whose /bin is /usr/bin is shown with the same link.
+        if (info.isSymLink()) {
+            arguments << QStringLiteral("--symlink") << QFile::symLinkTarget(path) << path;
+        } else if (info.isDir()) {
+            arguments << QStringLiteral("--ro-bind") << path << path;
+        }
+    }
+    return arguments;
+}
+
+QStringList settingsArguments()
+{
+    QStringList arguments{QStringLiteral("--ro-bind"), QStringLiteral("/etc"), QStringLiteral("/etc")};
+    for (const char *folder : settingsFolders) {
+        const QDir entries(QString::fromLatin1(folder));
+        for (const QFileInfo &entry : entries.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)) {
+            if (entry.isSymLink() || (entry.permissions() & QFile::ReadOther) != 0) {
+                continue;
+            }
+            if (entry.isDir()) {
+                arguments << QStringLiteral("--tmpfs") << entry.filePath();
+            } else if (entry.isFile()) {
+                arguments << QStringLiteral("--ro-bind") << QStringLiteral("/dev/null") << entry.filePath();
+            }
+        }
+    }
+    return arguments;
+}
+
+/// Everything up to the files of a command.
+const QStringList &roomArguments()
+{
+    static const QStringList arguments =
+        QStringList{QStringLiteral("--unshare-all"), QStringLiteral("--die-with-parent"),
+                    QStringLiteral("--new-session")} +
+        systemArguments() + settingsArguments() +
+        QStringList{QStringLiteral("--proc"),    QStringLiteral("/proc"),
+                    QStringLiteral("--dev"),     QStringLiteral("/dev"),
+                    QStringLiteral("--perms"),   QStringLiteral("0700"),
+                    QStringLiteral("--size"),    QString::number(mostTemporaryBytes),
+                    QStringLiteral("--tmpfs"),   insideTemporary,
+                    QStringLiteral("--symlink"), insideTemporary,
+                    QStringLiteral("/var/tmp")};
+    return arguments;
+}
+
+/// What is memory beside the temporary folder takes no data: it would not be bounded.
+QStringList sealArguments()
+{
+    return {QStringLiteral("--remount-ro"), QStringLiteral("/dev"), QStringLiteral("--remount-ro"), QStringLiteral("/"),
+            QStringLiteral("--chdir"),      insideTemporary};
+}
+
+/// "env" and "prlimit" with what they set; the command follows. A run without a room gets the same.
+QStringList boundArguments(const ConfinedCommand &command, const QString &temporaryFolder)
+{
+    QStringList arguments{QStringLiteral("-i"),
+                          QStringLiteral("PATH=/usr/bin:/bin:/usr/sbin:/sbin"),
+                          QStringLiteral("HOME=") + temporaryFolder,
+                          QStringLiteral("TMPDIR=") + temporaryFolder,
+                          QStringLiteral("USER=") + qEnvironmentVariable("USER", QStringLiteral("nobody")),
+                          QStringLiteral("LANG=C.UTF-8")};
+    for (const auto &[name, value] : command.environment) {
+        arguments << name + u'=' + value;
+    }
+    arguments << QStringLiteral("prlimit") << QStringLiteral("--as=%1").arg(mostMemoryBytes)
+              << QStringLiteral("--cpu=%1").arg(mostProcessorSeconds) << QStringLiteral("--core=0")
+              << QStringLiteral("--") << command.program << command.arguments;
+    return arguments;
+}
+
+QString findEnv()
+{
+    const QString path = QStandardPaths::findExecutable(QStringLiteral("env"), {QStringLiteral("/usr/bin")});
+    return path.isEmpty() ? QStringLiteral("/usr/bin/env") : path;
+}
+
+QString findBubblewrap()
+{
+    return QStandardPaths::findExecutable(QStringLiteral("bwrap"));
+}
+
+QStringList confinedArguments(const ConfinedCommand &command)
+{
+    QStringList arguments = roomArguments();
+    for (const QString &path : command.readable) {
+        arguments << QStringLiteral("--ro-bind") << path << path;
+    }
+    for (const QString &path : command.writable) {
+        arguments << QStringLiteral("--bind") << path << path;
+    }
+    arguments << sealArguments() << QStringLiteral("--") << findEnv() << boundArguments(command, insideTemporary);
+    return arguments;
+}
+
+/// What keeps this machine from confining anything.
+struct Obstacle {
+    bool isMissing = false; ///< bubblewrap is not there
+    QString reason;         ///< null: nothing does
+};
+
+/// Tries the room itself: a kernel or an administrator may forbid it, and says so only then.
+Obstacle findObstacle()
+{
+    const QString bubblewrap = findBubblewrap();
+    if (bubblewrap.isEmpty()) {
+        return {true, {}};
+    }
+    QProcess process;
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(bubblewrap, confinedArguments({QStringLiteral("/usr/bin/true"), {}}), QIODevice::ReadOnly);
+    if (process.waitForFinished(probeTimeoutMs) && process.exitStatus() == QProcess::NormalExit &&
+        process.exitCode() == 0) {
+        return {};
+    }
+    const QString said = QString::fromLocal8Bit(process.readAllStandardError()).simplified();
+    const QString reason = said.isEmpty() ? process.errorString() : said;
+    process.kill();
+    process.waitForFinished();
+    return {false, harmless(reason)};
+}
+
+const Obstacle &obstacle()
+{
+    static const Obstacle found = findObstacle();
+    return found;
+}
+
+bool isPossible()
+{
+    return !obstacle().isMissing && obstacle().reason.isNull();
+}
+
+} // namespace
+
+QString confinementProblem()
+{
+    if (obstacle().isMissing) {
+        return Texts::tr("The printer's filters run without confinement, because bubblewrap is missing: install the "
+                         "package bubblewrap.");
+    }
+    return isPossible() ? QString()
+                        : Texts::tr("The printer's filters run without confinement, because this machine does not "
+                                    "allow it (%1): let users make name spaces.")
+                              .arg(obstacle().reason);
+}
+
+ConfinedLaunch confine(const ConfinedCommand &command)
+{
+    if (isPossible()) {
+        return {findBubblewrap(), confinedArguments(command), true};
+    }
+    return {findEnv(), boundArguments(command, QDir::tempPath()), false};
+}
+
+} // namespace tapeprint::job

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+// The room that foreign data is worked on in: filters and converters see the system read-only, the files they are given
+// and a temporary folder of their own; no network, no home, no other process.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <utility>
+#include <vector>
+
+namespace tapeprint::job
+{
+
+/// A program to be run confined.
+struct ConfinedCommand {
+    QString program; ///< absolute
+    QStringList arguments;
+    /// Absolute paths of files and folders outside the system that the program may read, at the same path inside. None
+    /// may lie in /proc, /sys or /dev: what comes from there is copied into a private file first.
+    QStringList readable = {};
+    /// As readable, for what it may also write.
+    QStringList writable = {};
+    /// Variables beside the few that every program gets (PATH, HOME, TMPDIR, USER, LANG); a later one replaces them.
+    std::vector<std::pair<QString, QString>> environment = {};
+};
+
+/// What a process is started with. The variables are among the arguments: the starter's environment is not passed on.
+struct ConfinedLaunch {
+    QString program;
+    QStringList arguments;
+    bool confined = false; ///< false: the program runs with the person's rights, but with the same bounds
+};
+
+/// How to start a program so that it runs confined, or, where this machine does not allow that, with bounds alone. Ends
+/// with the process that started it when it is confined; runConfined() sees to that in either case.
+ConfinedLaunch confine(const ConfinedCommand &command);
+
+/// Why nothing can be confined on this machine, in a sentence for the person; null when it can be. Asked once, then
+/// remembered; safe to call in any thread.
+QString confinementProblem();
+
+} // namespace tapeprint::job

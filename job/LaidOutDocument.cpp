@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: Apache-2.0
+// Each page of a document becomes a form on its label, placed by one matrix. libqpdf copies what the form is made of
+// and leaves it as it is.
+#include "job/LaidOutDocument.h"
+
+#include "job/PageBox.h"
+#include "job/PlainText.h"
+#include "job/Texts.h"
+
+#include <QByteArray>
+#include <QFile>
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <map>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include <pdekit/Numbers.h>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFAcroFormDocumentHelper.hh>
+#include <qpdf/QPDFExc.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+constexpr int decimals = 5;
+
+std::string number(double value)
+{
+    return pdekit::fixedDecimals(value, decimals).toStdString();
+}
+
+std::string matrixText(const QTransform &matrix)
+{
+    return number(matrix.m11()) + ' ' + number(matrix.m12()) + ' ' + number(matrix.m21()) + ' ' + number(matrix.m22()) +
+           ' ' + number(matrix.dx()) + ' ' + number(matrix.dy());
+}
+
+/// One page of a document: its form in the target, and which part of it is the page.
+struct SourcePage {
+    QPDFObjectHandle form;
+    PageBox box;
+
+    /// From the page's own units, y upwards, to points of the page as it is read, from its top left.
+    QTransform asRead() const
+    {
+        const double unit = box.unitPt;
+        const QRectF &page = box.page;
+        const QTransform upright(unit, 0, 0, -unit, -page.left() * unit, (page.top() + page.height()) * unit);
+        const double width = page.width() * unit;
+        const double height = page.height() * unit;
+        switch (box.turn) {
+        case 90:
+            return upright * QTransform(0, 1, -1, 0, height, 0);
+        case 180:
+            return upright * QTransform(-1, 0, 0, -1, width, height);
+        case 270:
+            return upright * QTransform(0, -1, 1, 0, 0, width);
+        default:
+            return upright;
+        }
+    }
+};
+
+/// A document as libqpdf reads it, with forms and notes drawn into its pages.
+class Source
+{
+public:
+    explicit Source(const QString &path) : mPath(path)
+    {
+        mPdf.setSuppressWarnings(true);
+        mPdf.processFile(QFile::encodeName(path).constData());
+        QPDFAcroFormDocumentHelper(mPdf).generateAppearancesIfNeeded();
+        QPDFPageDocumentHelper helper(mPdf);
+        helper.flattenAnnotations(an_print, an_hidden | an_no_view);
+        mPages = helper.getAllPages();
+    }
+
+    const QString &path() const { return mPath; }
+
+    /// A page with its form copied into another document; each page is copied once.
+    const SourcePage &page(int index, QPDF &target)
+    {
+        const auto known = mCopied.find(index);
+        if (known != mCopied.end()) {
+            return known->second;
+        }
+        QPDFPageObjectHelper &page = mPages.at(static_cast<std::size_t>(index));
+        SourcePage copied{{}, pageBoxOf(page)};
+        QPDFObjectHandle form = page.getFormXObjectForPage(false);
+        const QRectF &box = copied.box.page;
+        form.getDict().replaceKey(
+            "/BBox", QPDFObjectHandle::newFromRectangle({box.left(), box.top(), box.right(), box.bottom()}));
+        copied.form = target.copyForeignObject(form);
+        return mCopied.emplace(index, copied).first->second;
+    }
+
+private:
+    QString mPath;
+    QPDF mPdf;
+    std::vector<QPDFPageObjectHelper> mPages;
+    std::map<int, SourcePage> mCopied;
+};
+
+/// Operators that put one page on its label. \param toPdf from points of the label, y down, to the label's page.
+std::string placedForm(const std::string &name, const PlacedPage &placed, const SourcePage &source,
+                       const QTransform &toPdf)
+{
+    const QRectF clip = toPdf.mapRect(placed.clip);
+    return "q " + number(clip.left()) + ' ' + number(clip.top()) + ' ' + number(clip.width()) + ' ' +
+           number(clip.height()) + " re W n " + matrixText(source.asRead() * placed.place * toPdf) + " cm " + name +
+           " Do Q\n";
+}
+
+QPDFObjectHandle labelPage(QPDF &target, const Label &label, const TapePage &page, RasterShift shift,
+                           std::vector<std::unique_ptr<Source>> &sources)
+{
+    const QTransform toPdf(1, 0, 0, -1, 0, page.sizePt.height() + shift.downPt);
+    QPDFObjectHandle forms = QPDFObjectHandle::newDictionary();
+    std::string content;
+    int count = 0;
+    for (const PlacedPage &placed : label) {
+        const SourcePage &source = sources.at(placed.document)->page(placed.page, target);
+        const std::string name = "/P" + std::to_string(++count);
+        forms.replaceKey(name, source.form);
+        if (!placed.clip.isEmpty()) {
+            content += placedForm(name, placed, source, toPdf);
+        }
+    }
+    QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
+    resources.replaceKey("/XObject", forms);
+    QPDFObjectHandle dictionary = QPDFObjectHandle::newDictionary();
+    dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+    QPDFObjectHandle box = QPDFObjectHandle::newArray();
+    for (const double corner : {0.0, 0.0, page.sizePt.width(), page.sizePt.height()}) {
+        box.appendItem(QPDFObjectHandle::newReal(corner, decimals));
+    }
+    dictionary.replaceKey("/MediaBox", box);
+    dictionary.replaceKey("/Resources", resources);
+    dictionary.replaceKey("/Contents", QPDFObjectHandle::newStream(&target, content));
+    return target.makeIndirectObject(dictionary);
+}
+
+QString reasonOf(const std::exception &failure)
+{
+    const auto *pdf = dynamic_cast<const QPDFExc *>(&failure);
+    return QString::fromUtf8(pdf != nullptr ? pdf->getMessageDetail().c_str() : failure.what()).simplified();
+}
+
+QString openingFailure(const QString &path, const std::exception &failure)
+{
+    const auto *pdf = dynamic_cast<const QPDFExc *>(&failure);
+    if (pdf != nullptr && pdf->getErrorCode() == qpdf_e_password) {
+        return Texts::tr("The document %1 is locked with a password: save it without one and print that.").arg(path);
+    }
+    return Texts::tr("The document %1 is damaged (%2): make it anew or name another.")
+        .arg(path, harmless(reasonOf(failure)));
+}
+
+} // namespace
+
+std::optional<PageSizes> pageSizesOf(const QString &pdf, QString *error, const QString &shownAs)
+{
+    const QString name = harmless(shownAs.isNull() ? pdf : shownAs);
+    try {
+        QPDF document;
+        document.setSuppressWarnings(true);
+        document.processFile(QFile::encodeName(pdf).constData());
+        PageSizes sizes;
+        for (const PageBox &box : pageBoxesOf(document)) {
+            sizes.push_back(box.sizePt());
+        }
+        if (sizes.empty()) {
+            *error = Texts::tr("The document %1 has no page: name one with something to print.").arg(name);
+            return std::nullopt;
+        }
+        return sizes;
+    } catch (const std::exception &failure) {
+        *error = openingFailure(name, failure);
+        return std::nullopt;
+    }
+}
+
+RasterShift rasterShiftOf(const ppd_file_t *ppd, const TapePage &page)
+{
+    if (ppd == nullptr) {
+        return {};
+    }
+    const std::span filters(ppd->filters, static_cast<std::size_t>(std::max(ppd->num_filters, 0)));
+    const bool takesRaster = std::any_of(filters.begin(), filters.end(), [](const char *filter) {
+        return QByteArray(filter).startsWith("application/vnd.cups-raster");
+    });
+    const double height = page.sizePt.height();
+    return {takesRaster ? std::floor(height + 0.5) - height : 0.0};
+}
+
+bool writeLaidOut(const LabelPlan &plan, const QStringList &pdfs, RasterShift shift, const QString &path,
+                  const std::atomic<bool> &stop, QString *error)
+{
+    QPDF target;
+    target.emptyPDF();
+    std::vector<std::unique_ptr<Source>> sources;
+    QString current;
+    try {
+        for (const QString &pdf : pdfs) {
+            current = harmless(pdf);
+            sources.push_back(std::make_unique<Source>(pdf));
+        }
+    } catch (const std::exception &failure) {
+        *error = openingFailure(current, failure);
+        return false;
+    }
+    try {
+        for (const Label &label : plan.labels) {
+            if (stop) {
+                return false;
+            }
+            target.addPage(labelPage(target, label, plan.page, shift, sources), false);
+        }
+        QPDFWriter writer(target, QFile::encodeName(path).constData());
+        writer.setStaticID(true); // the same job is the same document
+        writer.write();
+    } catch (const std::exception &failure) {
+        *error = Texts::tr("The labels cannot be laid out (%1): see that the document is whole and that there is room "
+                           "for temporary files.")
+                     .arg(reasonOf(failure));
+        return false;
+    }
+    return true;
+}
+
+} // namespace tapeprint::job

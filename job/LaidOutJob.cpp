@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: Apache-2.0
+// The steps from documents to labels, in their order.
+#include "job/LaidOutJob.h"
+
+#include "job/Conversion.h"
+#include "job/LaidOutDocument.h"
+#include "job/PdfPages.h"
+#include "job/Texts.h"
+
+#include <algorithm>
+
+#include <pdekit/Numbers.h>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+QString lengthText(double points)
+{
+    return pdekit::fixedDecimals(mmFromPoints(points), 1);
+}
+
+} // namespace
+
+std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
+                                        QString *error)
+{
+    const QSizeF textPagePt = textPageOf(job);
+    PdfDocuments documents;
+    documents.files = files;
+    for (const QString &file : files) {
+        QString pdf = file;
+        if (documentKindOf(file) != DocumentKind::Pdf) {
+            QString reason;
+            documents.made.push_back(PrivateFile::create(QStringLiteral("document.pdf"), &reason));
+            if (!documents.made.back()) {
+                *error = noRoomForTemporaryFiles(reason);
+                return std::nullopt;
+            }
+            pdf = documents.made.back()->path();
+            if (!convertToPdf(file, textPagePt, pdf, stop, error)) {
+                return std::nullopt;
+            }
+        }
+        const std::optional<PageSizes> sizes = pageSizesOf(pdf, error, file);
+        if (!sizes) {
+            return std::nullopt;
+        }
+        documents.pdfs.append(pdf);
+        documents.sizes.push_back(*sizes);
+    }
+    if (job.fitsLength() && !findDrawnRects(documents, stop, error)) {
+        return std::nullopt;
+    }
+    return documents;
+}
+
+bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, QString *error)
+{
+    documents.drawn.clear();
+    for (const QString &pdf : documents.pdfs) {
+        const QString shownAs = documents.files.value(documents.pdfs.indexOf(pdf));
+        const std::unique_ptr<PdfPages> pages = PdfPages::open(pdf, error, shownAs);
+        if (!pages) {
+            return false;
+        }
+        DrawnRects drawn;
+        for (int page = 0; page < pages->count() && !stop; ++page) {
+            drawn.push_back(pages->drawnRect(page, stop).value_or(QRectF()));
+        }
+        documents.drawn.push_back(std::move(drawn));
+    }
+    return !stop;
+}
+
+QSizeF textPageOf(const SettledJob &job)
+{
+    const TapePage page = job.page;
+    const QSizeF area = page.layoutRect().size();
+    const double mostMm = job.lengths.most;
+    if (job.fitsLength() && mostMm > 0.0) {
+        return {std::max(area.height(), pointsFromMm(mostMm) - 2.0 * page.freeEndsPt), area.width()};
+    }
+    return area.height() > area.width() ? area.transposed() : area;
+}
+
+std::optional<AutomaticLength> automaticLength(const SettledJob &job, const PdfDocuments &documents)
+{
+    return automaticLength(documents.sizes, documents.drawn, job.page, job.options, job.lengths);
+}
+
+QString lengthNotice(const TapePage &page)
+{
+    switch (page.length) {
+    case PageLength::LeftToDriver:
+        return Texts::tr(
+                   "This printer's description takes no page of the chosen length: the page stays %1 mm long, and "
+                   "the length is left to the driver.")
+            .arg(lengthText(page.sizePt.height()));
+    case PageLength::PaperForNear:
+        return Texts::tr("The print system makes a length so near to the tape's own into that: %1 mm.")
+            .arg(lengthText(page.sizePt.height()));
+    case PageLength::Paper:
+    case PageLength::Chosen:
+        break;
+    }
+    return {};
+}
+
+std::optional<LabelPlan> layOutJob(const SettledJob &job, const PdfDocuments &documents, const QString &path,
+                                   const std::atomic<bool> &stop, QString *error)
+{
+    const TapePage page = job.page;
+    if (page.layoutRect().isEmpty()) {
+        *error = Texts::tr("The margins leave nothing of the tape to print on: make the tape longer or the margin "
+                           "smaller.");
+        return std::nullopt;
+    }
+    LabelPlan plan = planLabels(documents.sizes, page, job.options, documents.drawn);
+    if (plan.labels.empty()) {
+        *error = Texts::tr("None of the document's pages is chosen: change the page range.");
+        return std::nullopt;
+    }
+    if (!writeLaidOut(plan, documents.pdfs, job.shift, path, stop, error)) {
+        return std::nullopt;
+    }
+    return plan;
+}
+
+} // namespace tapeprint::job

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+// A job for tape on its way to the printer: its documents as PDFs, the plan of its labels, and the one document that
+// they become.
+#pragma once
+
+#include "job/LabelPlan.h"
+#include "job/PrivateFile.h"
+#include "job/SettledJob.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <atomic>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace tapeprint::job
+{
+
+/// The documents of a job as PDFs. Those that had to be converted go with this object.
+struct PdfDocuments {
+    QStringList files;                              ///< as they were named
+    QStringList pdfs;                               ///< one each, in their order; a document that is a PDF is itself
+    std::vector<PageSizes> sizes;                   ///< of each one's pages
+    std::vector<DrawnRects> drawn;                  ///< what is drawn on each one's pages; empty until it was asked for
+    std::vector<std::shared_ptr<PrivateFile>> made; ///< those of the PDFs that were made here
+};
+
+/// Makes PDFs of a job's documents, which are only read. With fit-length it also looks at what is drawn on them.
+/// \param error takes a sentence about the first document that cannot be used.
+std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
+                                        QString *error);
+
+/// Looks at what is drawn on the pages of documents. \return false when it was stopped or a document cannot be read.
+bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, QString *error);
+
+/// The page that text is set on for a job: what is laid out on, lying, so that lines run along the tape. With
+/// fit-length it is as long as the tape may become, so that no line is broken for want of tape.
+QSizeF textPageOf(const SettledJob &job);
+
+/// The length that the job's documents need, for fit-length; nothing when nothing is drawn on their selected pages.
+std::optional<AutomaticLength> automaticLength(const SettledJob &job, const PdfDocuments &documents);
+
+/// A sentence about a page whose length is not the one that was chosen; null when there is nothing to say.
+QString lengthNotice(const TapePage &page);
+
+/// Lays a job's documents out on its page. \param path the PDF to write. \return the plan that was followed.
+std::optional<LabelPlan> layOutJob(const SettledJob &job, const PdfDocuments &documents, const QString &path,
+                                   const std::atomic<bool> &stop, QString *error);
+
+} // namespace tapeprint::job

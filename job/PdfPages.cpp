@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: Apache-2.0
+// Pages are drawn by Poppler on its own grid, whose origin is the top left of what viewers see of a page; here they are
+// asked for by the page's box.
+#include "job/PdfPages.h"
+
+#include "job/PageBox.h"
+#include "job/Texts.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <vector>
+
+#include <poppler-qt6.h>
+#include <qpdf/QPDF.hh>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+constexpr double pointsPerInch = 72.0;
+constexpr double mostDots = 64e6;
+/// Sizes go through floats and texts: a dot that is touched by less than this is not.
+constexpr double slackDots = 1e-4;
+
+/// Three dots to one of 300 an inch: see drawnRect().
+constexpr double measuredDotsPerPoint = 900.0 / pointsPerInch;
+constexpr double mostMeasuredDots = 1.3e9;
+constexpr double bandDots = 4e6;
+constexpr double mostMeasuredDotsASide = 1e6;
+
+bool isFile(const QString &path, QString *reason)
+{
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) { // opening a pipe would wait for somebody to write
+        *reason = Texts::tr("It is no plain file.");
+        return false;
+    }
+    QFile file(path);
+    const bool isReadable = file.open(QIODevice::ReadOnly);
+    *reason = file.errorString();
+    return isReadable;
+}
+
+bool looksLikePdf(const QString &path)
+{
+    constexpr qint64 headerWithin = 1024; // where readers look for it
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(headerWithin).contains("%PDF-");
+}
+
+/// What Poppler has to say of a document's flaws is for its developers.
+void silencePoppler()
+{
+    [[maybe_unused]] static const bool silenced = [] {
+        Poppler::setDebugErrorFunction([](const QString &, const QVariant &) {}, {});
+        return true;
+    }();
+}
+
+bool isStopped(const QVariant &stop)
+{
+    return static_cast<const std::atomic<bool> *>(stop.value<void *>())->load();
+}
+
+QVariant variantOf(const std::atomic<bool> &stop)
+{
+    return QVariant::fromValue<void *>(const_cast<std::atomic<bool> *>(&stop)); // a QVariant takes no pointer to const
+}
+
+/// Boxes of a document's pages; none when QPDF cannot read what Poppler can.
+std::vector<PageBox> readBoxes(const QString &path)
+{
+    try {
+        QPDF document;
+        document.setSuppressWarnings(true);
+        document.processFile(QFile::encodeName(path).constData());
+        return pageBoxesOf(document);
+    } catch (const std::exception &) {
+        return {};
+    }
+}
+
+/// Where the page's top left lies from that of what is seen, as both are shown; in the document's units.
+QPointF originOf(const PageBox &box)
+{
+    // The rectangles' y goes upwards, so that QRectF's top is the lower edge.
+    const QRectF &page = box.page;
+    const QRectF &seen = box.seen;
+    const double left = page.left() - seen.left();
+    const double right = seen.right() - page.right();
+    const double lower = page.top() - seen.top();
+    const double upper = seen.bottom() - page.bottom();
+    switch (box.turn) {
+    case 90:
+        return {lower, left};
+    case 180:
+        return {right, lower};
+    case 270:
+        return {upper, right};
+    default:
+        return {left, upper};
+    }
+}
+
+bool isAsSeen(const PageBox &box, const QSizeF &drawn)
+{
+    constexpr double slack = 0.01;
+    const QSizeF size = box.turn % 180 == 0 ? box.seen.size() : box.seen.size().transposed();
+    return !box.page.isEmpty() && std::abs(size.width() - drawn.width()) < slack &&
+           std::abs(size.height() - drawn.height()) < slack;
+}
+
+/// Extends a rectangle by the dots of an image that are not white.
+QRect inkOf(const QImage &image)
+{
+    constexpr QRgb colours = 0x00ffffff;
+    const auto isInk = [](QRgb dot) { return (dot & colours) != colours; };
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        const QRgb *end = line + image.width();
+        const QRgb *first = std::find_if(line, end, isInk);
+        if (first == end) {
+            continue;
+        }
+        const auto last = std::find_if(std::reverse_iterator(end), std::reverse_iterator(first), isInk);
+        ink |= QRect(QPoint(static_cast<int>(first - line), y), QPoint(static_cast<int>(last.base() - line) - 1, y));
+    }
+    return ink;
+}
+
+} // namespace
+
+/// The dots that Poppler is asked for.
+struct PdfPages::Document {
+    /// A page on Poppler's grid.
+    struct Place {
+        QSizeF sizePt;        ///< of the page as it is read
+        QPointF origin;       ///< of the page, in the units of the grid
+        double unitPt = 1.0;  ///< points of one unit
+        bool isWhole = false; ///< whether the page can be drawn
+    };
+
+    std::unique_ptr<Poppler::Document> pdf;
+    std::vector<PageBox> boxes;
+
+    Place placeOf(const Poppler::Page *page) const;
+    QImage draw(const Poppler::Page &page, const QRect &dots, double dotsPerUnit, const std::atomic<bool> &stop) const;
+};
+
+PdfPages::Document::Place PdfPages::Document::placeOf(const Poppler::Page *page) const
+{
+    Place place;
+    if (page == nullptr) {
+        return place;
+    }
+    const QSizeF drawn = page->pageSizeF();
+    const auto index = static_cast<std::size_t>(page->index());
+    if (index < boxes.size() && isAsSeen(boxes[index], drawn)) {
+        place = {boxes[index].sizePt(), originOf(boxes[index]), boxes[index].unitPt};
+    } else {
+        place.sizePt = drawn;
+    }
+    place.isWhole =
+        !place.sizePt.isEmpty() && std::isfinite(place.sizePt.width()) && std::isfinite(place.sizePt.height());
+    return place;
+}
+
+QImage PdfPages::Document::draw(const Poppler::Page &page, const QRect &dots, double dotsPerUnit,
+                                const std::atomic<bool> &stop) const
+{
+    const double dotsPerInch = dotsPerUnit * pointsPerInch;
+    try {
+        const QImage image =
+            page.renderToImage(dotsPerInch, dotsPerInch, dots.x(), dots.y(), dots.width(), dots.height(),
+                               Poppler::Page::Rotate0, nullptr, nullptr, isStopped, variantOf(stop));
+        return stop ? QImage() : image;
+    } catch (const std::exception &) { // of a picture that memory does not hold
+        return {};
+    }
+}
+
+PdfPages::PdfPages(std::unique_ptr<Document> document) : mDocument(std::move(document)) {}
+
+PdfPages::~PdfPages() = default;
+
+std::unique_ptr<PdfPages> PdfPages::open(const QString &path, QString *error, const QString &shownAs)
+{
+    const QString name = shownAs.isNull() ? path : shownAs;
+    QString reason;
+    if (!isFile(path, &reason)) {
+        *error = Texts::tr("%1 cannot be read: %2").arg(name, reason);
+        return nullptr;
+    }
+    silencePoppler();
+    auto document = std::make_unique<Document>();
+    document->pdf = Poppler::Document::load(path);
+    if (document->pdf == nullptr) {
+        *error = looksLikePdf(path) ? Texts::tr("%1 is broken: no page of it can be read.").arg(name)
+                                    : Texts::tr("%1 is no PDF document.").arg(name);
+        return nullptr;
+    }
+    if (document->pdf->isLocked()) {
+        *error = Texts::tr("%1 is protected by a password: save it without one, and print that.").arg(name);
+        return nullptr;
+    }
+    if (document->pdf->numPages() < 1) {
+        *error = Texts::tr("%1 has no page.").arg(name);
+        return nullptr;
+    }
+    document->boxes = readBoxes(path);
+    return std::unique_ptr<PdfPages>(new PdfPages(std::move(document)));
+}
+
+int PdfPages::count() const
+{
+    return mDocument->pdf->numPages();
+}
+
+QSizeF PdfPages::sizePt(int page) const
+{
+    const Document::Place place = mDocument->placeOf(mDocument->pdf->page(page).get());
+    return place.isWhole ? place.sizePt : QSizeF();
+}
+
+RenderedPage PdfPages::render(int page, double dotsPerPoint, const std::atomic<bool> &stop, const QRectF &partPt) const
+{
+    const std::unique_ptr<Poppler::Page> drawn = mDocument->pdf->page(page);
+    const Document::Place place = mDocument->placeOf(drawn.get());
+    const QRectF whole({}, place.sizePt);
+    const QRectF part = partPt.isEmpty() ? whole : partPt.intersected(whole);
+    const double dotsPerUnit = dotsPerPoint * place.unitPt;
+    if (!place.isWhole || part.isEmpty() || !(dotsPerPoint > 0.0) || !std::isfinite(dotsPerPoint)) {
+        return {};
+    }
+    // The part on the grid, in dots.
+    const QPointF origin = place.origin * dotsPerUnit;
+    const QRectF exact(origin + part.topLeft() * dotsPerPoint, part.size() * dotsPerPoint);
+    const QPointF from(std::floor(exact.left() + slackDots), std::floor(exact.top() + slackDots));
+    const QPointF to(std::ceil(exact.right() - slackDots), std::ceil(exact.bottom() - slackDots));
+    const QRectF dots(from, QPointF(std::max(to.x(), from.x() + 1.0), std::max(to.y(), from.y() + 1.0)));
+    constexpr double mostOnGrid = 1e9;
+    if (dots.width() * dots.height() > mostDots ||
+        std::max({std::abs(from.x()), std::abs(from.y()), std::abs(to.x()), std::abs(to.y())}) > mostOnGrid) {
+        return {};
+    }
+    QImage image;
+    mDocument->pdf->setRenderHint(Poppler::Document::Antialiasing, true);
+    mDocument->pdf->setRenderHint(Poppler::Document::TextAntialiasing, true);
+    image = mDocument->draw(*drawn, dots.toRect(), dotsPerUnit, stop);
+    return {image, QRectF((dots.topLeft() - origin) / dotsPerPoint, dots.size() / dotsPerPoint)};
+}
+
+std::optional<QRectF> PdfPages::drawnRect(int page, const std::atomic<bool> &stop) const
+{
+    const std::unique_ptr<Poppler::Page> drawn = mDocument->pdf->page(page);
+    const Document::Place place = mDocument->placeOf(drawn.get());
+    if (!place.isWhole) {
+        return std::nullopt;
+    }
+    // Without anti-aliasing a dot that is touched is drawn, however little; but Poppler moves edges of lines and boxes
+    // by up to half a dot, and letters by up to a whole one. So each side is moved out by a dot, and dots are a third
+    // of those that the answer is promised in: two thirds at the most by touching and moving, one by this.
+    const double area = place.sizePt.width() * place.sizePt.height();
+    const double dotsPerPoint =
+        std::min({measuredDotsPerPoint, std::sqrt(mostMeasuredDots / area),
+                  mostMeasuredDotsASide / std::max(place.sizePt.width(), place.sizePt.height())});
+    const double dotsPerUnit = dotsPerPoint * place.unitPt;
+    const QPointF origin = place.origin * dotsPerUnit;
+    const int left = static_cast<int>(std::floor(origin.x() + slackDots));
+    const int top = static_cast<int>(std::floor(origin.y() + slackDots));
+    const int width = static_cast<int>(std::ceil(origin.x() + place.sizePt.width() * dotsPerPoint - slackDots)) - left;
+    const int height = static_cast<int>(std::ceil(origin.y() + place.sizePt.height() * dotsPerPoint - slackDots)) - top;
+    if (width < 1 || height < 1) {
+        return std::nullopt;
+    }
+    mDocument->pdf->setRenderHint(Poppler::Document::Antialiasing, false);
+    mDocument->pdf->setRenderHint(Poppler::Document::TextAntialiasing, true); // a faint letter is a letter
+    const int rows = std::clamp(static_cast<int>(bandDots / width), 1, height);
+    QRect ink;
+    for (int row = 0; row < height; row += rows) {
+        const QRect band(left, top + row, width, std::min(rows, height - row));
+        const QImage image = mDocument->draw(*drawn, band, dotsPerUnit, stop);
+        if (image.isNull()) {
+            return std::nullopt;
+        }
+        ink |= inkOf(image.convertToFormat(QImage::Format_RGB32)).translated(band.topLeft());
+    }
+    if (ink.isEmpty()) {
+        return std::nullopt;
+    }
+    const QRectF around = QRectF(ink).adjusted(-1.0, -1.0, 1.0, 1.0).translated(-origin);
+    return QRectF(around.topLeft() / dotsPerPoint, around.size() / dotsPerPoint).intersected(QRectF({}, place.sizePt));
+}
+
+} // namespace tapeprint::job
