@@ -75,7 +75,7 @@ TEST(PlainTitle, KeepsTheMarkOfAModifiedDocument)
     EXPECT_EQ(window.windowTitle(), u"label[*][*].pdf"_qs);
 }
 
-class HostilePpd : public testing::Test
+class StrangersTexts : public testing::Test
 {
 protected:
     void SetUp() override
@@ -97,7 +97,7 @@ protected:
     std::unique_ptr<PrintDialog> dialog;
 };
 
-TEST_F(HostilePpd, NameOfAnOption_IsDrawnAsItStands)
+TEST_F(StrangersTexts, NameOfAnOption_IsDrawnAsItStands)
 {
     auto *popUp = dialog->findChild<QComboBox *>(u"Hostile"_qs);
     ASSERT_NE(popUp, nullptr);
@@ -111,7 +111,7 @@ TEST_F(HostilePpd, NameOfAnOption_IsDrawnAsItStands)
     EXPECT_EQ(popUp->itemText(0), u"R&D <i>1</i>"_qs);
 }
 
-TEST_F(HostilePpd, SentenceOfAFailure_IsShownAsItStands)
+TEST_F(StrangersTexts, SentenceOfAFailure_IsShownAsItStands)
 {
     Qt::TextFormat format = Qt::AutoText;
     QString text;
@@ -132,7 +132,7 @@ TEST_F(HostilePpd, SentenceOfAFailure_IsShownAsItStands)
     EXPECT_EQ(format, Qt::PlainText);
 }
 
-TEST_F(HostilePpd, WindowTitle_HoldsTheDocumentsNameWithTheMarkDoubled)
+TEST_F(StrangersTexts, WindowTitle_HoldsTheDocumentsNameWithTheMarkDoubled)
 {
     EXPECT_EQ(dialog->windowTitle(), u"Print <b>x</b>[*][*]"_qs);
 }
