@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation>Größe:</translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation>Verkleinern, wenn zu groß</translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation>An das Band anpassen</translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation>Band füllen, Rest abschneiden</translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation>Richtung:</translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation>Längere Seite entlang des Bandes</translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation>Entlang des Bandes</translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation>Quer zum Band</translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation>Entlang des Bandes, kopfüber</translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation>Quer zum Band, kopfüber</translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>Entlang des Bandes:</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>Quer zum Band:</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -145,6 +224,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation>&amp;Länge anpassen</translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation>Das Band so lang machen, wie das Gezeichnete mit beiden Rändern braucht</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation>&amp;Angepasst halten</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckvorgang</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Wird gedruckt …</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Anordnung</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation>Auf dem Dokument ist nichts gezeichnet: Das Band behält seine Länge.</translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation>Das Dokument braucht mehr Band, als der Drucker nimmt: Es wird verkleinert.</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation>Die Bandlänge wurde von Hand auf %1 mm gesetzt. Durch die passende Länge ersetzen?</translation>
     </message>
 </context>
 <context>
@@ -374,63 +489,63 @@
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Filter des Druckers laufen ohne Abschottung, weil bubblewrap fehlt: Installieren Sie das Paket bubblewrap.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Filter des Druckers laufen ohne Abschottung, weil dieser Rechner sie nicht erlaubt (%1): Lassen Sie Benutzer Namensräume anlegen.</translation>
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine temporäre Datei kann nicht geschrieben werden (%1). Schaffen Sie im Ordner für temporäre Dateien Platz.</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Filter konnten aus dem Dokument %1 keine Seiten machen: %2.</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild %1 (%2 x %3 Punkte) kann nicht entpackt werden (%4). Verkleinern Sie es oder drucken Sie es als PDF.</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild %1 ist beschädigt (%2). Erstellen Sie es neu oder nennen Sie ein anderes.</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument %1 lässt sich nicht auf Band setzen. Drucken Sie ein PDF, eine PostScript-Datei, ein Bild oder reinen Text.</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument %1 ist mit einem Kennwort geschützt. Speichern Sie es ohne Kennwort und drucken Sie dieses.</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument %1 ist beschädigt (%2). Erstellen Sie es neu oder nennen Sie ein anderes.</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument %1 hat keine Seite. Nennen Sie eines, in dem etwas zu drucken ist.</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Etiketten können nicht gesetzt werden (%1). Prüfen Sie, ob das Dokument vollständig ist und ob Platz für temporäre Dateien da ist.</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Beschreibung dieses Druckers erlaubt keine Seite der gewählten Länge. Die Seite bleibt %1 mm lang, und die Länge bleibt dem Treiber überlassen.</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Länge, die so nah an der des Bandes selbst liegt, macht das Drucksystem zu dieser: %1 mm.</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ränder lassen vom Band nichts zum Bedrucken übrig. Wählen Sie ein längeres Band oder einen kleineren Rand.</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Seite des Dokuments ist ausgewählt. Ändern Sie den Seitenbereich.</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -443,67 +558,83 @@
     </message>
     <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument %1 ist nicht mehr da: Es wurde nichts gedruckt. Legen Sie es zurück, oder öffnen Sie ein anderes.</translation>
     </message>
     <message>
         <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument %1 wurde geändert, seit es geöffnet wurde: Es wurde nichts gedruckt. Öffnen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>it is larger than any printer description</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist größer als jede Druckerbeschreibung</translation>
     </message>
     <message>
         <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die PPD-Datei %1 kann nicht in einer temporären Datei abgelegt werden (%2): Schaffen Sie dort Platz.</translation>
     </message>
     <message>
         <source>Printing was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Drucken wurde angehalten.</translation>
     </message>
     <message>
         <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Filter von %1 wurden mit dem Dokument %2 nicht fertig und wurden angehalten.</translation>
     </message>
     <message>
         <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckerbeschreibung %1 wird vertraut; sie führt eigene Programme oder Befehle aus: %2.</translation>
     </message>
     <message>
         <source>a file of this name is there</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Datei dieses Namens ist schon da</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 wird nur als Ganzes ersetzt, und neben sie kann nichts geschrieben werden (%2): Nennen Sie mit --output eine andere.</translation>
     </message>
     <message>
         <source>standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardausgabe</translation>
     </message>
     <message>
         <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ausgabe (%1) ist dieselbe Datei wie %2, die nur gelesen wird: Nennen Sie mit --output eine andere.</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardeingabe</translation>
     </message>
     <message>
         <source>it is a pipe or a device</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist eine Pipe oder ein Gerät</translation>
     </message>
     <message>
         <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Druckerbeschreibung %1 bringt eigene Programme oder Befehle mit, für die niemand bürgt: %2. Nichts davon wurde ausgeführt. Wenn Sie dem Verfasser vertrauen, wiederholen Sie es mit --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die PPD-Datei der Warteschlange %1 kann nicht in einer temporären Datei abgelegt werden (%2): Schaffen Sie dort Platz.</translation>
     </message>
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Druckdaten gingen an die Standardausgabe (%1 Byte).</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>Seite %1 des Dokuments %2 hat keine Größe. Lassen Sie sie weg oder erstellen Sie sie neu.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>Eine Länge, die so nah an der eines anderen Papiers liegt, macht das Drucksystem zu dieser: %1 mm.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>mehr als %1 MiB Speicher wären nötig</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>Die Seiten des Dokuments %1 können nicht geschrieben werden (%2). Schaffen Sie im Ordner für temporäre Dateien Platz.</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation>Size:</translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation>Shrink when too large</translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation>Fit to the tape</translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation>Fill the tape, cut off the rest</translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation>Original size</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation>Direction:</translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation>Longer side along the tape</translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation>Along the tape</translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation>Across the tape</translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation>Along the tape, upside down</translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation>Across the tape, upside down</translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>Along the tape:</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Middle</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>Across the tape:</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Bottom</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -145,6 +224,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>P&amp;aper:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation>&amp;Fit Length</translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation>Make the tape as long as what is drawn needs, with both margins</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation>&amp;Keep it fitted</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Printing</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Printing…</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation>Nothing is drawn on the document: the tape keeps its length.</translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation>The document needs more tape than the printer takes: it is made smaller.</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation>The tape length was set to %1 mm by hand. Replace it by the length that fits?</translation>
     </message>
 </context>
 <context>
@@ -374,63 +489,63 @@
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation type="unfinished"></translation>
+        <translation>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</translation>
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>A temporary file cannot be written (%1): make room in the folder for temporary files.</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>The filters could not make pages of the document %1: %2.</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>The picture %1 is damaged (%2): make it anew or name another.</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>The document %1 is locked with a password: save it without one and print that.</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>The document %1 is damaged (%2): make it anew or name another.</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>The document %1 has no page: name one with something to print.</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>None of the document&apos;s pages is chosen: change the page range.</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -443,67 +558,83 @@
     </message>
     <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation type="unfinished"></translation>
+        <translation>The document %1 is gone: nothing was printed. Put it back, or open another.</translation>
     </message>
     <message>
         <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The document %1 has changed since it was opened: nothing was printed. Open it again.</translation>
     </message>
     <message>
         <source>it is larger than any printer description</source>
-        <translation type="unfinished"></translation>
+        <translation>it is larger than any printer description</translation>
     </message>
     <message>
         <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</translation>
     </message>
     <message>
         <source>Printing was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Printing was stopped.</translation>
     </message>
     <message>
         <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>The filters of %1 did not come to an end with the document %2 and were stopped.</translation>
     </message>
     <message>
         <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>The printer description %1 is trusted and runs programs or commands of its own: %2.</translation>
     </message>
     <message>
         <source>a file of this name is there</source>
-        <translation type="unfinished"></translation>
+        <translation>a file of this name is there</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</translation>
     </message>
     <message>
         <source>standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>standard output</translation>
     </message>
     <message>
         <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>The output (%1) is the same file as %2, which is only read: name another with --output.</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>standard input</translation>
     </message>
     <message>
         <source>it is a pipe or a device</source>
-        <translation type="unfinished"></translation>
+        <translation>it is a pipe or a device</translation>
     </message>
     <message>
         <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation type="unfinished"></translation>
+        <translation>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</translation>
     </message>
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>The printer&apos;s bytes went to standard output (%1 bytes).</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>Page %1 of the document %2 has no size: leave it out or make it anew.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>The print system makes a length so near to that of another paper into that: %1 mm.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>more than %1 MiB of memory would be needed</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation>Tamaño:</translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation>Reducir si es demasiado grande</translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation>Ajustar a la cinta</translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation>Llenar la cinta y cortar el resto</translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation>Tamaño original</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation>Dirección:</translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation>Lado largo a lo largo de la cinta</translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation>A lo largo de la cinta</translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation>A lo ancho de la cinta</translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation>A lo largo de la cinta, al revés</translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation>A lo ancho de la cinta, al revés</translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>A lo largo de la cinta:</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>A lo ancho de la cinta:</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Arriba</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Abajo</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -145,6 +224,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>&amp;Papel:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation>&amp;Ajustar longitud</translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation>Dar a la cinta la longitud que necesita el contenido, con ambos márgenes</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation>Mantener a&amp;justada</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impresión</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Imprimiendo…</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Disposición</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation>No hay nada dibujado en el documento: la cinta conserva su longitud.</translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation>El documento necesita más cinta de la que admite la impresora: se reduce.</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation>La longitud de la cinta se fijó a mano en %1 mm. ¿Sustituirla por la que se ajusta?</translation>
     </message>
 </context>
 <context>
@@ -374,63 +489,63 @@
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los filtros de la impresora se ejecutan sin aislamiento porque falta bubblewrap: instale el paquete bubblewrap.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los filtros de la impresora se ejecutan sin aislamiento porque este equipo no lo permite (%1): permita que los usuarios creen espacios de nombres.</translation>
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir un archivo temporal (%1). Libere espacio en la carpeta de archivos temporales.</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los filtros no pudieron generar páginas del documento %1: %2.</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen %1 (%2 x %3 puntos) no se puede descomprimir (%4). Redúzcala o imprímala como PDF.</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen %1 está dañada (%2). Vuelva a crearla o indique otra.</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>El documento %1 no se puede componer en la cinta. Imprima un PDF, un archivo PostScript, una imagen o texto sin formato.</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>El documento %1 está protegido con contraseña. Guárdelo sin ella e imprima ese.</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>El documento %1 está dañado (%2). Vuelva a crearlo o indique otro.</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>El documento %1 no tiene páginas. Indique uno con algo que imprimir.</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden componer las etiquetas (%1). Compruebe que el documento está completo y que hay espacio para archivos temporales.</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descripción de esta impresora no admite páginas de la longitud elegida. La página sigue midiendo %1 mm de largo y la longitud queda a cargo del controlador.</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sistema de impresión convierte una longitud tan próxima a la de la cinta en esa misma: %1 mm.</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los márgenes no dejan cinta en la que imprimir. Alargue la cinta o reduzca el margen.</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha elegido ninguna página del documento. Cambie el intervalo de páginas.</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -443,67 +558,83 @@
     </message>
     <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation type="unfinished"></translation>
+        <translation>El documento %1 ya no está: no se imprimió nada. Vuelva a ponerlo o abra otro.</translation>
     </message>
     <message>
         <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El documento %1 ha cambiado desde que se abrió: no se imprimió nada. Ábralo de nuevo.</translation>
     </message>
     <message>
         <source>it is larger than any printer description</source>
-        <translation type="unfinished"></translation>
+        <translation>es más grande que cualquier descripción de impresora</translation>
     </message>
     <message>
         <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo PPD %1 no se puede guardar en un archivo temporal (%2): libere espacio allí.</translation>
     </message>
     <message>
         <source>Printing was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se detuvo la impresión.</translation>
     </message>
     <message>
         <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los filtros de %1 no terminaban con el documento %2 y se detuvieron.</translation>
     </message>
     <message>
         <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descripción de impresora %1 es de confianza y ejecuta programas u órdenes propios: %2.</translation>
     </message>
     <message>
         <source>a file of this name is there</source>
-        <translation type="unfinished"></translation>
+        <translation>ya hay un archivo con este nombre</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo %1 solo se reemplaza entero, y no se puede escribir nada a su lado (%2): indique otro con --output.</translation>
     </message>
     <message>
         <source>standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>la salida estándar</translation>
     </message>
     <message>
         <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>La salida (%1) es el mismo archivo que %2, que solo se lee: indique otra con --output.</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>la entrada estándar</translation>
     </message>
     <message>
         <source>it is a pipe or a device</source>
-        <translation type="unfinished"></translation>
+        <translation>es una tubería o un dispositivo</translation>
     </message>
     <message>
         <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descripción de impresora %1 trae programas u órdenes propios de los que nadie responde: %2. No se ejecutó nada. Si confía en su autor, repita con --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>El PPD de la cola %1 no se puede guardar en un archivo temporal (%2): libere espacio allí.</translation>
     </message>
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>Los datos de la impresora fueron a la salida estándar (%1 bytes).</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>La página %1 del documento %2 no tiene tamaño. Omítala o vuelva a crearla.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>El sistema de impresión convierte una longitud tan próxima a la de otro papel en esa misma: %1 mm.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>se necesitarían más de %1 MiB de memoria</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>No se pueden escribir las páginas del documento %1 (%2). Libere espacio en la carpeta de archivos temporales.</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation>Taille&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation>Réduire si trop grand</translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation>Ajuster au ruban</translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation>Remplir le ruban, couper le reste</translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation>Taille d’origine</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation>Sens&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation>Grand côté le long du ruban</translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation>Le long du ruban</translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation>En travers du ruban</translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation>Le long du ruban, à l’envers</translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation>En travers du ruban, à l’envers</translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>Le long du ruban&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>À gauche</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Au milieu</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>À droite</translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>En travers du ruban&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>En haut</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>En bas</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -145,6 +224,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>&amp;Papier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation>&amp;Ajuster la longueur</translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation>Donner au ruban la longueur qu’exige le contenu, avec les deux marges</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation>&amp;Garder ajustée</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Impression…</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Disposition</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation>Rien n’est dessiné sur le document&#xa0;: le ruban garde sa longueur.</translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation>Le document demande plus de ruban que l’imprimante n’en prend&#xa0;: il est réduit.</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation>La longueur du ruban a été réglée à la main sur %1 mm. La remplacer par la longueur qui convient&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -374,63 +489,63 @@
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les filtres de l’imprimante s’exécutent sans confinement, car bubblewrap est absent : installez le paquet bubblewrap.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les filtres de l’imprimante s’exécutent sans confinement, car cette machine ne le permet pas (%1) : autorisez les utilisateurs à créer des espaces de noms.</translation>
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier temporaire ne peut pas être écrit (%1). Libérez de la place dans le dossier des fichiers temporaires.</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les filtres n’ont pas pu faire de pages du document %1 : %2.</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image %1 (%2 x %3 points) ne peut pas être décompressée (%4). Réduisez-la ou imprimez-la en PDF.</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image %1 est endommagée (%2). Recréez-la ou indiquez-en une autre.</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 ne peut pas être mis en page sur un ruban. Imprimez un PDF, un fichier PostScript, une image ou du texte brut.</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 est protégé par un mot de passe. Enregistrez-le sans mot de passe et imprimez celui-ci.</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 est endommagé (%2). Recréez-le ou indiquez-en un autre.</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 n’a aucune page. Indiquez-en un qui contienne quelque chose à imprimer.</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les étiquettes ne peuvent pas être mises en page (%1). Vérifiez que le document est complet et qu’il y a de la place pour les fichiers temporaires.</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>La description de cette imprimante n’accepte aucune page de la longueur choisie. La page garde une longueur de %1 mm et la longueur est laissée au pilote.</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une longueur aussi proche de celle du ruban est remplacée par celle-ci par le système d’impression : %1 mm.</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les marges ne laissent rien du ruban à imprimer. Allongez le ruban ou réduisez la marge.</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune page du document n’est choisie. Modifiez l’étendue de pages.</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -443,67 +558,83 @@
     </message>
     <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 a disparu : rien n’a été imprimé. Remettez-le en place ou ouvrez-en un autre.</translation>
     </message>
     <message>
         <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 a changé depuis son ouverture : rien n’a été imprimé. Ouvrez-le de nouveau.</translation>
     </message>
     <message>
         <source>it is larger than any printer description</source>
-        <translation type="unfinished"></translation>
+        <translation>il est plus grand que toute description d’imprimante</translation>
     </message>
     <message>
         <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier PPD %1 ne peut pas être conservé dans un fichier temporaire (%2) : libérez-y de la place.</translation>
     </message>
     <message>
         <source>Printing was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’impression a été arrêtée.</translation>
     </message>
     <message>
         <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les filtres de %1 n’en finissaient pas avec le document %2 et ont été arrêtés.</translation>
     </message>
     <message>
         <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La description d’imprimante %1 est jugée digne de confiance et exécute ses propres programmes ou commandes : %2.</translation>
     </message>
     <message>
         <source>a file of this name is there</source>
-        <translation type="unfinished"></translation>
+        <translation>un fichier de ce nom existe déjà</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier %1 n’est remplacé qu’en entier, et rien ne peut être écrit à côté (%2) : indiquez-en un autre avec --output.</translation>
     </message>
     <message>
         <source>standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>la sortie standard</translation>
     </message>
     <message>
         <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sortie (%1) est le même fichier que %2, qui n’est que lu : indiquez-en une autre avec --output.</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>l’entrée standard</translation>
     </message>
     <message>
         <source>it is a pipe or a device</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un tube ou un périphérique</translation>
     </message>
     <message>
         <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation type="unfinished"></translation>
+        <translation>La description d’imprimante %1 apporte ses propres programmes ou commandes, dont personne ne répond : %2. Rien n’a été exécuté. Si vous faites confiance à son auteur, recommencez avec --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le PPD de la file %1 ne peut pas être conservé dans un fichier temporaire (%2) : libérez-y de la place.</translation>
     </message>
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>Les données d’impression sont allées sur la sortie standard (%1 octets).</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>La page %1 du document %2 n’a pas de taille. Omettez-la ou recréez-la.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>Une longueur aussi proche de celle d’un autre papier est remplacée par celle-ci par le système d’impression : %1 mm.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>plus de %1 Mio de mémoire seraient nécessaires</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>Les pages du document %1 ne peuvent pas être écrites (%2). Libérez de la place dans le dossier des fichiers temporaires.</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation>Dimensione:</translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation>Riduci se troppo grande</translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation>Adatta al nastro</translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation>Riempi il nastro, taglia il resto</translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation>Dimensione originale</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation>Direzione:</translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation>Lato lungo lungo il nastro</translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation>Lungo il nastro</translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation>Di traverso al nastro</translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation>Lungo il nastro, capovolto</translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation>Di traverso al nastro, capovolto</translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>Lungo il nastro:</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Sinistra</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Destra</translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>Di traverso al nastro:</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>In alto</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>In basso</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -145,6 +224,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>C&amp;arta:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation>Adatta &amp;lunghezza</translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation>Rende il nastro lungo quanto serve al contenuto, con entrambi i margini</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation>&amp;Mantieni adattata</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Stampa in corso</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Stampa in corso…</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Disposizione</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation>Sul documento non è disegnato nulla: il nastro mantiene la sua lunghezza.</translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation>Il documento richiede più nastro di quanto la stampante accetti: viene ridotto.</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation>La lunghezza del nastro è stata impostata a mano su %1 mm. Sostituirla con quella adatta?</translation>
     </message>
 </context>
 <context>
@@ -374,63 +489,63 @@
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation type="unfinished"></translation>
+        <translation>I filtri della stampante vengono eseguiti senza isolamento perché manca bubblewrap: installare il pacchetto bubblewrap.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>I filtri della stampante vengono eseguiti senza isolamento perché questo computer non lo consente (%1): consentire agli utenti di creare spazi dei nomi.</translation>
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere un file temporaneo (%1). Liberare spazio nella cartella dei file temporanei.</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>I filtri non sono riusciti a creare pagine dal documento %1: %2.</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’immagine %1 (%2 x %3 punti) non può essere decompressa (%4). Ridurla o stamparla come PDF.</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’immagine %1 è danneggiata (%2). Ricrearla o indicarne un’altra.</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 non può essere disposto sul nastro. Stampare un PDF, un file PostScript, un’immagine o testo semplice.</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 è protetto da password. Salvarlo senza password e stampare quello.</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 è danneggiato (%2). Ricrearlo o indicarne un altro.</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 non ha pagine. Indicarne uno con qualcosa da stampare.</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile disporre le etichette (%1). Verificare che il documento sia completo e che ci sia spazio per i file temporanei.</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descrizione di questa stampante non accetta pagine della lunghezza scelta. La pagina resta lunga %1 mm e la lunghezza è lasciata al driver.</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il sistema di stampa trasforma una lunghezza così vicina a quella del nastro in quest’ultima: %1 mm.</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>I margini non lasciano nastro su cui stampare. Allungare il nastro o ridurre il margine.</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna pagina del documento è selezionata. Modificare l’intervallo di pagine.</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -443,67 +558,83 @@
     </message>
     <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 non c’è più: non è stato stampato nulla. Rimetterlo al suo posto o aprirne un altro.</translation>
     </message>
     <message>
         <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 è cambiato da quando è stato aperto: non è stato stampato nulla. Aprirlo di nuovo.</translation>
     </message>
     <message>
         <source>it is larger than any printer description</source>
-        <translation type="unfinished"></translation>
+        <translation>è più grande di qualsiasi descrizione di stampante</translation>
     </message>
     <message>
         <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file PPD %1 non può essere conservato in un file temporaneo (%2): liberare spazio.</translation>
     </message>
     <message>
         <source>Printing was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>La stampa è stata interrotta.</translation>
     </message>
     <message>
         <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>I filtri di %1 non terminavano con il documento %2 e sono stati interrotti.</translation>
     </message>
     <message>
         <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descrizione di stampante %1 è considerata attendibile ed esegue programmi o comandi propri: %2.</translation>
     </message>
     <message>
         <source>a file of this name is there</source>
-        <translation type="unfinished"></translation>
+        <translation>esiste già un file con questo nome</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file %1 viene sostituito solo per intero e accanto non si può scrivere nulla (%2): indicarne un altro con --output.</translation>
     </message>
     <message>
         <source>standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>lo standard output</translation>
     </message>
     <message>
         <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’output (%1) è lo stesso file di %2, che viene solo letto: indicarne un altro con --output.</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>lo standard input</translation>
     </message>
     <message>
         <source>it is a pipe or a device</source>
-        <translation type="unfinished"></translation>
+        <translation>è una pipe o un dispositivo</translation>
     </message>
     <message>
         <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descrizione di stampante %1 porta programmi o comandi propri, di cui nessuno risponde: %2. Non è stato eseguito nulla. Se ci si fida dell’autore, ripetere con --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il PPD della coda %1 non può essere conservato in un file temporaneo (%2): liberare spazio.</translation>
     </message>
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>I dati di stampa sono andati allo standard output (%1 byte).</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>La pagina %1 del documento %2 non ha dimensioni. Tralasciarla o ricrearla.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>Il sistema di stampa trasforma una lunghezza così vicina a quella di un’altra carta in quest’ultima: %1 mm.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>servirebbero più di %1 MiB di memoria</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>Impossibile scrivere le pagine del documento %1 (%2). Liberare spazio nella cartella dei file temporanei.</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation>サイズ：</translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation>大きすぎる場合は縮小</translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation>テープに合わせる</translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation>テープを埋め、はみ出しは切る</translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation>元のサイズ</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation>向き：</translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation>長辺をテープに沿わせる</translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation>テープに沿って</translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation>テープを横切って</translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation>テープに沿って、上下逆</translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation>テープを横切って、上下逆</translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>テープ方向：</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>テープ幅方向：</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -143,6 +222,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>用紙(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation>長さを合わせる(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation>描かれた内容と両端の余白に必要な長さにします</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation>常に合わせる(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>印刷しています…</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation>文書には何も描かれていません。テープの長さは変わりません。</translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation>文書に必要なテープがプリンターの上限を超えるため、縮小します。</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation>テープの長さは手動で %1 mm に設定されています。合う長さに置き換えますか？</translation>
     </message>
 </context>
 <context>
@@ -372,63 +487,63 @@
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation type="unfinished"></translation>
+        <translation>bubblewrap がないため、プリンターのフィルターは隔離されずに実行されます。パッケージ bubblewrap をインストールしてください。</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピューターでは許可されていないため (%1)、プリンターのフィルターは隔離されずに実行されます。ユーザーが名前空間を作れるようにしてください。</translation>
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>一時ファイルを書き込めません（%1）。一時ファイルのフォルダーの空き容量を増やしてください。</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルターは文書 %1 をページにできませんでした: %2。</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像 %1（%2 x %3 ドット）を展開できません（%4）。小さくするか、PDF として印刷してください。</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像 %1 は壊れています（%2）。作り直すか、別の画像を指定してください。</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>文書 %1 はテープに割り付けられません。PDF、PostScript ファイル、画像、またはプレーンテキストを印刷してください。</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>文書 %1 はパスワードで保護されています。パスワードなしで保存し、それを印刷してください。</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>文書 %1 は壊れています（%2）。作り直すか、別の文書を指定してください。</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>文書 %1 にはページがありません。印刷するもののある文書を指定してください。</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルを割り付けられません（%1）。文書が完全であること、一時ファイルのための空き容量があることを確認してください。</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプリンターの記述では、選んだ長さのページを使えません。ページの長さは %1 mm のままで、長さはドライバーに任されます。</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>テープ本来の長さにこれほど近い長さは、印刷システムによってその長さ（%1 mm）になります。</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>余白のために、テープに印刷できる部分が残りません。テープを長くするか、余白を小さくしてください。</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>文書のページが 1 つも選ばれていません。ページ範囲を変更してください。</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -441,67 +556,83 @@
     </message>
     <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation type="unfinished"></translation>
+        <translation>書類 %1 がなくなりました。何も印刷されていません。元に戻すか、別の書類を開いてください。</translation>
     </message>
     <message>
         <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>書類 %1 は開いた後に変更されました。何も印刷されていません。もう一度開いてください。</translation>
     </message>
     <message>
         <source>it is larger than any printer description</source>
-        <translation type="unfinished"></translation>
+        <translation>どのプリンター記述よりも大きいファイルです</translation>
     </message>
     <message>
         <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD ファイル %1 を一時ファイルに保存できません (%2)。空きを作ってください。</translation>
     </message>
     <message>
         <source>Printing was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷を中止しました。</translation>
     </message>
     <message>
         <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のフィルターは書類 %2 の処理を終えなかったため、停止しました。</translation>
     </message>
     <message>
         <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター記述 %1 は信頼されており、独自のプログラムまたはコマンドを実行します: %2。</translation>
     </message>
     <message>
         <source>a file of this name is there</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前のファイルがすでにあります</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル %1 は全体としてのみ置き換えられますが、同じ場所に書き込めません (%2)。--output で別のファイルを指定してください。</translation>
     </message>
     <message>
         <source>standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>標準出力</translation>
     </message>
     <message>
         <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>出力 (%1) は、読み取り専用で扱う %2 と同じファイルです。--output で別のファイルを指定してください。</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力</translation>
     </message>
     <message>
         <source>it is a pipe or a device</source>
-        <translation type="unfinished"></translation>
+        <translation>パイプまたはデバイスです</translation>
     </message>
     <message>
         <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター記述 %1 には、誰も保証していない独自のプログラムまたはコマンドが含まれています: %2。何も実行されていません。作成者を信頼する場合は、--trust-ppd を付けて繰り返してください。</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>キュー %1 の PPD を一時ファイルに保存できません (%2)。空きを作ってください。</translation>
     </message>
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターのデータを標準出力に送りました (%1 バイト)。</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>文書 %2 の %1 ページには大きさがありません。そのページを除くか、作り直してください。</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>別の用紙の長さにこれほど近い長さは、印刷システムによってその長さ（%1 mm）になります。</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>%1 MiB を超えるメモリーが必要です</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>文書 %1 のページを書き込めません（%2）。一時ファイルのフォルダーの空き容量を増やしてください。</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation>크기:</translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation>너무 크면 축소</translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation>테이프에 맞춤</translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation>테이프를 채우고 나머지는 자름</translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation>원본 크기</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation>방향:</translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation>긴 변을 테이프 방향으로</translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation>테이프 방향</translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation>테이프 가로 방향</translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation>테이프 방향, 거꾸로</translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation>테이프 가로 방향, 거꾸로</translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>테이프 방향:</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>가운데</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>테이프 폭 방향:</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>위</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>아래</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -143,6 +222,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>용지(&amp;A):</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation>길이 맞추기(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation>그려진 내용과 양쪽 여백에 필요한 길이로 만듭니다</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation>계속 맞춤(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>인쇄 중</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>인쇄하는 중…</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>배치</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation>문서에 그려진 것이 없습니다. 테이프 길이를 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation>문서에 필요한 테이프가 프린터 한도보다 길어 축소합니다.</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation>테이프 길이가 직접 %1 mm로 설정되었습니다. 맞는 길이로 바꿀까요?</translation>
     </message>
 </context>
 <context>
@@ -372,63 +487,63 @@
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation type="unfinished"></translation>
+        <translation>bubblewrap가 없어 프린터 필터가 격리 없이 실행됩니다. bubblewrap 패키지를 설치하십시오.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 컴퓨터에서 허용되지 않아(%1) 프린터 필터가 격리 없이 실행됩니다. 사용자가 네임스페이스를 만들 수 있게 하십시오.</translation>
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>임시 파일을 쓸 수 없습니다(%1). 임시 파일 폴더의 공간을 확보하십시오.</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>필터가 문서 %1을(를) 페이지로 만들지 못했습니다: %2.</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>그림 %1(%2 x %3 도트)을(를) 풀 수 없습니다(%4). 작게 만들거나 PDF로 인쇄하십시오.</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>그림 %1이(가) 손상되었습니다(%2). 다시 만들거나 다른 그림을 지정하십시오.</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>문서 %1은(는) 테이프에 배치할 수 없습니다. PDF, PostScript 파일, 그림 또는 일반 텍스트를 인쇄하십시오.</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>문서 %1은(는) 암호로 잠겨 있습니다. 암호 없이 저장한 다음 그 문서를 인쇄하십시오.</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>문서 %1이(가) 손상되었습니다(%2). 다시 만들거나 다른 문서를 지정하십시오.</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>문서 %1에 페이지가 없습니다. 인쇄할 내용이 있는 문서를 지정하십시오.</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>라벨을 배치할 수 없습니다(%1). 문서가 온전한지, 임시 파일을 위한 공간이 있는지 확인하십시오.</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 프린터의 설명은 선택한 길이의 페이지를 허용하지 않습니다. 페이지 길이는 %1 mm로 유지되고 길이는 드라이버에 맡겨집니다.</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>테이프 자체의 길이에 이렇게 가까운 길이는 인쇄 시스템이 그 길이로 바꿉니다: %1 mm.</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>여백 때문에 테이프에 인쇄할 부분이 남지 않습니다. 테이프를 길게 하거나 여백을 줄이십시오.</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>문서의 페이지가 하나도 선택되지 않았습니다. 페이지 범위를 변경하십시오.</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -441,67 +556,83 @@
     </message>
     <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation type="unfinished"></translation>
+        <translation>문서 %1이(가) 없어졌습니다. 아무것도 인쇄되지 않았습니다. 되돌려 놓거나 다른 문서를 여십시오.</translation>
     </message>
     <message>
         <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>문서 %1이(가) 연 뒤에 바뀌었습니다. 아무것도 인쇄되지 않았습니다. 다시 여십시오.</translation>
     </message>
     <message>
         <source>it is larger than any printer description</source>
-        <translation type="unfinished"></translation>
+        <translation>어떤 프린터 설명보다도 큽니다</translation>
     </message>
     <message>
         <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>PPD 파일 %1을(를) 임시 파일에 보관할 수 없습니다(%2). 공간을 확보하십시오.</translation>
     </message>
     <message>
         <source>Printing was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>인쇄를 중지했습니다.</translation>
     </message>
     <message>
         <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 필터가 문서 %2을(를) 끝내지 못해 중지되었습니다.</translation>
     </message>
     <message>
         <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터 설명 %1은(는) 신뢰되어 자체 프로그램이나 명령을 실행합니다: %2.</translation>
     </message>
     <message>
         <source>a file of this name is there</source>
-        <translation type="unfinished"></translation>
+        <translation>같은 이름의 파일이 있습니다</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 %1은(는) 통째로만 바뀌는데 그 옆에 쓸 수 없습니다(%2). --output으로 다른 파일을 지정하십시오.</translation>
     </message>
     <message>
         <source>standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>표준 출력</translation>
     </message>
     <message>
         <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>출력(%1)은 읽기만 하는 %2와(과) 같은 파일입니다. --output으로 다른 파일을 지정하십시오.</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>표준 입력</translation>
     </message>
     <message>
         <source>it is a pipe or a device</source>
-        <translation type="unfinished"></translation>
+        <translation>파이프 또는 장치입니다</translation>
     </message>
     <message>
         <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터 설명 %1에 아무도 보증하지 않는 자체 프로그램이나 명령이 들어 있습니다: %2. 아무것도 실행되지 않았습니다. 만든 이를 신뢰한다면 --trust-ppd로 다시 실행하십시오.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>대기열 %1의 PPD를 임시 파일에 보관할 수 없습니다(%2). 공간을 확보하십시오.</translation>
     </message>
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>프린터 데이터를 표준 출력으로 보냈습니다(%1바이트).</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>문서 %2의 %1페이지에 크기가 없습니다. 그 페이지를 빼거나 다시 만드십시오.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>다른 용지의 길이에 이렇게 가까운 길이는 인쇄 시스템이 그 길이로 바꿉니다: %1 mm.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>%1 MiB가 넘는 메모리가 필요합니다</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>문서 %1의 페이지를 쓸 수 없습니다(%2). 임시 파일 폴더의 공간을 확보하십시오.</translation>
     </message>
 </context>
 </TS>

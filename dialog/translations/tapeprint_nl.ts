@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation>Grootte:</translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation>Verkleinen indien te groot</translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation>Aanpassen aan tape</translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation>Tape vullen, rest afsnijden</translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation>Oorspronkelijke grootte</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation>Richting:</translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation>Lange zijde langs de tape</translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation>Langs de tape</translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation>Dwars op de tape</translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation>Langs de tape, ondersteboven</translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation>Dwars op de tape, ondersteboven</translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>Langs de tape:</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Midden</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>Dwars op de tape:</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Boven</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Onder</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -145,6 +224,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>Pap&amp;ier:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation>&amp;Lengte passend maken</translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation>De tape zo lang maken als de inhoud nodig heeft, met beide marges</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation>&amp;Passend houden</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Bezig met afdrukken</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Afdrukken…</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Indeling</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation>Er is niets op het document getekend: de tape houdt haar lengte.</translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation>Het document heeft meer tape nodig dan de printer aankan: het wordt verkleind.</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation>De tapelengte is met de hand op %1 mm gezet. Vervangen door de passende lengte?</translation>
     </message>
 </context>
 <context>
@@ -374,63 +489,63 @@
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation type="unfinished"></translation>
+        <translation>De filters van de printer draaien zonder afscherming, omdat bubblewrap ontbreekt: installeer het pakket bubblewrap.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>De filters van de printer draaien zonder afscherming, omdat deze computer dat niet toestaat (%1): laat gebruikers naamruimten maken.</translation>
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Een tijdelijk bestand kan niet worden geschreven (%1). Maak ruimte vrij in de map voor tijdelijke bestanden.</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>De filters konden van het document %1 geen pagina’s maken: %2.</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>De afbeelding %1 (%2 x %3 punten) kan niet worden uitgepakt (%4). Maak haar kleiner of druk haar als pdf af.</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>De afbeelding %1 is beschadigd (%2). Maak haar opnieuw of noem een andere.</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het document %1 kan niet op tape worden geplaatst. Druk een pdf, een PostScript-bestand, een afbeelding of platte tekst af.</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het document %1 is met een wachtwoord vergrendeld. Bewaar het zonder wachtwoord en druk dat af.</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het document %1 is beschadigd (%2). Maak het opnieuw of noem een ander.</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het document %1 heeft geen pagina. Noem een document waarin iets af te drukken is.</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>De labels kunnen niet worden opgemaakt (%1). Controleer of het document volledig is en of er ruimte is voor tijdelijke bestanden.</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>De beschrijving van deze printer laat geen pagina van de gekozen lengte toe. De pagina blijft %1 mm lang en de lengte wordt aan het stuurprogramma overgelaten.</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Een lengte die zo dicht bij die van de tape zelf ligt, wordt door het afdruksysteem daarin veranderd: %1 mm.</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>De marges laten niets van de tape over om te bedrukken. Maak de tape langer of de marge kleiner.</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geen van de pagina’s van het document is gekozen. Wijzig het paginabereik.</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -443,67 +558,83 @@
     </message>
     <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het document %1 is verdwenen: er is niets afgedrukt. Zet het terug of open een ander.</translation>
     </message>
     <message>
         <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het document %1 is gewijzigd sinds het is geopend: er is niets afgedrukt. Open het opnieuw.</translation>
     </message>
     <message>
         <source>it is larger than any printer description</source>
-        <translation type="unfinished"></translation>
+        <translation>het is groter dan welke printerbeschrijving ook</translation>
     </message>
     <message>
         <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het PPD-bestand %1 kan niet in een tijdelijk bestand worden bewaard (%2): maak daar ruimte.</translation>
     </message>
     <message>
         <source>Printing was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het afdrukken is gestopt.</translation>
     </message>
     <message>
         <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>De filters van %1 kwamen niet klaar met het document %2 en zijn gestopt.</translation>
     </message>
     <message>
         <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>De printerbeschrijving %1 wordt vertrouwd en voert eigen programma’s of opdrachten uit: %2.</translation>
     </message>
     <message>
         <source>a file of this name is there</source>
-        <translation type="unfinished"></translation>
+        <translation>er is al een bestand met deze naam</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het bestand %1 wordt alleen in zijn geheel vervangen, en ernaast kan niets worden geschreven (%2): noem een ander met --output.</translation>
     </message>
     <message>
         <source>standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>standaarduitvoer</translation>
     </message>
     <message>
         <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>De uitvoer (%1) is hetzelfde bestand als %2, dat alleen wordt gelezen: noem een ander met --output.</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>standaardinvoer</translation>
     </message>
     <message>
         <source>it is a pipe or a device</source>
-        <translation type="unfinished"></translation>
+        <translation>het is een pijp of een apparaat</translation>
     </message>
     <message>
         <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation type="unfinished"></translation>
+        <translation>De printerbeschrijving %1 brengt eigen programma’s of opdrachten mee, waarvoor niemand instaat: %2. Er is niets uitgevoerd. Vertrouwt u de maker, herhaal het dan met --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>De PPD van wachtrij %1 kan niet in een tijdelijk bestand worden bewaard (%2): maak daar ruimte.</translation>
     </message>
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>De printergegevens gingen naar de standaarduitvoer (%1 bytes).</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>Pagina %1 van het document %2 heeft geen afmetingen. Laat die weg of maak die opnieuw.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>Een lengte die zo dicht bij die van een ander papier ligt, wordt door het afdruksysteem daarin veranderd: %1 mm.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>er zou meer dan %1 MiB geheugen nodig zijn</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>De pagina’s van het document %1 kunnen niet worden geschreven (%2). Maak ruimte vrij in de map voor tijdelijke bestanden.</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation>大小：</translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation>过大时缩小</translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation>适合标签带</translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation>填满标签带，裁去其余</translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation>原始大小</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation>方向：</translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation>长边沿标签带</translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation>沿标签带</translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation>横跨标签带</translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation>沿标签带，上下颠倒</translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation>横跨标签带，上下颠倒</translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>沿标签带：</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>居中</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation>横跨标签带：</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -143,6 +222,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>纸张(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation>适配长度(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation>使标签带长度恰好容纳内容和两端边距</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation>保持适配(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>正在打印</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>正在打印…</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation>文档上没有任何内容：标签带长度保持不变。</translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation>文档所需标签带超出打印机上限：将缩小文档。</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation>标签带长度已手动设为 %1 mm。要替换为合适的长度吗？</translation>
     </message>
 </context>
 <context>
@@ -372,63 +487,63 @@
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
-        <translation type="unfinished"></translation>
+        <translation>由于缺少 bubblewrap，打印机的过滤器在没有隔离的情况下运行：请安装软件包 bubblewrap。</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>由于这台计算机不允许（%1），打印机的过滤器在没有隔离的情况下运行：请允许用户创建命名空间。</translation>
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入临时文件（%1）。请在临时文件夹中腾出空间。</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>过滤器无法将文档 %1 转换为页面：%2。</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>图片 %1（%2 x %3 点）无法解压（%4）。请缩小图片，或将其打印为 PDF。</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>图片 %1 已损坏（%2）。请重新生成或指定其他图片。</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>文档 %1 无法排在标签带上。请打印 PDF、PostScript 文件、图片或纯文本。</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>文档 %1 受密码保护。请另存为无密码的文档再打印。</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>文档 %1 已损坏（%2）。请重新生成或指定其他文档。</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>文档 %1 没有页面。请指定有内容可打印的文档。</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法排版标签（%1）。请检查文档是否完整，以及临时文件是否有空间。</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>此打印机的描述不支持所选长度的页面。页面长度仍为 %1 毫米，实际长度由驱动程序决定。</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>与标签带自身长度如此接近的长度会被打印系统改为该长度：%1 毫米。</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>边距使标签带上没有可打印的部分。请增加长度或减小边距。</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>未选择文档的任何页面。请更改页面范围。</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -441,67 +556,83 @@
     </message>
     <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
-        <translation type="unfinished"></translation>
+        <translation>文档 %1 已不存在：没有打印任何内容。请将其放回，或打开另一个文档。</translation>
     </message>
     <message>
         <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>文档 %1 在打开之后已更改：没有打印任何内容。请重新打开。</translation>
     </message>
     <message>
         <source>it is larger than any printer description</source>
-        <translation type="unfinished"></translation>
+        <translation>它比任何打印机描述都大</translation>
     </message>
     <message>
         <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法将 PPD 文件 %1 保存到临时文件（%2）：请腾出空间。</translation>
     </message>
     <message>
         <source>Printing was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印已停止。</translation>
     </message>
     <message>
         <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 的过滤器未能完成文档 %2，已被停止。</translation>
     </message>
     <message>
         <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印机描述 %1 受信任，会运行自带的程序或命令：%2。</translation>
     </message>
     <message>
         <source>a file of this name is there</source>
-        <translation type="unfinished"></translation>
+        <translation>已有同名文件</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件 %1 只能整体替换，而其旁边无法写入（%2）：请用 --output 指定另一个文件。</translation>
     </message>
     <message>
         <source>standard output</source>
-        <translation type="unfinished"></translation>
+        <translation>标准输出</translation>
     </message>
     <message>
         <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation type="unfinished"></translation>
+        <translation>输出（%1）与只读取的 %2 是同一个文件：请用 --output 指定另一个。</translation>
     </message>
     <message>
         <source>standard input</source>
-        <translation type="unfinished"></translation>
+        <translation>标准输入</translation>
     </message>
     <message>
         <source>it is a pipe or a device</source>
-        <translation type="unfinished"></translation>
+        <translation>它是管道或设备</translation>
     </message>
     <message>
         <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation type="unfinished"></translation>
+        <translation>打印机描述 %1 自带无人担保的程序或命令：%2。没有运行任何内容。如果您信任其作者，请加上 --trust-ppd 重试。</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法将队列 %1 的 PPD 保存到临时文件（%2）：请腾出空间。</translation>
     </message>
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
-        <translation type="unfinished"></translation>
+        <translation>打印数据已送往标准输出（%1 字节）。</translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>文档 %2 的第 %1 页没有尺寸。请略过该页或重新生成。</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>与另一种纸张长度如此接近的长度会被打印系统改为该长度：%1 毫米。</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>需要超过 %1 MiB 的内存</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>无法写入文档 %1 的页面（%2）。请在临时文件夹中腾出空间。</translation>
     </message>
 </context>
 </TS>

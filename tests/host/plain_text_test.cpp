@@ -82,9 +82,10 @@ protected:
     {
         panels.open(hosttest::testDestination(folder, hostileOption), {});
         dialog = std::make_unique<PrintDialog>(job, panels, PrintDialog::Setup{{}, u"<b>x</b>[*]"_qs, {}, {}},
-                                               [](QString *error) {
+                                               [](const job::SettledJob & /*job*/, const std::atomic<bool> & /*stop*/,
+                                                  QString *error) -> std::optional<job::PrintedJob> {
                                                    *error = u"<b>no</b> &amp; never"_qs;
-                                                   return QString();
+                                                   return std::nullopt;
                                                });
         dialog->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));

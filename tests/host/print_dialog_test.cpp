@@ -32,8 +32,6 @@ using namespace tapeprint::dialog;
 using hosttest::takeCalls;
 using job::DocumentSpool;
 
-const std::atomic<bool> neverStopped{false};
-
 class PrintDialogTest : public testing::Test
 {
 protected:
@@ -45,18 +43,14 @@ protected:
         destination.outputPath = outputPath = folder.filePath(u"out.prn"_qs);
         files = {hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n")};
         panels.open(std::move(destination), {});
-        dialog = std::make_unique<PrintDialog>(printJob, panels, PrintDialog::Setup{{}, u"label.txt"_qs, files, {}},
-                                               [this](QString *error) { return print(error); });
+        dialog = std::make_unique<PrintDialog>(
+            printJob, panels, PrintDialog::Setup{{}, u"label.txt"_qs, files, {}},
+            [this](const job::SettledJob &job, const std::atomic<bool> &stop, QString *error) {
+                return job::printJob(job, u"label.txt"_qs, files, stop, error);
+            });
         dialog->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
         QApplication::processEvents();
-    }
-
-    QString print(QString *error)
-    {
-        const std::optional<job::PrintedJob> done =
-            job::printJob(job::settle(printJob), u"label.txt"_qs, files, neverStopped, error);
-        return printed = done ? done->sentence() : QString();
     }
 
     template <typename Widget>
@@ -93,7 +87,6 @@ protected:
     QTemporaryDir folder;
     QString outputPath;
     QStringList files;
-    QString printed;
     job::Job printJob;
     Panels panels{printJob, hosttest::goodBundles()};
     std::unique_ptr<PrintDialog> dialog;
@@ -173,7 +166,7 @@ TEST_F(PrintDialogTest, Escape_CancelsAndTellsThePanel)
     QTest::keyClick(dialog.get(), Qt::Key_Escape);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(takeCalls(), QStringList{u"closes"_qs});
-    EXPECT_TRUE(printed.isNull());
+    EXPECT_FALSE(dialog->printed().has_value());
     EXPECT_FALSE(QFile::exists(outputPath));
 }
 
@@ -222,9 +215,11 @@ TEST_F(PrintDialogTest, Print_SavesAsksPrintsAndSaysWhereTheBytesWent)
     });
     QApplication::processEvents();
     click(u"print"_qs);
+    EXPECT_TRUE(dialog->isVisible()); // printed away from the window's thread
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog->isVisible(); }, 30000));
     EXPECT_TRUE(said.contains(outputPath)) << said.toStdString();
-    EXPECT_EQ(printed, said);
-    EXPECT_FALSE(dialog->isVisible());
+    ASSERT_TRUE(dialog->printed().has_value());
+    EXPECT_EQ(dialog->printed()->sentence(), said);
     EXPECT_EQ(takeCalls(), (QStringList{u"save"_qs, u"changed KsMargin=5.0, tape W12"_qs, u"shouldPrint"_qs,
                                         u"closes, printed"_qs}));
     QFile output(outputPath);

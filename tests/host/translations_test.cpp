@@ -7,6 +7,7 @@
 #include "job/Printing.h"
 #include "tests/support/TextPrinting.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QKeySequence>
 #include <QLabel>
@@ -90,13 +91,13 @@ TEST_P(TranslatedWindow, Mnemonics_AreThereAndNoneIsThereTwice)
             letters.append(QKeySequence::mnemonic(label->text()).toString());
         }
     }
-    for (const QPushButton *button : dialog->findChildren<QPushButton *>()) {
+    for (const QAbstractButton *button : dialog->findChildren<QAbstractButton *>()) {
         if (!QKeySequence::mnemonic(button->text()).isEmpty()) {
             letters.append(QKeySequence::mnemonic(button->text()).toString());
         }
     }
-    // Printer, tape, copies, panel, Revert, Print.
-    EXPECT_EQ(letters.size(), 6) << letters.join(u' ').toStdString();
+    // Printer, tape, copies, panel, Fit Length, Keep, Revert, Print.
+    EXPECT_EQ(letters.size(), 8) << letters.join(u' ').toStdString();
     EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(u' ').toStdString();
 }
 
