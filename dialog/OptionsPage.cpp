@@ -3,10 +3,12 @@
 #include "dialog/OptionsPage.h"
 
 #include "dialog/ChoicePopUp.h"
+#include "dialog/PlainText.h"
 #include "job/PpdMarks.h"
 
 #include <QComboBox>
 #include <QFormLayout>
+#include <QLabel>
 
 namespace tapeprint::dialog
 {
@@ -15,9 +17,12 @@ namespace
 {
 
 /// Whether an option is one that the dialog's other controls do not show, and a pop-up can.
-bool isShown(const Panels &panels, const ppd_option_t &option)
+bool isShown(const job::TapeKeywords &tape, const Panels &panels, const ppd_option_t &option)
 {
     const QString key = QString::fromUtf8(option.keyword);
+    if (key == tape.lengthOption || key == tape.marginOption) { // a panel's, announced or not
+        return false;
+    }
     const bool isOneOf = option.ui == PPD_UI_PICKONE || option.ui == PPD_UI_BOOLEAN;
     return isOneOf && option.num_choices > 0 && key != job::OptionName::pageSize &&
            key != job::OptionName::pageRegion && !panels.announced(key);
@@ -30,7 +35,7 @@ OptionsPage::OptionsPage(const job::Job &job, const Panels &panels, QWidget *par
     auto *form = new QFormLayout(this);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     job::forEachOption(job.ppd(), [this, &panels](const ppd_option_t &option) {
-        if (isShown(panels, option)) {
+        if (isShown(mJob.tape(), panels, option)) {
             addOption(option);
         }
     });
@@ -46,9 +51,8 @@ void OptionsPage::addOption(const ppd_option_t &option)
     fillWithChoices(popUp, option);
     connect(popUp, &QComboBox::activated, this,
             [this, popUp, key] { Q_EMIT picked(key, popUp->currentData().toString()); });
-    QString text = QString::fromUtf8(option.text);
-    text.replace(u'&', QLatin1String("&&")); // a PPD's "&" is no mnemonic
-    qobject_cast<QFormLayout *>(layout())->addRow(tr("%1:", "name of an option").arg(text), popUp);
+    const QString text = tr("%1:", "name of an option").arg(QString::fromUtf8(option.text));
+    qobject_cast<QFormLayout *>(layout())->addRow(plainLabel(text, popUp), popUp);
     mPopUps.push_back(popUp);
 }
 

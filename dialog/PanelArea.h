@@ -21,7 +21,8 @@ public:
             return QScrollArea::sizeHint();
         }
         const int frame = 2 * frameWidth();
-        const QSize whole = widget()->sizeHint() + QSize(frame, frame);
+        const QSize content = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+        const QSize whole = content + QSize(frame, frame);
         // A view that is cut in height alone gets room for the bar beside it.
         const QSize most = screen()->availableSize() * 2 / 3;
         const int bar = whole.height() > most.height() ? verticalScrollBar()->sizeHint().width() : 0;

@@ -2,6 +2,8 @@
 // The traffic with panels. Panels borrow the job's objects, so they always go first.
 #include "dialog/Panels.h"
 
+#include <pdekit/NotificationCenter.h>
+
 namespace tapeprint::dialog
 {
 
@@ -10,6 +12,9 @@ namespace
 
 /// Panels that correct one another's values never come to an end by themselves.
 constexpr std::size_t mostChangesInARow = 1000;
+
+/// The notice about a view at the end of a change of its areas.
+const QString areasChangedNotice = QStringLiteral("NSViewDidUpdateTrackingAreasNotification");
 
 } // namespace
 
@@ -41,6 +46,7 @@ void Panels::open(job::Destination destination, const job::JobOptions &asked)
 {
     release();
     mNotices.clear();
+    mReplaced.clear();
     mJob.open(std::move(destination), asked);
     make();
     mJob.rememberAsOpened();
@@ -49,7 +55,7 @@ void Panels::open(job::Destination destination, const job::JobOptions &asked)
 void Panels::make()
 {
     mHost = std::make_shared<PanelHost>(mJob, *this);
-    LoadedBundles loaded = loadBundles(mBundleFolders);
+    LoadedBundles loaded = loadBundles(mBundleFolders, mJob.ppd());
     mNotices += loaded.problems;
     mBundles = std::move(loaded.bundles);
     for (const LoadedBundle &bundle : mBundles) {
@@ -124,10 +130,76 @@ void Panels::show(std::size_t index)
 
 void Panels::showAll()
 {
-    for (std::size_t i = 0; i < mPanels.size(); ++i) {
-        show(i);
+    for (const PanelEntry &entry : mPanels) {
+        entry.panel->willShow();
     }
+}
+
+void Panels::remake()
+{
+    release();
+    mNotices.clear();
+    mJob.makeDefaultsOfOptions();
+    make();
+    showAll();
+}
+
+bool Panels::settle(QString *error)
+{
+    showAll();
+    const bool saved = saveValues(error);
+    mReplaced = job::replacedOptions(mJob.laidDown(), mJob.options());
     mJob.rememberAsOpened();
+    return saved;
+}
+
+QStringList Panels::notices() const
+{
+    QStringList notices = mNotices;
+    for (const job::ReplacedOption &replaced : mReplaced) {
+        const auto &[name, value] = replaced.carried;
+        if (mJob.options().value(name) == value) {
+            notices.append(replaced.sentence(mJob.ppd(), panelOf(name)));
+        }
+    }
+    return notices;
+}
+
+QString Panels::panelOf(const QString &key) const
+{
+    // A panel may send an option that it has not announced; where there is one panel alone, it was that one.
+    QStringList names;
+    for (const PanelEntry &entry : mPanels) {
+        if (entry.supportedKeys.contains(key)) {
+            return entry.name;
+        }
+        names.append(entry.name);
+    }
+    return names.join(QLatin1String(", "));
+}
+
+void Panels::changePaper(const QString &paper)
+{
+    showAll();
+    mJob.changeOption(job::OptionName::pageSize, paper);
+    showAll();
+    tellPaperAgain();
+}
+
+void Panels::tellPaperAgain()
+{
+    if (const QString paper = mJob.options().value(job::OptionName::pageSize); !paper.isEmpty()) {
+        tell(job::OptionName::pageSize, paper);
+    }
+}
+
+void Panels::tellAreasChanged()
+{
+    for (const PanelEntry &entry : mPanels) {
+        if (entry.view != nullptr) {
+            pdekit::NotificationCenter::defaultCenter().postNotification(areasChangedNotice, entry.view.data());
+        }
+    }
 }
 
 bool Panels::saveValues(QString *error)
@@ -155,6 +227,7 @@ bool Panels::shouldPrint(QString *refusedBy)
 
 bool Panels::revert(QString *error)
 {
+    const QString paper = mJob.options().value(job::OptionName::pageSize);
     mJob.revert();
     bool restored = true;
     for (const PanelEntry &entry : mPanels) {
@@ -164,7 +237,23 @@ bool Panels::revert(QString *error)
             restored = false;
         }
     }
+    if (mJob.options().value(job::OptionName::pageSize) != paper) {
+        tellPaperAgain();
+    }
     return restored;
+}
+
+job::JobOptions Panels::currentOptions() const
+{
+    job::JobOptions options = mJob.options();
+    for (const PanelEntry &entry : mPanels) {
+        if (const auto *live = dynamic_cast<const pdekit::PanelLiveValues *>(entry.panel.get())) {
+            for (const auto &[key, choice] : live->currentValues()) {
+                options.set(key, choice);
+            }
+        }
+    }
+    return options;
 }
 
 std::vector<PanelSummary> Panels::summary() const

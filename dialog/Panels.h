@@ -10,6 +10,7 @@
 #include "dialog/PanelHost.h"
 #include "dialog/PluginLoader.h"
 #include "job/Job.h"
+#include "job/ReplacedOptions.h"
 
 #include <QObject>
 #include <QPointer>
@@ -51,16 +52,28 @@ public:
     /// Releases the panels, opens the job's next destination, and makes that destination's panels.
     void open(job::Destination destination, const job::JobOptions &asked);
 
-    /// Sentences about bundles and panels that are not used.
-    const QStringList &notices() const { return mNotices; }
+    /// Sentences about bundles and panels that are not used, and about what was laid down and a panel replaced, as long
+    /// as the job carries what the panel put there.
+    QStringList notices() const;
     const std::vector<PanelEntry> &entries() const { return mPanels; }
     /// Whether a panel announced an option as its own.
     bool announced(const QString &key) const;
 
     /// The panel is about to be seen, or is seen and its controls are to follow a change.
     void show(std::size_t index);
-    /// Every panel is shown, as far as that goes without a window.
+    /// Every panel is shown, as far as that goes without a window, and hands over its values: the job is what would be
+    /// printed now, and what it goes back to. \param error takes the sentence of a panel that could not.
+    bool settle(QString *error);
+    /// The person picks another paper. Panels hand over what was typed before the change, and hear of it once more when
+    /// they have been shown with the new paper: what they learn by that shows in every control.
+    void changePaper(const QString &paper);
+
+    /// Every panel's controls are to follow the job's objects.
     void showAll();
+
+    /// The panels are released and made anew on the job as it stands: what they keep in their fields alone is gone. No
+    /// call of a panel may be under way.
+    void remake();
 
     /// Every panel hands over its values. \param error takes the sentence of the panel that could not.
     bool saveValues(QString *error);
@@ -69,6 +82,8 @@ public:
     /// Job and panels go back to the values that the dialog was opened with. \param error takes the sentence of a panel
     /// that could not.
     bool revert(QString *error);
+    /// The job's options with what each panel's controls say this moment laid over them, sent or not.
+    job::JobOptions currentOptions() const;
     /// What the panels set.
     std::vector<PanelSummary> summary() const;
 
@@ -76,6 +91,9 @@ public:
     void windowWillClose(bool userPrinted);
     /// From the callback: a panel changed the size of its view.
     void panelViewDidResize() { Q_EMIT panelResized(); }
+    /// Views have come to rest after a change of their size or the window's: a panel that changed its view's size and
+    /// waits for that takes it up.
+    void tellAreasChanged();
 
 Q_SIGNALS:
     void panelResized();
@@ -85,10 +103,13 @@ private:
     void make();
     void addPanel(const std::shared_ptr<pdekit::Panel> &panel, const QString &bundlePath);
     void tell(const QString &key, const QString &choice);
+    void tellPaperAgain();
+    QString panelOf(const QString &key) const;
 
     job::Job &mJob;
     QStringList mBundleFolders;
     QStringList mNotices;
+    std::vector<job::ReplacedOption> mReplaced; ///< as the panels settled
     std::shared_ptr<PanelHost> mHost;
     std::vector<LoadedBundle> mBundles;
     std::vector<PanelEntry> mPanels;

@@ -2,6 +2,7 @@
 // Loading bundles. Metadata is read first: code of a bundle that cannot serve is never run.
 #include "dialog/PluginLoader.h"
 
+#include "dialog/PluginClaims.h"
 #include "job/Texts.h"
 
 #include <QCoreApplication>
@@ -13,13 +14,14 @@
 #include <QSet>
 #include <QStandardPaths>
 
+#include <algorithm>
+#include <utility>
+
 namespace tapeprint::dialog
 {
 
 namespace
 {
-
-const QLatin1String bundleEnding(".bundle");
 
 /// Why a module's metadata says that it cannot serve here; null when it can.
 QString reasonToSkip(const QPluginLoader &module)
@@ -42,14 +44,18 @@ QString reasonToSkip(const QPluginLoader &module)
     return {};
 }
 
-/// Loads one bundle. \return why it cannot be used; null when it can.
-QString loadBundle(const QString &path, LoadedBundle *loaded)
+/// A bundle's own part of its module's metadata.
+QJsonObject ownMetadata(const QPluginLoader &module)
 {
-    const QString modulePath = path + u'/' + QFileInfo(path).completeBaseName() + QLatin1String(".so");
-    if (!QFileInfo(modulePath).isFile()) {
-        return job::Texts::tr("it has no file %1").arg(QFileInfo(modulePath).fileName());
+    return module.metaData().value(u"MetaData").toObject();
+}
+
+/// Loads the code of one bundle. \return why it cannot be used; null when it can.
+QString loadBundle(const QString &path, QPluginLoader &module, LoadedBundle *loaded)
+{
+    if (!QFileInfo(module.fileName()).isFile()) {
+        return job::Texts::tr("it has no file %1").arg(QFileInfo(path).completeBaseName() + QLatin1String(".so"));
     }
-    QPluginLoader module(modulePath);
     QString reason = reasonToSkip(module);
     if (!reason.isNull()) {
         return reason;
@@ -59,7 +65,7 @@ QString loadBundle(const QString &path, LoadedBundle *loaded)
         return job::Texts::tr("its code cannot be loaded: %1").arg(module.errorString().simplified());
     }
     auto *entry = qobject_cast<pdekit::PlugInEntry *>(root);
-    const QString className = module.metaData().value(u"MetaData").toObject().value(u"PrincipalClass").toString();
+    const QString className = ownMetadata(module).value(u"PrincipalClass").toString();
     loaded->path = path;
     loaded->tape = job::TapeKeywords::fromMetadata(module.metaData().value(u"MetaData").toObject());
     loaded->bundle = pdekit::Bundle::bundleWithPath(path);
@@ -72,6 +78,96 @@ QString loadBundle(const QString &path, LoadedBundle *loaded)
     }
     return {};
 }
+
+/// The place of a bundle that a PPD names by a path; null when that is not inside one of the folders, links followed.
+QString placeInside(const QStringList &folders, const QString &path)
+{
+    for (const QString &folder : folders) {
+        const QString canonicalFolder = QFileInfo(folder).canonicalFilePath() + u'/';
+        // Only a path that is spelled as one inside is looked at: nothing else on the machine is touched for a PPD.
+        if (path.startsWith(canonicalFolder) || path.startsWith(QDir::cleanPath(folder) + u'/')) {
+            const QFileInfo place(QFileInfo(path).canonicalFilePath());
+            if (place.filePath().startsWith(canonicalFolder) && place.fileName().endsWith(bundleEnding) &&
+                place.isDir()) {
+                return place.filePath();
+            }
+        }
+    }
+    return {};
+}
+
+/// One search for the bundles of one printer.
+class BundleSearch
+{
+public:
+    BundleSearch(const QStringList &folders, ppd_file_t *ppd) : mFolders(folders), mPpd(ppd), mNamed(namedBundles(ppd))
+    {
+    }
+
+    LoadedBundles run()
+    {
+        for (const QString &folder : mFolders) {
+            const QFileInfoList entries =
+                QDir(folder).entryInfoList({u'*' + bundleEnding}, QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+            for (const QFileInfo &entry : entries) {
+                take(entry, isNamed(entry.fileName()));
+            }
+        }
+        // The search path's order comes first; a path of the PPD finds what lies deeper in a folder.
+        for (const NamedBundle &named : mNamed) {
+            if (const QString place = placeInside(mFolders, named.path); !place.isNull()) {
+                take(QFileInfo(place), true);
+            }
+            if (!mFound.contains(named.name)) {
+                mFound.insert(named.name); // said once
+                mResult.problems.append(job::Texts::tr("The printer's description asks for the plug-in %1, which is "
+                                                       "not installed. Printing works without it.")
+                                            .arg(named.name));
+            }
+        }
+        return std::move(mResult);
+    }
+
+private:
+    bool isNamed(const QString &name) const
+    {
+        return std::any_of(mNamed.begin(), mNamed.end(),
+                           [&name](const NamedBundle &named) { return named.name == name; });
+    }
+
+    /// Loads a bundle if it belongs to the printer and none of its name is in use.
+    void take(const QFileInfo &entry, bool isNamed)
+    {
+        const QString path = entry.canonicalFilePath();
+        if (mSeenPaths.contains(path) || mUsedNames.contains(entry.fileName())) {
+            return;
+        }
+        QPluginLoader module(path + u'/' + QFileInfo(path).completeBaseName() + QLatin1String(".so"));
+        if (!isNamed && !claimsPrinter(ownMetadata(module), mPpd)) {
+            return;
+        }
+        mSeenPaths.insert(path);
+        mFound.insert(entry.fileName());
+        LoadedBundle loaded;
+        const QString reason = loadBundle(path, module, &loaded);
+        if (reason.isNull()) {
+            mUsedNames.insert(entry.fileName());
+            mResult.bundles.push_back(std::move(loaded));
+        } else {
+            mResult.problems.append(job::Texts::tr("The plug-in %1 is not used: %2. Printing works without it; "
+                                                   "update or remove the bundle.")
+                                        .arg(entry.filePath(), reason));
+        }
+    }
+
+    const QStringList &mFolders;
+    ppd_file_t *mPpd;
+    std::vector<NamedBundle> mNamed;
+    LoadedBundles mResult;
+    QSet<QString> mSeenPaths;
+    QSet<QString> mUsedNames;
+    QSet<QString> mFound; ///< names of bundles that the printer wants and that are there
+};
 
 } // namespace
 
@@ -86,33 +182,9 @@ QStringList bundleSearchPath()
     return folders;
 }
 
-LoadedBundles loadBundles(const QStringList &folders)
+LoadedBundles loadBundles(const QStringList &folders, ppd_file_t *ppd)
 {
-    LoadedBundles result;
-    QSet<QString> seenPaths;
-    QSet<QString> usedNames;
-    for (const QString &folder : folders) {
-        const QFileInfoList entries = QDir(folder).entryInfoList({QLatin1Char('*') + bundleEnding},
-                                                                 QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
-        for (const QFileInfo &entry : entries) {
-            const QString path = entry.canonicalFilePath();
-            if (seenPaths.contains(path) || usedNames.contains(entry.fileName())) {
-                continue;
-            }
-            seenPaths.insert(path);
-            LoadedBundle loaded;
-            const QString reason = loadBundle(path, &loaded);
-            if (reason.isNull()) {
-                usedNames.insert(entry.fileName());
-                result.bundles.push_back(std::move(loaded));
-            } else {
-                result.problems.append(job::Texts::tr("The plug-in %1 is not used: %2. Printing works without it; "
-                                                      "update or remove the bundle.")
-                                           .arg(entry.filePath(), reason));
-            }
-        }
-    }
-    return result;
+    return ppd == nullptr ? LoadedBundles() : BundleSearch(folders, ppd).run();
 }
 
 } // namespace tapeprint::dialog

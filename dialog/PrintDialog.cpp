@@ -3,16 +3,21 @@
 #include "dialog/PrintDialog.h"
 
 #include "dialog/ChoicePopUp.h"
+#include "dialog/GatheredAlerts.h"
+#include "dialog/LayoutPage.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PlainText.h"
+#include "dialog/PreviewArea.h"
 #include "dialog/SummaryView.h"
-#include "dialog/TapePreview.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QSpinBox>
@@ -34,12 +39,14 @@ constexpr int summaryWidth = 280;
 } // namespace
 
 PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction)
-    : mJob(job), mPanels(panels), mSetup(std::move(setup)), mPrintAction(std::move(printAction))
+    : mJob(job), mPanels(panels), mSetup(std::move(setup)), mPrintAction(std::move(printAction)), mDesk(mSetup.files)
 {
-    setWindowTitle(tr("Print %1").arg(mSetup.title));
+    setWindowTitle(plainTitle(tr("Print %1").arg(mSetup.title)));
     setSizeGripEnabled(true);
     mFollowTimer.setSingleShot(true);
     mFollowTimer.setInterval(0);
+    mRestTimer.setSingleShot(true);
+    mRestTimer.setInterval(0);
     buildControls();
     fillPrinters();
     connectControls();
@@ -85,7 +92,9 @@ QWidget *PrintDialog::makeDestinationControls()
     mCopiesField->setObjectName(QStringLiteral("copies"));
     mCopiesField->setRange(1, mostCopies);
     form->addRow(tr("P&rinter:"), mPrinterPopUp);
-    form->addRow(tr("&Tape:"), mTapePopUp);
+    mTapeLabel = new QLabel(controls);
+    mTapeLabel->setBuddy(mTapePopUp);
+    form->addRow(mTapeLabel, mTapePopUp);
     form->addRow(tr("&Copies:"), mCopiesField);
     return controls;
 }
@@ -97,12 +106,14 @@ QWidget *PrintDialog::makePanelArea()
     layout->setContentsMargins({});
     mPageChooser = new QComboBox(area);
     mPageChooser->setObjectName(QStringLiteral("pageChooser"));
-    auto *label = new QLabel(tr("Pa&nel:"), area);
+    mChooserRow = new QWidget(area);
+    auto *label = new QLabel(tr("Pa&nel:"), mChooserRow);
     label->setBuddy(mPageChooser);
-    auto *chooserRow = new QHBoxLayout;
-    chooserRow->addWidget(label);
-    chooserRow->addWidget(mPageChooser, 1);
-    layout->addLayout(chooserRow);
+    auto *chooserLayout = new QHBoxLayout(mChooserRow);
+    chooserLayout->setContentsMargins({});
+    chooserLayout->addWidget(label);
+    chooserLayout->addWidget(mPageChooser, 1);
+    layout->addWidget(mChooserRow);
     mPanelArea = new PanelArea(area);
     mPanelArea->setWidgetResizable(true);
     mPanelArea->setMinimumSize(smallestPanelArea);
@@ -123,10 +134,27 @@ QWidget *PrintDialog::makeSummaryArea()
     summaryLayout->addWidget(mSummary);
     summaryBox->setMinimumWidth(summaryWidth);
     layout->addWidget(summaryBox, 1);
-    mPreview = new TapePreview(area);
-    mPreview->setDocument(mSetup.files.value(0));
+    mPreview = new PreviewArea(area);
     layout->addWidget(mPreview);
+    layout->addWidget(makeFitControls());
     return area;
+}
+
+QWidget *PrintDialog::makeFitControls()
+{
+    mFitControls = new QWidget(this);
+    auto *layout = new QHBoxLayout(mFitControls);
+    layout->setContentsMargins({});
+    mFitButton = new QPushButton(tr("&Fit Length"), mFitControls);
+    mFitButton->setObjectName(QStringLiteral("fitLength"));
+    mFitButton->setAutoDefault(false);
+    mFitButton->setToolTip(tr("Make the tape as long as what is drawn needs, with both margins"));
+    mKeepFitting = new QCheckBox(tr("&Keep it fitted"), mFitControls);
+    mKeepFitting->setObjectName(QStringLiteral("keepFitting"));
+    layout->addWidget(mFitButton);
+    layout->addWidget(mKeepFitting);
+    layout->addStretch();
+    return mFitControls;
 }
 
 QWidget *PrintDialog::makeButtons()
@@ -143,8 +171,20 @@ QWidget *PrintDialog::makeButtons()
     mPrintButton->setObjectName(QStringLiteral("print"));
     mPrintButton->setDefault(true);
     mRevertButton->setAutoDefault(false);
+    auto *progress = new QWidget(buttons);
+    auto *progressLayout = new QHBoxLayout(progress);
+    progressLayout->setContentsMargins({});
+    auto *bar = new QProgressBar(progress);
+    bar->setRange(0, 0); // how long filters and servers take is not known
+    bar->setTextVisible(false);
+    bar->setAccessibleName(tr("Printing"));
+    progressLayout->addWidget(new QLabel(tr("Printing…"), progress));
+    progressLayout->addWidget(bar);
+    mProgress = progress;
+    mProgress->hide();
     layout->addWidget(mRevertButton);
     layout->addStretch();
+    layout->addWidget(mProgress);
     layout->addWidget(mCancelButton);
     layout->addWidget(mPrintButton);
     return buttons;
@@ -178,12 +218,32 @@ void PrintDialog::fillPrinters()
 
 void PrintDialog::showDestination()
 {
-    const QStringList notices = mJob.notices() + mPanels.notices();
-    mNotices->setText(notices.join(u'\n'));
-    mNotices->setVisible(!notices.isEmpty());
+    showWhetherTape();
     showTapes();
     makePages();
+    settlePanels();
+    showPages(0);
+    mJob.rememberAsOpened();
     follow();
+}
+
+void PrintDialog::showNotices()
+{
+    const QString notices = (mJob.notices() + mPanels.notices() + mAlerts).join(u'\n');
+    if (notices != mNotices->text()) {
+        mNotices->setText(notices);
+    }
+    mNotices->setVisible(!notices.isEmpty());
+}
+
+void PrintDialog::showWhetherTape()
+{
+    // A printer that a panel serves is loaded with tape.
+    const bool isTape = !mPanels.entries().empty();
+    mTapeLabel->setText(isTape ? tr("&Tape:") : tr("P&aper:"));
+    mPreview->setIsTapePrinter(isTape);
+    mSummary->parentWidget()->setVisible(isTape); // it is the panels' summary
+    mFitControls->setVisible(isTape);
 }
 
 void PrintDialog::showTapes()
@@ -208,6 +268,11 @@ void PrintDialog::makePages()
         const PanelEntry &entry = mPanels.entries()[i];
         addPage(entry.view != nullptr ? entry.view.data() : new QLabel(tr("This panel has no view.")), entry.name, i);
     }
+    if (!mJob.tape().isEmpty()) {
+        mLayoutPage = new LayoutPage(mJob, mPages);
+        connect(mLayoutPage, &LayoutPage::picked, this, &PrintDialog::pickOption);
+        addPage(mLayoutPage, tr("Layout"), std::nullopt);
+    }
     mOptionsPage = new OptionsPage(mJob, mPanels, mPages);
     if (mOptionsPage->isEmpty() && !mPanels.entries().empty()) {
         delete mOptionsPage;
@@ -215,10 +280,24 @@ void PrintDialog::makePages()
         connect(mOptionsPage, &OptionsPage::picked, this, &PrintDialog::pickOption);
         addPage(mOptionsPage, tr("More Options"), std::nullopt);
     }
+    mChooserRow->setVisible(mPageList.size() > 1);
+}
+
+void PrintDialog::showPages(int first)
+{
     orderByTab();
-    turnToPage(0);
+    turnToPage(std::clamp(first, 0, static_cast<int>(mPageList.size()) - 1));
     mPanelArea->updateGeometry();
-    mJob.rememberAsOpened();
+}
+
+void PrintDialog::settlePanels()
+{
+    // What a panel makes of the values laid down is known before the person looks at them. An alert has no window to
+    // stand over yet; a panel that cannot hand over its values says so when it is to print.
+    const GatheredAlerts alerts;
+    QString error;
+    mPanels.settle(&error);
+    mAlerts = alerts.lines();
 }
 
 void PrintDialog::orderByTab()
@@ -230,7 +309,8 @@ void PrintDialog::orderByTab()
             last = next; // only what takes the focus has a place in the order
         }
     }
-    for (QWidget *widget : std::initializer_list<QWidget *>{mSummary, mRevertButton, mCancelButton, mPrintButton}) {
+    for (QWidget *widget : std::initializer_list<QWidget *>{mSummary, mFitButton, mKeepFitting, mRevertButton,
+                                                            mCancelButton, mPrintButton}) {
         setTabOrder(last, widget);
         last = widget;
     }

@@ -6,21 +6,27 @@
 //     ├─ notices                    skipped bundles, options that get lost
 //     ├─ panel chooser
 //     ├─ panel area (scrolls)       the panels' views, and the page of other options
-//     ├─ SummaryView, TapePreview
+//     ├─ SummaryView, PreviewArea
 //     └─ Revert, Cancel, Print
 #pragma once
 
+#include "dialog/BackgroundWork.h"
+#include "dialog/DocumentDesk.h"
 #include "dialog/Panels.h"
 #include "job/Destination.h"
 #include "job/Job.h"
+#include "job/Printing.h"
 
 #include <QDialog>
+#include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
 
+#include <atomic>
 #include <functional>
 #include <vector>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -30,10 +36,11 @@ class QStackedWidget;
 namespace tapeprint::dialog
 {
 
+class LayoutPage;
 class OptionsPage;
 class PanelArea;
+class PreviewArea;
 class SummaryView;
-class TapePreview;
 
 class PrintDialog : public QDialog
 {
@@ -47,14 +54,21 @@ public:
         QStringList files;                   ///< the documents to show; none when there is no document yet
         std::vector<job::PrintQueue> queues; ///< to offer
     };
-    /// What Print does when the settings are final. \return what became of the job, for the person; null, and a
-    /// sentence in *error, when it could not be done and the window stays as it is.
-    using PrintAction = std::function<QString(QString *error)>;
+    /// What Print does when the settings are final, away from the window's thread. \param stop when it becomes true,
+    /// the person has changed their mind. \return what became of the job; nothing, and a sentence in *error, when it
+    /// could not be done and the window stays as it is. Without a sentence it was stopped.
+    using PrintAction = std::function<std::optional<job::PrintedJob>(const job::SettledJob &job,
+                                                                     const std::atomic<bool> &stop, QString *error)>;
 
     /// \param job with a destination opened, and \param panels made for it; both outlive the window.
     PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction);
     ~PrintDialog() override;
 
+    /// What became of the job; nothing when nothing was printed.
+    const std::optional<job::PrintedJob> &printed() const { return mPrinted; }
+
+    /// Cancel: the window closes, or, while it prints, printing stops and the window stays.
+    void reject() override;
     void done(int code) override;
 
 protected:
@@ -79,42 +93,77 @@ private:
     void showDestination();
     void showTapes();
     void makePages();
+    void showPages(int first);
     void orderByTab();
+    void settlePanels();
     void removePages();
     void turnToPage(int index);
     const Page *currentPage() const;
     void showCurrentPanel();
 
     void pickPrinter(int index);
+    void pickTape(const QString &tape);
     void pickOption(const QString &key, const QString &choice);
     void pickPage(int index);
     void follow();
+    void followInThePreview();
     void revert();
+    void remakePanels();
     void print();
+    void setPrinting(bool isPrinting);
+    void finishPrinting(std::optional<job::PrintedJob> printed, const QString &error);
+
+    QWidget *makeFitControls();
+    job::SettledJob currentJob() const;
+    void takeDocuments();
+    void fitOnce();
+    void fitTape();
+    void applyLength(const job::AutomaticLength &length);
+    bool mayReplaceTypedLength(double lengthMm);
     void tellProblem(const QString &sentence);
+    void say(QMessageBox::Icon icon, const QString &sentence);
+    void showNotices();
+    void showWhetherTape();
+    void fitPanel();
+    bool isPage(const QObject *object) const;
 
     job::Job &mJob;
     Panels &mPanels;
     Setup mSetup;
     PrintAction mPrintAction;
+    std::optional<job::PrintedJob> mPrinted;
+    BackgroundWork mPrinting;
+    DocumentDesk mDesk;
     bool mClosed = false;
-    QTimer mFollowTimer; ///< gathers changes of one event into one look at the job
+    bool mFitWanted = false;      ///< the person asked for the length, and the documents are still being looked at
+    double mFittedLengthMm = 0.0; ///< the length that was worked out last; 0 when none was
+    QTimer mFollowTimer;          ///< gathers changes of one event into one look at the job
+    QTimer mRestTimer;            ///< a change of the views' areas has come to rest when nothing else waits to be done
 
     QComboBox *mPrinterPopUp = nullptr;
     QComboBox *mTapePopUp = nullptr;
     QSpinBox *mCopiesField = nullptr;
+    QLabel *mTapeLabel = nullptr;
     QLabel *mNotices = nullptr;
+    QWidget *mChooserRow = nullptr; ///< hidden while there is one page alone
     QComboBox *mPageChooser = nullptr;
     PanelArea *mPanelArea = nullptr;
     QStackedWidget *mPages = nullptr;
     SummaryView *mSummary = nullptr;
-    TapePreview *mPreview = nullptr;
+    PreviewArea *mPreview = nullptr;
+    QWidget *mFitControls = nullptr; ///< for tape alone
+    QPushButton *mFitButton = nullptr;
+    QCheckBox *mKeepFitting = nullptr;
+    QWidget *mProgress = nullptr; ///< shown while it prints
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;
 
+    QSize mWishedSize;   ///< that a panel gave its view and waits to be fitted; invalid when there is none
+    QStringList mAlerts; ///< what panels said of the values that were laid down
     std::vector<Page> mPageList;
     QPointer<OptionsPage> mOptionsPage;
+    QPointer<LayoutPage> mLayoutPage;
     int mCurrentPrinter = 0;
     int mCurrentPage = -1;
 };

@@ -1,21 +1,28 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the window does when the person acts: picks, Revert, Print, Cancel, and the live summary.
 #include "dialog/ChoicePopUp.h"
+#include "dialog/LayoutPage.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/SummaryView.h"
-#include "dialog/TapePreview.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QResizeEvent>
+#include <QScreen>
 #include <QSpinBox>
 #include <QStackedWidget>
+
+#include <algorithm>
+#include <utility>
 
 namespace tapeprint::dialog
 {
@@ -24,8 +31,7 @@ void PrintDialog::connectControls()
 {
     // "activated" is the person's act alone; setting a control from code sends nothing.
     connect(mPrinterPopUp, &QComboBox::activated, this, &PrintDialog::pickPrinter);
-    connect(mTapePopUp, &QComboBox::activated, this,
-            [this] { pickOption(job::OptionName::pageSize, mTapePopUp->currentData().toString()); });
+    connect(mTapePopUp, &QComboBox::activated, this, [this] { pickTape(mTapePopUp->currentData().toString()); });
     connect(mCopiesField, &QSpinBox::valueChanged, this, [this](int copies) {
         if (copies != mJob.copies()) {
             mJob.setCopies(copies);
@@ -35,13 +41,18 @@ void PrintDialog::connectControls()
     connect(mRevertButton, &QPushButton::clicked, this, &PrintDialog::revert);
     connect(mCancelButton, &QPushButton::clicked, this, &PrintDialog::reject);
     connect(mPrintButton, &QPushButton::clicked, this, &PrintDialog::print);
+    connect(mFitButton, &QPushButton::clicked, this, &PrintDialog::fitOnce);
+    connect(mKeepFitting, &QCheckBox::clicked, this, [this](bool keep) {
+        if (keep) {
+            fitOnce();
+        }
+    });
+    connect(&mDesk, &DocumentDesk::changed, this, &PrintDialog::takeDocuments);
 
     connect(&mFollowTimer, &QTimer::timeout, this, &PrintDialog::follow);
     connect(&mJob, &job::Job::changed, this, [this] { mFollowTimer.start(); });
-    connect(&mPanels, &Panels::panelResized, this, [this] {
-        mPages->updateGeometry();
-        mPanelArea->updateGeometry();
-    });
+    connect(&mPanels, &Panels::panelResized, this, &PrintDialog::fitPanel);
+    connect(&mRestTimer, &QTimer::timeout, &mPanels, &Panels::tellAreasChanged);
     // Not every act in a panel sends a choice at once, but its summary changes: the summary is read again after it.
     QApplication::instance()->installEventFilter(this);
 }
@@ -49,7 +60,20 @@ void PrintDialog::connectControls()
 bool PrintDialog::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::Resize:
+        // Told when the layouts that follow from it have been made as well.
+        if (watched == this || isPage(watched)) {
+            mRestTimer.start();
+        }
+        // A page that does not fill its place was resized by its panel. Layouts would take that back before it is told.
+        if (isPage(watched) && static_cast<QResizeEvent *>(event)->size() != mPages->size()) {
+            mWishedSize = static_cast<QResizeEvent *>(event)->size();
+        }
+        break;
+    case QEvent::KeyPress:
     case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseMove:
     case QEvent::Wheel:
@@ -98,9 +122,16 @@ void PrintDialog::pickPrinter(int index)
     }
     mCurrentPrinter = index;
     // The old page goes before the panel and the PPD that it shows.
+    delete mLayoutPage;
     delete mOptionsPage;
+    mKeepFitting->setChecked(false);
     mPanels.open(std::move(*destination), mSetup.request.options);
     showDestination();
+}
+
+void PrintDialog::pickTape(const QString &tape)
+{
+    mPanels.changePaper(tape);
 }
 
 void PrintDialog::pickOption(const QString &key, const QString &choice)
@@ -125,14 +156,35 @@ void PrintDialog::follow()
     if (mClosed) {
         return;
     }
+    showNotices();
     mSummary->showSummary(mPanels.summary());
-    mPreview->follow(mJob.pageFormat().paper, mJob.options());
-    mPreview->setVisible(mJob.pageFormat().paper.has_value());
+    followInThePreview();
     selectChoice(mTapePopUp, job::markedChoice(mJob.ppd(), job::OptionName::pageSize));
     mCopiesField->setValue(mJob.copies());
+    if (mLayoutPage) {
+        mLayoutPage->follow();
+    }
     if (mOptionsPage) {
         mOptionsPage->follow();
     }
+}
+
+void PrintDialog::followInThePreview()
+{
+    const job::SettledJob current = currentJob();
+    mDesk.follow(current);
+    mPreview->follow(current.page, current.options, tapeLookOf(mJob.ppd(), current.options, mJob.tape()));
+    mPreview->setVisible(!current.page.isEmpty());
+    fitTape();
+}
+
+job::SettledJob PrintDialog::currentJob() const
+{
+    // What a person is dragging or typing this moment counts, though the panel has not sent it yet.
+    job::SettledJob current = job::settle(mJob);
+    current.options = mPanels.currentOptions();
+    current.page = job::tapePageOf(mJob.ppd(), current.options, mJob.tape());
+    return current;
 }
 
 void PrintDialog::revert()
@@ -141,7 +193,20 @@ void PrintDialog::revert()
     if (!mPanels.revert(&error)) {
         tellProblem(error);
     }
+    // A length that was typed stands in the panel's field alone: only a panel made anew shows the first values.
+    remakePanels();
+    mKeepFitting->setChecked(false);
     follow();
+}
+
+void PrintDialog::remakePanels()
+{
+    const int shown = mCurrentPage;
+    delete mLayoutPage;
+    delete mOptionsPage;
+    mPanels.remake();
+    makePages();
+    showPages(shown);
 }
 
 void PrintDialog::print()
@@ -156,15 +221,53 @@ void PrintDialog::print()
         follow();
         return;
     }
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString printed = mPrintAction(&error);
-    QApplication::restoreOverrideCursor();
-    if (printed.isNull()) {
-        tellProblem(error);
+    setPrinting(true);
+    mPrinting.start([this, action = mPrintAction,
+                     job = job::settle(mJob)](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
+        QString problem;
+        std::optional<job::PrintedJob> printed = action(job, stop, &problem);
+        return [this, printed = std::move(printed), problem] { finishPrinting(printed, problem); };
+    });
+}
+
+void PrintDialog::setPrinting(bool isPrinting)
+{
+    // Only Cancel is left: what is being printed is not to be changed under the person's hands.
+    for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (widget != mCancelButton->parentWidget()) {
+            widget->setEnabled(!isPrinting);
+        }
+    }
+    mRevertButton->setEnabled(!isPrinting);
+    mPrintButton->setEnabled(!isPrinting);
+    mProgress->setVisible(isPrinting);
+    if (isPrinting) {
+        mCancelButton->setFocus();
+    }
+}
+
+void PrintDialog::finishPrinting(std::optional<job::PrintedJob> printed, const QString &error)
+{
+    setPrinting(false);
+    if (!printed) {
+        if (!error.isNull()) { // without a sentence it was stopped
+            tellProblem(error);
+        }
+        mPrintButton->setFocus();
         return;
     }
-    QMessageBox::information(this, windowTitle(), printed);
+    mPrinted = std::move(printed);
+    say(QMessageBox::Information, mPrinted->sentence());
     accept();
+}
+
+void PrintDialog::reject()
+{
+    if (mPrinting.isRunning()) {
+        mPrinting.stop();
+        return;
+    }
+    QDialog::reject();
 }
 
 void PrintDialog::done(int code)
@@ -179,7 +282,33 @@ void PrintDialog::done(int code)
 
 void PrintDialog::tellProblem(const QString &sentence)
 {
-    QMessageBox::critical(this, windowTitle(), sentence);
+    say(QMessageBox::Critical, sentence);
+}
+
+void PrintDialog::say(QMessageBox::Icon icon, const QString &sentence)
+{
+    // Sentences hold names of strangers.
+    QMessageBox box(icon, windowTitle(), {}, QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(sentence);
+    box.exec();
+}
+
+bool PrintDialog::isPage(const QObject *object) const
+{
+    return std::any_of(mPageList.begin(), mPageList.end(),
+                       [object](const Page &page) { return page.widget == object; });
+}
+
+void PrintDialog::fitPanel()
+{
+    const QSize wished = std::exchange(mWishedSize, {});
+    if (const Page *page = currentPage(); wished.isValid() && page != nullptr && page->widget != nullptr) {
+        page->widget->setMinimumSize(wished);
+    }
+    mPages->updateGeometry();
+    mPanelArea->updateGeometry();
+    resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
 }
 
 } // namespace tapeprint::dialog

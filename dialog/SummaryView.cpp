@@ -2,6 +2,8 @@
 // A read-only list of two columns. It is filled anew at every change, which costs little: a panel says a dozen lines.
 #include "dialog/SummaryView.h"
 
+#include "dialog/PlainText.h"
+
 #include <QHeaderView>
 
 namespace tapeprint::dialog
@@ -36,7 +38,7 @@ void SummaryView::showSummary(const std::vector<PanelSummary> &summary)
         }
         for (const auto &[title, value] : panel.lines) {
             auto *item = new QTreeWidgetItem({title, value});
-            item->setToolTip(1, value);
+            item->setToolTip(1, plainToolTip(value));
             items.append(item);
         }
     }

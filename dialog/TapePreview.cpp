@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Drawing the tape: at scale as long as that leaves something to see, with a break in its middle otherwise.
+// Drawing the label: at scale as long as that leaves something to see, with breaks where tape is longer than the room.
 #include "dialog/TapePreview.h"
-
-#include "job/LaidDownOptions.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -10,74 +8,63 @@
 #include <algorithm>
 #include <cmath>
 
-#include <pdekit/Numbers.h>
-
 namespace tapeprint::dialog
 {
 
 namespace
 {
 
-constexpr double pointsPerInch = 72.0;
-constexpr double mmPerInch = 25.4;
-constexpr double pointsPerMetre = pointsPerInch / mmPerInch * 1000.0;
-
 // Pixels, all of them.
-constexpr int edge = 6;         ///< around the drawing
-constexpr int tick = 4;         ///< half the length of the lines that end a measure
-constexpr int measureGap = 8;   ///< between the tape and the line of a measure
-constexpr int textGap = 6;      ///< between that line and its text
-constexpr int corner = 4;       ///< radius
-constexpr int thinnest = 16;    ///< a tape that would be thinner than this is broken
-constexpr int brokenWidth = 30; ///< width of a broken tape
-constexpr int breakGap = 10;    ///< between the two pieces
-constexpr int breakDepth = 3;   ///< how far the torn edge swings to either side
-constexpr int breakTeeth = 4;   ///< swings over the tape's width
-constexpr int leastHeight = 90;
+constexpr int edge = 6;           ///< around the drawing
+constexpr int tick = 4;           ///< half the length of the lines that end a measure
+constexpr int measureGap = 8;     ///< between the tape and the line of a measure
+constexpr int textGap = 6;        ///< between that line and its text
+constexpr int corner = 4;         ///< radius
+constexpr int thinnest = 16;      ///< a tape that would be thinner than this is broken
+constexpr int brokenWidth = 30;   ///< width of a broken tape
+constexpr int breakGap = 10;      ///< between two pieces
+constexpr int breakDepth = 3;     ///< how far the torn edge swings to either side
+constexpr int breakTeeth = 4;     ///< swings over the tape's width
+constexpr int beforeContent = 8;  ///< to each side of what is printed, in a piece of its own
+constexpr int leastEndPiece = 28; ///< beside such a piece
+constexpr int tapeHeight = 90;
+constexpr int paperHeight = 190;
 constexpr int usualWidth = 280;
 constexpr int leastWidth = 180;
+constexpr int checker = 5; ///< side of a square
 
-QString millimetres(double lengthPt)
-{
-    return pdekit::fixedDecimals(lengthPt / pointsPerInch * mmPerInch, 1) + QStringLiteral(" mm");
-}
+constexpr double ghostOpacity = 0.25; ///< of what is cut off
 
-bool isLandscape(const QSizeF &size)
-{
-    return size.width() > size.height();
-}
-
-/// The scale at which a tape is drawn in a room, in pixels a point; a tape that is then longer than the room is drawn
-/// with a break.
-double scaleFor(const QSizeF &tapePt, const QSizeF &room)
-{
-    const double whole = std::min(room.width() / tapePt.width(), room.height() / tapePt.height());
-    if (whole * tapePt.height() >= thinnest || whole * tapePt.width() < room.width()) {
-        return whole;
-    }
-    return std::min<double>(brokenWidth, room.height()) / tapePt.height();
-}
-
-QPainterPath roundedPath(const QRectF &strip)
+QPainterPath outlineOf(const QRectF &strip, bool isRounded)
 {
     QPainterPath path;
-    path.addRoundedRect(strip, corner, corner);
+    path.addRoundedRect(strip, isRounded ? corner : 0, isRounded ? corner : 0);
     return path;
 }
 
-/// The area on one side of a torn edge. \param x the edge's middle; \param outerX the far side of the area.
-QPainterPath besideTornEdge(const QRectF &strip, double x, double outerX)
+/// The strip between two edges, each of which is torn when the label goes on beyond it.
+QPainterPath tornPiece(const QRectF &piece, bool isTornLeft, bool isTornRight)
 {
-    QPolygonF area{{outerX, strip.top() - 1}};
+    QPolygonF area;
+    const auto swing = [](int i) { return i % 2 == 0 ? breakDepth : -breakDepth; };
+    const auto y = [&piece](int i) { return piece.top() - 1 + (piece.height() + 2) * i / breakTeeth; };
     for (int i = 0; i <= breakTeeth; ++i) {
-        const double swing = i % 2 == 0 ? breakDepth : -breakDepth;
-        area << QPointF(x + swing, strip.top() - 1 + (strip.height() + 2) * i / breakTeeth);
+        area << QPointF(isTornLeft ? piece.left() + swing(i) : piece.left() - 1, y(i));
     }
-    area << QPointF(outerX, strip.bottom() + 1);
+    for (int i = breakTeeth; i >= 0; --i) {
+        area << QPointF(isTornRight ? piece.right() + swing(i) : piece.right() + 1, y(i));
+    }
     QPainterPath path;
     path.addPolygon(area);
     path.closeSubpath();
     return path;
+}
+
+/// A line that is seen on tape of any colour.
+QColor lineOn(const QColor &tape)
+{
+    constexpr int bright = 128;
+    return qGray(tape.rgb()) < bright && tape.alpha() == 255 ? QColor(235, 235, 235) : QColor(90, 90, 90);
 }
 
 } // namespace
@@ -87,12 +74,11 @@ TapePreview::TapePreview(QWidget *parent) : QWidget(parent)
     setObjectName(QStringLiteral("tapePreview"));
     setAccessibleName(tr("Tape preview"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    connect(&mRenderer, &PageRenderer::rendered, this, &TapePreview::showPage);
 }
 
 QSize TapePreview::sizeHint() const
 {
-    return {usualWidth, leastHeight + 2 * fontMetrics().height()};
+    return {usualWidth, (isPaper() ? paperHeight : tapeHeight) + 2 * fontMetrics().height()};
 }
 
 QSize TapePreview::minimumSizeHint() const
@@ -100,44 +86,58 @@ QSize TapePreview::minimumSizeHint() const
     return {leastWidth, sizeHint().height()};
 }
 
-void TapePreview::follow(const std::optional<pdekit::Paper> &paper, const job::JobOptions &job)
+void TapePreview::showLabel(ShownLabel label)
 {
-    QSizeF tape;
-    if (paper) {
-        const double lengthMm = pdekit::doubleValue(job.value(job::OptionName::tapeLength));
-        tape = {lengthMm > 0.0 ? job::heightPtFromMm(lengthMm) : paper->heightPt, paper->widthPt};
+    const bool wasPaper = isPaper();
+    mShown = std::move(label);
+    const QSizeF drawn = drawnSizePt();
+    if (!std::isfinite(drawn.width()) || !std::isfinite(drawn.height())) {
+        mShown = {};
     }
-    if (!(tape.width() > 0.0 && tape.height() > 0.0 && std::isfinite(tape.width()) && std::isfinite(tape.height()))) {
-        tape = {};
+    const bool isEmpty = mShown.page.isEmpty();
+    mLengthText = isEmpty ? QString() : measureText(drawn.width(), mShown.look.unit);
+    mWidthText = isEmpty ? QString() : measureText(drawn.height(), mShown.look.unit);
+    nameIt();
+    if (const QString words = describe(); words != accessibleDescription()) {
+        setAccessibleDescription(words);
+        setToolTip(words);
     }
-    if (tape == mTapePt) {
-        return;
+    if (wasPaper != isPaper()) {
+        updateGeometry();
     }
-    mTapePt = tape;
-    mLengthText = tape.isEmpty() ? QString() : millimetres(tape.width());
-    mWidthText = tape.isEmpty() ? QString() : millimetres(tape.height());
-    setAccessibleDescription(tape.isEmpty() ? QString() : tr("Length %1, width %2").arg(mLengthText, mWidthText));
-    setToolTip(accessibleDescription());
-    layPage();
-}
-
-void TapePreview::showPage(const QImage &page)
-{
-    mRendered = page;
-    layPage();
-}
-
-void TapePreview::layPage()
-{
-    // The paper stands on its narrow side and the tape is drawn lying. A page that stands like the paper lies down with
-    // it; another one is drawn as it is read, which is how it lies after the filters turn it to fit the paper.
-    const bool liesDown = isLandscape(mRendered.size()) == isLandscape(mTapePt.transposed());
-    mPage = liesDown ? mRendered.transformed(QTransform().rotate(90)) : mRendered;
-    // The picture says at which resolution it was rendered.
-    const double pixelsPerMetre = std::max(1, mRendered.dotsPerMeterX());
-    mPagePt = QSizeF(mPage.size()) / pixelsPerMetre * pointsPerMetre;
-    mScaled = {};
     update();
+}
+
+void TapePreview::setIsTapePrinter(bool isTapePrinter)
+{
+    mIsTapePrinter = isTapePrinter;
+    nameIt();
+}
+
+void TapePreview::nameIt()
+{
+    setAccessibleName(isPaper() && !mIsTapePrinter ? tr("Paper preview") : tr("Tape preview"));
+}
+
+bool TapePreview::isPaper() const
+{
+    return !mShown.page.isEmpty() && !mShown.page.isTape;
+}
+
+QString TapePreview::describe() const
+{
+    if (mShown.page.isEmpty()) {
+        return {};
+    }
+    const bool lies = mShown.page.isTape;
+    const QString measures =
+        tr("Length %1, width %2").arg(lies ? mLengthText : mWidthText, lies ? mWidthText : mLengthText);
+    return mShown.isCutOff ? tr("%1; part of the page is cut off", "length and width").arg(measures) : measures;
+}
+
+QSizeF TapePreview::drawnSizePt() const
+{
+    return mShown.page.isTape ? mShown.page.sizePt.transposed() : mShown.page.sizePt;
 }
 
 QRectF TapePreview::room() const
@@ -148,75 +148,186 @@ QRectF TapePreview::room() const
     return QRectF(rect()).adjusted(edge, edge, -right, -bottom);
 }
 
+double TapePreview::scale() const
+{
+    const QSizeF area = room().size();
+    const QSizeF drawn = drawnSizePt();
+    if (drawn.isEmpty() || area.width() < 1.0 || area.height() < 1.0) {
+        return 0.0;
+    }
+    const double whole = std::min(area.width() / drawn.width(), area.height() / drawn.height());
+    const bool isTooThin = whole * drawn.height() < thinnest && whole * drawn.width() >= area.width() * 0.999;
+    return isTooThin && mShown.page.isTape ? std::min<double>(brokenWidth, area.height()) / drawn.height() : whole;
+}
+
+double TapePreview::dotsPerPoint() const
+{
+    return scale() * devicePixelRatioF();
+}
+
+QTransform TapePreview::fromLabel() const
+{
+    // Tape is seen as it comes out to the left: what is the top of the standing page lies at the right.
+    const double size = scale();
+    return mShown.page.isTape ? QTransform(0, size, -size, 0, mShown.page.sizePt.height() * size, 0)
+                              : QTransform::fromScale(size, size);
+}
+
+std::vector<TapePreview::Stretch> TapePreview::stretches(double width, double length) const
+{
+    if (length <= width + 0.5) {
+        return {{0.0, length, 0.0}};
+    }
+    const double half = (width - breakGap) / 2.0;
+    const double start = fromLabel().mapRect(mShown.contentPt).left() - beforeContent;
+    if (mShown.contentPt.isEmpty() || start < half / 2.0) {
+        return {{0.0, half, 0.0}, {length - half, length, width - half}};
+    }
+    // What is printed begins in the part that would be left out: it gets a piece between the two ends, whole if it can.
+    const double content = fromLabel().mapRect(mShown.contentPt).width() + 2.0 * beforeContent;
+    const double end = std::max<double>(leastEndPiece, (width - content) / 2.0 - breakGap);
+    const double middle = width - 2.0 * (end + breakGap);
+    const double from = std::clamp(start, end, length - end - middle);
+    return {{0.0, end, 0.0}, {from, from + middle, end + breakGap}, {length - end, length, width - end}};
+}
+
 void TapePreview::paintEvent(QPaintEvent * /*event*/)
 {
-    const QRectF area = room();
-    if (mTapePt.isEmpty() || area.width() < 1.0 || area.height() < 1.0) {
+    const double size = scale();
+    if (!(size > 0.0)) {
         return;
     }
-    const double scale = scaleFor(mTapePt, area.size());
-    const QSizeF whole = mTapePt * scale;
+    const QRectF area = room();
+    const QSizeF whole = drawnSizePt() * size;
     QRectF strip({}, whole.boundedTo(area.size()).expandedTo({1.0, 1.0}));
     strip.moveCenter(area.center());
+    strip.moveTopLeft(QPointF(std::round(strip.left()), std::round(strip.top())));
 
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (whole.width() > strip.width() + 0.5) {
-        drawBroken(painter, strip, scale);
-    } else {
-        drawPiece(painter, roundedPath(strip), placeOfPage(strip, scale));
+    const QPainterPath outline = outlineOf(strip, mShown.page.isTape);
+    const std::vector<Stretch> pieces = stretches(strip.width(), whole.width());
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        const Stretch &piece = pieces[i];
+        const QRectF place(strip.left() + piece.at, strip.top(), piece.to - piece.from, strip.height());
+        const QPainterPath shape =
+            pieces.size() == 1 ? outline : outline.intersected(tornPiece(place, i > 0, i + 1 < pieces.size()));
+        drawStretch(painter, shape, fromLabel() * QTransform::fromTranslate(place.left() - piece.from, place.top()));
     }
     drawMeasures(painter, strip);
 }
 
-void TapePreview::drawBroken(QPainter &painter, const QRectF &strip, double scale)
+void TapePreview::resizeEvent(QResizeEvent *event)
 {
-    const double length = mTapePt.width() * scale;
-    const QPainterPath outline = roundedPath(strip);
-    const double middle = strip.center().x();
-    const QRectF first(strip.topLeft(), QPointF(middle - breakGap / 2.0, strip.bottom()));
-    QRectF page = placeOfPage({strip.topLeft(), QSizeF(length, strip.height())}, scale);
-    QRectF pageAtEnd = page.translated(strip.width() - length, 0);
-    // A page that would vanish in the break is shown before it.
-    if (page.left() > first.center().x()) {
-        page.moveLeft(std::max(first.left(), first.center().x() - page.width() / 2));
-        pageAtEnd = {};
-    }
-    drawPiece(painter, outline.intersected(besideTornEdge(strip, first.right(), strip.left() - 1)), page);
-    drawPiece(painter, outline.intersected(besideTornEdge(strip, middle + breakGap / 2.0, strip.right() + 1)),
-              pageAtEnd);
+    QWidget::resizeEvent(event);
+    Q_EMIT scaleChanged();
 }
 
-QRectF TapePreview::placeOfPage(const QRectF &tape, double scale) const
+void TapePreview::drawStretch(QPainter &painter, const QPainterPath &outline, const QTransform &fromLabel)
 {
-    // As the filters do it: a page that is larger than the tape is made smaller, a smaller one keeps its size.
-    QSizeF size = mPagePt * scale;
-    if (size.width() > tape.width() || size.height() > tape.height()) {
-        size.scale(tape.size(), Qt::KeepAspectRatio);
-    }
-    QRectF place({}, size);
-    place.moveCenter(tape.center());
-    return place;
-}
-
-void TapePreview::drawPiece(QPainter &painter, const QPainterPath &piece, const QRectF &page)
-{
-    painter.fillPath(piece, palette().color(QPalette::Base));
-    if (!mPage.isNull() && !page.isEmpty()) {
-        const QSize pixels = (page.size() * devicePixelRatioF()).toSize().expandedTo({1, 1});
-        // Made smaller beforehand, because a painter skips lines; made larger only where it is seen.
-        const bool isSmaller = pixels.width() < mPage.width();
-        if (isSmaller && mScaled.size() != pixels) {
-            mScaled = mPage.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        }
+    drawBase(painter, outline);
+    const QRectF on = outline.boundingRect().adjusted(-edge, -edge, edge, edge);
+    if (mShown.isCutOff) {
         painter.save();
-        painter.setClipPath(piece);
-        painter.drawImage(page, isSmaller ? mScaled : mPage);
+        painter.setOpacity(ghostOpacity);
+        drawInk(painter, fromLabel, on, false);
+        painter.restore();
+        // What the ghost covers of the place where pages are printed is drawn anew below.
+        painter.save();
+        painter.setClipPath(outline);
+        QPainterPath printed;
+        for (const job::PlacedPage &page : mShown.label) {
+            printed.addRect(fromLabel.mapRect(page.clip));
+        }
+        drawBase(painter, outline.intersected(printed));
         painter.restore();
     }
+    painter.save();
+    painter.setClipPath(outline);
+    drawInk(painter, fromLabel, on, true);
+    drawLimits(painter, fromLabel);
+    painter.restore();
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawPath(piece);
+    painter.drawPath(outline);
+}
+
+void TapePreview::drawBase(QPainter &painter, const QPainterPath &outline) const
+{
+    if (mShown.look.isClear()) {
+        // What lies behind clear tape is darker under light ink, so that the print is seen.
+        constexpr int bright = 128;
+        const bool isLightInk = qGray(mShown.look.ink.rgb()) >= bright;
+        painter.save();
+        painter.setClipPath(outline, Qt::IntersectClip);
+        const QRectF box = outline.boundingRect();
+        painter.fillRect(box, isLightInk ? QColor(110, 110, 110) : QColor(250, 250, 250));
+        const QColor other = isLightInk ? QColor(135, 135, 135) : QColor(222, 222, 222);
+        for (int row = 0; row * checker < box.height(); ++row) {
+            for (int column = row % 2; column * checker < box.width(); column += 2) {
+                painter.fillRect(QRectF(box.left() + column * checker, box.top() + row * checker, checker, checker),
+                                 other);
+            }
+        }
+        painter.restore();
+        return;
+    }
+    painter.fillPath(outline, mShown.page.isTape ? mShown.look.tape : QColor(Qt::white));
+}
+
+QImage TapePreview::inkOf(const QTransform &fromLabel, const QRectF &on, bool isClipped) const
+{
+    const double ratio = devicePixelRatioF();
+    QImage picture((on.size() * ratio).toSize(), QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setTransform(fromLabel * QTransform::fromTranslate(-on.left(), -on.top()) *
+                         QTransform::fromScale(ratio, ratio));
+    drawPages(painter, mShown.label, mPictures, isClipped);
+    painter.end();
+    return picture;
+}
+
+void TapePreview::drawInk(QPainter &painter, const QTransform &fromLabel, const QRectF &on, bool isClipped) const
+{
+    if (!mPictures || mShown.label.empty()) {
+        return;
+    }
+    const QRectF dots(on.toAlignedRect());
+    QImage picture = inkOf(fromLabel, dots, isClipped);
+    if (!mShown.page.isTape) { // paper is printed in whatever colours the printer has
+        picture.setDevicePixelRatio(devicePixelRatioF());
+        painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+        painter.drawImage(dots.topLeft(), picture);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        return;
+    }
+    QImage layer = inkLayer(picture, mShown.look.ink);
+    layer.setDevicePixelRatio(devicePixelRatioF());
+    if (mShown.look.isFaint()) {
+        // White on white is what comes out. A shadow shows where it is.
+        QImage shadow = inkLayer(picture, lineOn(mShown.look.tape));
+        shadow.setDevicePixelRatio(devicePixelRatioF());
+        painter.drawImage(dots.topLeft() + QPointF(1, 1), shadow);
+    }
+    painter.drawImage(dots.topLeft(), layer);
+}
+
+void TapePreview::drawLimits(QPainter &painter, const QTransform &fromLabel) const
+{
+    const QColor line = lineOn(mShown.look.tape);
+    QPainterPath strips;
+    strips.addRect(fromLabel.mapRect(mShown.page.wholeRect()));
+    QPainterPath printable;
+    printable.addRect(fromLabel.mapRect(mShown.page.printableRect()));
+    QColor dimmed = line;
+    dimmed.setAlphaF(0.45F);
+    painter.fillPath(strips.subtracted(printable), QBrush(dimmed, Qt::BDiagPattern));
+    if (mShown.page.freeEndsPt > 0.0 && mShown.page.freeEndsPt * 2.0 < mShown.page.sizePt.height()) {
+        painter.setPen(QPen(line, 1.0, Qt::DashLine));
+        for (const double along : {mShown.page.freeEndsPt, mShown.page.sizePt.height() - mShown.page.freeEndsPt}) {
+            painter.drawLine(fromLabel.map(QLineF(0, along, mShown.page.sizePt.width(), along)));
+        }
+    }
 }
 
 void TapePreview::drawMeasures(QPainter &painter, const QRectF &strip) const

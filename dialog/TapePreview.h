@@ -1,22 +1,29 @@
 // SPDX-License-Identifier: Apache-2.0
-// The tape at scale, lying on its side, with the document's first page on it and its measures beside it.
+// One label at scale, with the pages on it and its measures beside it: tape lying on its side, paper standing.
 #pragma once
 
-#include "dialog/PageRenderer.h"
-#include "job/JobOptions.h"
+#include "dialog/LabelPicture.h"
+#include "dialog/TapeLook.h"
+#include "job/LabelPlan.h"
 
 #include <QWidget>
 
-#include <optional>
-
-#include <pdekit/PrintingCore.h>
+#include <vector>
 
 class QPainterPath;
 
 namespace tapeprint::dialog
 {
 
-/// The dialog does not know a tape's colour: the tape is drawn in the colours of the person's theme.
+/// What there is to draw.
+struct ShownLabel {
+    job::TapePage page; ///< nothing is drawn when it is empty
+    job::Label label;   ///< the pages on it
+    QRectF contentPt;   ///< what of the label they cover
+    bool isCutOff = false;
+    TapeLook look;
+};
+
 class TapePreview : public QWidget
 {
     Q_OBJECT
@@ -24,39 +31,55 @@ class TapePreview : public QWidget
 public:
     explicit TapePreview(QWidget *parent = nullptr);
 
-    /// Shows a document's first page as soon as it is rendered. A document that cannot be rendered leaves the tape
-    /// empty.
-    void setDocument(const QString &path) { mRenderer.start(path); }
-    /// Shows the tape of a job. \param paper the page format's; no tape is drawn without one. \param job its tape
-    /// length, when it has one, is the paper's length.
-    void follow(const std::optional<pdekit::Paper> &paper, const job::JobOptions &job);
+    void showLabel(ShownLabel label);
+    /// Whether the printer is one that is loaded with tape, whatever the page in it: it is then called tape.
+    void setIsTapePrinter(bool isTapePrinter);
+    /// Where pictures of pages come from; asked at each painting. Call update() when others have come.
+    void setPictures(PagePictures pictures) { mPictures = std::move(pictures); }
 
-    /// Whether the document is still being rendered.
-    bool isRendering() const { return mRenderer.isRunning(); }
+    /// The scale of the drawing: dots of the screen to a point of the label.
+    double dotsPerPoint() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+Q_SIGNALS:
+    /// The drawing takes another scale because the widget was resized.
+    void scaleChanged();
+
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void showPage(const QImage &page);
-    void layPage();
+    /// A stretch of the label as it is drawn: from and to in the drawing's own dots, and where its beginning comes to.
+    struct Stretch {
+        double from;
+        double to;
+        double at;
+    };
+
+    bool isPaper() const;
+    QString describe() const;
     QRectF room() const;
-    void drawBroken(QPainter &painter, const QRectF &strip, double scale);
-    void drawPiece(QPainter &painter, const QPainterPath &piece, const QRectF &page);
-    QRectF placeOfPage(const QRectF &tape, double scale) const;
+    QSizeF drawnSizePt() const;
+    double scale() const;
+    std::vector<Stretch> stretches(double width, double length) const;
+    QTransform fromLabel() const;
+    QImage inkOf(const QTransform &fromLabel, const QRectF &on, bool isClipped) const;
+    void drawStretch(QPainter &painter, const QPainterPath &outline, const QTransform &fromLabel);
+    void drawBase(QPainter &painter, const QPainterPath &outline) const;
+    void drawInk(QPainter &painter, const QTransform &fromLabel, const QRectF &on, bool isClipped) const;
+    void drawLimits(QPainter &painter, const QTransform &fromLabel) const;
     void drawMeasures(QPainter &painter, const QRectF &strip) const;
 
-    PageRenderer mRenderer;
-    QSizeF mTapePt; ///< length by width; empty when there is no tape
-    QString mLengthText;
-    QString mWidthText;
-    QImage mRendered; ///< as rendered; null when there is none
-    QImage mPage;     ///< as it lies on the tape drawn
-    QSizeF mPagePt;   ///< its size
-    QImage mScaled;   ///< mPage in the size last drawn
+    void nameIt();
+
+    ShownLabel mShown;
+    bool mIsTapePrinter = false;
+    PagePictures mPictures;
+    QString mLengthText; ///< beside the drawing's width
+    QString mWidthText;  ///< beside its height
 };
 
 } // namespace tapeprint::dialog

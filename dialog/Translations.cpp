@@ -12,11 +12,11 @@ namespace tapeprint::dialog
 namespace
 {
 
-void install(QTranslator &translator, const QString &name, const QString &folder)
+/// \return whether there is a catalogue for the person's languages.
+bool install(QTranslator &translator, const QString &name, const QString &folder)
 {
-    if (translator.load(QLocale(), name, QStringLiteral("_"), folder)) {
-        QCoreApplication::installTranslator(&translator);
-    }
+    return translator.load(QLocale(), name, QStringLiteral("_"), folder) &&
+           QCoreApplication::installTranslator(&translator);
 }
 
 } // namespace
@@ -25,7 +25,11 @@ Translations::Translations()
 {
     install(mToolkit, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     // The last one installed is asked first.
-    install(mDialog, QStringLiteral("tapeprint"), QStringLiteral(":/translations"));
+    const QString name = QStringLiteral("tapeprint");
+    const QString folder = QStringLiteral(":/translations");
+    if (!install(mDialog, name, folder) && mDialog.load(name + QStringLiteral("_en"), folder)) {
+        QCoreApplication::installTranslator(&mDialog); // the texts in the code lack the plural forms of English
+    }
 }
 
 } // namespace tapeprint::dialog

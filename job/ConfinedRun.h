@@ -16,8 +16,8 @@ namespace tapeprint::job
 /// Takes what the program writes on standard output, piece by piece. \return false: stop, there is no place for it.
 using TakeBytes = std::function<bool(const QByteArray &)>;
 
-/// How long a run may take. 2,000 pages take the filters some minutes on a slow machine.
-constexpr std::chrono::seconds longestRun{3600};
+/// How long a run may take. 2,000 labels take the filters half a minute; a machine may be fifty times as slow.
+constexpr std::chrono::seconds longestRun{1800};
 
 struct ConfinedRun {
     enum class End {

@@ -65,12 +65,6 @@ QByteArray pageDescription(const QSizeF &sizePt)
            size + "\"\n*DefaultPaperDimension: Page\n*PaperDimension Page: \"" + size + "\"\n";
 }
 
-QString noRoom(const QString &reason)
-{
-    return Texts::tr("A temporary file cannot be written (%1): make room in the folder for temporary files.")
-        .arg(reason);
-}
-
 bool writeDescription(const QString &path, const QSizeF &sizePt, QString *error)
 {
     QFile file(path);
@@ -78,7 +72,7 @@ bool writeDescription(const QString &path, const QSizeF &sizePt, QString *error)
     if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush()) {
         return true;
     }
-    *error = noRoom(file.errorString());
+    *error = noRoomForTemporaryFiles(file.errorString());
     return false;
 }
 
@@ -124,7 +118,7 @@ bool convertByFilters(const Input &document, const QString &type, const QString 
 
     QFile output(path);
     if (!output.open(QIODevice::WriteOnly)) {
-        *error = noRoom(output.errorString());
+        *error = noRoomForTemporaryFiles(output.errorString());
         return false;
     }
     const ConfinedRun run = runConfined(
@@ -133,7 +127,7 @@ bool convertByFilters(const Input &document, const QString &type, const QString 
         return false;
     }
     if (run.end == ConfinedRun::End::refused || !output.flush()) {
-        *error = noRoom(output.errorString());
+        *error = noRoomForTemporaryFiles(output.errorString());
         return false;
     }
     if (run.end != ConfinedRun::End::finished || run.exitCode != 0 || output.size() == 0) {
@@ -166,7 +160,7 @@ QString asUtf8(const QString &document, const QString &path, QString *error)
         written = copy.write(piece) == piece.size();
     }
     if (!written || !copy.flush()) {
-        *error = noRoom(copy.errorString());
+        *error = noRoomForTemporaryFiles(copy.errorString());
         return {};
     }
     return copy.fileName();
@@ -206,7 +200,7 @@ bool postScriptToPdf(const QString &document, const QString &path, const std::at
     const QString page = path + QLatin1String(".ps");
     QString reason;
     if (!writeEpsPage(document, *box, page, &reason)) {
-        *error = noRoom(reason);
+        *error = noRoomForTemporaryFiles(reason);
         return false;
     }
     const bool done = convertByFilters({document, page}, type, {}, {}, path, stop, error);
@@ -215,6 +209,12 @@ bool postScriptToPdf(const QString &document, const QString &path, const std::at
 }
 
 } // namespace
+
+QString noRoomForTemporaryFiles(const QString &reason)
+{
+    return Texts::tr("A temporary file cannot be written (%1): make room in the folder for temporary files.")
+        .arg(reason);
+}
 
 DocumentKind documentKindOf(const QString &path)
 {

@@ -17,6 +17,9 @@ enum class DocumentKind { Pdf, PostScript, Picture, Text, Unknown };
 /// What a document is, by its first bytes; names say nothing. Unknown also for a file that cannot be read.
 DocumentKind documentKindOf(const QString &path);
 
+/// The sentence about a folder for temporary files that takes no more. \param reason as the system says it.
+QString noRoomForTemporaryFiles(const QString &reason);
+
 /// Makes a PDF of a document, beside others in a private folder. The document is only read.
 /// \param textPagePt the page that text is set on, as it is read: lines run along its width.
 /// \param path the file to write. \param stop when it becomes true, the conversion ends and the answer is false with a

@@ -2,6 +2,9 @@
 // Finding the queue and the PPD of a request. A queue without a PPD is printed to all the same.
 #include "job/Destination.h"
 
+#include "job/OutputFile.h"
+#include "job/PpdPrograms.h"
+
 #include <QFileInfo>
 
 namespace tapeprint::job
@@ -21,6 +24,16 @@ std::optional<Destination> withQueuePpd(Destination destination, QString *error)
     return destination;
 }
 
+/// Whether the job can be done by the PPD file's filters: asked before there is a window, and again before they run.
+bool mayRun(const Destination &destination, QString *error)
+{
+    if (!destination.outputPath.isEmpty() &&
+        !mayWriteTo({destination.outputPath, destination.mayReplaceOutput, destination.documents}, error)) {
+        return false;
+    }
+    return mayRunPrograms(destination.ppdPath, destination.ppd.get(), destination.trustsPpd, error);
+}
+
 } // namespace
 
 QString Destination::title() const
@@ -36,10 +49,20 @@ std::optional<Destination> openDestination(const JobRequest &request, QString *e
 {
     Destination destination;
     destination.outputPath = request.outputPath;
+    destination.mayReplaceOutput = request.mayReplaceOutput;
+    destination.trustsPpd = request.trustsPpd;
+    destination.documents = request.documents;
     if (!request.ppdPath.isEmpty()) {
         destination.ppdPath = request.ppdPath;
         destination.ppd = openPpdFile(request.ppdPath, error);
         if (!destination.ppd) {
+            return std::nullopt;
+        }
+        if (const std::optional<FileStamp> description = FileStamp::ofPath(request.ppdPath)) {
+            destination.documents.push_back(*description);
+        }
+        const bool isOnItsOwn = request.queue.isEmpty() || !request.outputPath.isEmpty();
+        if (isOnItsOwn && !request.onlyShows && !mayRun(destination, error)) {
             return std::nullopt;
         }
         if (request.queue.isEmpty()) {

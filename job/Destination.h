@@ -2,6 +2,7 @@
 // Where a job goes, and what a front end asks for before there is one.
 #pragma once
 
+#include "job/FileStamp.h"
 #include "job/JobOptions.h"
 #include "job/PpdFile.h"
 #include "job/Printers.h"
@@ -20,7 +21,14 @@ struct JobRequest {
     JobOptions options; ///< laid down by name, in the order given
     QString title;      ///< empty: the document's name
     QString ppdPath;    ///< a PPD file that takes the place of the queue's
-    QString outputPath; ///< a file for the printer's bytes instead of a queue
+    QString outputPath; ///< a file for the printer's bytes instead of a queue; "-" for standard output
+    /// Whether a file that stands at the output's path may be replaced: the person named it.
+    bool mayReplaceOutput = true;
+    /// Whether the PPD file's own programs may run: the person was shown them, and says so.
+    bool trustsPpd = false;
+    /// Whether the job is only looked at: no output is made, and no program run.
+    bool onlyShows = false;
+    FileStamps documents; ///< what is to be printed, which nothing may write to
 
     /// QUEUE or QUEUE/INSTANCE; empty when no queue is named.
     QString fullQueueName() const { return QueueName{queue, instance}.text(); }
@@ -29,9 +37,12 @@ struct JobRequest {
 /// A queue, or with a PPD file alone that PPD's filters and a file for the printer's bytes.
 struct Destination {
     std::optional<PrintQueue> queue;
-    QString ppdPath;    ///< the local PPD file; empty when the PPD is the queue's
-    QString outputPath; ///< where the printer's bytes go; empty: to the queue
-    PpdFile ppd;        ///< null when the queue has none
+    QString ppdPath;              ///< the local PPD file; empty when the PPD is the queue's
+    QString outputPath;           ///< where the printer's bytes go; empty: to the queue
+    bool mayReplaceOutput = true; ///< as in the request, and so the next
+    bool trustsPpd = false;
+    FileStamps documents; ///< the PPD file stands among them
+    PpdFile ppd;          ///< null when the queue has none
 
     /// Whether the job goes through the PPD's filters into a file.
     bool isFile() const { return !outputPath.isEmpty() || !queue; }

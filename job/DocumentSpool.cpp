@@ -2,11 +2,14 @@
 // Looking at the documents before a job is made, so that no job is left behind for a document that cannot be read.
 #include "job/DocumentSpool.h"
 
+#include "job/PlainText.h"
+#include "job/PrivateFile.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryFile>
 
+#include <cerrno>
 #include <cstdio>
 
 #include <unistd.h>
@@ -19,57 +22,18 @@ namespace
 
 constexpr qint64 pieceBytes = 65536;
 
-bool isReadable(const QString &path, QString *error)
+/// Whether a file can be read again and again under its name, by other programs as well. What the kernel makes up at
+/// each reading cannot, nor a file that only a descriptor still holds.
+bool staysAsNamed(const FileStamp &file)
 {
-    const QFileInfo info(path);
-    QFile file(path);
-    if (info.isDir()) {
-        *error = QStringLiteral("The document %1 cannot be read (it is a folder): name a file.").arg(path);
-        return false;
-    }
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error =
-            QStringLiteral("The document %1 cannot be read (%2): name a readable file.").arg(path, file.errorString());
-        return false;
-    }
-    if (info.isFile() && info.size() == 0) {
-        *error = QStringLiteral("The document %1 is empty: name a file with something to print.").arg(path);
-        return false;
-    }
-    return true;
+    const QString place = QFileInfo(file.path).canonicalFilePath();
+    return file.isPlainFile() && !place.isEmpty() && !place.startsWith(QLatin1String("/proc/")) &&
+           !place.startsWith(QLatin1String("/sys/"));
 }
 
-/// Copies standard input into a file. \return null, and a sentence in *error, when there is nothing or no room.
-std::unique_ptr<QTemporaryFile> spoolStandardInput(QString *error)
+void sayUnreadable(const QString &path, const QString &reason, QString *error)
 {
-    if (isatty(STDIN_FILENO) != 0) {
-        *error = QStringLiteral("No document is named: give a FILE, or pipe one into standard input.");
-        return nullptr;
-    }
-    QFile input;
-    auto spool = std::make_unique<QTemporaryFile>();
-    if (!input.open(stdin, QIODevice::ReadOnly) || !spool->open()) {
-        *error = QStringLiteral("Standard input cannot be kept in a temporary file (%1): name a FILE.")
-                     .arg(spool->errorString());
-        return nullptr;
-    }
-    for (QByteArray piece = input.read(pieceBytes); !piece.isEmpty(); piece = input.read(pieceBytes)) {
-        if (spool->write(piece) != piece.size()) {
-            *error = QStringLiteral("Standard input cannot be kept in %1 (%2): make room there, or name a FILE.")
-                         .arg(spool->fileName(), spool->errorString());
-            return nullptr;
-        }
-    }
-    if (!spool->flush()) {
-        *error = QStringLiteral("Standard input cannot be kept in %1 (%2): make room there, or name a FILE.")
-                     .arg(spool->fileName(), spool->errorString());
-        return nullptr;
-    }
-    if (spool->size() == 0) {
-        *error = QStringLiteral("Standard input is empty: give a FILE, or pipe a document in.");
-        return nullptr;
-    }
-    return spool;
+    *error = QStringLiteral("The document %1 cannot be read (%2): name a readable file.").arg(harmless(path), reason);
 }
 
 } // namespace
@@ -83,27 +47,93 @@ std::optional<DocumentSpool> DocumentSpool::collect(const QStringList &files, QS
 {
     DocumentSpool documents;
     for (const QString &file : files) {
-        if (!isReadable(file, error)) {
+        if (!documents.add(file, error)) {
             return std::nullopt;
         }
     }
-    documents.mFiles = files;
-    if (files.isEmpty()) {
-        documents.mStandardInput = spoolStandardInput(error);
-        if (!documents.mStandardInput) {
-            return std::nullopt;
-        }
-        documents.mFiles.append(documents.mStandardInput->fileName());
+    if (files.isEmpty() && !documents.addStandardInput(error)) {
+        return std::nullopt;
     }
+    documents.mTitle = files.isEmpty() ? QStringLiteral("(stdin)") : QFileInfo(files.first()).fileName();
     return documents;
+}
+
+bool DocumentSpool::add(const QString &file, QString *error)
+{
+    const std::optional<FileStamp> source = FileStamp::ofPath(file);
+    if (!source) {
+        sayUnreadable(file, qt_error_string(errno), error);
+        return false;
+    }
+    if (S_ISDIR(source->mode)) {
+        sayUnreadable(file, QStringLiteral("it is a folder"), error);
+        return false;
+    }
+    QFile input(file);
+    if (!input.open(QIODevice::ReadOnly)) {
+        sayUnreadable(file, input.errorString(), error);
+        return false;
+    }
+    mSources.push_back(*source);
+    if (!staysAsNamed(*source)) {
+        return keep(input, QFileInfo(file).fileName(), QStringLiteral("The document %1").arg(harmless(file)), error);
+    }
+    if (source->size == 0) {
+        *error = QStringLiteral("The document %1 is empty: name a file with something to print.").arg(harmless(file));
+        return false;
+    }
+    mFiles.append(file);
+    return true;
+}
+
+bool DocumentSpool::addStandardInput(QString *error)
+{
+    if (isatty(STDIN_FILENO) != 0) {
+        *error = QStringLiteral("No document is named: give a FILE, or pipe one into standard input.");
+        return false;
+    }
+    // It has no name under which it could be looked at again: a null path.
+    if (const std::optional<FileStamp> source = FileStamp::ofDescriptor(STDIN_FILENO, QString())) {
+        mSources.push_back(*source);
+    }
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly)) {
+        *error = QStringLiteral("Standard input cannot be read (%1): name a FILE.").arg(input.errorString());
+        return false;
+    }
+    return keep(input, QStringLiteral("stdin"), QStringLiteral("Standard input"), error);
+}
+
+/// Reads to the end into a private file. \param shownAs begins a sentence.
+bool DocumentSpool::keep(QFile &input, const QString &name, const QString &shownAs, QString *error)
+{
+    QString reason;
+    auto kept = PrivateFile::create(name, &reason);
+    bool isKept = kept != nullptr;
+    for (QByteArray piece = input.read(pieceBytes); isKept && !piece.isEmpty(); piece = input.read(pieceBytes)) {
+        isKept = kept->fill(piece, &reason);
+    }
+    if (!isKept) {
+        *error = QStringLiteral("%1 cannot be kept in a temporary file (%2): make room there, or name a plain FILE.")
+                     .arg(shownAs, reason);
+        return false;
+    }
+    if (input.error() != QFileDevice::NoError) {
+        *error = QStringLiteral("%1 cannot be read (%2): name a readable FILE.").arg(shownAs, input.errorString());
+        return false;
+    }
+    if (kept->file().size() == 0) {
+        *error = QStringLiteral("%1 is empty: give a FILE, or pipe a document in.").arg(shownAs);
+        return false;
+    }
+    mFiles.append(kept->path());
+    mKept.push_back(std::move(kept));
+    return true;
 }
 
 QString DocumentSpool::title(const QString &asked) const
 {
-    if (!asked.isEmpty()) {
-        return asked;
-    }
-    return mStandardInput ? QStringLiteral("(stdin)") : QFileInfo(mFiles.value(0)).fileName();
+    return asked.isEmpty() ? mTitle : asked;
 }
 
 } // namespace tapeprint::job

@@ -2,6 +2,7 @@
 // The objects of one job are changed here and nowhere else, so that they always agree.
 #include "job/Job.h"
 
+#include "job/FilterRun.h"
 #include "job/LaidDownOptions.h"
 
 #include <utility>
@@ -17,14 +18,12 @@ void Job::open(Destination destination, const JobOptions &asked)
     mDestination = std::move(destination);
     describePrinter();
     layDownOptions(asked);
-    mNotices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(ppd(), mOptions);
     rememberAsOpened();
     Q_EMIT changed();
 }
 
 void Job::close()
 {
-    mNotices.clear();
     mSession = {};
     mSettings = {};
     mPageFormat = {};
@@ -32,6 +31,7 @@ void Job::close()
     mOptions = {};
     mLaidDown = {};
     mTape = {};
+    mChosen = {};
     mOpenedWith = {};
     mDestination = {};
 }
@@ -53,10 +53,16 @@ void Job::describePrinter()
 
 void Job::layDownOptions(const JobOptions &asked)
 {
-    mLaidDown = mDestination.queue ? mDestination.queue->options : JobOptions();
-    for (const auto &[name, value] : asked.entries()) {
+    // Each is named before they are joined: a PageRegion that is asked for counts more than a saved PageSize.
+    mLaidDown = mDestination.queue ? withNamedSize(mDestination.queue->options, ppd()) : JobOptions();
+    const JobOptions named = withNamedSize(asked, ppd());
+    if (named.contains(OptionName::media) && !named.contains(OptionName::pageSize)) {
+        mLaidDown.remove(OptionName::pageSize); // the media asked for is another paper
+    }
+    for (const auto &[name, value] : named.entries()) {
         mLaidDown.set(name, value);
     }
+    mChosen = mLaidDown;
     layDown(mLaidDown, ppd(), &mOptions);
     layDownPages();
     followMarkedTape();
@@ -82,6 +88,15 @@ void Job::layDownPages()
     }
 }
 
+QStringList Job::notices() const
+{
+    QStringList notices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen);
+    if (mDestination.isFile() && ppd() != nullptr) {
+        notices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
+    }
+    return notices;
+}
+
 bool Job::takeChoice(const QString &key, const QString &choice)
 {
     // A value in braces would be dropped by the print server.
@@ -89,6 +104,9 @@ bool Job::takeChoice(const QString &key, const QString &choice)
         return false;
     }
     record(key, choice);
+    if (isNumber(choice)) {
+        setDefaultChoice(ppd(), key, choice);
+    }
     Q_EMIT optionChanged(key, choice);
     Q_EMIT changed();
     return true;
@@ -100,6 +118,7 @@ void Job::changeOption(const QString &key, const QString &choice)
         return;
     }
     record(key, choice);
+    mChosen.set(key, choice);
     if (key == OptionName::tapeLength && pdekit::doubleValue(choice) > 0.0) {
         setPaperLengthMm(pdekit::doubleValue(choice));
     }
@@ -120,6 +139,15 @@ void Job::changePaperLength(double lengthMm)
 {
     setPaperLengthMm(lengthMm);
     Q_EMIT changed();
+}
+
+void Job::makeDefaultsOfOptions()
+{
+    for (const auto &[key, value] : mOptions.entries()) {
+        if (isNumber(value) || !listedChoice(ppd(), key, value).isNull()) {
+            setDefaultChoice(ppd(), key, value);
+        }
+    }
 }
 
 void Job::setCopies(int copies)
@@ -151,13 +179,15 @@ void Job::setPaperLengthMm(double lengthMm)
 
 Job::Snapshot Job::takeSnapshot() const
 {
-    return {mOptions, takeMarks(ppd()), mPageFormat, mSettings};
+    return {mOptions, takeMarks(ppd()), takeDefaults(ppd()), mPageFormat, mSettings};
 }
 
 void Job::revert()
 {
     const JobOptions left = std::exchange(mOptions, mOpenedWith.options);
     putMarks(ppd(), mOpenedWith.marks);
+    putDefaults(ppd(), mOpenedWith.defaults);
+    mChosen = mLaidDown;
     mPageFormat = mOpenedWith.pageFormat;
     mSettings = mOpenedWith.settings;
 

@@ -33,8 +33,9 @@ public:
     /// Lets go of the destination and its PPD.
     void close();
 
-    /// Sentences about what the person should know: options that get lost, values that the PPD does not list.
-    const QStringList &notices() const { return mNotices; }
+    /// Sentences about what the person should know of the job as it is now: options that get lost, values that the PPD
+    /// does not list.
+    QStringList notices() const;
 
     const Destination &destination() const { return mDestination; }
     ppd_file_t *ppd() const { return mDestination.ppd.get(); }
@@ -50,16 +51,21 @@ public:
     void setTape(TapeKeywords tape) { mTape = std::move(tape); }
     /// The page that comes out of the printer, with the options as they stand.
     TapePage page() const { return tapePageOf(ppd(), mOptions, mTape); }
-    /// What was laid down for this job: the queue's or instance's saved options under those asked for.
+    /// What was laid down for this job: the queue's or instance's saved options under those asked for. PageRegion
+    /// stands there as PageSize.
     const JobOptions &laidDown() const { return mLaidDown; }
 
-    /// A panel sends a choice: marked when the PPD lists it, recorded in any case.
+    /// A panel sends a choice: marked when the PPD lists it, recorded in any case. A number becomes the default choice
+    /// too: a panel that fills a control anew, from the default, then finds what it sent last and not the PPD's.
     /// \return false, and nothing changed, for an empty keyword or choice and for a value that no job can carry.
     bool takeChoice(const QString &key, const QString &choice);
     /// The person changes an option in the dialog itself: the paper follows, too.
     void changeOption(const QString &key, const QString &choice);
     /// The paper becomes a tape of another length. Panels take it over when they are shown again.
     void changePaperLength(double lengthMm);
+    /// The choices that the job carries become the defaults of this PPD copy, from which panels that are made anew
+    /// start.
+    void makeDefaultsOfOptions();
     /// The number of copies, at least 1.
     void setCopies(int copies);
     int copies() const;
@@ -80,6 +86,7 @@ private:
     struct Snapshot {
         JobOptions options;
         PpdMarks marks;
+        PpdMarks defaults;
         pdekit::PageFormat pageFormat;
         pdekit::PrintSettings settings;
     };
@@ -92,7 +99,6 @@ private:
     void setPaperLengthMm(double lengthMm);
     Snapshot takeSnapshot() const;
 
-    QStringList mNotices;
     Destination mDestination;
     pdekit::PrintSession mSession;
     pdekit::PrintSettings mSettings;
@@ -101,6 +107,7 @@ private:
     JobOptions mOptions;
     JobOptions mLaidDown;
     TapeKeywords mTape;
+    JobOptions mChosen; ///< what was laid down, and what the person changed in the dialog since
     Snapshot mOpenedWith;
 };
 

@@ -3,6 +3,7 @@
 #include "job/JobOptions.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tapeprint::job
 {
@@ -54,6 +55,13 @@ QStringList JobOptions::lines() const
         lines.append(name + u'=' + value);
     }
     return lines;
+}
+
+bool isNumber(const QString &text)
+{
+    bool isOne = false;
+    const double number = text.toDouble(&isOne);
+    return isOne && std::isfinite(number);
 }
 
 } // namespace tapeprint::job

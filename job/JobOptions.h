@@ -36,6 +36,9 @@ private:
     std::vector<Entry> mEntries;
 };
 
+/// Whether the value of an option is a number, written with a decimal point in every language.
+bool isNumber(const QString &text);
+
 /// Names of options that the dialog itself knows.
 namespace OptionName
 {

@@ -3,6 +3,7 @@
 #include "job/JobSubmission.h"
 
 #include "job/CupsOptions.h"
+#include "job/PlainText.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
@@ -37,7 +38,7 @@ struct Target {
 
 QString serverSays()
 {
-    return QString::fromUtf8(cupsLastErrorString());
+    return harmless(QString::fromUtf8(cupsLastErrorString()));
 }
 
 bool sendDocument(const Target &target, int jobId, const QString &path, const QString &name, bool isLast,

@@ -7,8 +7,7 @@
 #include "job/PpdMarks.h"
 #include "job/Texts.h"
 
-#include <QLocale>
-
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -22,13 +21,6 @@ namespace
 
 constexpr double pointsPerInch = 72.0;
 constexpr double inchesPerMm = 0.0393701;
-
-bool isNumber(const QString &text)
-{
-    bool isOne = false;
-    QLocale::c().toDouble(text, &isOne);
-    return isOne;
-}
 
 /// Names and values as the PPD spells them, so that an option never stands twice in a job.
 void layDownOne(const JobOptions::Entry &entry, ppd_file_t *ppd, JobOptions *job)
@@ -71,6 +63,29 @@ std::optional<double> positiveLength(const QString &text)
 }
 
 } // namespace
+
+JobOptions withNamedSize(const JobOptions &options, ppd_file_t *ppd)
+{
+    if (findOption(ppd, OptionName::pageSize) == nullptr) {
+        return options;
+    }
+    const auto isOption = [](const JobOptions::Entry &entry, const QString &name) {
+        return entry.first.compare(name, Qt::CaseInsensitive) == 0;
+    };
+    const auto &entries = options.entries();
+    const bool namesSize = std::any_of(entries.begin(), entries.end(), [&](const JobOptions::Entry &entry) {
+        return isOption(entry, OptionName::pageSize);
+    });
+    JobOptions named;
+    for (const JobOptions::Entry &entry : entries) {
+        if (!isOption(entry, OptionName::pageRegion)) {
+            named.set(entry.first, entry.second);
+        } else if (!namesSize) {
+            named.set(OptionName::pageSize, entry.second);
+        }
+    }
+    return named;
+}
 
 void layDown(const JobOptions &options, ppd_file_t *ppd, JobOptions *job)
 {
@@ -131,22 +146,15 @@ QStringList unlistedValues(ppd_file_t *ppd, const JobOptions &job)
     return sentences;
 }
 
-QStringList optionsThatNeverArrive(ppd_file_t *ppd, const JobOptions &job)
+QStringList optionsThatNeverArrive(const JobOptions &chosen)
 {
     QStringList sentences;
-    const auto examine = [&sentences](const QString &name) {
-        const QString attribute = ippJobAttributeInOtherLetters(name);
-        const QString sentence =
-            Texts::tr("Option %1 never reaches the printer's filter, because the print server takes it for its own "
-                      "attribute %2: give it another name in the PPD.")
-                .arg(name, attribute);
-        if (!attribute.isNull() && !sentences.contains(sentence)) {
-            sentences.append(sentence);
+    for (const auto &[name, value] : chosen.entries()) {
+        if (const QString attribute = ippJobAttributeInOtherLetters(name); !attribute.isNull()) {
+            sentences.append(Texts::tr("Option %1 never reaches the printer's filter, because the print server takes "
+                                       "it for its own attribute %2: give it another name in the PPD.")
+                                 .arg(name, attribute));
         }
-    };
-    forEachOption(ppd, [&examine](const ppd_option_t &option) { examine(QString::fromUtf8(option.keyword)); });
-    for (const auto &[name, value] : job.entries()) {
-        examine(name);
     }
     return sentences;
 }

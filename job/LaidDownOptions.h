@@ -16,6 +16,10 @@
 namespace tapeprint::job
 {
 
+/// Options with PageRegion, which is the same choice as PageSize, under the name PageSize. Where both are given
+/// PageSize has the last word, as it has with libcups. A PPD without PageSize keeps them as they are.
+JobOptions withNamedSize(const JobOptions &options, ppd_file_t *ppd);
+
 /// Lays options down: each goes into the job; where the PPD has the option, the value becomes its default choice and is
 /// marked when the PPD lists it. A value that is neither listed nor a number stays in the job alone: a panel that
 /// chooses among the listed values keeps the PPD's own default. The job then names the tape (PageSize) that is marked.
@@ -36,7 +40,8 @@ double heightPtFromMm(double lengthMm);
 /// A sentence for each option of the job whose value the PPD neither lists nor takes as a number.
 QStringList unlistedValues(ppd_file_t *ppd, const JobOptions &job);
 
-/// A sentence for each option of the PPD or the job that the print server would keep for itself.
-QStringList optionsThatNeverArrive(ppd_file_t *ppd, const JobOptions &job);
+/// A sentence for each option that the print server would keep for itself. \param chosen what the person chose: what
+/// nobody asked for needs no word.
+QStringList optionsThatNeverArrive(const JobOptions &chosen);
 
 } // namespace tapeprint::job

@@ -49,10 +49,13 @@ std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList
     for (const QString &file : files) {
         QString pdf = file;
         if (documentKindOf(file) != DocumentKind::Pdf) {
-            if (!documents.folder) {
-                documents.folder = std::make_shared<QTemporaryDir>();
+            QString reason;
+            documents.made.push_back(PrivateFile::create(QStringLiteral("document.pdf"), &reason));
+            if (!documents.made.back()) {
+                *error = noRoomForTemporaryFiles(reason);
+                return std::nullopt;
             }
-            pdf = documents.folder->filePath(QString::number(documents.pdfs.size()) + QLatin1String(".pdf"));
+            pdf = documents.made.back()->path();
             if (!convertToPdf(file, textPagePt, pdf, stop, error)) {
                 return std::nullopt;
             }

@@ -4,11 +4,11 @@
 #pragma once
 
 #include "job/LabelPlan.h"
+#include "job/PrivateFile.h"
 #include "job/SettledJob.h"
 
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <atomic>
 #include <memory>
@@ -18,13 +18,13 @@
 namespace tapeprint::job
 {
 
-/// The documents of a job as PDFs. Those that had to be converted lie in a private folder that goes with this object.
+/// The documents of a job as PDFs. Those that had to be converted go with this object.
 struct PdfDocuments {
-    QStringList files;             ///< as they were named
-    QStringList pdfs;              ///< one each, in their order; a document that is a PDF is itself
-    std::vector<PageSizes> sizes;  ///< of each one's pages
-    std::vector<DrawnRects> drawn; ///< what is drawn on each one's pages; empty until it was asked for
-    std::shared_ptr<QTemporaryDir> folder;
+    QStringList files;                              ///< as they were named
+    QStringList pdfs;                               ///< one each, in their order; a document that is a PDF is itself
+    std::vector<PageSizes> sizes;                   ///< of each one's pages
+    std::vector<DrawnRects> drawn;                  ///< what is drawn on each one's pages; empty until it was asked for
+    std::vector<std::shared_ptr<PrivateFile>> made; ///< those of the PDFs that were made here
 };
 
 /// Makes PDFs of a job's documents, which are only read. With fit-length it also looks at what is drawn on them.

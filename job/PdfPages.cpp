@@ -112,8 +112,7 @@ bool isAsSeen(const PageBox &box, const QSizeF &drawn)
 {
     constexpr double slack = 0.01;
     const QSizeF size = box.turn % 180 == 0 ? box.seen.size() : box.seen.size().transposed();
-    return !box.page.isEmpty() && std::abs(size.width() - drawn.width()) < slack &&
-           std::abs(size.height() - drawn.height()) < slack;
+    return std::abs(size.width() - drawn.width()) < slack && std::abs(size.height() - drawn.height()) < slack;
 }
 
 /// Extends a rectangle by the dots of an image that are not white.
@@ -162,6 +161,9 @@ PdfPages::Document::Place PdfPages::Document::placeOf(const Poppler::Page *page)
     }
     const QSizeF drawn = page->pageSizeF();
     const auto index = static_cast<std::size_t>(page->index());
+    if (index < boxes.size() && boxes[index].page.isEmpty()) {
+        return place; // Poppler would make a sheet of paper of it
+    }
     if (index < boxes.size() && isAsSeen(boxes[index], drawn)) {
         place = {boxes[index].sizePt(), originOf(boxes[index]), boxes[index].unitPt};
     } else {

@@ -83,4 +83,23 @@ void putMarks(ppd_file_t *ppd, const PpdMarks &marks)
     }
 }
 
+PpdMarks takeDefaults(ppd_file_t *ppd)
+{
+    PpdMarks defaults;
+    forEachOption(ppd, [&defaults](const ppd_option_t &option) {
+        defaults.emplace_back(QString::fromUtf8(option.keyword), QString::fromUtf8(option.defchoice));
+    });
+    return defaults;
+}
+
+void putDefaults(ppd_file_t *ppd, const PpdMarks &defaults)
+{
+    for (const auto &[key, choice] : defaults) {
+        const ppd_option_t *option = findOption(ppd, key);
+        if (option != nullptr && QString::fromUtf8(option->defchoice) != choice) {
+            setDefaultChoice(ppd, key, choice);
+        }
+    }
+}
+
 } // namespace tapeprint::job

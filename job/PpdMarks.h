@@ -12,7 +12,7 @@
 namespace tapeprint::job
 {
 
-/// Marks of a PPD at one moment: option keyword and choice, in the PPD's order.
+/// Marks, or default choices, of a PPD at one moment: option keyword and choice, in the PPD's order.
 using PpdMarks = std::vector<std::pair<QString, QString>>;
 
 /// The option of a keyword, whatever its letters' case; null when the PPD does not define it.
@@ -36,6 +36,11 @@ bool setDefaultChoice(ppd_file_t *ppd, const QString &key, const QString &value)
 PpdMarks takeMarks(ppd_file_t *ppd);
 /// Puts marks back.
 void putMarks(ppd_file_t *ppd, const PpdMarks &marks);
+
+/// The default choice of every option, in the PPD's order.
+PpdMarks takeDefaults(ppd_file_t *ppd);
+/// Puts default choices back.
+void putDefaults(ppd_file_t *ppd, const PpdMarks &defaults);
 
 /// Calls a function for each option of the PPD, subgroups included, in the PPD's order.
 template <typename Function>

@@ -2,6 +2,8 @@
 // Print queues through libcups: the server, the saved options of the person, PPDs of local and remote queues.
 #include "job/Printers.h"
 
+#include "job/PlainText.h"
+#include "job/PrivateFile.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
@@ -161,7 +163,7 @@ bool serverAnswers(QString *error)
     }
     *error = Texts::tr("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
                        "without one with --ppd FILE.")
-                 .arg(QString::fromUtf8(cupsServer()));
+                 .arg(harmless(QString::fromUtf8(cupsServer())));
     return false;
 }
 
@@ -192,14 +194,24 @@ std::optional<PrintQueue> findQueue(const QString &name, const QString &instance
                            "with --ppd FILE.");
     } else {
         *error = Texts::tr("The print server knows no queue %1: see lpstat -e for the queues there are.")
-                     .arg(QueueName({name, instance}).text());
+                     .arg(harmless(QueueName({name, instance}).text()));
     }
     return std::nullopt;
 }
 
 PpdFile openQueuePpd(const PrintQueue &queue, QString *error)
 {
+    QString reason;
+    const auto file = PrivateFile::create(QStringLiteral("queue.ppd"), &reason);
     std::array<char, 1024> path{};
+    if (!file || static_cast<std::size_t>(QFile::encodeName(file->path()).size()) >= path.size()) {
+        *error = Texts::tr("The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.")
+                     .arg(harmless(queue.name), reason);
+        return nullptr;
+    }
+    // libcups fills the file that it is given a name of; without one it would make a file that outlives this program.
+    const QByteArray name = QFile::encodeName(file->path());
+    std::copy(name.begin(), name.end(), path.begin());
     std::time_t modified = 0;
     const http_status_t status =
         cupsGetPPD3(CUPS_HTTP_DEFAULT, queue.name.toUtf8().constData(), &modified, path.data(), path.size());
@@ -209,12 +221,10 @@ PpdFile openQueuePpd(const PrintQueue &queue, QString *error)
     if (status != HTTP_STATUS_OK) {
         *error = Texts::tr("The PPD of queue %1 cannot be had from the print server (%2): see that the queue is "
                            "set up.")
-                     .arg(queue.name, QString::fromUtf8(cupsLastErrorString()));
+                     .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())));
         return nullptr;
     }
-    PpdFile ppd = openPpdFile(QFile::decodeName(path.data()), error, Texts::tr("of queue %1").arg(queue.name));
-    QFile::remove(QFile::decodeName(path.data()));
-    return ppd;
+    return openPpdFile(QFile::decodeName(path.data()), error, Texts::tr("of queue %1").arg(queue.name));
 }
 
 } // namespace tapeprint::job

@@ -2,12 +2,14 @@
 // Choosing the road of a job: a print queue, or filters alone.
 #include "job/Printing.h"
 
+#include "job/Conversion.h"
 #include "job/LaidOutJob.h"
+#include "job/OutputFile.h"
+#include "job/PrivateFile.h"
 #include "job/Texts.h"
 
-#include <QTemporaryDir>
-
 #include <array>
+#include <memory>
 
 namespace tapeprint::job
 {
@@ -27,12 +29,30 @@ namespace
     QT_TRANSLATE_NOOP("tapeprint::job::Texts", "sent"),
 };
 
+/// The documents as one of labels.
+std::unique_ptr<PrivateFile> layOut(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
+                                    QString *error)
+{
+    QString reason;
+    std::unique_ptr<PrivateFile> labels = PrivateFile::create(QStringLiteral("labels.pdf"), &reason);
+    if (!labels) {
+        *error = noRoomForTemporaryFiles(reason);
+        return nullptr;
+    }
+    const std::optional<PdfDocuments> documents = collectPdfs(job, files, stop, error);
+    return documents && layOutJob(job, *documents, labels->path(), stop, error) ? std::move(labels) : nullptr;
+}
+
 } // namespace
 
 QString PrintedJob::sentence() const
 {
+    if (queue.isNull() && isStandardOutput(output.path)) {
+        return Texts::tr("The printer's bytes went to standard output (%1 bytes).").arg(QString::number(output.bytes));
+    }
     if (queue.isNull()) {
-        return Texts::tr("The printer's bytes are in %1 (%2 bytes).").arg(output.path, QString::number(output.bytes));
+        return Texts::tr("The printer's bytes are in %1 (%2 bytes).")
+            .arg(outputName(output.path), QString::number(output.bytes));
     }
     return Texts::tr("Job %1-%2 is %3.")
         .arg(queue, QString::number(job.id), Texts::tr(job.state.toLatin1().constData()));
@@ -41,18 +61,20 @@ QString PrintedJob::sentence() const
 std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
                                    const std::atomic<bool> &stop, QString *error)
 {
-    QTemporaryDir folder;
     QStringList printed = files;
+    std::unique_ptr<PrivateFile> labels;
     if (job.page.isTape) {
-        const std::optional<PdfDocuments> documents = collectPdfs(job, files, stop, error);
-        printed = {folder.filePath(QStringLiteral("labels.pdf"))};
-        if (!documents || !layOutJob(job, *documents, printed.first(), stop, error)) {
+        labels = layOut(job, files, stop, error);
+        if (!labels) {
             return std::nullopt;
         }
+        printed = {labels->path()};
     }
     if (job.isFile()) {
         const std::optional<FilterOutput> output =
-            runFilters({job.ppdPath, title, job.carried(), printed, job.outputPath}, error);
+            runFilters({job.ppdPath, title, job.carried(), printed, job.outputPath, job.mayReplaceOutput, job.trustsPpd,
+                        job.documents, &stop},
+                       error);
         return output ? std::optional(PrintedJob{{}, {}, *output}) : std::nullopt;
     }
     const std::optional<SubmittedJob> submitted = submitJob(*job.queue, title, job.carried(), printed, error);

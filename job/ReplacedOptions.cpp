@@ -2,6 +2,9 @@
 // Comparing what was laid down with what the job carries, name by name.
 #include "job/ReplacedOptions.h"
 
+#include "job/PpdMarks.h"
+#include "job/Texts.h"
+
 namespace tapeprint::job
 {
 
@@ -10,28 +13,42 @@ namespace
 
 bool sameValue(const QString &left, const QString &right)
 {
-    bool leftIsNumber = false;
-    bool rightIsNumber = false;
-    const double leftNumber = left.toDouble(&leftIsNumber);
-    const double rightNumber = right.toDouble(&rightIsNumber);
+    const double leftNumber = left.toDouble();
+    const double rightNumber = right.toDouble();
     return left.compare(right, Qt::CaseInsensitive) == 0 ||
-           (leftIsNumber && rightIsNumber && leftNumber >= rightNumber && leftNumber <= rightNumber);
+           (isNumber(left) && isNumber(right) && leftNumber >= rightNumber && leftNumber <= rightNumber);
 }
 
 } // namespace
 
-QStringList replacedOptions(const JobOptions &laidDown, const JobOptions &job)
+QString ReplacedOption::sentence(ppd_file_t *ppd, const QString &panel) const
 {
-    QStringList sentences;
-    for (const auto &[name, value] : laidDown.entries()) {
-        for (const auto &[jobName, jobValue] : job.entries()) {
-            if (jobName.compare(name, Qt::CaseInsensitive) == 0 && !sameValue(value, jobValue)) {
-                sentences.append(QStringLiteral("%1=%2 is not what the printer offers: the job carries %3=%4.")
-                                     .arg(name, value, jobName, jobValue));
+    const auto &[name, value] = laidDown;
+    const auto &[jobName, jobValue] = carried;
+    if (!listedChoice(ppd, name, value).isNull()) {
+        return Texts::tr("The panel \"%1\" does not offer %2=%3, which the printer has: the job carries %4=%5.")
+            .arg(panel, name, value, jobName, jobValue);
+    }
+    if (isNumber(value) && isNumber(jobValue)) {
+        return Texts::tr("The panel \"%1\" holds %2 within its limits and steps: instead of %3 the job carries %4.")
+            .arg(panel, jobName, value, jobValue);
+    }
+    return Texts::tr("%1=%2 is none of the choices that the printer's PPD lists: the job carries %3=%4.")
+        .arg(name, value, jobName, jobValue);
+}
+
+std::vector<ReplacedOption> replacedOptions(const JobOptions &laidDown, const JobOptions &job)
+{
+    std::vector<ReplacedOption> replaced;
+    for (const JobOptions::Entry &entry : laidDown.entries()) {
+        for (const JobOptions::Entry &carried : job.entries()) {
+            if (carried.first.compare(entry.first, Qt::CaseInsensitive) == 0 &&
+                !sameValue(entry.second, carried.second)) {
+                replaced.push_back({entry, carried});
             }
         }
     }
-    return sentences;
+    return replaced;
 }
 
 } // namespace tapeprint::job

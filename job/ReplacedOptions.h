@@ -1,16 +1,29 @@
 // SPDX-License-Identifier: Apache-2.0
-// What a person laid down and the job carries with another value: said, never lost in silence.
+// What a person laid down and the job carries with another value, because a panel put it there: said, never lost in
+// silence.
 #pragma once
 
 #include "job/JobOptions.h"
 
-#include <QStringList>
+#include <vector>
+
+#include <cups/ppd.h>
 
 namespace tapeprint::job
 {
 
-/// A sentence for each option that was laid down and that the job carries with another value. Numbers that say the
-/// same, such as 62 and 62.0, are one value.
-QStringList replacedOptions(const JobOptions &laidDown, const JobOptions &job);
+/// An option as it was laid down, and as the job carries it.
+struct ReplacedOption {
+    JobOptions::Entry laidDown;
+    JobOptions::Entry carried;
+
+    /// Why the job carries another value, and which. \param ppd tells what the printer has, may be null; \param panel
+    /// the name of the panel that sent the other value.
+    QString sentence(ppd_file_t *ppd, const QString &panel) const;
+};
+
+/// The options that were laid down and that the job carries with another value. Numbers that say the same, such as 62
+/// and 62.0, are one value.
+std::vector<ReplacedOption> replacedOptions(const JobOptions &laidDown, const JobOptions &job);
 
 } // namespace tapeprint::job

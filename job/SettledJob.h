@@ -16,8 +16,11 @@ namespace tapeprint::job
 
 struct SettledJob {
     std::optional<PrintQueue> queue;
-    QString ppdPath;    ///< the local PPD file; empty when the PPD is the queue's
-    QString outputPath; ///< where the printer's bytes go; empty: to the queue
+    QString ppdPath;              ///< the local PPD file; empty when the PPD is the queue's
+    QString outputPath;           ///< where the printer's bytes go; empty: to the queue
+    bool mayReplaceOutput = true; ///< as in the destination, and so the next two
+    bool trustsPpd = false;
+    FileStamps documents;
     JobOptions options; ///< as the person left them; carried() says what of them leaves
     TapePage page;
     RasterShift shift;

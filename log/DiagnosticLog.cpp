@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 // The nine functions. They hold no state; each writes its lines where its name says and reports nothing back.
-#include "log/DiagnosticLog.h"
+#include "pagesettings/Exports.h"
 
 #include "log/LogFormat.h"
+#include "log/SettingsFile.h"
 #include "pdekit/Log.h"
-#include "pdekit/PrintingCore.h"
+#include "pdekit/Numbers.h"
 #include "pdekit/StringEncoding.h"
 
 #include <QByteArray>
 #include <QMessageLogger>
-#include <QObject>
-#include <QSaveFile>
 #include <QString>
 
 #include <array>
@@ -40,19 +39,16 @@ void systemLogV(const QString &format, va_list arguments)
     systemLog(pdelog::formatted(format, arguments));
 }
 
-QString description(const QObject *object)
-{
-    return QString::asprintf("<%s: %p>", object->metaObject()->className(), static_cast<const void *>(object));
-}
-
-/// The caller's format behind its prefix. Placeholders are filled later, over the whole.
-QString taggedFormat(const char *tag, const QObject *object, const char *format)
+/// The caller's format behind its prefix. Placeholders are filled later, over the whole; a "%" in the description,
+/// which may be a PPD's text, is none of them.
+QString taggedFormat(const char *tag, const pdekit::LoggedObject &object, const char *format)
 {
     const QString text = QString::fromUtf8(format);
-    if (object == nullptr) {
+    if (object.isNone()) {
         return QLatin1String(tag) + QLatin1Char(' ') + text;
     }
-    return QLatin1String(tag) + QStringLiteral(" self(") + description(object) + QStringLiteral(") ") + text;
+    const QString description = object.description().replace(QLatin1Char('%'), QLatin1StringView("%%"));
+    return QLatin1String(tag) + QStringLiteral(" self(") + description + QStringLiteral(") ") + text;
 }
 
 void logText(const char *label, const QString &text)
@@ -111,7 +107,7 @@ extern "C" {
 // Reserved names, given and kept as they are.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 
-void _PDEProlog(const QObject *object, const char *format, ...)
+void _PDEProlog(pdekit::LoggedObject object, const char *format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
@@ -119,7 +115,7 @@ void _PDEProlog(const QObject *object, const char *format, ...)
     va_end(arguments);
 }
 
-void _PDEEpilog(const QObject *object, const char *format, ...)
+void _PDEEpilog(pdekit::LoggedObject object, const char *format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
@@ -127,7 +123,7 @@ void _PDEEpilog(const QObject *object, const char *format, ...)
     va_end(arguments);
 }
 
-void _PDELog(const QObject *object, const char *format, ...)
+void _PDELog(pdekit::LoggedObject object, const char *format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
@@ -158,7 +154,7 @@ void _PDELog_ppd_option_t(ppd_file_t *ppd, const char *ppdOptionName)
     logField("***** text | ", option->text);
     systemLog(QString::asprintf("***** ui == %d", static_cast<int>(option->ui)));
     systemLog(QString::asprintf("***** section == %d", static_cast<int>(option->section)));
-    systemLog(QString::asprintf("***** order == %f", static_cast<double>(option->order)));
+    logText("***** order == ", pdekit::fixedDecimals(static_cast<double>(option->order), 6));
     systemLog(QString::asprintf("***** num_choices == %d", option->num_choices));
     logFirstByteOn("***** choices->marked | ", choice);
     logField("***** choices->choice | ", choice == nullptr ? nullptr : choice->choice);
@@ -171,15 +167,7 @@ void _PDELog_PMPrintSettings_WriteToFile(const pdekit::PrintSettings *settings, 
     if (settings == nullptr || name == nullptr) {
         return;
     }
-    QByteArray data;
-    if (pdekit::PMPrintSettingsCreateDataRepresentation(settings, &data) != pdekit::kPMNoError || data.isEmpty()) {
-        return;
-    }
-    // Written whole or not at all. The function does not report; a file that cannot be written is left out.
-    QSaveFile file(QStringLiteral("/KsPDE_") + QString::fromUtf8(name) + QStringLiteral(".plist"));
-    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size()) {
-        file.commit();
-    }
+    pdelog::writeSettings(*settings, pdelog::settingsPath(QString::fromUtf8(name)));
 }
 // NOLINTEND(bugprone-reserved-identifier)
 

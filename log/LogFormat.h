@@ -9,8 +9,11 @@
 namespace pdelog
 {
 
-/// The format with its placeholders filled from the arguments, each of the type that printf asks for; "%@" takes a
-/// `const QString *`. A placeholder that is unknown, "%n" among them, stands as it is and takes no argument.
+/// The format with its placeholders filled as C's printf fills them in the C locale, each argument of the type that
+/// printf asks for; "%@" takes a `const QString *`. What differs from C:
+/// - A null text is "(null)", whatever its precision. A character that the precision would cut in two is left out.
+/// - Widths, and the digits of numbers, end at 999999.
+/// - A placeholder that is unknown, "%n" among them, stands as it is and takes no argument.
 QString formatted(const QString &format, va_list arguments);
 
 } // namespace pdelog

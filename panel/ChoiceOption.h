@@ -50,4 +50,6 @@ struct ChoiceOption {
     enum Item { Quality, Resolution, Compress, KsResolution, TapeType, TapeColor, InkColor, Count };
     static const ChoiceOption &of(Item item);
     static std::span<const ChoiceOption, Count> all();
+    /// The place of this option in the table.
+    std::size_t place() const { return static_cast<std::size_t>(this - all().data()); }
 };

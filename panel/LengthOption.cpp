@@ -4,9 +4,9 @@
 
 #include <array>
 
-const LengthOption &LengthOption::of(Item item)
+std::span<const LengthOption, LengthOption::Count> LengthOption::all()
 {
-    static const std::array<LengthOption, 3> table = {{
+    static const std::array<LengthOption, Count> table = {{
         {.keyword = "KsTapeLength",
          .option = &Panel::mTapeLength_Option,
          .title = &Panel::mLengthStr,
@@ -60,5 +60,10 @@ const LengthOption &LengthOption::of(Item item)
          .alertBelow = "RS_Alrt_TapeLengthMin",
          .alertAbove = "RS_Alrt_TapeLengthMax"},
     }};
-    return table[item];
+    return table;
+}
+
+const LengthOption &LengthOption::of(Item item)
+{
+    return all()[item];
 }

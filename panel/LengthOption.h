@@ -5,6 +5,8 @@
 
 #include "panel/PageSettingPDE13_v100_.h"
 
+#include <span>
+
 /// One length group: a title, a field, a slider, a unit and the labels of two limits.
 struct LengthOption {
     using Panel = PageSettingPDE13_v100_;
@@ -31,6 +33,9 @@ struct LengthOption {
     const char *alertBelow; ///< null: no check of its own
     const char *alertAbove;
 
-    enum Item { TapeLength, Margin, PrintTapeLength };
+    enum Item { TapeLength, Margin, PrintTapeLength, Count };
     static const LengthOption &of(Item item);
+    static std::span<const LengthOption, Count> all();
+    /// The place of this group in the table.
+    std::size_t place() const { return static_cast<std::size_t>(this - all().data()); }
 };

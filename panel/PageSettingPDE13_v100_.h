@@ -4,6 +4,7 @@
 
 #include "controls/PDETextField13_v100_.h"
 #include "panel/LengthArithmetic.h"
+#include "panel/ShownValues.h"
 #include "pdekit/NotificationCenter.h"
 #include "pdekit/RadioMatrix.h"
 #include "pdekit/Slider.h"
@@ -14,6 +15,10 @@
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
+
+#include <optional>
+#include <utility>
+#include <vector>
 
 class BundleImages;
 struct ChoiceOption;
@@ -39,8 +44,12 @@ inline constexpr std::int32_t printTapeLength = 0x90000;
 /// The one concrete panel. Its operations stand in three groups: building the controls (KSLXMVPS_initialize), handing
 /// values to the dialog (KSLXMVPS_Save), and the person's actions with their checks (KSLXMVPS_IBAction).
 ///
-/// Every control may be missing, before the interface file is loaded and after the dialog has deleted the view.
-class PageSettingPDE13_v100_ : public BasePDE13_v100_
+/// Every control may be missing, before the interface file is loaded and after the dialog has deleted the view. What a
+/// deleted view showed is kept, stands for its controls while there are none, and fills the next view.
+///
+/// A dialog may release the panel while an alert of the panel is up: whatever may say something with an alert looks
+/// afterwards whether the panel is still there.
+class PageSettingPDE13_v100_ : public BasePDE13_v100_, public pdekit::PanelLiveValues
 {
     Q_OBJECT
 
@@ -56,6 +65,9 @@ public:
     void PPDOptionKeyValueDidChange(const QString &key, const QString &choice) override;
     std::optional<QVariantMap> summaryInfo() override;
     void printWindowWillClose(bool userPrinted) override;
+
+    /// Empty until the controls have been filled, too: an unfilled field says nothing.
+    std::vector<std::pair<QString, QString>> currentValues() const override;
 
     void initSetTitleTexts() override;
     void initUI() override;
@@ -179,6 +191,10 @@ private:
     void readConnection();
     void findOptions();
     void saveAllSettings();
+    void buildControls();
+    void fillLaterView();
+    void keepShownValues();
+    void putBackShownValues(const ShownValues &shown);
 
     void localizeInterface();
 
@@ -190,23 +206,35 @@ private:
     void selectFirstChoice(const ChoiceOption &option);
     void pick(const ChoiceOption &option, QObject *sender);
     void selectInControl(const ChoiceOption &option, int index);
+    void selectStoredChoice(const ChoiceOption &option);
     int selectedIndex(const ChoiceOption &option) const;
     bool controlExists(const ChoiceOption &option) const;
     void saveChoice(const ChoiceOption &option);
     std::int64_t indexForSave(const ChoiceOption &option) const;
     void setClothBit(bool cloth);
+    bool isCloth() const;
     void set15mmBit(bool is15mm);
 
     // Lengths: one algorithm each over the table of the three groups.
     void fillLengthGroup(const LengthOption &group, const QString &initialText, float millimetres, bool enabled);
     void showLength(const LengthOption &group, const lengths::Rewritten &length);
+    bool isShown(const LengthOption &group) const;
+    bool isFilled(const LengthOption &group) const;
+    QString shownText(const LengthOption &group) const;
+    void setShownText(const LengthOption &group, const QString &text);
     void checkRange(const LengthOption &group);
     void slide(const LengthOption &group, QObject *sender);
-    void sayWithAlert(const char *key) const;
+    [[nodiscard]] bool sayWithAlert(const char *key);
     bool checksAreSkipped();
     lengths::Rules rulesOf(const LengthOption &group) const;
     lengths::Unit unit() const;
     lengths::Unit savingUnit() const;
+    lengths::Rules savingRulesOf(const LengthOption &group) const;
+    QString paperLengthText(const TapeInfo &tape) const;
+    bool takesOverPaper(const QString &paperText) const;
+    QString tapeLengthToSave(const TapeInfo &tape) const;
+    QString marginToSave(bool clamp) const;
+    QString printTapeLengthToSave(bool clamp) const;
     QString attribute(const char *name) const;
     bool flagAttribute(const char *name) const;
     float lengthAttribute(const char *name) const;
@@ -291,6 +319,11 @@ private:
     const PDEChoice *mTapeType_Selection = nullptr;
     const PDEChoice *mInkColor_Selection = nullptr;
     const PDEChoice *mTapeColor_Selection = nullptr;
+
+    std::optional<ShownValues> mKeptValues; ///< of a view that the dialog deleted, until there is another
+    /// The receiver of all that the view's controls send. A view of the panel's own goes after it, with the base: an
+    /// edit that ends then reaches nobody.
+    std::unique_ptr<QObject> mReceiver;
 
     std::unique_ptr<BundleImages> mImages; ///< of the choices; null until a control with images is filled
 

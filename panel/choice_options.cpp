@@ -4,6 +4,7 @@
 #include "panel/BundleImages.h"
 #include "panel/ChoiceOption.h"
 #include "panel/PageSettingPDE13_v100_.h"
+#include "panel/PlainLabel.h"
 #include "panel/PopUpItems.h"
 
 #include "pdekit/NotificationCenter.h"
@@ -103,12 +104,10 @@ void PageSettingPDE13_v100_::fillChoiceControl(const ChoiceOption &option)
 
 void PageSettingPDE13_v100_::titleChoiceLabel(const ChoiceOption &option)
 {
-    if (this->*option.label == nullptr) {
-        return;
-    }
     const QString title = PDEUtilsMethod13::newOptionTitle(this->*option.option);
-    (this->*option.label)
-        ->setText(localized(title.isNull() ? QString::fromLatin1(option.titleKey) : title + QLatin1StringView(" : ")));
+    QWidget *control = option.matrix != nullptr ? static_cast<QWidget *>(this->*option.matrix) : this->*option.popUp;
+    showTitle(this->*option.label, control,
+              localized(title.isNull() ? QString::fromLatin1(option.titleKey) : title + QLatin1StringView(" : ")));
 }
 
 void PageSettingPDE13_v100_::fillRadioMatrix(const ChoiceOption &option)
@@ -219,7 +218,7 @@ bool PageSettingPDE13_v100_::controlExists(const ChoiceOption &option) const
 int PageSettingPDE13_v100_::selectedIndex(const ChoiceOption &option) const
 {
     if (!controlExists(option)) {
-        return 0;
+        return mKeptValues ? mKeptValues->picks[option.place()] : 0;
     }
     return option.matrix != nullptr ? (this->*option.matrix)->selectedRow() : (this->*option.popUp)->currentIndex();
 }
@@ -227,6 +226,9 @@ int PageSettingPDE13_v100_::selectedIndex(const ChoiceOption &option) const
 void PageSettingPDE13_v100_::selectInControl(const ChoiceOption &option, int index)
 {
     if (!controlExists(option)) {
+        if (mKeptValues) {
+            mKeptValues->picks[option.place()] = index;
+        }
         return;
     }
     if (option.matrix != nullptr) {
@@ -239,6 +241,11 @@ void PageSettingPDE13_v100_::selectInControl(const ChoiceOption &option, int ind
 void PageSettingPDE13_v100_::setClothBit(bool cloth)
 {
     mImageModeFlag = cloth ? mImageModeFlag | kClothBit : mImageModeFlag & ~kClothBit;
+}
+
+bool PageSettingPDE13_v100_::isCloth() const
+{
+    return (mImageModeFlag & kClothBit) != 0;
 }
 
 // ---- A person's pick -----------------------------------------------------------------------------------------------
@@ -286,10 +293,11 @@ void PageSettingPDE13_v100_::pick(const ChoiceOption &option, QObject *sender)
     if (option.decidesEnabledQuality) {
         enabledCheck_BS();
     }
+    const QPointer<QObject> self(this);
     if (sender != nullptr) {
         checkValues(false);
     }
-    if (option.setsClothBit) {
+    if (self != nullptr && option.setsClothBit) {
         setClothBit(index == ChoiceOption::kClothIndex);
         initializeUI_PrintTapeLength();
     }
@@ -340,14 +348,20 @@ void PageSettingPDE13_v100_::updateUIItem(std::int32_t itemType)
          {ChoiceOption::Quality, ChoiceOption::Resolution, ChoiceOption::Compress, ChoiceOption::KsResolution,
           ChoiceOption::TapeType, ChoiceOption::InkColor, ChoiceOption::TapeColor}) {
         const ChoiceOption &option = ChoiceOption::of(item);
-        const PDEChoice *selection = this->*option.selection;
-        if ((itemType & option.itemType) == 0 || selection == nullptr || this->*option.choices == nullptr) {
-            continue;
+        if ((itemType & option.itemType) != 0) {
+            selectStoredChoice(option);
         }
+    }
+    enabledCheck_BS();
+}
+
+void PageSettingPDE13_v100_::selectStoredChoice(const ChoiceOption &option)
+{
+    const PDEChoice *selection = this->*option.selection;
+    if (selection != nullptr && this->*option.choices != nullptr) {
         // The place of that very element, which the array holds.
         selectInControl(option, static_cast<int>(selection - (this->*option.choices)->data()));
     }
-    enabledCheck_BS();
 }
 
 void PageSettingPDE13_v100_::PPDOptionKeyValueDidChange(const QString &key, const QString &choice)

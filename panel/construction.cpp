@@ -129,6 +129,13 @@ void PageSettingPDE13_v100_::initUI()
     if (set_formatSetting) {
         return;
     }
+    buildControls();
+    saveAllSettings();
+    set_formatSetting = true;
+}
+
+void PageSettingPDE13_v100_::buildControls()
+{
     initializeUI_Width();
     initializeUI_Length();
     initializeUI_Margin();
@@ -141,8 +148,6 @@ void PageSettingPDE13_v100_::initUI()
     initializeUI_InkColor();
     // Last: its limits follow from the tape width and the tape material found above.
     initializeUI_PrintTapeLength();
-    saveAllSettings();
-    set_formatSetting = true;
 }
 
 void PageSettingPDE13_v100_::setPDEItems()

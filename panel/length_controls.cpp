@@ -3,6 +3,7 @@
 // checks at the right moments.
 #include "panel/LengthOption.h"
 #include "panel/PageSettingPDE13_v100_.h"
+#include "panel/PlainLabel.h"
 
 #include "controls/PDEFormatter.h"
 #include "pdekit/CurrentEvent.h"
@@ -94,9 +95,9 @@ void PageSettingPDE13_v100_::fillLengthGroup(const LengthOption &group, const QS
 
     const QString title =
         PDEUtilsMethod13::newOptionTitle(ppd == nullptr ? nullptr : ppdFindOption(ppd, group.keyword));
-    setText(this->*group.title,
-            localized(title.isNull() ? QString::fromLatin1(group.titleKey) : title + QLatin1StringView(" : ")),
-            enabled);
+    PDEUtilsMethod13::setEnabledForText(enabled, this->*group.title);
+    showTitle(this->*group.title, this->*group.field,
+              localized(title.isNull() ? QString::fromLatin1(group.titleKey) : title + QLatin1StringView(" : ")));
 
     const QString unitText = localized(!group.hasInchForm ? QStringLiteral("RS_m")
                                        : inInches         ? QStringLiteral("RS_Inch")
@@ -177,6 +178,7 @@ void PageSettingPDE13_v100_::controlTextDidEndEditing(QObject *field)
     const EventType type = currentEventType();
     if (field != nullptr && field == mLengthTxFld && isEndOfEditing(type)) {
         checkTapeLength();
+        return; // no field is both, and the panel may be gone
     }
     if (field != nullptr && field == mTapeLengthTxFld && isEndOfEditing(type)) {
         checkKsPrintTapeLength();

@@ -3,6 +3,7 @@
 // fields.
 #include "panel/ChoiceOption.h"
 #include "panel/PageSettingPDE13_v100_.h"
+#include "panel/PlainLabel.h"
 
 #include "ppd/PDEUtilsMethod13.h"
 
@@ -67,25 +68,28 @@ void PageSettingPDE13_v100_::connectOutlet(const QString &name, QWidget *widget)
 void PageSettingPDE13_v100_::viewDidLoad()
 {
     using Self = PageSettingPDE13_v100_;
+    mReceiver = std::make_unique<QObject>();
     // Each signal is sent for a person's act only, never for a control set by code.
     const auto onMatrix = [this](RadioMatrix *matrix, void (Self::*handler)(QObject *)) {
         if (matrix != nullptr) {
-            connect(matrix, &RadioMatrix::action, this, [this, matrix, handler] { (this->*handler)(matrix); });
+            connect(matrix, &RadioMatrix::action, mReceiver.get(),
+                    [this, matrix, handler] { (this->*handler)(matrix); });
         }
     };
     const auto onPopUp = [this](QComboBox *popUp, void (Self::*handler)(QObject *)) {
         if (popUp != nullptr) {
-            connect(popUp, &QComboBox::activated, this, [this, popUp, handler](int) { (this->*handler)(popUp); });
+            connect(popUp, &QComboBox::activated, mReceiver.get(),
+                    [this, popUp, handler](int) { (this->*handler)(popUp); });
         }
     };
     const auto onSlider = [this](Slider *slider, void (Self::*handler)(QObject *)) {
         if (slider != nullptr) {
-            connect(slider, &Slider::action, this, [this, slider, handler] { (this->*handler)(slider); });
+            connect(slider, &Slider::action, mReceiver.get(), [this, slider, handler] { (this->*handler)(slider); });
         }
     };
     const auto onField = [this](PDETextField13_v100_ *field) {
         if (field != nullptr) {
-            connect(field, &PDETextField13_v100_::editingEnded, this,
+            connect(field, &PDETextField13_v100_::editingEnded, mReceiver.get(),
                     [this, field] { controlTextDidEndEditing(field); });
         }
     };
@@ -103,8 +107,13 @@ void PageSettingPDE13_v100_::viewDidLoad()
     onField(mLengthTxFld);
     onField(mMarginTxFld);
     onField(mTapeLengthTxFld);
+    // The view's controls are still whole when the view says that it goes.
+    connect(kPDEView, &QObject::destroyed, mReceiver.get(), [this] { keepShownValues(); });
     localizeInterface();
     awakeFromNib();
+    if (set_formatSetting) {
+        fillLaterView();
+    }
 }
 
 void PageSettingPDE13_v100_::localizeInterface()
@@ -113,6 +122,7 @@ void PageSettingPDE13_v100_::localizeInterface()
     const QList<QLabel *> labels = kPDEView->findChildren<QLabel *>();
     for (QLabel *label : labels) {
         label->setText(localized(label->text()));
+        makePlain(*label);
     }
     for (const ChoiceOption &option : ChoiceOption::all()) {
         const QWidget *control = option.popUp == nullptr ? nullptr : (this->*option.popUp).data();

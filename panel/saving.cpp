@@ -2,6 +2,7 @@
 // Handing every value to the dialog as a PPD option keyword and a choice keyword, and the panel's last word before the
 // job goes out. Saving is idempotent: each call derives the value anew and sends it again.
 #include "panel/ChoiceOption.h"
+#include "panel/LengthOption.h"
 #include "panel/PageSettingPDE13_v100_.h"
 
 #include "pdekit/Numbers.h"
@@ -33,8 +34,11 @@ void PageSettingPDE13_v100_::tellDialog(const char *keyword, const QString &choi
 
 void PageSettingPDE13_v100_::setValuesToKey()
 {
+    const QPointer<QObject> self(this);
     checkValues(false);
-    saveAllSettings();
+    if (self != nullptr) {
+        saveAllSettings();
+    }
 }
 
 bool PageSettingPDE13_v100_::shouldPrint()
@@ -51,7 +55,11 @@ bool PageSettingPDE13_v100_::shouldPrint()
     }
     BasePDE13_v100_::shouldPrint();
     // A check that failed refuses the print once, in silence; the next request checks again. Deliberate.
+    const QPointer<QObject> self(this);
     const bool answer = checkValues_dec && checkValues(false);
+    if (self == nullptr) {
+        return false;
+    }
     checkValues_dec = true;
     return answer;
 }
@@ -107,9 +115,13 @@ void PageSettingPDE13_v100_::saveChoice(const ChoiceOption &option)
 
 std::int64_t PageSettingPDE13_v100_::indexForSave(const ChoiceOption &option) const
 {
+    const bool isQuality = option.itemType == ItemType::quality;
     if (controlExists(option)) {
-        const bool isQuality = option.itemType == ItemType::quality;
         return isQuality ? indexForSaveQuality(mPrintQualityRdBtn) : selectedIndex(option);
+    }
+    if (mKeptValues) {
+        const bool firstOnly = isQuality && mKeptValues->picks[ChoiceOption::Resolution] != 0;
+        return firstOnly ? 0 : selectedIndex(option);
     }
     const PDEChoiceArray *choices = (this->*option.choices).get();
     const std::uint32_t code = option.ticketCode == nullptr ? 0 : currentTapeInfo().*option.ticketCode;
@@ -143,55 +155,103 @@ void PageSettingPDE13_v100_::saveSetting_Length()
     const TapeInfo tape = currentTapeInfo();
     setTapeState(tape.fixedLength);
 
-    const lengths::Rules rules = {savingUnit(), isIntegerTapeLen(), minTapeLen(), maxTapeLen()};
-    const QString paperText = lengths::paperLengthText(tape.paperLength, rules.unit, rules.isInteger);
-    QString shownText = paperText;
-    if (mLengthTxFld != nullptr) {
-        // A paper of another length is taken over only while the field still shows the length of the paper before.
-        const float paperLength = floatValue(paperText);
-        const bool paperIsAsBefore = paperLength == choice_PaperSize;
-        const bool personTyped = floatValue(mLengthTxFld->text()) != choice_PaperSize;
-        if (paperIsAsBefore || personTyped) {
-            shownText = mLengthTxFld->text();
-        } else {
-            mLengthTxFld->setText(paperText);
+    const LengthOption &group = LengthOption::of(LengthOption::TapeLength);
+    if (isShown(group)) {
+        const QString paperText = paperLengthText(tape);
+        if (takesOverPaper(paperText)) {
+            setShownText(group, paperText);
         }
-        choice_PaperSize = paperLength;
+        choice_PaperSize = floatValue(paperText);
         enableLengthControls(getTapeState() == 0);
     }
     // Written whether or not the PPD has the option. Deliberate.
-    tellDialog("KsTapeLength", lengths::savedTapeLength(shownText, rules, getTapeState() == 0));
+    tellDialog(group.keyword, tapeLengthToSave(tape));
 }
 
 void PageSettingPDE13_v100_::saveSetting_Margin()
 {
-    if (printSettings == nullptr || mMargin_Option == nullptr) {
-        return;
+    if (printSettings != nullptr && mMargin_Option != nullptr) {
+        tellDialog(mMargin_Option->keyword, marginToSave(getTapeState() == 0));
     }
-    const lengths::Rules rules = {savingUnit(), isIntegerMarginLen(), minMargin(), maxMargin()};
-    const bool clamp = getTapeState() == 0;
-    tellDialog(mMargin_Option->keyword,
-               mMarginTxFld != nullptr ? lengths::savedMargin(mMarginTxFld->text(), rules, clamp)
-                                       : lengths::savedDefaultMargin(defaultNumber(*mMargin_Option), rules, clamp));
 }
 
 void PageSettingPDE13_v100_::saveSetting_PrintTapeLength()
 {
-    if (printSettings == nullptr || mPrintTapeLength_Option == nullptr) {
-        return;
+    if (printSettings != nullptr && mPrintTapeLength_Option != nullptr) {
+        tellDialog(mPrintTapeLength_Option->keyword, printTapeLengthToSave(getTapeState() == 0));
     }
-    const lengths::Rules rules = {savingUnit(), isIntegerPrintTapeLen(), minPrintTapeLen(), getMaxPrintTapeLen()};
-    const bool clamp = getTapeState() == 0;
-    tellDialog(mPrintTapeLength_Option->keyword,
-               mTapeLengthTxFld != nullptr
-                   ? lengths::savedPrintTapeLength(mTapeLengthTxFld->text(), rules, clamp)
-                   : lengths::savedDefaultPrintTapeLength(defaultNumber(*mPrintTapeLength_Option), rules, clamp));
+}
+
+QString PageSettingPDE13_v100_::paperLengthText(const TapeInfo &tape) const
+{
+    return lengths::paperLengthText(tape.paperLength, savingUnit(), isIntegerTapeLen());
+}
+
+bool PageSettingPDE13_v100_::takesOverPaper(const QString &paperText) const
+{
+    // A paper of another length is taken over only while the field still shows the length of the paper before.
+    const bool paperIsAsBefore = floatValue(paperText) == choice_PaperSize;
+    const bool personTyped = floatValue(shownText(LengthOption::of(LengthOption::TapeLength))) != choice_PaperSize;
+    return !paperIsAsBefore && !personTyped;
+}
+
+QString PageSettingPDE13_v100_::tapeLengthToSave(const TapeInfo &tape) const
+{
+    const LengthOption &group = LengthOption::of(LengthOption::TapeLength);
+    const QString paperText = paperLengthText(tape);
+    const bool isPapers = !isShown(group) || takesOverPaper(paperText);
+    return lengths::savedTapeLength(isPapers ? paperText : shownText(group), savingRulesOf(group),
+                                    tape.fixedLength == 0);
+}
+
+QString PageSettingPDE13_v100_::marginToSave(bool clamp) const
+{
+    const LengthOption &group = LengthOption::of(LengthOption::Margin);
+    return isShown(group) ? lengths::savedMargin(shownText(group), savingRulesOf(group), clamp)
+                          : lengths::savedDefaultMargin(defaultNumber(*mMargin_Option), savingRulesOf(group), clamp);
+}
+
+QString PageSettingPDE13_v100_::printTapeLengthToSave(bool clamp) const
+{
+    const LengthOption &group = LengthOption::of(LengthOption::PrintTapeLength);
+    return isShown(group) ? lengths::savedPrintTapeLength(shownText(group), savingRulesOf(group), clamp)
+                          : lengths::savedDefaultPrintTapeLength(defaultNumber(*mPrintTapeLength_Option),
+                                                                 savingRulesOf(group), clamp);
+}
+
+std::vector<std::pair<QString, QString>> PageSettingPDE13_v100_::currentValues() const
+{
+    std::vector<std::pair<QString, QString>> values;
+    if (printSettings == nullptr || !isFilled(LengthOption::of(LengthOption::TapeLength))) {
+        return values;
+    }
+    // Saving takes the tape's state over before it saves anything: here it is the tape's own.
+    const TapeInfo tape = currentTapeInfo();
+    const bool clamp = tape.fixedLength == 0;
+    const auto add = [&values](const char *keyword, const QString &value) {
+        if (const QString key = stringFromUtf8(keyword); !key.isNull()) {
+            values.emplace_back(key, value);
+        }
+    };
+    add(LengthOption::of(LengthOption::TapeLength).keyword, tapeLengthToSave(tape));
+    if (mMargin_Option != nullptr) {
+        add(mMargin_Option->keyword, marginToSave(clamp));
+    }
+    if (mPrintTapeLength_Option != nullptr) {
+        add(mPrintTapeLength_Option->keyword, printTapeLengthToSave(clamp));
+    }
+    return values;
 }
 
 lengths::Unit PageSettingPDE13_v100_::savingUnit() const
 {
     // Here every unit code but 0 means inches; elsewhere only 1 does.
     return getPDEUnit() != 0 ? lengths::Unit::Inches : lengths::Unit::Millimetres;
+}
+
+lengths::Rules PageSettingPDE13_v100_::savingRulesOf(const LengthOption &group) const
+{
+    return {savingUnit(), (this->*group.isInteger)(), (this->*group.min)(), (this->*group.max)()};
 }
 
 void PageSettingPDE13_v100_::enableLengthControls(bool enabled)

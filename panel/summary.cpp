@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The panel's lines in the dialog's summary: the job's state as the PPD's marks and the tape give it, and the three
 // lengths as the fields show them once there are fields.
+#include "panel/LengthOption.h"
 #include "panel/PageSettingPDE13_v100_.h"
 #include "panel/SummaryChoice.h"
 
@@ -38,11 +39,6 @@ private:
     QVariantMap mEntries;
     QStringList mTitles;
 };
-
-QString textOf(const QLineEdit *field)
-{
-    return field == nullptr ? QLatin1StringView("") : field->text();
-}
 
 float defaultValue(const ppd_option_t &option)
 {
@@ -121,8 +117,9 @@ QString PageSettingPDE13_v100_::summaryUnit() const
 QString PageSettingPDE13_v100_::summaryTapeLength(const TapeInfo &tape) const
 {
     const lengths::Rules rules = {unit(), isIntegerTapeLen(), minTapeLen(), maxTapeLen()};
-    QString number = set_formatSetting ? textOf(mLengthTxFld)
-                                       : lengths::paperLengthText(tape.paperLength, rules.unit, rules.isInteger);
+    const LengthOption &group = LengthOption::of(LengthOption::TapeLength);
+    QString number =
+        isFilled(group) ? shownText(group) : lengths::paperLengthText(tape.paperLength, rules.unit, rules.isInteger);
     if (tape.fixedLength == 0) {
         number = lengths::summaryTapeLength(number, rules);
     }
@@ -131,8 +128,9 @@ QString PageSettingPDE13_v100_::summaryTapeLength(const TapeInfo &tape) const
 
 QString PageSettingPDE13_v100_::summaryMargin() const
 {
-    const QString number = set_formatSetting
-                               ? textOf(mMarginTxFld)
+    const LengthOption &group = LengthOption::of(LengthOption::Margin);
+    const QString number = isFilled(group)
+                               ? shownText(group)
                                : lengths::summaryDefault(defaultValue(*mMargin_Option), unit(), isIntegerMarginLen());
     return number + summaryUnit();
 }
@@ -141,10 +139,10 @@ QString PageSettingPDE13_v100_::summaryPrintTapeLength() const
 {
     // Before there is a field the margin's integer rule is used, not the print tape length's; there is no inch form.
     // Deliberate.
-    const QString number = set_formatSetting
-                               ? textOf(mTapeLengthTxFld)
-                               : lengths::summaryDefault(defaultValue(*mPrintTapeLength_Option),
-                                                         lengths::Unit::Millimetres, isIntegerMarginLen());
+    const LengthOption &group = LengthOption::of(LengthOption::PrintTapeLength);
+    const QString number = isFilled(group) ? shownText(group)
+                                           : lengths::summaryDefault(defaultValue(*mPrintTapeLength_Option),
+                                                                     lengths::Unit::Millimetres, isIntegerMarginLen());
     return number + localized(QStringLiteral("RS_m"));
 }
 

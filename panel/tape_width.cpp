@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The tape width, which the page setup decides: showing it, the 15 mm bit, and following a change of paper.
 #include "panel/PageSettingPDE13_v100_.h"
+#include "panel/PlainLabel.h"
 
 #include "pdekit/NotificationCenter.h"
 #include "pdekit/StringEncoding.h"
@@ -21,9 +22,7 @@ constexpr std::uint32_t k15mmBit = 1;
 
 void PageSettingPDE13_v100_::initializeUI_Width()
 {
-    if (mWidthStr != nullptr) {
-        mWidthStr->setText(localized(QStringLiteral("RS_TapeWidth")));
-    }
+    showTitle(mWidthStr, mWidthTxFld, localized(QStringLiteral("RS_TapeWidth")));
     const QString width = widthText(currentTapeInfo());
     if (mWidthTxFld != nullptr) {
         mWidthTxFld->setText(width);

@@ -9,19 +9,13 @@
 
 using namespace pdekit;
 
-namespace
+/// Answers whether the panel is still there.
+bool PageSettingPDE13_v100_::sayWithAlert(const char *key)
 {
-
-QString textOf(const QLineEdit *field)
-{
-    return field == nullptr ? QString() : field->text();
-}
-
-} // namespace
-
-void PageSettingPDE13_v100_::sayWithAlert(const char *key) const
-{
+    const std::shared_ptr<void> view = holdView();
+    const QPointer<QObject> self(this);
     NSRunAlertPanel(QStringLiteral(" "), localized(QString::fromLatin1(key)), QStringLiteral("OK"));
+    return self != nullptr;
 }
 
 bool PageSettingPDE13_v100_::checksAreSkipped()
@@ -57,16 +51,20 @@ bool PageSettingPDE13_v100_::checkValues(bool silent)
     const lengths::Rules rules = rulesOf(group);
     if (column_dec) {
         const float maxMarginShown = lengths::limitForCheck(maxMargin(), unit()).value;
-        const bool exceeds = floatValue(textOf(mLengthTxFld)) > lengths::limitForCheck(rules.max, rules.unit).value ||
-                             floatValue(textOf(mMarginTxFld)) > maxMarginShown;
+        const bool exceeds = floatValue(shownText(group)) > lengths::limitForCheck(rules.max, rules.unit).value ||
+                             floatValue(shownText(LengthOption::of(LengthOption::Margin))) > maxMarginShown;
         if (!exceeds) {
             column_dec = false;
             checkValues_dec = true;
             return true;
         }
     }
-    showLength(group, lengths::rewritten(lengths::clampedForCheck(textOf(mLengthTxFld), rules), rules));
+    showLength(group, lengths::rewritten(lengths::clampedForCheck(shownText(group), rules), rules));
+    const QPointer<QObject> self(this);
     const bool result = checkLengthByMargin(silent);
+    if (self == nullptr) {
+        return result;
+    }
     column_dec = false;
     checkValues_dec = result;
     return result;
@@ -74,21 +72,21 @@ bool PageSettingPDE13_v100_::checkValues(bool silent)
 
 bool PageSettingPDE13_v100_::checkLengthByMargin(bool silent)
 {
+    const LengthOption &tapeLength = LengthOption::of(LengthOption::TapeLength);
     const LengthOption &group = LengthOption::of(LengthOption::Margin);
     const lengths::Rules rules = rulesOf(group);
     const lengths::Rewritten margin =
-        lengths::rewrittenMargin(lengths::clampedForCheck(textOf(mMarginTxFld), rules), rules);
+        lengths::rewrittenMargin(lengths::clampedForCheck(shownText(group), rules), rules);
     showLength(group, margin);
 
-    if (lengths::marginFits(margin.value, floatValue(textOf(mLengthTxFld)))) {
+    if (lengths::marginFits(margin.value, floatValue(shownText(tapeLength)))) {
         return true;
     }
-    if (!silent) {
-        sayWithAlert("RS_Alrt_LengthByMargin");
+    if (!silent && !sayWithAlert("RS_Alrt_LengthByMargin")) {
+        return true;
     }
     // The new length is not held against the tape length's maximum. Deliberate.
-    showLength(LengthOption::of(LengthOption::TapeLength),
-               lengths::lengthForMargin(margin.value, getOneDotMM(), unit(), isIntegerMarginLen()));
+    showLength(tapeLength, lengths::lengthForMargin(margin.value, getOneDotMM(), unit(), isIntegerMarginLen()));
     return true;
 }
 
@@ -110,9 +108,10 @@ void PageSettingPDE13_v100_::checkRange(const LengthOption &group)
         return;
     }
     const lengths::Rules rules = rulesOf(group);
-    const lengths::Clamped checked = lengths::clampedForCheck(textOf(this->*group.field), rules);
-    if (checked.range != lengths::Range::Within) {
-        sayWithAlert(checked.range == lengths::Range::Below ? group.alertBelow : group.alertAbove);
+    const lengths::Clamped checked = lengths::clampedForCheck(shownText(group), rules);
+    if (checked.range != lengths::Range::Within &&
+        !sayWithAlert(checked.range == lengths::Range::Below ? group.alertBelow : group.alertAbove)) {
+        return;
     }
     showLength(group, lengths::rewritten(checked, rules));
     column_dec = false;

@@ -26,14 +26,44 @@ constexpr std::size_t kDeviceURIBufferSize = 255;
 
 } // namespace
 
+/// The view of a panel that was released while the view was held.
+struct BasePDE13_v100_::HeldView {
+    HeldView() = default;
+    HeldView(const HeldView &) = delete;
+    HeldView &operator=(const HeldView &) = delete;
+    ~HeldView()
+    {
+        if (view != nullptr) {
+            view->deleteLater();
+        }
+    }
+    QPointer<QWidget> view;
+};
+
 BasePDE13_v100_::BasePDE13_v100_() = default;
 
 BasePDE13_v100_::~BasePDE13_v100_()
 {
     // A view that the dialog has put into its own widget tree is the dialog's to delete.
-    if (kPDEView != nullptr && kPDEView->parent() == nullptr) {
+    if (kPDEView == nullptr || kPDEView->parent() != nullptr) {
+        return;
+    }
+    if (const std::shared_ptr<HeldView> held = mHeldView.lock()) {
+        kPDEView->hide();
+        held->view = kPDEView;
+    } else {
         delete kPDEView;
     }
+}
+
+std::shared_ptr<void> BasePDE13_v100_::holdView()
+{
+    std::shared_ptr<HeldView> held = mHeldView.lock();
+    if (held == nullptr) {
+        held = std::make_shared<HeldView>();
+        mHeldView = held;
+    }
+    return held;
 }
 
 bool BasePDE13_v100_::initWithCallback(std::shared_ptr<PanelCallback> callback, Bundle *bundle)

@@ -98,6 +98,9 @@ protected:
     virtual pdekit::WidgetFactories widgetFactories() const;
     /// Called once when the interface file has been loaded and every outlet is set.
     virtual void viewDidLoad();
+    /// To be held while an alert is up. A view of the panel's own that the alert was raised from has its event handlers
+    /// on the stack below: when the panel is released meanwhile, the view is hidden and goes once they have returned.
+    [[nodiscard]] std::shared_ptr<void> holdView();
     /// A text of the bundle; the key itself when it has none.
     QString localized(const QString &key) const;
 
@@ -119,6 +122,9 @@ protected:
     bool mFormattedItemFlg = false; ///< declared, and neither set nor read by anything
 
 private:
+    struct HeldView;
+    std::weak_ptr<HeldView> mHeldView;
+
     void fetchDeviceURI();
     void dialogDidExpand();
     bool isTapeType(const char *family) const;

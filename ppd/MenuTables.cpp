@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The menu tables and their look-up.
-#include "ppd/MenuTables.h"
+// The two menu tables and their look-up; nothing inside the panel uses them.
+#include "pagesettings/Exports.h"
 
 const MenuRow OP_MENU[3] = {
     {1, "OPT1_KEY", 0},

@@ -38,12 +38,10 @@ QPointF PDEUtilsMethod13::originItem(ppd_file_t *ppd, const char *cStrKey)
 {
     QString value = ppdAttrValStr(ppd, cStrKey);
     value.remove(QLatin1Char('{')).remove(QLatin1Char('}'));
-    const qsizetype comma = value.indexOf(QLatin1Char(','));
-    if (comma < 0) {
-        return {};
-    }
-    return {pdekit::doubleValue(QStringView(value).first(comma)),
-            pdekit::doubleValue(QStringView(value).sliced(comma + 1))};
+    const qsizetype comma = value.indexOf(u',');
+    const QStringView x = QStringView(value).first(comma < 0 ? value.size() : comma);
+    const QStringView y = comma < 0 ? QStringView() : QStringView(value).sliced(comma + 1);
+    return {pdekit::doubleValue(x), pdekit::doubleValue(y)};
 }
 
 std::unique_ptr<PDEChoiceArray> PDEUtilsMethod13::arrayFromPPDOption(const ppd_option_t *option)

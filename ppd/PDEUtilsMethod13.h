@@ -28,7 +28,8 @@ public:
     /// True exactly when the attribute's value is "False". The name promises the opposite; the comparison is
     /// deliberate.
     static bool isSupportedItem(ppd_file_t *ppd, const char *cStrKey);
-    /// The attribute's value as a point in the form "{x, y}"; the zero point when it is absent or empty.
+    /// The attribute's value as a point in the form "{x, y}"; a single number is its x, with the y 0. The zero point
+    /// when it is absent or holds no number.
     static QPointF originItem(ppd_file_t *ppd, const char *cStrKey);
 
     /// One record for each choice of an option, in its order. Null for a null option; empty for one without choices.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Reading the tape in use from the job.
-#include "ppd/TapeInfo.h"
+#include "pagesettings/Exports.h"
 
 #include "pdekit/PropertyList.h"
 

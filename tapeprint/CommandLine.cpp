@@ -121,6 +121,7 @@ const std::array flags{
     Flag{QLatin1String("--summary"), &CommandLine::summary},
     Flag{QLatin1String("--help"), &CommandLine::help},
     Flag{QLatin1String("--version"), &CommandLine::version},
+    Flag{QLatin1String("--trust-ppd"), &CommandLine::trustPpd},
     Flag{QLatin1String("-s"), &CommandLine::silent},
     Flag{QLatin1String("-c"), nullptr},
 };
@@ -158,6 +159,10 @@ bool fitsTogether(const CommandLine &line, QString *error)
 {
     if (!line.request.outputPath.isEmpty() && line.request.ppdPath.isEmpty()) {
         *error = QStringLiteral("--output goes with --ppd: without a PPD file the job goes to a print queue.");
+        return false;
+    }
+    if (line.trustPpd && line.request.ppdPath.isEmpty()) {
+        *error = QStringLiteral("--trust-ppd goes with --ppd: it is about the programs of that PPD file.");
         return false;
     }
     return true;
@@ -205,6 +210,8 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
     if (line.fitLength) {
         line.request.options.set(job::OptionName::fitLength, QStringLiteral("true"));
     }
+    line.request.trustsPpd = line.trustPpd;
+    line.request.onlyShows = line.onlyShows();
     return fitsTogether(line, error) ? std::optional(line) : std::nullopt;
 }
 
@@ -212,8 +219,8 @@ QString commandLineHelp()
 {
     return QStringLiteral(
         "Usage: tapeprint [-d QUEUE[/INSTANCE]] [-n COPIES] [-o NAME=VALUE]... [-P PAGES] [-t TITLE]\n"
-        "                 [--ppd FILE [--output FILE]] [--fit-length] [--no-dialog] [--show-options] [--summary] "
-        "[FILE...]\n"
+        "                 [--ppd FILE [--output FILE] [--trust-ppd]] [--fit-length] [--no-dialog]\n"
+        "                 [--show-options] [--summary] [FILE...]\n"
         "\n"
         "Opens the print dialog for tape and label printers. Without FILE, standard input is printed.\n"
         "\n"
@@ -226,7 +233,9 @@ QString commandLineHelp()
         "  -c                   accepted for the sake of lp\n"
         "  --ppd FILE           take the printer's description from a PPD file; without -d no print server is\n"
         "                       needed: the document runs through the filters that the PPD names\n"
-        "  --output FILE        with --ppd: where the printer's bytes go; no print queue is used\n"
+        "  --output FILE        with --ppd: where the printer's bytes go, - for standard output; no print queue is\n"
+        "                       used\n"
+        "  --trust-ppd          with --ppd: run programs and commands of its own that the PPD file names\n"
         "  --fit-length         make the tape as long as what is drawn on the document needs, with both margins\n"
         "  --no-dialog          do the same job without a window\n"
         "  --show-options       print the options that the job would carry, and submit nothing\n"

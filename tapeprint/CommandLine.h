@@ -14,7 +14,8 @@ namespace tapeprint
 
 /// What the command line asks for.
 struct CommandLine {
-    /// -d QUEUE/INSTANCE, -t TITLE, --ppd FILE, --output FILE; the options of -o, -n and -P in the order given.
+    /// -d QUEUE/INSTANCE, -t TITLE, --ppd FILE, --trust-ppd, --output FILE; the options of -o, -n and -P in the order
+    /// given.
     job::JobRequest request;
     bool noDialog = false;
     bool fitLength = false; ///< the tape becomes as long as the document needs
@@ -22,6 +23,7 @@ struct CommandLine {
     bool summary = false;
     bool help = false;
     bool version = false;
+    bool trustPpd = false;
     bool silent = false; ///< -s: say nothing about a job that went well
     QStringList files;   ///< none: standard input
 

@@ -27,6 +27,7 @@ void nameOutput(job::JobRequest &request, const QString &documentTitle)
 {
     if (!request.ppdPath.isEmpty() && request.queue.isEmpty() && request.outputPath.isEmpty()) {
         request.outputPath = freeOutputPath(documentTitle);
+        request.mayReplaceOutput = false;
     }
 }
 

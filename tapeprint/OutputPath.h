@@ -13,7 +13,7 @@ namespace tapeprint
 /// cannot be written to; never the name of a file that is there.
 QString freeOutputPath(const QString &documentTitle);
 
-/// Gives a request for a PPD file alone an output when it names none.
+/// Gives a request for a PPD file alone an output when it names none: one that never takes the place of a file.
 void nameOutput(job::JobRequest &request, const QString &documentTitle);
 
 } // namespace tapeprint

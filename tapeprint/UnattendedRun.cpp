@@ -2,12 +2,12 @@
 // The run without a window, in the order of the dialog: open, show the panels, save, ask their last word, print.
 #include "tapeprint/UnattendedRun.h"
 
+#include "dialog/GatheredAlerts.h"
 #include "dialog/Panels.h"
 #include "job/DocumentSpool.h"
 #include "job/LaidOutJob.h"
 #include "job/PageLayout.h"
 #include "job/Printing.h"
-#include "job/ReplacedOptions.h"
 #include "tapeprint/OutputPath.h"
 
 #include <QScopeGuard>
@@ -22,24 +22,6 @@ namespace tapeprint
 namespace
 {
 
-/// Alerts of the panels as lines, for as long as this object lives.
-class AlertLines
-{
-public:
-    AlertLines()
-    {
-        pdekit::setAlertHandler([this](const pdekit::AlertRequest &alert) { mLines.append(alert.text.simplified()); });
-    }
-    ~AlertLines() { pdekit::setAlertHandler({}); }
-    AlertLines(const AlertLines &) = delete;
-    AlertLines &operator=(const AlertLines &) = delete;
-
-    const QStringList &lines() const { return mLines; }
-
-private:
-    QStringList mLines;
-};
-
 QStringList summaryLines(const dialog::Panels &panels)
 {
     QStringList lines;
@@ -52,11 +34,10 @@ QStringList summaryLines(const dialog::Panels &panels)
 }
 
 /// Shows the panels and lets them hand over their values. \return null, or the sentence that says why there is no job.
-QString settleJob(dialog::Panels &panels, const AlertLines &alerts)
+QString settleJob(dialog::Panels &panels, const dialog::GatheredAlerts &alerts)
 {
     QString reason;
-    panels.showAll();
-    if (!panels.saveValues(&reason)) {
+    if (!panels.settle(&reason)) {
         return reason;
     }
     if (!panels.shouldPrint(&reason)) {
@@ -116,6 +97,7 @@ RunReport runUnattended(const CommandLine &line)
         if (!documents) {
             return failedRun(error);
         }
+        request.documents = documents->sources();
         nameOutput(request, documents->title(QString()));
     }
     std::optional<job::Destination> destination = job::openDestination(request, &error);
@@ -123,7 +105,7 @@ RunReport runUnattended(const CommandLine &line)
         return failedRun(error);
     }
 
-    const AlertLines alerts;
+    const dialog::GatheredAlerts alerts;
     job::Job job;
     dialog::Panels panels(job, dialog::bundleSearchPath());
     panels.open(std::move(*destination), request.options);
@@ -146,8 +128,11 @@ RunReport runUnattended(const CommandLine &line)
         report.output += summaryLines(panels);
     }
     if (!line.onlyShows()) {
-        const std::optional<job::PrintedJob> result =
-            job::printJob(job::settle(job), documents->title(request.title), documents->files(), neverStopped, &error);
+        std::optional<job::PrintedJob> result;
+        if (job::areUnchanged(documents->sources(), &error)) {
+            result = job::printJob(job::settle(job), documents->title(request.title), documents->files(), neverStopped,
+                                   &error);
+        }
         if (!result) {
             return failedRun(error);
         }
@@ -157,9 +142,8 @@ RunReport runUnattended(const CommandLine &line)
         }
     }
     const QString notice = job::lengthNotice(job.page());
-    report.messages += job.notices() + panels.notices() + alerts.lines() +
-                       (notice.isNull() ? QStringList() : QStringList{notice}) +
-                       job::replacedOptions(request.options, job.options());
+    report.messages +=
+        job.notices() + panels.notices() + alerts.lines() + (notice.isNull() ? QStringList() : QStringList{notice});
     return report;
 }
 

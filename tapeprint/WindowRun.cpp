@@ -15,13 +15,6 @@
 namespace tapeprint
 {
 
-namespace
-{
-
-const std::atomic<bool> neverStopped{false};
-
-} // namespace
-
 RunReport runWindow(const CommandLine &line)
 {
     QString error;
@@ -30,6 +23,7 @@ RunReport runWindow(const CommandLine &line)
         return failedRun(error);
     }
     job::JobRequest request = line.request;
+    request.documents = documents->sources();
     nameOutput(request, documents->title(QString()));
     std::optional<job::Destination> destination = job::openDestination(request, &error);
     if (!destination) {
@@ -45,14 +39,12 @@ RunReport runWindow(const CommandLine &line)
     dialog::Panels panels(job, dialog::bundleSearchPath());
     panels.open(std::move(*destination), request.options);
     const QString title = documents->title(request.title);
-    QString printed;
-    dialog::PrintDialog window(job, panels, {request, title, documents->files(), std::move(queues)},
-                               [&](QString *reason) {
-                                   const std::optional<job::PrintedJob> done =
-                                       job::printJob(job::settle(job), title, documents->files(), neverStopped, reason);
-                                   printed = done ? done->sentence() : QString();
-                                   return printed;
-                               });
+    const auto print = [title, files = documents->files(), sources = documents->sources()](
+                           const job::SettledJob &settled, const std::atomic<bool> &stop, QString *reason) {
+        // The window may have been open for hours, and the document another one by now.
+        return job::areUnchanged(sources, reason) ? job::printJob(settled, title, files, stop, reason) : std::nullopt;
+    };
+    dialog::PrintDialog window(job, panels, {request, title, documents->files(), std::move(queues)}, print);
     QEventLoop untilClosed;
     QObject::connect(&window, &QDialog::finished, &untilClosed, &QEventLoop::quit);
     window.open();
@@ -60,8 +52,9 @@ RunReport runWindow(const CommandLine &line)
     translations.reset();
 
     RunReport report;
-    if (!printed.isNull() && !line.silent) {
-        report.output.append(printed);
+    if (window.printed() && !line.silent) {
+        report.output.append(
+            window.printed()->sentence()); // scripts read it: in English, now that the window is closed
     }
     return report;
 }

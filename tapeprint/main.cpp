@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program tapeprint: reads its command line, and runs the dialog with or without a window.
+#include "job/OutputFile.h"
+#include "job/PlainText.h"
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Display.h"
 #include "tapeprint/RunReport.h"
@@ -9,6 +11,7 @@
 #include <QApplication>
 #include <QFile>
 
+#include <csignal>
 #include <cstdio>
 
 namespace
@@ -18,7 +21,7 @@ namespace
 bool writeLines(const QStringList &lines, std::FILE *stream, const char *prefix)
 {
     for (const QString &line : lines) {
-        std::fprintf(stream, "%s%s\n", prefix, line.toLocal8Bit().constData());
+        std::fprintf(stream, "%s%s\n", prefix, tapeprint::job::harmless(line).toLocal8Bit().constData());
     }
     return std::fflush(stream) == 0;
 }
@@ -71,6 +74,8 @@ int main(int argc, char **argv)
         return report({{QStringLiteral("tapeprint " TAPEPRINT_VERSION)}, {}, 0});
     }
 
+    // A reader that goes away is said, as a full disk is.
+    std::signal(SIGPIPE, SIG_IGN);
     nextMessageHandler = qInstallMessageHandler(passMessage);
     // Panels are real widgets with or without a window.
     const bool wantsWindow = !line->noDialog && !line->onlyShows();
@@ -86,6 +91,11 @@ int main(int argc, char **argv)
     tapeprint::RunReport run = showsWindow ? tapeprint::runWindow(*line) : tapeprint::runUnattended(*line);
     if (wantsWindow && !showsWindow && run.status == 0) {
         run.output.prepend(QStringLiteral("There is no display: the job was done without a window."));
+    }
+    // Standard output is the printer's.
+    if (!line->onlyShows() && tapeprint::job::isStandardOutput(line->request.outputPath)) {
+        run.messages = run.output + run.messages;
+        run.output.clear();
     }
     return report(run);
 }

@@ -30,6 +30,61 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Voriges Etikett</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Nächstes Etikett</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Etikett %1 von %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>Ein Teil der Seite wird abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>Auf dieser Seite ist nichts.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>Tinte dieser Farbe ist auf diesem Band schlecht zu sehen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n Blatt</numerusform>
+            <numerusform>%n Blätter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, %2 Band</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n Etikett</numerusform>
+            <numerusform>%n Etiketten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>Keine Vorschau: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -87,6 +142,10 @@
         <source>More Options</source>
         <translation>Weitere Optionen</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -104,6 +163,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>Länge %1, Breite %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Papiervorschau</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1; ein Teil der Seite wird abgeschnitten</translation>
     </message>
 </context>
 <context>
@@ -269,72 +337,173 @@
         <translation>Auftrag %1-%2: %3.</translation>
     </message>
     <message>
+        <source>It is no plain file.</source>
+        <translation>Es ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 ist beschädigt: Keine Seite ist lesbar.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 ist kein PDF-Dokument.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 ist durch ein Kennwort geschützt. Speichern Sie es ohne Kennwort und drucken Sie das.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 hat keine Seite.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>Der Bereich „%1“ hält %2 in seinen Grenzen und Schritten. Statt %3 enthält der Auftrag %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 gehört nicht zu den Werten, die die PPD-Datei des Druckers aufführt. Der Auftrag enthält %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>Die Beschreibung des Druckers verlangt das Plug-in %1, das nicht installiert ist. Gedruckt werden kann auch ohne es.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>Eine temporäre Datei kann nicht geschrieben werden (%1). Schaffen Sie im Ordner für temporäre Dateien Platz.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation>Die Filter konnten aus dem Dokument %1 keine Seiten machen: %2.</translation>
-    </message>
-    <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>Das Dokument %1 lässt sich nicht auf Band setzen. Drucken Sie ein PDF, eine PostScript-Datei, ein Bild oder reinen Text.</translation>
-    </message>
-    <message>
-        <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation>Das Dokument %1 ist mit einem Kennwort geschützt. Speichern Sie es ohne Kennwort und drucken Sie dieses.</translation>
-    </message>
-    <message>
-        <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation>Das Dokument %1 ist beschädigt (%2). Erstellen Sie es neu oder nennen Sie ein anderes.</translation>
-    </message>
-    <message>
-        <source>The document %1 has no page: name one with something to print.</source>
-        <translation>Das Dokument %1 hat keine Seite. Nennen Sie eines, in dem etwas zu drucken ist.</translation>
-    </message>
-    <message>
-        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation>Die Etiketten können nicht gesetzt werden (%1). Prüfen Sie, ob das Dokument vollständig ist und ob Platz für temporäre Dateien da ist.</translation>
-    </message>
-    <message>
-        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
-        <translation>Seite %1 des Dokuments %2 hat keine Größe. Lassen Sie sie weg oder erstellen Sie sie neu.</translation>
-    </message>
-    <message>
-        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation>Die Beschreibung dieses Druckers erlaubt keine Seite der gewählten Länge. Die Seite bleibt %1 mm lang, und die Länge bleibt dem Treiber überlassen.</translation>
-    </message>
-    <message>
-        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation>Eine Länge, die so nah an der des Bandes selbst liegt, macht das Drucksystem zu dieser: %1 mm.</translation>
-    </message>
-    <message>
-        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
-        <translation>Eine Länge, die so nah an der eines anderen Papiers liegt, macht das Drucksystem zu dieser: %1 mm.</translation>
-    </message>
-    <message>
-        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation>Die Ränder lassen vom Band nichts zum Bedrucken übrig. Wählen Sie ein längeres Band oder einen kleineren Rand.</translation>
-    </message>
-    <message>
-        <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation>Keine Seite des Dokuments ist ausgewählt. Ändern Sie den Seitenbereich.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation>Das Bild %1 (%2 x %3 Punkte) kann nicht entpackt werden (%4). Verkleinern Sie es oder drucken Sie es als PDF.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation>Das Bild %1 ist beschädigt (%2). Erstellen Sie es neu oder nennen Sie ein anderes.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>more than %1 MiB of memory would be needed</source>
-        <translation>mehr als %1 MiB Speicher wären nötig</translation>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>Die Seiten des Dokuments %1 können nicht geschrieben werden (%2). Schaffen Sie im Ordner für temporäre Dateien Platz.</translation>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>Der Bereich „%1“ bietet %2=%3 nicht an, obwohl der Drucker es hat. Der Auftrag enthält %4=%5.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 Zoll</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,61 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Previous label</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Next label</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Label %1 of %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>Part of the page is cut off.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>Nothing is drawn on this page.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>Ink of this colour is hard to see on this tape.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n sheet</numerusform>
+            <numerusform>%n sheets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, %2 of tape</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n label</numerusform>
+            <numerusform>%n labels</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>There is no preview: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -87,6 +142,10 @@
         <source>More Options</source>
         <translation>More Options</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>P&amp;aper:</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -104,6 +163,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>Length %1, width %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Paper preview</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1; part of the page is cut off</translation>
     </message>
 </context>
 <context>
@@ -269,72 +337,173 @@
         <translation>Job %1-%2 is %3.</translation>
     </message>
     <message>
+        <source>It is no plain file.</source>
+        <translation>It is no plain file.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 is broken: no page of it can be read.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 is no PDF document.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 is protected by a password: save it without one, and print that.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 has no page.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>A temporary file cannot be written (%1): make room in the folder for temporary files.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation>The filters could not make pages of the document %1: %2.</translation>
-    </message>
-    <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</translation>
-    </message>
-    <message>
-        <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation>The document %1 is locked with a password: save it without one and print that.</translation>
-    </message>
-    <message>
-        <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation>The document %1 is damaged (%2): make it anew or name another.</translation>
-    </message>
-    <message>
-        <source>The document %1 has no page: name one with something to print.</source>
-        <translation>The document %1 has no page: name one with something to print.</translation>
-    </message>
-    <message>
-        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</translation>
-    </message>
-    <message>
-        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
-        <translation>Page %1 of the document %2 has no size: leave it out or make it anew.</translation>
-    </message>
-    <message>
-        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</translation>
-    </message>
-    <message>
-        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</translation>
-    </message>
-    <message>
-        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
-        <translation>The print system makes a length so near to that of another paper into that: %1 mm.</translation>
-    </message>
-    <message>
-        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</translation>
-    </message>
-    <message>
-        <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation>None of the document&apos;s pages is chosen: change the page range.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation>The picture %1 is damaged (%2): make it anew or name another.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>more than %1 MiB of memory would be needed</source>
-        <translation>more than %1 MiB of memory would be needed</translation>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</translation>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 in</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,61 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>Etiqueta anterior</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>Etiqueta siguiente</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>Etiqueta %1 de %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>Parte de la página queda cortada.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>Esta página está vacía.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>La tinta de este color apenas se ve en esta cinta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n hoja</numerusform>
+            <numerusform>%n hojas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, %2 de cinta</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>%n etiqueta</numerusform>
+            <numerusform>%n etiquetas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>Sin vista previa: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -87,6 +142,10 @@
         <source>More Options</source>
         <translation>Más opciones</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>&amp;Papel:</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -104,6 +163,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>Longitud %1, ancho %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>Vista previa del papel</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1; parte de la página queda cortada</translation>
     </message>
 </context>
 <context>
@@ -269,72 +337,173 @@
         <translation>Trabajo %1-%2: %3.</translation>
     </message>
     <message>
+        <source>It is no plain file.</source>
+        <translation>No es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>No se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 está dañado: no se puede leer ninguna página.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 no es un documento PDF.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 está protegido con contraseña: guárdelo sin ella e imprima esa copia.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 no tiene ninguna página.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>El panel «%1» mantiene %2 dentro de sus límites y pasos: en lugar de %3, el trabajo lleva %4.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 no figura entre las opciones del archivo PPD de la impresora: el trabajo lleva %3=%4.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>La descripción de la impresora pide el complemento %1, que no está instalado. Se puede imprimir sin él.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>No se puede escribir un archivo temporal (%1). Libere espacio en la carpeta de archivos temporales.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation>Los filtros no pudieron generar páginas del documento %1: %2.</translation>
-    </message>
-    <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>El documento %1 no se puede componer en la cinta. Imprima un PDF, un archivo PostScript, una imagen o texto sin formato.</translation>
-    </message>
-    <message>
-        <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation>El documento %1 está protegido con contraseña. Guárdelo sin ella e imprima ese.</translation>
-    </message>
-    <message>
-        <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation>El documento %1 está dañado (%2). Vuelva a crearlo o indique otro.</translation>
-    </message>
-    <message>
-        <source>The document %1 has no page: name one with something to print.</source>
-        <translation>El documento %1 no tiene páginas. Indique uno con algo que imprimir.</translation>
-    </message>
-    <message>
-        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation>No se pueden componer las etiquetas (%1). Compruebe que el documento está completo y que hay espacio para archivos temporales.</translation>
-    </message>
-    <message>
-        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
-        <translation>La página %1 del documento %2 no tiene tamaño. Omítala o vuelva a crearla.</translation>
-    </message>
-    <message>
-        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation>La descripción de esta impresora no admite páginas de la longitud elegida. La página sigue midiendo %1 mm de largo y la longitud queda a cargo del controlador.</translation>
-    </message>
-    <message>
-        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation>El sistema de impresión convierte una longitud tan próxima a la de la cinta en esa misma: %1 mm.</translation>
-    </message>
-    <message>
-        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
-        <translation>El sistema de impresión convierte una longitud tan próxima a la de otro papel en esa misma: %1 mm.</translation>
-    </message>
-    <message>
-        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation>Los márgenes no dejan cinta en la que imprimir. Alargue la cinta o reduzca el margen.</translation>
-    </message>
-    <message>
-        <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation>No se ha elegido ninguna página del documento. Cambie el intervalo de páginas.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation>La imagen %1 (%2 x %3 puntos) no se puede descomprimir (%4). Redúzcala o imprímala como PDF.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation>La imagen %1 está dañada (%2). Vuelva a crearla o indique otra.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>more than %1 MiB of memory would be needed</source>
-        <translation>se necesitarían más de %1 MiB de memoria</translation>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>No se pueden escribir las páginas del documento %1 (%2). Libere espacio en la carpeta de archivos temporales.</translation>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>El panel «%1» no ofrece %2=%3, que la impresora tiene: el trabajo lleva %4=%5.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 pulg.</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,59 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>前のラベル</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>次のラベル</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>ラベル %1 / %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>ページの一部が切れています。</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>このページには何も描かれていません。</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>この色のインクはこのテープでは見えにくくなります。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n 枚</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1、テープ %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>ラベル %n 枚</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>プレビューはありません：%1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -87,6 +140,10 @@
         <source>More Options</source>
         <translation>その他のオプション</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>用紙(&amp;A)：</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -104,6 +161,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>長さ %1、幅 %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>用紙のプレビュー</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1。ページの一部が切れています</translation>
     </message>
 </context>
 <context>
@@ -269,72 +335,173 @@
         <translation>ジョブ %1-%2：%3。</translation>
     </message>
     <message>
+        <source>It is no plain file.</source>
+        <translation>通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません：%2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1 は壊れています：ページを読み取れません。</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1 は PDF 文書ではありません。</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1 はパスワードで保護されています。パスワードなしで保存し、それを印刷してください。</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1 にはページがありません。</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>パネル「%1」は %2 を範囲と刻みに合わせます。ジョブには %3 ではなく %4 が入ります。</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2 は、プリンターの PPD にある選択肢ではありません。ジョブには %3=%4 が入ります。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>プリンターの記述が求めるプラグイン %1 はインストールされていません。プラグインがなくても印刷できます。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>一時ファイルを書き込めません（%1）。一時ファイルのフォルダーの空き容量を増やしてください。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation>フィルターは文書 %1 をページにできませんでした: %2。</translation>
-    </message>
-    <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>文書 %1 はテープに割り付けられません。PDF、PostScript ファイル、画像、またはプレーンテキストを印刷してください。</translation>
-    </message>
-    <message>
-        <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation>文書 %1 はパスワードで保護されています。パスワードなしで保存し、それを印刷してください。</translation>
-    </message>
-    <message>
-        <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation>文書 %1 は壊れています（%2）。作り直すか、別の文書を指定してください。</translation>
-    </message>
-    <message>
-        <source>The document %1 has no page: name one with something to print.</source>
-        <translation>文書 %1 にはページがありません。印刷するもののある文書を指定してください。</translation>
-    </message>
-    <message>
-        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation>ラベルを割り付けられません（%1）。文書が完全であること、一時ファイルのための空き容量があることを確認してください。</translation>
-    </message>
-    <message>
-        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
-        <translation>文書 %2 の %1 ページには大きさがありません。そのページを除くか、作り直してください。</translation>
-    </message>
-    <message>
-        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation>このプリンターの記述では、選んだ長さのページを使えません。ページの長さは %1 mm のままで、長さはドライバーに任されます。</translation>
-    </message>
-    <message>
-        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation>テープ本来の長さにこれほど近い長さは、印刷システムによってその長さ（%1 mm）になります。</translation>
-    </message>
-    <message>
-        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
-        <translation>別の用紙の長さにこれほど近い長さは、印刷システムによってその長さ（%1 mm）になります。</translation>
-    </message>
-    <message>
-        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation>余白のために、テープに印刷できる部分が残りません。テープを長くするか、余白を小さくしてください。</translation>
-    </message>
-    <message>
-        <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation>文書のページが 1 つも選ばれていません。ページ範囲を変更してください。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation>画像 %1（%2 x %3 ドット）を展開できません（%4）。小さくするか、PDF として印刷してください。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation>画像 %1 は壊れています（%2）。作り直すか、別の画像を指定してください。</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>more than %1 MiB of memory would be needed</source>
-        <translation>%1 MiB を超えるメモリーが必要です</translation>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>文書 %1 のページを書き込めません（%2）。一時ファイルのフォルダーの空き容量を増やしてください。</translation>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>プリンターにある %2=%3 は、パネル「%1」では選べません。ジョブには %4=%5 が入ります。</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 インチ</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,59 @@
     </message>
 </context>
 <context>
+    <name>tapeprint::dialog::PreviewArea</name>
+    <message>
+        <source>Previous label</source>
+        <translation>이전 라벨</translation>
+    </message>
+    <message>
+        <source>Next label</source>
+        <translation>다음 라벨</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>which label of how many</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Label %1 of %2</source>
+        <translation>라벨 %1 / %2</translation>
+    </message>
+    <message>
+        <source>Part of the page is cut off.</source>
+        <translation>페이지의 일부가 잘립니다.</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on this page.</source>
+        <translation>이 페이지에는 아무것도 없습니다.</translation>
+    </message>
+    <message>
+        <source>Ink of this colour is hard to see on this tape.</source>
+        <translation>이 색의 잉크는 이 테이프에서 잘 보이지 않습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n장</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 of tape</source>
+        <comment>such as: 3 labels, 18.6 cm of tape</comment>
+        <translation>%1, 테이프 %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n label(s)</source>
+        <translation>
+            <numerusform>라벨 %n장</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no preview: %1</source>
+        <translation>미리 보기 없음: %1</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::PrintDialog</name>
     <message>
         <source>Print %1</source>
@@ -87,6 +140,10 @@
         <source>More Options</source>
         <translation>추가 옵션</translation>
     </message>
+    <message>
+        <source>P&amp;aper:</source>
+        <translation>용지(&amp;A):</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::SummaryView</name>
@@ -104,6 +161,15 @@
     <message>
         <source>Length %1, width %2</source>
         <translation>길이 %1, 폭 %2</translation>
+    </message>
+    <message>
+        <source>Paper preview</source>
+        <translation>용지 미리 보기</translation>
+    </message>
+    <message>
+        <source>%1; part of the page is cut off</source>
+        <comment>length and width</comment>
+        <translation>%1, 페이지의 일부가 잘림</translation>
     </message>
 </context>
 <context>
@@ -269,72 +335,173 @@
         <translation>작업 %1-%2: %3.</translation>
     </message>
     <message>
+        <source>It is no plain file.</source>
+        <translation>일반 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1을(를) 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>%1 is broken: no page of it can be read.</source>
+        <translation>%1이(가) 손상되었습니다: 읽을 수 있는 페이지가 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is no PDF document.</source>
+        <translation>%1은(는) PDF 문서가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password: save it without one, and print that.</source>
+        <translation>%1은(는) 암호로 보호되어 있습니다. 암호 없이 저장한 다음 인쇄하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 has no page.</source>
+        <translation>%1에 페이지가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; holds %2 within its limits and steps: instead of %3 the job carries %4.</source>
+        <translation>패널 ‘%1’은(는) %2을(를) 한도와 단계에 맞춥니다. 작업에는 %3 대신 %4이(가) 들어갑니다.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
+        <translation>%1=%2은(는) 프린터의 PPD에 있는 선택 항목이 아닙니다. 작업에는 %3=%4이(가) 들어갑니다.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>프린터 설명에서 요구하는 플러그인 %1이(가) 설치되어 있지 않습니다. 플러그인이 없어도 인쇄할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>임시 파일을 쓸 수 없습니다(%1). 임시 파일 폴더의 공간을 확보하십시오.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation>필터가 문서 %1을(를) 페이지로 만들지 못했습니다: %2.</translation>
-    </message>
-    <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>문서 %1은(는) 테이프에 배치할 수 없습니다. PDF, PostScript 파일, 그림 또는 일반 텍스트를 인쇄하십시오.</translation>
-    </message>
-    <message>
-        <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation>문서 %1은(는) 암호로 잠겨 있습니다. 암호 없이 저장한 다음 그 문서를 인쇄하십시오.</translation>
-    </message>
-    <message>
-        <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation>문서 %1이(가) 손상되었습니다(%2). 다시 만들거나 다른 문서를 지정하십시오.</translation>
-    </message>
-    <message>
-        <source>The document %1 has no page: name one with something to print.</source>
-        <translation>문서 %1에 페이지가 없습니다. 인쇄할 내용이 있는 문서를 지정하십시오.</translation>
-    </message>
-    <message>
-        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation>라벨을 배치할 수 없습니다(%1). 문서가 온전한지, 임시 파일을 위한 공간이 있는지 확인하십시오.</translation>
-    </message>
-    <message>
-        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
-        <translation>문서 %2의 %1페이지에 크기가 없습니다. 그 페이지를 빼거나 다시 만드십시오.</translation>
-    </message>
-    <message>
-        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation>이 프린터의 설명은 선택한 길이의 페이지를 허용하지 않습니다. 페이지 길이는 %1 mm로 유지되고 길이는 드라이버에 맡겨집니다.</translation>
-    </message>
-    <message>
-        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation>테이프 자체의 길이에 이렇게 가까운 길이는 인쇄 시스템이 그 길이로 바꿉니다: %1 mm.</translation>
-    </message>
-    <message>
-        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
-        <translation>다른 용지의 길이에 이렇게 가까운 길이는 인쇄 시스템이 그 길이로 바꿉니다: %1 mm.</translation>
-    </message>
-    <message>
-        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation>여백 때문에 테이프에 인쇄할 부분이 남지 않습니다. 테이프를 길게 하거나 여백을 줄이십시오.</translation>
-    </message>
-    <message>
-        <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation>문서의 페이지가 하나도 선택되지 않았습니다. 페이지 범위를 변경하십시오.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation>그림 %1(%2 x %3 도트)을(를) 풀 수 없습니다(%4). 작게 만들거나 PDF로 인쇄하십시오.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation>그림 %1이(가) 손상되었습니다(%2). 다시 만들거나 다른 그림을 지정하십시오.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>more than %1 MiB of memory would be needed</source>
-        <translation>%1 MiB가 넘는 메모리가 필요합니다</translation>
+        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>문서 %1의 페이지를 쓸 수 없습니다(%2). 임시 파일 폴더의 공간을 확보하십시오.</translation>
+        <source>The document %1 is locked with a password: save it without one and print that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 is damaged (%2): make it anew or name another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has no page: name one with something to print.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the document&apos;s pages is chosen: change the page range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
+        <translation>프린터에는 %2=%3이(가) 있지만 패널 ‘%1’에서는 선택할 수 없습니다. 작업에는 %4=%5이(가) 들어갑니다.</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>a length in inches</comment>
+        <translation>%1 인치</translation>
+    </message>
+    <message>
+        <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document %1 has changed since it was opened: nothing was printed. Open it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is larger than any printer description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PPD file %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The filters of %1 did not come to an end with the document %2 and were stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer description %1 is trusted and runs programs or commands of its own: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a file of this name is there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a pipe or a device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

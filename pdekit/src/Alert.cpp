@@ -2,6 +2,7 @@
 // Modal alerts: a message box by default, or whatever a dialog without a window puts in its place.
 #include "pdekit/Alert.h"
 
+#include "InterruptedPress.h"
 #include "pdekit/Log.h"
 
 #include <QApplication>
@@ -50,6 +51,7 @@ void NSRunAlertPanel(const QString &title, const QString &text, const QString &d
     // A copy, as the handler may put another one in its own place.
     const AlertHandler handler = alertHandler();
     const AlertRequest alert{title, text, defaultButton};
+    const AlertDuringPress press;
     if (handler) {
         handler(alert);
     } else {

@@ -3,13 +3,18 @@
 // its editing because of a click sees the mouse button as the current event.
 #include "pdekit/CurrentEvent.h"
 
+#include "InterruptedPress.h"
+
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QObject>
+#include <QWidget>
 
 #include <optional>
+#include <utility>
 
 namespace pdekit
 {
@@ -21,6 +26,25 @@ EventType &currentType()
 {
     static EventType type = EventType::None;
     return type;
+}
+
+/// The release of the press being handled went to an alert.
+bool &releaseIsLost()
+{
+    static bool lost = false;
+    return lost;
+}
+
+/// How often a window has been blocked by a modal one.
+int &blockedWindows()
+{
+    static int count = 0;
+    return count;
+}
+
+bool isLeftButtonDown()
+{
+    return QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
 }
 
 EventType buttonEvent(const QEvent *event, EventType leftButton)
@@ -76,8 +100,14 @@ public:
     }
     ~EventWatcher() override { forget(); }
 
-    bool eventFilter(QObject *, QEvent *event) override
+    bool eventFilter(QObject *receiver, QEvent *event) override
     {
+        // A press reaches the window first: this is the next one.
+        if (event->type() == QEvent::MouseButtonPress && receiver->isWindowType()) {
+            releaseIsLost() = false;
+        } else if (event->type() == QEvent::WindowBlocked) {
+            ++blockedWindows();
+        }
         if (const std::optional<EventType> type = typeOf(event)) {
             currentType() = *type;
             forgetAtNextTurn();
@@ -93,7 +123,11 @@ protected:
     }
 
 private:
-    static void forget() { currentType() = EventType::None; }
+    static void forget()
+    {
+        currentType() = EventType::None;
+        releaseIsLost() = false;
+    }
 
     /// Not every dispatcher tells of its turns when it does not wait: an event of our own, before all others that are
     /// posted, ends the current one in any case.
@@ -121,6 +155,28 @@ Q_COREAPP_STARTUP_FUNCTION(watchEvents)
 EventType currentEventType()
 {
     return currentType();
+}
+
+AlertDuringPress::AlertDuringPress()
+    : mIsDuringPress(currentType() == EventType::LeftMouseDown && isLeftButtonDown()), mBlockedBefore(blockedWindows())
+{
+}
+
+AlertDuringPress::~AlertDuringPress()
+{
+    if (mIsDuringPress && (!isLeftButtonDown() || blockedWindows() != mBlockedBefore)) {
+        releaseIsLost() = true;
+    }
+}
+
+void completePress(QWidget *control, const QMouseEvent &press)
+{
+    if (press.button() != Qt::LeftButton || !std::exchange(releaseIsLost(), false)) {
+        return;
+    }
+    QMouseEvent release(QEvent::MouseButtonRelease, press.position(), press.scenePosition(), press.globalPosition(),
+                        Qt::LeftButton, Qt::NoButton, press.modifiers(), press.pointingDevice());
+    QCoreApplication::sendEvent(control, &release);
 }
 
 } // namespace pdekit

@@ -10,6 +10,7 @@ namespace pdekit
 PanelCallback::~PanelCallback() = default;
 PanelViewResizing::~PanelViewResizing() = default;
 Panel::~Panel() = default;
+PanelLiveValues::~PanelLiveValues() = default;
 PlugIn::~PlugIn() = default;
 PlugInEntry::~PlugInEntry() = default;
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 // XML property lists through libplist. Its trees are walked and freed by recursion, so what nests too deep is refused
-// before a tree is made of it.
+// before a tree is made of it; see PlainXml.h for what libplist is given.
 #include "pdekit/PropertyList.h"
 
+#include "PlainXml.h"
+#include "pdekit/CLocale.h"
 #include "pdekit/Numbers.h"
 
 #include <QDateTime>
 #include <QStringList>
 #include <QVariantMap>
-#include <QXmlStreamReader>
 
-#include <clocale>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -25,9 +25,6 @@ namespace pdekit
 namespace
 {
 
-/// Real settings nest a handful deep.
-constexpr int kMaximumDepth = 128;
-
 /// Seconds from the Unix epoch to the epoch of property-list dates, 2001-01-01T00:00:00Z.
 constexpr qint64 kPropertyListEpoch = 978307200;
 
@@ -40,43 +37,6 @@ struct MallocDeleter {
     void operator()(void *memory) const { std::free(memory); }
 };
 using CString = std::unique_ptr<char, MallocDeleter>;
-
-/// libplist reads reals with the C library: the C locale holds while one of these lives, on this thread alone.
-class CLocale
-{
-public:
-    CLocale() : mBefore(uselocale(cLocale())) {}
-    ~CLocale() { uselocale(mBefore); }
-    CLocale(const CLocale &) = delete;
-    CLocale &operator=(const CLocale &) = delete;
-
-private:
-    static locale_t cLocale()
-    {
-        static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
-        return locale;
-    }
-
-    locale_t mBefore;
-};
-
-/// Whether bytes are well-formed XML that nests no deeper than can be walked.
-bool isSafeXml(const QByteArray &xml)
-{
-    QXmlStreamReader reader(xml);
-    reader.setNamespaceProcessing(false);
-    int depth = 0;
-    while (!reader.atEnd()) {
-        const QXmlStreamReader::TokenType token = reader.readNext();
-        if (token == QXmlStreamReader::StartElement && ++depth > kMaximumDepth) {
-            return false;
-        }
-        if (token == QXmlStreamReader::EndElement) {
-            --depth;
-        }
-    }
-    return !reader.hasError();
-}
 
 std::optional<QVariant> valueOfNode(plist_t node);
 
@@ -267,12 +227,13 @@ Plist nodeOfValue(const QVariant &value, int depth)
 
 std::optional<QVariant> propertyListFromXml(const QByteArray &xml)
 {
-    if (xml.isEmpty() || xml.size() > std::numeric_limits<std::int32_t>::max() || !isSafeXml(xml)) {
+    const std::optional<QByteArray> plain = plainXml(xml);
+    if (!plain || plain->size() > std::numeric_limits<std::int32_t>::max()) {
         return std::nullopt;
     }
-    const CLocale locale;
+    const CLocale locale; // libplist reads and writes reals with the C library
     plist_t root = nullptr;
-    plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &root);
+    plist_from_xml(plain->constData(), static_cast<std::uint32_t>(plain->size()), &root);
     const Plist owned(root);
     return root == nullptr ? std::nullopt : valueOfNode(root);
 }

@@ -2,7 +2,10 @@
 // The radio matrix: radio buttons in an exclusive group, so that arrow keys move the selection as people expect.
 #include "pdekit/RadioMatrix.h"
 
+#include "InterruptedPress.h"
+
 #include <QButtonGroup>
+#include <QMouseEvent>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -18,6 +21,19 @@ void showTitle(QRadioButton *button, const QString &title)
     button->setText(QString(title).replace(QLatin1Char('&'), QLatin1String("&&")));
     button->setAccessibleName(title);
 }
+
+class Row : public QRadioButton
+{
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        QRadioButton::mousePressEvent(event);
+        completePress(this, *event);
+    }
+};
 
 } // namespace
 
@@ -57,7 +73,7 @@ void RadioMatrix::setTitles(const QStringList &titles)
         button->deleteLater();
     }
     while (mRows.size() < count) {
-        auto *button = new QRadioButton(this);
+        auto *button = new Row(this);
         button->setFocusPolicy(Qt::ClickFocus);
         mGroup->addButton(button, static_cast<int>(mRows.size()));
         layout()->addWidget(button);

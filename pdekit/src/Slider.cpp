@@ -3,6 +3,7 @@
 // read back from the knob unless a person has moved it.
 #include "pdekit/Slider.h"
 
+#include "InterruptedPress.h"
 #include "pdekit/Numbers.h"
 
 #include <QKeyEvent>
@@ -163,6 +164,7 @@ void Slider::mousePressEvent(QMouseEvent *event)
         takeKnob();
     }
     QSlider::mousePressEvent(event);
+    completePress(this, *event);
 }
 
 void Slider::mouseReleaseEvent(QMouseEvent *event)

@@ -69,7 +69,8 @@ INSTANTIATE_TEST_SUITE_P(
                     ErrorCase{{u"-o"_qs, u"media-col={media-type=x}"_qs}, u"media-col is in braces"_qs},
                     ErrorCase{{u"--ppd="_qs}, u"--ppd needs"_qs}, ErrorCase{{u"--ppdx"_qs, u"a"_qs}, u"--ppdx"_qs},
                     ErrorCase{{u"-Z"_qs}, u"-Z is no option"_qs}, ErrorCase{{u"--no-such"_qs}, u"--no-such"_qs},
-                    ErrorCase{{u"--output"_qs, u"x"_qs}, u"goes with --ppd"_qs}));
+                    ErrorCase{{u"--output"_qs, u"x"_qs}, u"goes with --ppd"_qs},
+                    ErrorCase{{u"--trust-ppd"_qs}, u"--trust-ppd goes with --ppd"_qs}));
 
 TEST(CommandLineQueue, WithInstance_IsCutAtTheFirstSlash)
 {
@@ -99,15 +100,29 @@ TEST(CommandLineFlags, OfTheDialog_AreTaken)
     EXPECT_FALSE(line->help || line->version);
     EXPECT_EQ(line->request.ppdPath, u"a.ppd"_qs);
     EXPECT_EQ(line->request.outputPath, u"b.prn"_qs);
+    EXPECT_FALSE(line->request.trustsPpd);
+    EXPECT_TRUE(line->request.onlyShows);
     // As with lp, a letter's value may begin with a dash.
     EXPECT_EQ(line->request.title, u"-n"_qs);
+}
+
+TEST(CommandLineOutput, MayBeADashWhichIsNoDocument)
+{
+    QString error;
+    const auto line =
+        parseCommandLine({u"--ppd"_qs, u"a.ppd"_qs, u"--trust-ppd"_qs, u"--output"_qs, u"-"_qs, u"a.pdf"_qs}, &error);
+    ASSERT_TRUE(line.has_value()) << error.toStdString();
+    EXPECT_EQ(line->request.outputPath, u"-"_qs);
+    EXPECT_EQ(line->files, QStringList{u"a.pdf"_qs});
+    EXPECT_TRUE(line->request.trustsPpd);
+    EXPECT_FALSE(line->request.onlyShows);
 }
 
 TEST(CommandLineHelp, NamesEveryOption)
 {
     const QString help = tapeprint::commandLineHelp();
-    for (const char *name : {"-d ", "-n ", "-o ", "-P ", "-t ", "-s ", "-c ", "--ppd ", "--output ", "--no-dialog",
-                             "--show-options", "--summary", "--help", "--version"}) {
+    for (const char *name : {"-d ", "-n ", "-o ", "-P ", "-t ", "-s ", "-c ", "--ppd ", "--output ", "--trust-ppd ",
+                             "--no-dialog", "--show-options", "--summary", "--help", "--version"}) {
         EXPECT_TRUE(help.contains(QStringLiteral("\n  ") + QLatin1String(name))) << name;
     }
 }

@@ -79,6 +79,43 @@ TEST_F(PanelsTest, SavedOptionsOfTheQueue_GiveWayToTheCommandLine)
     EXPECT_EQ(job.printer().name, u"tape"_qs);
 }
 
+TEST_F(PanelsTest, PageRegion_ChoosesTheTapeAndCountsMoreThanASavedSize)
+{
+    Destination destination = hosttest::testDestination(folder);
+    destination.queue = PrintQueue();
+    destination.queue->options = options({{u"PageSize"_qs, u"W12"_qs}});
+    panels.open(std::move(destination), options({{u"PageRegion"_qs, u"W24"_qs}}));
+    EXPECT_EQ(job.options().lines(), QStringList{u"PageSize=W24"_qs});
+    EXPECT_EQ(mediaName(), u"W24"_qs);
+    EXPECT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 144.0);
+    // The tape that the PPD's own length would be laid on was not chosen.
+    EXPECT_EQ(markedChoice(job.ppd(), u"PageSize"_qs), u"W24"_qs);
+}
+
+TEST_F(PanelsTest, MediaAskedFor_CountsMoreThanASavedSize)
+{
+    Destination destination = hosttest::testDestination(folder);
+    destination.queue = PrintQueue();
+    destination.queue->options = options({{u"PageSize"_qs, u"W12"_qs}});
+    panels.open(std::move(destination), options({{u"media"_qs, u"W24"_qs}}));
+    EXPECT_EQ(job.options().lines(), (QStringList{u"media=W24"_qs, u"PageSize=W24"_qs}));
+}
+
+TEST_F(PanelsTest, OptionThatNeverArrives_IsSaidToWhoSetsItAlone)
+{
+    const QByteArray media = "*OpenUI *Media/Media: PickOne\n*DefaultMedia: A\n*Media A/A: \"\"\n*Media B/B: \"\"\n"
+                             "*CloseUI: *Media\n";
+    panels.open(hosttest::testDestination(folder, media), {});
+    EXPECT_EQ(job.notices(), QStringList());
+    job.changeOption(u"Media"_qs, u"B"_qs);
+    ASSERT_EQ(job.notices().size(), 1);
+    EXPECT_TRUE(job.notices().first().contains(u"Option Media "_qs)) << job.notices().first().toStdString();
+    job.revert();
+    EXPECT_EQ(job.notices(), QStringList());
+    panels.open(hosttest::testDestination(folder, media), options({{u"Media"_qs, u"A"_qs}}));
+    EXPECT_EQ(job.notices().size(), 1);
+}
+
 TEST_F(PanelsTest, Pages_StandInTheSettingsAsTheirOutermostNumbers)
 {
     open(options({{u"page-ranges"_qs, u"3-4,7-12"_qs}}));
@@ -102,6 +139,19 @@ TEST_F(PanelsTest, PanelsChoice_IsMarkedWhenListedAndRecordedInAnyCase)
     EXPECT_EQ(job.options().value(u"KsMargin"_qs), u"4.4"_qs);
     EXPECT_TRUE(job.takeChoice(u"KsTapeLength"_qs, u"62.0"_qs));
     EXPECT_EQ(job.options().value(u"KsTapeLength"_qs), u"62.0"_qs);
+}
+
+TEST_F(PanelsTest, NumberThatAPanelSends_BecomesTheDefaultUntilRevert)
+{
+    const auto defaultOf = [this](const QString &key) { return QByteArray(findOption(job.ppd(), key)->defchoice); };
+    open();
+    job.takeChoice(u"KsMargin"_qs, u"4.4"_qs);
+    EXPECT_EQ(defaultOf(u"KsMargin"_qs), "4.4");
+    // A word is a choice, and the PPD's default stays what it is.
+    job.takeChoice(u"CutMedia"_qs, u"Label"_qs);
+    EXPECT_EQ(defaultOf(u"CutMedia"_qs), "None");
+    job.revert();
+    EXPECT_EQ(defaultOf(u"KsMargin"_qs), "2.0");
 }
 
 TEST_F(PanelsTest, PanelsChoice_IsToldToEveryPanelTheSenderIncluded)
@@ -134,6 +184,33 @@ TEST_F(PanelsTest, ChangeOfTheTape_IsInTheObjectsBeforeThePanelHearsOfIt)
     EXPECT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 144.0);
 }
 
+TEST_F(PanelsTest, ChangeOfThePaper_IsToldAgainWhenThePanelHasBeenShownWithIt)
+{
+    open();
+    takeCalls();
+    panels.changePaper(u"W24"_qs);
+    EXPECT_EQ(takeCalls(), (QStringList{u"willShow"_qs, u"changed PageSize=W24, tape W24"_qs, u"willShow"_qs,
+                                        u"changed PageSize=W24, tape W24"_qs}));
+}
+
+TEST_F(PanelsTest, Settling_ShowsSavesAndNotesWhatThePanelReplaced)
+{
+    // The panel sends the PPD's default, which holds 40 bytes: this value does not fit.
+    const QString tooLong(41, u'9');
+    open(options({{u"KsMargin"_qs, tooLong}, {u"CutMedia"_qs, u"Label"_qs}}));
+    takeCalls();
+    EXPECT_TRUE(panels.notices().isEmpty());
+    QString error;
+    EXPECT_TRUE(panels.settle(&error));
+    EXPECT_EQ(takeCalls(), (QStringList{u"willShow"_qs, u"save"_qs, u"changed KsMargin=2.0, tape W12"_qs}));
+    EXPECT_EQ(panels.notices(), QStringList{u"The panel \"Test Panel\" holds KsMargin within its limits and steps: "
+                                            "instead of "_qs +
+                                            tooLong + u" the job carries 2.0."_qs});
+    // What the person picks since is no replacement.
+    job.takeChoice(u"KsMargin"_qs, u"5.0"_qs);
+    EXPECT_TRUE(panels.notices().isEmpty());
+}
+
 TEST_F(PanelsTest, ChangeOfAnotherOption_IsMarkedRecordedAndTold)
 {
     open();
@@ -147,15 +224,15 @@ TEST_F(PanelsTest, ChangeOfAnotherOption_IsMarkedRecordedAndTold)
 TEST_F(PanelsTest, Revert_BringsJobMarksAndTapeBackAndTellsThePanelOfEachChange)
 {
     open();
-    panels.showAll();
+    QString error;
+    ASSERT_TRUE(panels.settle(&error));
     const QStringList before = job.options().lines();
     job.changeOption(u"PageSize"_qs, u"W24"_qs);
     job.changeOption(u"CutMedia"_qs, u"Label"_qs);
     takeCalls();
-    QString error;
     EXPECT_TRUE(panels.revert(&error));
     EXPECT_EQ(takeCalls(), (QStringList{u"changed PageSize=W12, tape W12"_qs, u"changed CutMedia=None, tape W12"_qs,
-                                        u"restore"_qs}));
+                                        u"restore"_qs, u"changed PageSize=W12, tape W12"_qs}));
     EXPECT_EQ(job.options().lines(), before);
     EXPECT_EQ(markedChoice(job.ppd(), u"PageSize"_qs), u"W12"_qs);
     EXPECT_EQ(markedChoice(job.ppd(), u"CutMedia"_qs), u"None"_qs);
@@ -206,13 +283,15 @@ TEST_F(PanelsTest, AnotherDestination_ReleasesTheOldPanelWhileItsObjectsStand)
     EXPECT_EQ(calls.value(1), u"made, margin 5.0"_qs);
 }
 
-TEST_F(PanelsTest, WithoutAPpd_StillMakesThePanelAndRecordsItsChoices)
+TEST_F(PanelsTest, WithoutAPpd_ThereIsNoPanelAndTheJobTakesChoices)
 {
     Destination destination;
     destination.queue = PrintQueue();
     destination.queue->name = u"raw"_qs;
     panels.open(std::move(destination), {});
     EXPECT_EQ(job.ppd(), nullptr);
+    EXPECT_TRUE(panels.entries().empty());
+    EXPECT_TRUE(panels.notices().isEmpty());
     EXPECT_FALSE(job.pageFormat().paper.has_value());
     EXPECT_TRUE(job.takeChoice(u"KsMargin"_qs, u"1"_qs));
     EXPECT_EQ(job.options().lines(), QStringList{u"KsMargin=1"_qs});

@@ -22,6 +22,7 @@
 #include <gtest/gtest.h>
 
 #include <pdekit/Alert.h>
+#include <pdekit/NotificationCenter.h>
 
 namespace
 {
@@ -39,12 +40,8 @@ protected:
     void SetUp() override
     {
         takeCalls();
-        const QString filter =
-            hosttest::writeFile(folder, u"filter"_qs, "#!/bin/sh\nprintf 'options=%s\\n' \"$5\"\ncat\n");
-        QFile::setPermissions(filter, QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup |
-                                          QFile::ReadOther | QFile::ExeOther);
-        job::Destination destination =
-            hosttest::testDestination(folder, "*cupsFilter: \"text/plain 0 " + filter.toUtf8() + "\"\n");
+        // A filter of CUPS's own that hands the document on as it is.
+        job::Destination destination = hosttest::testDestination(folder, "*cupsFilter: \"text/plain 0 gziptoany\"\n");
         destination.outputPath = outputPath = folder.filePath(u"out.prn"_qs);
         files = {hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n")};
         panels.open(std::move(destination), {});
@@ -104,7 +101,9 @@ protected:
 
 TEST_F(PrintDialogTest, Opens_WithThePanelShownAndItsSummary)
 {
-    EXPECT_EQ(takeCalls().last(), u"willShow"_qs);
+    const QStringList calls = takeCalls();
+    EXPECT_EQ(calls.mid(calls.indexOf(u"willShow"_qs)),
+              (QStringList{u"willShow"_qs, u"save"_qs, u"changed KsMargin=2.0, tape W12"_qs, u"willShow"_qs}));
     EXPECT_TRUE(child<QPushButton>(u"wideMargin"_qs)->isVisible());
     EXPECT_EQ(summary(), (QStringList{u"Tape=W12"_qs, u"Margin=2.0"_qs}));
     EXPECT_EQ(child<QComboBox>(u"tape"_qs)->currentText(), u"12 mm"_qs);
@@ -121,11 +120,12 @@ TEST_F(PrintDialogTest, PickInThePanel_ReachesTheJobAndTheSummary)
     EXPECT_EQ(summary(), (QStringList{u"Tape=W12"_qs, u"Margin=5.0"_qs}));
 }
 
-TEST_F(PrintDialogTest, PickOfATape_IsToldToThePanelWhichIsThenShownAgain)
+TEST_F(PrintDialogTest, PickOfATape_IsToldToThePanelBeforeAndAfterItIsShownWithIt)
 {
     takeCalls();
     pickNext(u"tape"_qs);
-    EXPECT_EQ(takeCalls(), (QStringList{u"changed PageSize=W24, tape W24"_qs, u"willShow"_qs}));
+    EXPECT_EQ(takeCalls(), (QStringList{u"willShow"_qs, u"changed PageSize=W24, tape W24"_qs, u"willShow"_qs,
+                                        u"changed PageSize=W24, tape W24"_qs}));
     EXPECT_EQ(printJob.options().value(u"PageSize"_qs), u"W24"_qs);
     EXPECT_EQ(summary().value(0), u"Tape=W24"_qs);
 }
@@ -214,6 +214,7 @@ TEST_F(PrintDialogTest, Print_SavesAsksPrintsAndSaysWhereTheBytesWent)
             if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
                 timer->stop();
                 said = box->text();
+                EXPECT_EQ(box->textFormat(), Qt::PlainText);
                 box->accept();
             }
         });
@@ -228,7 +229,107 @@ TEST_F(PrintDialogTest, Print_SavesAsksPrintsAndSaysWhereTheBytesWent)
                                         u"closes, printed"_qs}));
     QFile output(outputPath);
     ASSERT_TRUE(output.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(output.readAll().contains("KsMargin=5.0"));
+    EXPECT_EQ(output.readAll(), "Hello\n");
+    EXPECT_EQ(printJob.options().value(u"KsMargin"_qs), u"5.0"_qs);
+}
+
+TEST_F(PrintDialogTest, PanelThatAsksForAnotherSize_IsToldWhenItsViewHasComeToRestAndGetsIt)
+{
+    auto *button = child<QPushButton>(u"taller"_qs);
+    const QWidget *view = button->parentWidget();
+    ASSERT_LT(view->height(), 640);
+    takeCalls();
+    button->click();
+    // Not while the view is being resized.
+    EXPECT_EQ(takeCalls(), QStringList());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return qApp->property("hostTestCalls").isValid(); }));
+    EXPECT_EQ(takeCalls(), QStringList{u"areas changed"_qs});
+    QApplication::processEvents();
+    EXPECT_GE(view->height(), 640);
+    EXPECT_EQ(view->minimumHeight(), 640);
+    // Told once: nothing more is waited for.
+    dialog->resize(dialog->width() + 10, dialog->height());
+    QTest::qWait(50);
+    EXPECT_EQ(takeCalls(), QStringList());
+}
+
+TEST_F(PrintDialogTest, ResizeOfTheWindow_IsAChangeOfTheViewsAreas)
+{
+    auto *view = child<QPushButton>(u"taller"_qs)->parentWidget();
+    int told = 0;
+    QObject observer;
+    pdekit::NotificationCenter::defaultCenter().addObserver(
+        &observer, [&told](const pdekit::Notification &) { ++told; }, u"NSViewDidUpdateTrackingAreasNotification"_qs,
+        view);
+    dialog->resize(dialog->width(), dialog->height() + 40);
+    ASSERT_TRUE(QTest::qWaitFor([&told] { return told > 0; }));
+    QTest::qWait(50);
+    EXPECT_EQ(told, 1);
+}
+
+/// The window of a printer that no panel belongs to.
+class PlainDialog : public PrintDialogTest
+{
+protected:
+    void SetUp() override
+    {
+        PrintDialogTest::SetUp();
+        dialog.reset();
+        const QString path =
+            hosttest::writeFile(folder, u"plain.ppd"_qs, hosttest::testPpd().replace("KsMargin", "Margin"));
+        QString error;
+        job::Destination destination;
+        destination.ppd = job::openPpdFile(path, &error);
+        panels.open(std::move(destination), {});
+        dialog = std::make_unique<PrintDialog>(printJob, panels, PrintDialog::Setup{{}, u"label.txt"_qs, files, {}},
+                                               PrintDialog::PrintAction());
+        dialog->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
+        QApplication::processEvents();
+    }
+
+    /// The text of a control's label.
+    QString labelOf(const QString &name)
+    {
+        const auto *control = child<QWidget>(name);
+        for (const QLabel *label : dialog->findChildren<QLabel *>()) {
+            if (label->buddy() == control) {
+                return label->text();
+            }
+        }
+        return {};
+    }
+};
+
+TEST_F(PlainDialog, ShowsThePrintersOptionsFirstAndNoChooser)
+{
+    EXPECT_TRUE(child<QComboBox>(u"CutMedia"_qs)->isVisible());
+    EXPECT_TRUE(child<QComboBox>(u"Margin"_qs)->isVisible());
+    EXPECT_FALSE(child<QComboBox>(u"pageChooser"_qs)->isVisible());
+    EXPECT_FALSE(child<QWidget>(u"summary"_qs)->isVisible()); // of panels: there is none
+    EXPECT_FALSE(child<QLabel>(u"notices"_qs)->isVisible());
+    EXPECT_EQ(dialog->findChild<QPushButton *>(u"wideMargin"_qs), nullptr);
+}
+
+TEST_F(PlainDialog, SaysPaper)
+{
+    EXPECT_EQ(labelOf(u"tape"_qs), u"P&aper:"_qs);
+    EXPECT_EQ(child<QWidget>(u"tapePreview"_qs)->accessibleName(), u"Paper preview"_qs);
+}
+
+TEST_F(PlainDialog, JobCarriesThePaperAndWhatIsPicked)
+{
+    EXPECT_EQ(printJob.options().lines(), QStringList{u"PageSize=W12"_qs});
+    pickNext(u"Margin"_qs);
+    EXPECT_EQ(printJob.options().lines(), (QStringList{u"PageSize=W12"_qs, u"Margin=5.0"_qs}));
+    pickNext(u"tape"_qs);
+    EXPECT_EQ(printJob.options().lines(), (QStringList{u"PageSize=W24"_qs, u"Margin=5.0"_qs}));
+}
+
+TEST_F(PrintDialogTest, WithAPanel_SaysTape)
+{
+    EXPECT_TRUE(child<QComboBox>(u"pageChooser"_qs)->isVisible());
+    EXPECT_EQ(child<QWidget>(u"tapePreview"_qs)->accessibleName(), u"Tape preview"_qs);
 }
 
 TEST_F(PrintDialogTest, EitherOfWindowAndPanels_MayGoFirst)

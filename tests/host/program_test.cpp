@@ -1,101 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program as it is run: what it prints, where, and its exit status. No print server and no display is there.
-#include "TestPrinter.h"
-
-#include "tests/support/TextPrinting.h"
+#include "ProgramTest.h"
 
 #include <QFileInfo>
-#include <QProcess>
-#include <QProcessEnvironment>
-
-#include <gtest/gtest.h>
 
 namespace
 {
 
-struct Outcome {
-    int status = -1;
-    QByteArray output;
-    QByteArray messages;
-};
-
-class Program : public testing::Test
-{
-protected:
-    /// A copy far from the build, whose own bundles would otherwise be found beside the program.
-    static void SetUpTestSuite()
-    {
-        programFolder = std::make_unique<QTemporaryDir>();
-        ASSERT_TRUE(QFile::copy(QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), programPath()));
-    }
-    static void TearDownTestSuite() { programFolder.reset(); }
-    static QString programPath() { return programFolder->filePath(u"tapeprint"_qs); }
-
-    Outcome run(const QStringList &arguments, const QByteArray &input = {}) const
-    {
-        QProcess program;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        for (const char *name :
-             {"DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR", "QT_QPA_PLATFORM", "LPDEST", "PRINTER"}) {
-            environment.remove(QString::fromLatin1(name));
-        }
-        environment.insert(u"CUPS_SERVER"_qs, folder.filePath(u"no-server.sock"_qs));
-        environment.insert(u"HOME"_qs, folder.path());
-        environment.insert(u"XDG_DATA_DIRS"_qs, folder.path());
-        environment.insert(u"TAPEPRINT_PLUGIN_PATH"_qs, bundles);
-        for (const auto &[name, value] : variables) {
-            environment.insert(name, value);
-        }
-        program.setProcessEnvironment(environment);
-        program.setWorkingDirectory(folder.path());
-        program.start(programPath(), arguments);
-        program.write(input);
-        program.closeWriteChannel();
-        Outcome outcome;
-        if (program.waitForFinished(60000) && program.exitStatus() == QProcess::NormalExit) {
-            outcome = {program.exitCode(), program.readAllStandardOutput(), program.readAllStandardError()};
-        }
-        return outcome;
-    }
-
-    /// Fails with one line on standard error that holds a text, and says nothing else.
-    void expectFailure(const QStringList &arguments, const char *part, const QByteArray &input = {}) const
-    {
-        const Outcome outcome = run(arguments, input);
-        EXPECT_EQ(outcome.status, 1);
-        EXPECT_EQ(outcome.output, "");
-        EXPECT_EQ(outcome.messages.count('\n'), 1) << outcome.messages.toStdString();
-        EXPECT_TRUE(outcome.messages.startsWith("tapeprint: ")) << outcome.messages.toStdString();
-        EXPECT_TRUE(outcome.messages.contains(part)) << outcome.messages.toStdString();
-    }
-
-    static inline std::unique_ptr<QTemporaryDir> programFolder;
-    QTemporaryDir folder;
-    QString bundles = hosttest::goodBundles().first();
-    std::vector<std::pair<QString, QString>> variables;
-    QString ppd = hosttest::writeFile(folder, u"test.ppd"_qs, hosttest::testPpd());
-    QString filterPpd = hosttest::writeFile(
-        folder, u"filter.ppd"_qs, hosttest::testPpd("*cupsFilter: \"text/plain 0 " + filterPath().toUtf8() + "\"\n"));
-    QString document = hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n");
-
-private:
-    /// A filter that writes the options argument it gets, and the document.
-    QString filterPath() const
-    {
-        QString path = hosttest::writeFile(folder, u"filter"_qs,
-                                           "#!/bin/sh\nprintf 'copies=%s title=%s options=%s\\n' \"$4\" \"$3\" "
-                                           "\"$5\"\nif [ -n \"$6\" ]; then cat \"$6\"; else cat; fi\n");
-        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
-                                        QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
-        return path;
-    }
-};
-
-QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
+using hosttest::contentsOf;
+using hosttest::Outcome;
+using hosttest::Program;
 
 TEST_F(Program, ShowOptions_PrintsTheJobsOptionsAndSubmitsNothing)
 {
@@ -123,8 +37,9 @@ TEST_F(Program, Summary_PrintsTitlesAndValues)
 
 TEST_F(Program, FilterRun_GivesTheFilterEveryOptionAndNamesTheOutput)
 {
-    const Outcome outcome = run({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, u"-n"_qs, u"2"_qs, u"-t"_qs, u"My label"_qs,
-                                 u"-o"_qs, u"KsMargin=5.0"_qs, u"--output"_qs, u"out.prn"_qs, document});
+    const Outcome outcome =
+        run({u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"-n"_qs, u"2"_qs, u"-t"_qs, u"My label"_qs,
+             u"-o"_qs, u"KsMargin=5.0"_qs, u"--output"_qs, u"out.prn"_qs, document});
     EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
     EXPECT_TRUE(outcome.output.contains("out.prn")) << outcome.output.toStdString();
     const QByteArray bytes = contentsOf(folder.filePath(u"out.prn"_qs));
@@ -136,7 +51,7 @@ TEST_F(Program, FilterRun_GivesTheFilterEveryOptionAndNamesTheOutput)
 
 TEST_F(Program, WithoutADisplay_SaysSoAndDoesTheJob)
 {
-    const Outcome outcome = run({u"--ppd"_qs, filterPpd}, "From a pipe\n");
+    const Outcome outcome = run({u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd}, "From a pipe\n");
     EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
     EXPECT_TRUE(outcome.output.startsWith("There is no display")) << outcome.output.toStdString();
     EXPECT_TRUE(contentsOf(folder.filePath(u"tapeprint.prn"_qs)).endsWith("From a pipe\n"));
@@ -145,7 +60,7 @@ TEST_F(Program, WithoutADisplay_SaysSoAndDoesTheJob)
 TEST_F(Program, OutputThatNobodyNamed_NeverReplacesAFile)
 {
     hosttest::writeFile(folder, u"label.prn"_qs, "mine");
-    EXPECT_EQ(run({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, document}).status, 0);
+    EXPECT_EQ(run({u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, document}).status, 0);
     EXPECT_EQ(contentsOf(folder.filePath(u"label.prn"_qs)), "mine");
     EXPECT_TRUE(contentsOf(folder.filePath(u"label-2.prn"_qs)).endsWith("Hello\n"));
 }
@@ -153,28 +68,33 @@ TEST_F(Program, OutputThatNobodyNamed_NeverReplacesAFile)
 TEST_F(Program, FailingFilter_LeavesNoOutputBehind)
 {
     hosttest::writeFile(folder, u"filter"_qs, "#!/bin/sh\necho half\necho 'ERROR: no ink' >&2\nexit 3\n");
-    expectFailure({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, document}, "no ink");
+    expectFailure(
+        {u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, document},
+        "no ink");
     EXPECT_FALSE(QFileInfo::exists(folder.filePath(u"out.prn"_qs)));
 }
 
 TEST_F(Program, FullDisk_IsNamed)
 {
-    expectFailure({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"/dev/full"_qs, document},
-                  "No space left on device");
+    expectFailure(
+        {u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"/dev/full"_qs, document},
+        "No space left on device");
 }
 
 TEST_F(Program, RefusingPanel_PrintsNothingAndPassesItsWordsOn)
 {
     variables.emplace_back(u"HOST_TEST_REFUSE"_qs, u"1"_qs);
-    expectFailure({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, document},
-                  "The margin is too wide.");
+    expectFailure(
+        {u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, document},
+        "The margin is too wide.");
     EXPECT_FALSE(QFileInfo::exists(folder.filePath(u"out.prn"_qs)));
 }
 
 TEST_F(Program, BrokenBundle_IsNamedAndTheJobPrinted)
 {
     bundles = QStringLiteral(HOST_TEST_BUNDLES "/type");
-    const Outcome outcome = run({u"--no-dialog"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, document});
+    const Outcome outcome =
+        run({u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, document});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_TRUE(outcome.messages.contains("HostTestOtherType.bundle")) << outcome.messages.toStdString();
     EXPECT_TRUE(contentsOf(folder.filePath(u"out.prn"_qs)).endsWith("Hello\n"));
@@ -186,7 +106,23 @@ TEST_F(Program, OptionThatThePanelReplaces_IsNamed)
     const QString tooLong(41, u'9');
     const Outcome outcome = run({u"--ppd"_qs, ppd, u"--show-options"_qs, u"-o"_qs, u"KsMargin="_qs + tooLong});
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_TRUE(outcome.messages.contains("the job carries KsMargin=2.0")) << outcome.messages.toStdString();
+    EXPECT_TRUE(outcome.messages.contains("the job carries 2.0.")) << outcome.messages.toStdString();
+}
+
+TEST_F(Program, ResolutionThatThePanelCannotShow_IsSaidAndTheRestDone)
+{
+    bundles = QStringLiteral(TAPEPRINT_BUNDLE_DIR);
+    const QString three =
+        hosttest::writeFile(folder, u"three.ppd"_qs,
+                            hosttest::testPpd("*OpenUI *Resolution/Resolution: PickOne\n*DefaultResolution: A\n"
+                                              "*Resolution A/A: \"\"\n*Resolution B/B: \"\"\n"
+                                              "*Resolution C/C: \"\"\n*CloseUI: *Resolution\n"
+                                              "*KsMaxTapeLength: \"500\"\n*KsMaxMargin: \"20\"\n"));
+    const Outcome outcome = run({u"--ppd"_qs, three, u"--show-options"_qs, u"-o"_qs, u"Resolution=C"_qs});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_TRUE(outcome.output.contains("Resolution=A\n")) << outcome.output.toStdString();
+    EXPECT_EQ(outcome.messages, "tapeprint: The panel \"Page Settings\" does not offer Resolution=C, which the printer "
+                                "has: the job carries Resolution=A.\n");
 }
 
 TEST_F(Program, BadInput_IsOneLineAndStatusOne)

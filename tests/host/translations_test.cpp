@@ -70,6 +70,18 @@ TEST_P(TranslatedWindow, Buttons_SpeakTheLocalesLanguage)
     EXPECT_EQ(cancel->text(), QString::fromUtf8(GetParam().cancel));
 }
 
+TEST_P(TranslatedWindow, MnemonicOfThePaper_IsTakenByNothingElseEither)
+{
+    // A printer without a panel has no chooser, whose letter is free then.
+    const QKeySequence paper =
+        QKeySequence::mnemonic(QCoreApplication::translate("tapeprint::dialog::PrintDialog", "P&aper:"));
+    ASSERT_FALSE(paper.isEmpty());
+    for (const char *other : {"P&rinter:", "&Copies:", "Re&vert", "&Print"}) {
+        EXPECT_NE(QKeySequence::mnemonic(QCoreApplication::translate("tapeprint::dialog::PrintDialog", other)), paper)
+            << other;
+    }
+}
+
 TEST_P(TranslatedWindow, Mnemonics_AreThereAndNoneIsThereTwice)
 {
     QStringList letters;
@@ -104,6 +116,15 @@ TEST(TranslationsTest, Sentences_AreTranslatedAsLongAsTheTranslationsLive)
     EXPECT_EQ(job.sentence(), u"Auftrag tape-7: wartet."_qs);
     translations.reset();
     EXPECT_EQ(job.sentence(), u"Job tape-7 is pending."_qs);
+}
+
+TEST(TranslationsTest, NumbersOfThings_HaveEnglishsPluralFormsInLanguagesWithoutACatalogue)
+{
+    const DefaultLocale locale(u"sv_SE"_qs);
+    const Translations translations;
+    const char *const context = "tapeprint::dialog::PreviewArea";
+    EXPECT_EQ(QCoreApplication::translate(context, "%n label(s)", nullptr, 1), u"1 label"_qs);
+    EXPECT_EQ(QCoreApplication::translate(context, "%n label(s)", nullptr, 2), u"2 labels"_qs);
 }
 
 TEST(TranslationsTest, OptionNames_AreFollowedByTheLanguagesColon)

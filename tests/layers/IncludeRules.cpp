@@ -28,17 +28,18 @@ struct Room {
 };
 
 // "cups/ppd.h" is a PPD's records alone, which the plug-in borrows; "cups/" is all of CUPS, queues and jobs included.
-const std::array<Room, 9> &rooms()
+const std::array<Room, 10> &rooms()
 {
-    static const std::array<Room, 9> table = {{
+    static const std::array<Room, 10> table = {{
         {"tapeprint", {"dialog", "job", "pdekit"}, {"cups/"}},
         {"dialog", {"job", "pdekit"}, {"cups/"}},
         {"job", {"pdekit"}, {"cups/", "qpdf/", "poppler-qt6.h"}, false},
-        {"panel", {"plugin", "controls", "ppd", "pdekit"}, {"cups/ppd.h"}},
-        {"plugin", {"panel", "ppd", "pdekit"}, {"cups/ppd.h"}},
+        {"panel", {"plugin", "controls", "ppd", "pagesettings", "pdekit"}, {"cups/ppd.h"}},
+        {"plugin", {"panel", "ppd", "pagesettings", "pdekit"}, {"cups/ppd.h"}},
         {"controls", {"ppd", "pdekit"}, {"cups/ppd.h"}},
-        {"ppd", {"pdekit"}, {"cups/ppd.h"}},
-        {"log", {"pdekit"}, {"cups/ppd.h"}},
+        {"ppd", {"pagesettings", "pdekit"}, {"cups/ppd.h"}},
+        {"log", {"pagesettings", "pdekit"}, {"cups/ppd.h"}},
+        {"pagesettings", {"pdekit"}, {"cups/ppd.h"}},
         {"pdekit", {}, {"cups/", "plist/", "unicode/"}},
     }};
     return table;
@@ -120,8 +121,10 @@ std::string checkProjectInclude(const Room &room, std::string_view path)
     if (room.name == factoryRoom && target == firstComponent(panelHeader) && path != panelHeader) {
         return "plugin/ may include no header of the panel but " + std::string(panelHeader);
     }
-    if (target == "pdekit" && path.find('/', target.size() + 1) != std::string_view::npos) {
-        return "only the public headers of pdekit may be included, as pdekit/NAME.h";
+    static const Names withPublicHeaders = {"pdekit", "pagesettings"};
+    if (contains(withPublicHeaders, target) && path.find('/', target.size() + 1) != std::string_view::npos) {
+        return "only the public headers of " + std::string(target) + " may be included, as " + std::string(target) +
+               "/NAME.h";
     }
     return {};
 }

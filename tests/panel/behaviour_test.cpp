@@ -169,6 +169,12 @@ private:
                  run.panel().callback->willChangePPDOptionKeyValue(option, choice);
                  run.panel().dialogChanged(option, choice);
              }},
+            {QStringLiteral("delete-view"),
+             [](ExampleRun &run, const QString &, const QString &) { delete run.panel()->panelView(); }},
+            {QStringLiteral("ask-view"),
+             [](ExampleRun &run, const QString &, const QString &) {
+                 run.panel()->panelView()->setParent(&run.panel().window);
+             }},
             {QStringLiteral("save"),
              [](ExampleRun &run, const QString &, const QString &) {
                  QCoreApplication::processEvents();
@@ -208,6 +214,23 @@ private:
              [](ExampleRun &run, const QString &name, const QString &) {
                  EXPECT_FALSE(run.panel().outlet<QWidget>(name.toLatin1().constData())->isEnabled())
                      << name.toStdString();
+             }},
+            {QStringLiteral("enabled"),
+             [](ExampleRun &run, const QString &name, const QString &) {
+                 EXPECT_TRUE(run.panel().outlet<QWidget>(name.toLatin1().constData())->isEnabled())
+                     << name.toStdString();
+             }},
+            {QStringLiteral("unsent"),
+             [](ExampleRun &run, const QString &option, const QString &) {
+                 EXPECT_TRUE(run.panel().callback->sentFor(option).empty()) << option.toStdString();
+             }},
+            {QStringLiteral("now"),
+             [](ExampleRun &run, const QString &option, const QString &value) {
+                 const auto *live = dynamic_cast<const pdekit::PanelLiveValues *>(run.panel().panel.get());
+                 ASSERT_NE(live, nullptr);
+                 const auto values = live->currentValues();
+                 EXPECT_NE(std::find(values.begin(), values.end(), std::pair(option, value)), values.end())
+                     << option.toStdString();
              }},
             {QStringLiteral("alerts"), [](ExampleRun &run, const QString &count,
                                           const QString &) { EXPECT_EQ(run.panel().alerts.size(), count.toUInt()); }},
@@ -249,8 +272,9 @@ TEST_P(WorkedExample, HoldsOnTheBuiltPanel)
         const QString verb = line.section(QLatin1Char(' '), 0, 0);
         return verb == QLatin1StringView("sent") || verb == QLatin1StringView("field") ||
                verb == QLatin1StringView("label") || verb == QLatin1StringView("item") ||
-               verb == QLatin1StringView("disabled") || verb.startsWith(QLatin1StringView("alert")) ||
-               verb == QLatin1StringView("summary");
+               verb == QLatin1StringView("disabled") || verb == QLatin1StringView("enabled") ||
+               verb == QLatin1StringView("unsent") || verb == QLatin1StringView("now") ||
+               verb.startsWith(QLatin1StringView("alert")) || verb == QLatin1StringView("summary");
     };
     const QStringList &lines = GetParam().lines;
     ASSERT_TRUE(std::any_of(lines.begin(), lines.end(), isExpectation)) << "The example shows nothing.";

@@ -152,6 +152,36 @@ TEST(OneDot, OfADisabledResolution_IsThatOfTheFirst)
     EXPECT_EQ(panel->getOneDotMM(), 25.4 / 180.0);
 }
 
+TEST(LengthChecks, OfOneField_AreSkippedOnAMediumOfFixedLength)
+{
+    PanelOfTheClass panel(PpdText::withEveryOption());
+    panel.callback->usePaper("DC24x80");
+    panel.show();
+    panel.outlet<QLineEdit>("mLengthTxFld")->setText(u"3.21"_qs);
+    panel.outlet<QLineEdit>("mTapeLengthTxFld")->setText(u"99.21"_qs);
+    panel->checkTapeLength();
+    panel->checkKsPrintTapeLength();
+    EXPECT_EQ(panel.outlet<QLineEdit>("mLengthTxFld")->text(), u"3.21");
+    EXPECT_EQ(panel.outlet<QLineEdit>("mTapeLengthTxFld")->text(), u"99.21");
+    EXPECT_TRUE(panel.alerts.empty());
+    // The same texts on a free tape.
+    panel->setTapeState(0);
+    panel->checkTapeLength();
+    panel->checkKsPrintTapeLength();
+    EXPECT_EQ(panel.outlet<QLineEdit>("mLengthTxFld")->text(), u"4.0");
+    EXPECT_EQ(panel.outlet<QLineEdit>("mTapeLengthTxFld")->text(), u"8.0");
+    EXPECT_EQ(panel.alerts.size(), 2U);
+}
+
+TEST(OneDot, OfAResolutionInADisabledView_IsThatOfTheSelected)
+{
+    PanelOfTheClass panel(PpdText::withEveryOption().option(
+        "Resolution", "Resolution", {{"180x180dpi", "Coarse"}, {"180x50dpi", "Coarser"}}, "180x50dpi"));
+    panel.show();
+    panel->panelView()->setEnabled(false);
+    EXPECT_EQ(panel->getOneDotMM(), 25.4 / 50.0);
+}
+
 TEST(OneDot, WithoutTheOption_IsTheStepOfAnEntry)
 {
     PanelOfTheClass panel(PpdText::withEveryOption().withoutOption("Resolution"));

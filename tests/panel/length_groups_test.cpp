@@ -269,4 +269,14 @@ TEST(LengthGroups, PickOfCloth_ShowsTheLimitOfCloth_AndAnotherMaterialTheOther)
     EXPECT_EQ(panel.label("mTapeLengthMaxStr")->text(), u"8.0");
 }
 
+TEST(LengthGroups_FirstShowing, InchSliderOfAPaperThatIsNoWholeMillimetre_StartsFromThePaperItself)
+{
+    // 99.15 mm are 3.9035 inches, 99.2 would be 3.9055; 99.19 mm are 3.9051 inches, 99.1 would be 3.9016.
+    for (const auto &[paper, inches_] : std::vector<std::pair<double, float>>{{99.15, 3.90F}, {99.19, 3.91F}}) {
+        PanelUnderTest panel(tape(inches(), paper));
+        panel.show();
+        EXPECT_EQ(panel.slider("mLengthSlider")->floatValue(), inches_) << paper;
+    }
+}
+
 } // namespace

@@ -180,4 +180,15 @@ TEST(MarginRule, AnInfiniteDotInWholeMillimetres_IsTheLargestInteger)
     EXPECT_EQ(panel.callback->lastSent(u"KsTapeLength"_qs), u"1000");
 }
 
+TEST(MarginRule, ComparesTheMarginAsItIsRewritten)
+{
+    PanelUnderTest panel(tape(oneDecimal(), 20.1));
+    panel.show();
+    panel.type("mMarginTxFld", "10.01"); // less than 10.05, but 10.1 once it is rounded up
+    save(panel);
+    EXPECT_TRUE(alertedOnce(panel, "RS_Alrt_LengthByMargin"));
+    EXPECT_EQ(margin(panel), u"10.1");
+    EXPECT_EQ(length(panel), u"20.3");
+}
+
 } // namespace

@@ -278,6 +278,60 @@ TEST(Panel, WithoutItsControls_RunsEveryHandlerInSafety)
     EXPECT_EQ(panel.callback->lastSent(text("KsTapeColor")), text("KsTapeColorWhite"));
 }
 
+TEST(ClothBit, FollowsThePickedPlace_NotWhatTheControlShowsAfterwards)
+{
+    PanelOfTheClass panel(PpdText::withEveryOption());
+    panel.show();
+    // A dialog that reports a material once: the pick is shown as that again.
+    panel->PPDOptionKeyValueDidChange(text("KsTapeMaterial"), text("KsTapeMaterialOPP"));
+    auto *material = panel.outlet<QComboBox>("mTapeTypePopBtn");
+    material->setCurrentIndex(2);
+    panel->changeKsTapeType(nullptr);
+    EXPECT_EQ(material->currentIndex(), 0);
+    EXPECT_EQ(panel->imageModeFlag(), 16U);
+    panel->PPDOptionKeyValueDidChange(text("KsTapeMaterial"), text("KsTapeMaterialCloth"));
+    material->setCurrentIndex(0);
+    panel->changeKsTapeType(nullptr);
+    EXPECT_EQ(material->currentIndex(), 2);
+    EXPECT_EQ(panel->imageModeFlag(), 0U);
+}
+
+TEST(Picks, OfNoItem_SendNothing)
+{
+    PanelOfTheClass panel(PpdText::withEveryOption());
+    panel.show();
+    for (const char *popUp : {"mKsResolutionPUBtn", "mTapeTypePopBtn", "mTapeColorPopBtn", "mInkColorPopBtn"}) {
+        panel.outlet<QComboBox>(popUp)->setCurrentIndex(-1);
+    }
+    panel->changeKsResolution(nullptr);
+    panel->changeKsTapeColor(nullptr);
+    panel->changeKsInkColor(nullptr);
+    panel->changeKsTapeType(nullptr);
+    for (const char *keyword : {"KsResolution", "KsTapeMaterial", "KsTapeColor", "KsInkColor"}) {
+        EXPECT_TRUE(panel.callback->sentFor(text(keyword)).empty()) << keyword;
+    }
+    EXPECT_EQ(panel->imageModeFlag(), 0U);
+    // Nothing is told, so nothing is read back from the marks either.
+    EXPECT_EQ(std::count_if(panel.trace.begin(), panel.trace.end(),
+                            [](const QString &step) { return step.startsWith(QLatin1StringView("marked")); }),
+              0);
+}
+
+TEST(FirstSelection, OfADefaultWithoutARow_IsWhatTheControlShows)
+{
+    PpdText ppd = PpdText::withEveryOption();
+    ppd.withoutOption("KsResolution")
+        .option("Resolution", "Resolution",
+                {{"300x300dpi", "Coarse"}, {"300x600dpi", "Fine"}, {"600x600dpi", "Finest"}}, "600x600dpi")
+        .attribute("KsTapeType", "MV");
+    PanelOfTheClass panel(ppd);
+    panel.show();
+    ASSERT_EQ(panel.outlet<pdekit::RadioMatrix>("mResolutionRdBtn")->selectedRow(), 0);
+    // The summary of a third resolution of this family shows the panel's own selection.
+    ppdMarkOption(panel.callback->ppd.get(), "Resolution", "600x600dpi");
+    EXPECT_EQ(panel->summaryInfo()->value(text("Resolution")).toString(), text("Coarse"));
+}
+
 TEST(SummaryIndex, IsAlwaysNought)
 {
     PpdText ppd = PpdText::withEveryOption();

@@ -103,6 +103,38 @@ TEST(Saving, OptionThatThePpdLacks_IsLeftOut)
     }
 }
 
+TEST(Saving, SendsTheKeywordOfThePpdsOwnRecord)
+{
+    PanelUnderTest panel(PpdText::withEveryOption());
+    panel.show();
+    std::vector<QString> expected;
+    for (const QString &keyword : kTenKeys) {
+        const QByteArray own = "Own" + keyword.toLatin1();
+        ppd_option_t *option = ppdFindOption(panel.callback->ppd.get(), keyword.toLatin1().constData());
+        ASSERT_NE(option, nullptr);
+        qstrncpy(option->keyword, own.constData(), sizeof option->keyword);
+        // Of the tape length the record is not asked.
+        expected.push_back(keyword == text("KsTapeLength") ? keyword : QString::fromLatin1(own));
+    }
+    panel.callback->sent.clear();
+    panel->saveValuesAndReturnError(nullptr);
+    EXPECT_EQ(panel.callback->sentKeys(), expected);
+}
+
+TEST(Saving, OfATapeThatCannotBeAskedFor_SendsALengthAllTheSame)
+{
+    const auto callback = callbackFor(PpdText::withEveryOption());
+    callback->hasFormat = false;
+    PanelUnderTest panel(callback);
+    panel->supportedPPDOptionKeys();
+    EXPECT_EQ(callback->lastSent(text("KsTapeLength")), text("100.0"));
+    panel.show();
+    panel.type("mLengthTxFld", "75");
+    callback->sent.clear();
+    panel->saveValuesAndReturnError(nullptr);
+    EXPECT_EQ(callback->lastSent(text("KsTapeLength")), text("75.0"));
+}
+
 // ---- Choices without controls: the mark, else the default, else the first
 // --------------------------------------------
 

@@ -118,6 +118,21 @@ TEST(Summary, SecondResolutionMarked_HasNoQuality)
     EXPECT_FALSE(orderOf(panel).contains(text("Priority")));
 }
 
+TEST(Summary, ThirdResolutionMarked_HasQualityAsTheFirstHas)
+{
+    PpdText ppd = PpdText::withEveryOption();
+    ppd.option("Resolution", "Resolution", {{"300x300dpi", "1"}, {"300x600dpi", "2"}, {"600x600dpi", "3"}},
+               "300x300dpi");
+    const auto callback = callbackFor(ppd);
+    PanelUnderTest panel(callback);
+    panel.show();
+    for (const auto &[choice, hasQuality] : std::vector<std::pair<const char *, bool>>{
+             {"300x300dpi", true}, {"300x600dpi", false}, {"600x600dpi", true}}) {
+        ppdMarkOption(callback->ppd.get(), "Resolution", choice);
+        EXPECT_EQ(orderOf(panel).contains(text("Priority")), hasQuality) << choice;
+    }
+}
+
 TEST(Summary, PrinterNotOnUsb_HasNoCompression)
 {
     for (const auto &[uri, isListed] : std::vector<std::pair<const char *, bool>>{
@@ -202,6 +217,22 @@ TEST(SummaryTitles, AreThePpdsOwn_Localised)
     ppd.option("KsMargin", "300 x 300 dpi", {{"2.0", "2"}}, "2.0");
     PanelUnderTest panel(ppd);
     EXPECT_TRUE(orderOf(panel).contains(QStringLiteral(u"300 \u00d7 300 dpi")));
+}
+
+TEST(SummaryTitles, OfEachOption_AreThePpdsOwn)
+{
+    for (const char *keyword : {"KsTapeLength", "KsMargin", "KsResolution", "KsPriority", "KsPrintTapeLength",
+                                "KsTapeMaterial", "KsTapeColor", "KsInkColor", "Resolution", "KsCompress"}) {
+        PpdText ppd = qstrcmp(keyword, "Resolution") == 0 ? withoutVendorResolution() : PpdText::withEveryOption();
+        ppd.option(keyword, "My own words",
+                   {{"KsTapeColorWhite", "1"}, {"KsTapeMaterialOPP", "2"}, {"KsInkColorBlack", "3"}},
+                   "KsTapeColorWhite");
+        PanelUnderTest panel(ppd);
+        panel.show();
+        reportColours(panel);
+        EXPECT_EQ(orderOf(panel).count(text("My own words")), 1) << keyword;
+        EXPECT_FALSE(valueOf(panel, "My own words").isEmpty()) << keyword;
+    }
 }
 
 // ---- Choices: the PPD's text, the fixed text, or the selection's own

@@ -280,4 +280,44 @@ TEST(PaperChange, FillsThePrintTapeLengthAnewFromItsDefault)
     EXPECT_EQ(panel.callback->lastSent(u"KsPrintTapeLength"_qs), u"3.0");
 }
 
+TEST(FifteenMmTape, AnUnknownWidth_IsNone)
+{
+    PanelUnderTest panel(on("15mm"));
+    panel.show();
+    ASSERT_EQ(printLimit(panel), u"12.0");
+    panel.type("mTapeLengthTxFld", "11");
+    // Shown again on a paper that the PPD lacks, without a notice before.
+    panel.callback->usePaper(u"Unheard"_qs, 100.0);
+    panel->willShow();
+    EXPECT_EQ(width(panel), text(panel, "RS_TapeWidthNot"));
+    EXPECT_EQ(panel.callback->lastSent(u"KsPrintTapeLength"_qs), u"8.0");
+    // The mapped name alone says 15 mm: the width that is shown outweighs it.
+    changePaper(panel, "15mm");
+    panel.callback->usePaper(u"Unheard"_qs, 100.0);
+    panel->PPDOptionKeyValueDidChange(u"PageSize"_qs, u"15mm"_qs);
+    EXPECT_EQ(printLimit(panel), u"8.0");
+}
+
+TEST(PaperChange, ByTheDialogsNotice_IsPostedAboutThePanelItself)
+{
+    PanelUnderTest panel(on("24mm"));
+    PanelUnderTest other(on("24mm"));
+    const QObject *self = dynamic_cast<QObject *>(panel.panel.get());
+    ASSERT_NE(self, nullptr);
+    QObject observer;
+    std::vector<const void *> senders;
+    int fromThePanel = 0;
+    const QString notice = u"PMPrintDestinationPaperDidChangeNotification"_qs;
+    pdekit::NotificationCenter &center = pdekit::NotificationCenter::defaultCenter();
+    center.addObserver(
+        &observer, [&](const pdekit::Notification &posted) { senders.push_back(posted.object); }, notice);
+    center.addObserver(
+        &observer, [&](const pdekit::Notification &) { ++fromThePanel; }, notice, self);
+    panel->PPDOptionKeyValueDidChange(u"PageSize"_qs, u"12mm"_qs);
+    EXPECT_EQ(senders, std::vector<const void *>{self});
+    other->PPDOptionKeyValueDidChange(u"PageSize"_qs, u"12mm"_qs);
+    EXPECT_EQ(senders.size(), 2U);
+    EXPECT_EQ(fromThePanel, 1);
+}
+
 } // namespace

@@ -100,6 +100,13 @@ std::vector<FilterCall> SystemTest::filterCallsOf(const Outcome &outcome) const
     return cups.filterCalls(id);
 }
 
+QString SystemTest::ppdThatNames(const QString &bundle) const
+{
+    const QByteArray ppd = contentsOf(QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd"));
+    return writeFile(folder.path(QStringLiteral("naming.ppd")),
+                     ppd + "*APDialogExtension: \"" + bundle.toUtf8() + "\"\n");
+}
+
 QString SystemTest::documentOf(int pages) const
 {
     QString path = folder.path(QStringLiteral("pages-%1.pdf").arg(pages));

@@ -30,6 +30,8 @@ protected:
     /// Starts the server with the queue "tape", or skips the test where no server can be run.
     void SetUp() override;
 
+    /// The description of the sample printer "mm" that names a plug-in itself; its path.
+    QString ppdThatNames(const QString &bundle) const;
     /// Runs the program.
     Outcome tapeprint(const QStringList &arguments, const QByteArray &input = {}) const;
     /// Runs the program without a window on the queue "tape" and waits for its job.

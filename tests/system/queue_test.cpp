@@ -2,6 +2,9 @@
 // lp's letters on a real queue: default printer, instances, copies, title, pages, several files, standard input.
 #include "tests/system/SystemTest.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 namespace
 {
 
@@ -113,6 +116,32 @@ TEST_F(QueueJob, StandardInput_IsPrintedWhenNoFileIsNamed)
     EXPECT_EQ(calls[0].title(), "(stdin)");
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm());
     EXPECT_EQ(labelsIn(cups.printedBy(u"tape"_qs)).size(), 1U);
+}
+
+TEST_F(QueueJob, PpdOfTheQueue_LeavesNoTemporaryFile)
+{
+    const QString temporary = folder.makeFolder(u"temporary"_qs, 0700);
+    const QString session = folder.makeFolder(u"session"_qs, 0700);
+    moreVariables = {{u"TMPDIR"_qs, temporary}, {u"XDG_RUNTIME_DIR"_qs, session}};
+    const Outcome outcome = tapeprint({u"-d"_qs, u"tape"_qs, u"--show-options"_qs});
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    EXPECT_TRUE(outcome.output.contains("PageSize=24mm\n")) << outcome.output.toStdString();
+    EXPECT_EQ(QDir(temporary).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
+              QStringList());
+}
+
+TEST_F(QueueJob, DescriptionThatBringsAFilter_PrintsOnTheQueueButNotIntoAFile)
+{
+    // On the queue the server's own description and filters print; here the sent one's would.
+    QByteArray text = systemtest::contentsOf(QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd"));
+    text.replace("50 rastertolabel", "50 /tmp/no-such-filter");
+    const QString sent = systemtest::writeFile(workFolder + u"/sent.ppd"_qs, text);
+    EXPECT_EQ(printed({u"--ppd"_qs, sent, document}).size(), 1U);
+    const Outcome outcome = tapeprint(
+        {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"--ppd"_qs, sent, u"--output"_qs, u"out.prn"_qs, document});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(outcome.messages.contains("50 /tmp/no-such-filter")) << outcome.messages.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(workFolder + u"/out.prn"_qs));
 }
 
 } // namespace

@@ -145,12 +145,22 @@ TEST_F(UnattendedJob, GermanSession_SendsPoints)
               panelOptionsMm({"KsTapeLength=60.5", "KsMargin=3.3", "PageSize=Custom.24x60.5mm"}));
 }
 
-TEST_F(UnattendedJob, BrokenBundle_IsNamedAndTheJobPrinted)
+TEST_F(UnattendedJob, PrinterWithNoneOfThePanelsKeywords_GetsItsPaperAndWhatWasAskedFor)
+{
+    ASSERT_TRUE(cups.addRecordedQueue(u"plain"_qs, u"plain"_qs).isNull());
+    const std::vector<FilterCall> calls = filterCallsOf(
+        tapeprint({u"-d"_qs, u"plain"_qs, u"--no-dialog"_qs, u"-o"_qs, u"Resolution=180x180dpi"_qs, document}));
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), Words({"PageSize=24mm", "Resolution=180x180dpi"}));
+}
+
+TEST_F(UnattendedJob, BrokenBundleThatThePpdNames_IsNamedAndTheJobPrinted)
 {
     const QString bundle = folder.makeFolder(u"bundles/Broken.bundle"_qs);
     systemtest::writeFile(bundle + u"/Broken.so"_qs, "This is no code.\n");
     moreVariables = {{u"TAPEPRINT_PLUGIN_PATH"_qs, folder.path(u"bundles"_qs)}};
-    const Outcome outcome = tapeprint({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document});
+    const QString ppd = ppdThatNames(u"/opt/maker/Broken.bundle"_qs);
+    const Outcome outcome = tapeprint({u"-d"_qs, u"tape"_qs, u"--ppd"_qs, ppd, u"--no-dialog"_qs, document});
     EXPECT_TRUE(outcome.messages.contains("Broken.bundle")) << outcome.messages.toStdString();
     EXPECT_EQ(outcome.messages.count('\n'), 1) << outcome.messages.toStdString();
     const std::vector<FilterCall> calls = filterCallsOf(outcome);

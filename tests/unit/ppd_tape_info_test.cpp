@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // The tape in use, as the page format and the PPD give it, and the page range.
+#include "MemoryOption.h"
 #include "PpdText.h"
 #include "TextPrinting.h"
 
+#include "pagesettings/Exports.h"
 #include "pdekit/PropertyList.h"
-#include "ppd/TapeInfo.h"
 
 #include <gtest/gtest.h>
 
@@ -138,6 +139,54 @@ TEST_F(TapeInfoTest, HeightOfZero_KeepsTheDefaultLengthAndEndsThere)
     EXPECT_EQ(info.paperName, u"DC24x80");
     // The page sizes are not looked at any more.
     EXPECT_EQ(info.fixedLength, 0U);
+}
+
+/// Names as long as a PPD can hold them (40 bytes) and in other letters than ASCII.
+class UnusualPaperName : public TapeInfoTest
+{
+protected:
+    UnusualPaperName()
+    {
+        ppd = PpdText()
+                  .pageSizes({{"24mm", "24 mm", 68.0, 283.0},
+                              {kLong, "31 letters", 68.0, 226.0},
+                              {kLongest, "40 letters", 68.0, 226.0},
+                              {"AV1", "Renamed below", 68.0, 226.0}},
+                             "24mm")
+                  .open();
+    }
+    std::uint32_t fixedLengthOf(const QString &name)
+    {
+        usePaper(name, 72.0);
+        EXPECT_EQ(get(), kPMNoError);
+        EXPECT_EQ(info.paperName, name);
+        return info.fixedLength;
+    }
+
+    const QByteArray kLong = "DC" + QByteArray(28, 'x') + "1";
+    const QByteArray kLongest = "FL" + QByteArray(37, 'x') + "1";
+};
+
+TEST_F(UnusualPaperName, Beyond30Characters_IsComparedToItsEnd)
+{
+    EXPECT_EQ(fixedLengthOf(u"DC"_qs + QString(28, u'x') + u'1'), 1U);
+    EXPECT_EQ(fixedLengthOf(u"DC"_qs + QString(28, u'x') + u'2'), 0U);
+    EXPECT_EQ(fixedLengthOf(u"DC"_qs + QString(28, u'x')), 0U);
+    EXPECT_EQ(fixedLengthOf(u"FL"_qs + QString(37, u'x') + u'1'), 1U);
+    EXPECT_EQ(fixedLengthOf(u"FL"_qs + QString(37, u'x') + u'2'), 0U);
+    EXPECT_EQ(fixedLengthOf(u"FL"_qs + QString(37, u'x') + u"1x"_qs), 0U);
+}
+
+TEST_F(UnusualPaperName, OutsideAscii_IsComparedByItsUtf8)
+{
+    // libcups reads no such keyword from a file; a dialog may make up the records itself.
+    ppd_size_t *size = ppdPageSize(ppd.get(), "AV1");
+    ASSERT_NE(size, nullptr);
+    putText(size->name, "AV\u65E5\u672C");
+    EXPECT_EQ(fixedLengthOf(u"AV\u65E5\u672C"_qs), 1U);
+    EXPECT_EQ(fixedLengthOf(u"AV\u65E5\u6728"_qs), 0U);
+    EXPECT_EQ(fixedLengthOf(u"AV\u65E5"_qs), 0U);
+    EXPECT_EQ(fixedLengthOf(u"AV??"_qs), 0U);
 }
 
 class LongPaperName : public TapeInfoTest, public testing::WithParamInterface<int>

@@ -2,8 +2,8 @@
 // The vendor ticket in the print settings, and numbers in the session's data.
 #include "TextPrinting.h"
 
+#include "pagesettings/Exports.h"
 #include "pdekit/PropertyList.h"
-#include "ppd/TapeInfo.h"
 
 #include <gtest/gtest.h>
 
@@ -92,6 +92,23 @@ TEST_F(TicketTest, NumbersOfAnySize_GiveFourBitsEach)
     EXPECT_EQ(info.labelMaterial, 2U);
     EXPECT_EQ(info.labelColor, 3U);
     EXPECT_EQ(info.inkColor, 2U);
+}
+
+TEST_F(TicketTest, NumberThatBeginsWithZero_IsDecimal)
+{
+    // 35 is 0x23; an octal 035 would be 29, which is 0x1D.
+    useTicket(QByteArray("<plist version=\"1.0\"><dict><key>LxHNLabelType</key><integer>035</integer></dict></plist>"));
+    read();
+    EXPECT_EQ(info.labelMaterial, 2U);
+    EXPECT_EQ(info.labelColor, 3U);
+}
+
+TEST_F(TicketTest, TicketInAnotherEncoding_IsReadByItsDeclaration)
+{
+    useTicket(QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><plist version=\"1.0\"><dict>"
+                         "<key>LxPaperName2</key><string>B\xE4nd</string></dict></plist>"));
+    read();
+    EXPECT_EQ(info.paperName, u"B\u00E4nd");
 }
 
 TEST_F(TicketTest, NoSettings_ClearsAndAnswersNoError)

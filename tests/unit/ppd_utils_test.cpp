@@ -38,6 +38,20 @@ TEST_F(PDEUtils, AttributeValue_IsFoundWhateverItsSpecifier)
     EXPECT_EQ(PDEUtilsMethod13::ppdAttrValStr(ppd.get(), "KsMinMargin"), u"1.0");
 }
 
+TEST_F(PDEUtils, RepeatedAttribute_TheFirstCounts)
+{
+    // The values are out of the order of the alphabet, so that no sorting gives the same; with and without specifiers.
+    const OpenPpd ppd = PpdText()
+                            .line("*KsUnitType: \"m\"")
+                            .line("*KsUnitType: \"a\"")
+                            .line("*KsUnitType: \"z\"")
+                            .line("*KsMaxMargin Second: \"2\"")
+                            .line("*KsMaxMargin Second: \"1\"")
+                            .open();
+    EXPECT_EQ(PDEUtilsMethod13::ppdAttrValStr(ppd.get(), "KsUnitType"), u"m");
+    EXPECT_EQ(PDEUtilsMethod13::ppdAttrValStr(ppd.get(), "KsMaxMargin"), u"2");
+}
+
 TEST_F(PDEUtils, AttributeValue_IsReadInTheSystemsEncoding)
 {
     const OpenPpd ppd = PpdText().attribute("KsText", "\xC3\xA4").open();
@@ -115,6 +129,24 @@ TEST_F(PDEUtils, OriginItem_ReadsAPoint)
     EXPECT_EQ(PDEUtilsMethod13::originItem(ppd.get(), "KsWord"), QPointF(0.0, 0.0));
     EXPECT_EQ(PDEUtilsMethod13::originItem(ppd.get(), "KsNone"), QPointF(0.0, 0.0));
     EXPECT_EQ(PDEUtilsMethod13::originItem(nullptr, "KsPoint"), QPointF(0.0, 0.0));
+}
+
+TEST_F(PDEUtils, OriginItem_ReadsASingleNumberAsItsX)
+{
+    const OpenPpd ppd = PpdText()
+                            .attribute("KsNumber", "5")
+                            .attribute("KsBraced", "{-2.5}")
+                            .attribute("KsOpen", "{3")
+                            .attribute("KsNoX", "{,4}")
+                            .attribute("KsNoY", "{3,}")
+                            .attribute("KsPlain", "3, 4")
+                            .open();
+    EXPECT_EQ(PDEUtilsMethod13::originItem(ppd.get(), "KsNumber"), QPointF(5.0, 0.0));
+    EXPECT_EQ(PDEUtilsMethod13::originItem(ppd.get(), "KsBraced"), QPointF(-2.5, 0.0));
+    EXPECT_EQ(PDEUtilsMethod13::originItem(ppd.get(), "KsOpen"), QPointF(3.0, 0.0));
+    EXPECT_EQ(PDEUtilsMethod13::originItem(ppd.get(), "KsNoX"), QPointF(0.0, 4.0));
+    EXPECT_EQ(PDEUtilsMethod13::originItem(ppd.get(), "KsNoY"), QPointF(3.0, 0.0));
+    EXPECT_EQ(PDEUtilsMethod13::originItem(ppd.get(), "KsPlain"), QPointF(3.0, 4.0));
 }
 
 TEST_F(PDEUtils, ArrayFromOption_HoldsOneRecordAChoiceInTheOptionsOrder)

@@ -22,6 +22,10 @@ struct AlertRequest {
 using AlertHandler = std::function<void(const AlertRequest &alert)>;
 
 /// Shows a modal alert with one button. Returns when it has been closed; the dialog in front is its parent.
+///
+/// While it is up, anything may happen: the caller may be gone when it returns. When it was raised by a press of the
+/// left button that ended an editing elsewhere, a Slider or RadioMatrix under the pointer completes that press
+/// afterwards, as the release went to the alert.
 PDEKIT_EXPORT void NSRunAlertPanel(const QString &title, const QString &text, const QString &defaultButton);
 
 /// Replaces how alerts are shown, for the whole process. An empty handler sets the message box back.

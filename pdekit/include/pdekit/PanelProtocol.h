@@ -12,6 +12,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include <cups/ppd.h>
@@ -110,6 +111,24 @@ public:
     virtual std::optional<QVariantMap> summaryInfo() = 0;
     /// The dialog's window closes. \param userPrinted whether the person chose to print.
     virtual void printWindowWillClose(bool userPrinted) = 0;
+};
+
+/// An operation that a panel may offer beside Panel. A dialog asks for it with a dynamic_cast of the panel.
+class PDEKIT_EXPORT PanelLiveValues
+{
+public:
+    PanelLiveValues() = default;
+    PanelLiveValues(const PanelLiveValues &) = delete;
+    PanelLiveValues &operator=(const PanelLiveValues &) = delete;
+    virtual ~PanelLiveValues();
+
+    /// The values that a person may be dragging or typing at this moment, as PPD option keyword and choice keyword:
+    /// exactly what saving would send of them from the controls as they stand. A value that the panel's checks would
+    /// correct first is not corrected here.
+    ///
+    /// Changes nothing, checks nothing, shows nothing and calls nothing of the dialog but the operations that hand out
+    /// the job's objects: a dialog may ask at every event. Empty before the panel has controls.
+    virtual std::vector<std::pair<QString, QString>> currentValues() const = 0;
 };
 
 /// Panels as a plug-in hands them out. The array and the dialog share each panel.

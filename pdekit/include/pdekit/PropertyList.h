@@ -15,7 +15,10 @@ namespace pdekit
 
 /// Reads an XML property list. Dictionaries become QVariantMap, arrays QVariantList, strings QString, data QByteArray,
 /// dates QDateTime (UTC), integers qlonglong, reals double, booleans bool.
-/// \return std::nullopt when the bytes are not an XML property list.
+/// The encoding is that of the byte order mark, else the one that the XML declaration names, else UTF-8; whole numbers
+/// are decimal, whatever zeros they begin with.
+/// \return std::nullopt when the bytes are not an XML property list in that encoding, nest deeper than 128, declare
+/// entities or the like of their own, or hold a tag of more than 1024 characters.
 PDEKIT_EXPORT std::optional<QVariant> propertyListFromXml(const QByteArray &xml);
 
 /// Writes a value as an XML property list. \return empty bytes when the value holds something a property list cannot.

@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: Apache-2.0
+// From the job's page and the documents' pages to what is seen and said.
+#include "dialog/PreviewArea.h"
+
+#include "dialog/TapePreview.h"
+#include "job/Texts.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+/// Pages are rendered at scales that grow by this, so that a drag that makes the drawing larger does not render anew at
+/// each of its steps.
+constexpr double scaleStep = 1.5;
+
+double nextScale(double dotsPerPoint)
+{
+    return std::pow(scaleStep, std::ceil(std::log(dotsPerPoint) / std::log(scaleStep)));
+}
+
+QLabel *makeWords(const QString &name, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->hide();
+    return label;
+}
+
+} // namespace
+
+PreviewArea::PreviewArea(QWidget *parent) : QWidget(parent)
+{
+    setObjectName(QStringLiteral("previewArea"));
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    mPreview = new TapePreview(this);
+    mMessages = makeWords(QStringLiteral("previewMessages"), this);
+    mTapeUsed = makeWords(QStringLiteral("tapeUsed"), this);
+    layout->addWidget(mPreview);
+    layout->addWidget(mMessages);
+    auto *row = new QHBoxLayout;
+    row->addWidget(mTapeUsed, 1);
+    row->addWidget(makePaging());
+    layout->addLayout(row);
+
+    mPreview->setPictures([this](const job::PlacedPage &page) {
+        const PagePicture *picture = mRenderer.picture(page.document, page.page);
+        return picture == nullptr ? job::RenderedPage() : picture->page;
+    });
+    connect(mPreview, &TapePreview::scaleChanged, this, &PreviewArea::askForPages);
+    connect(&mRenderer, &PageRenderer::documentsRead, this, [this] {
+        planAnew();
+        Q_EMIT planned();
+    });
+    connect(&mRenderer, &PageRenderer::rendered, this, [this] {
+        mPreview->update();
+        showWords();
+        if (!isWorking()) {
+            Q_EMIT settled();
+        }
+    });
+}
+
+QWidget *PreviewArea::makePaging()
+{
+    mPaging = new QWidget(this);
+    mPaging->setObjectName(QStringLiteral("paging"));
+    auto *layout = new QHBoxLayout(mPaging);
+    layout->setContentsMargins({});
+    const auto makeButton = [this](const QString &name, Qt::ArrowType arrow, const QString &words, int step) {
+        auto *button = new QToolButton(mPaging);
+        button->setObjectName(name);
+        button->setArrowType(arrow);
+        button->setAutoRepeat(true);
+        button->setFocusPolicy(Qt::StrongFocus);
+        button->setAccessibleName(words);
+        button->setToolTip(words);
+        connect(button, &QToolButton::clicked, this,
+                [this, step] { turnTo(step < 0 ? mLabel - std::min<std::size_t>(mLabel, 1) : mLabel + 1); });
+        return button;
+    };
+    mPrevious = makeButton(QStringLiteral("previousLabel"), Qt::LeftArrow, tr("Previous label"), -1);
+    mNext = makeButton(QStringLiteral("nextLabel"), Qt::RightArrow, tr("Next label"), 1);
+    mPosition = new QLabel(mPaging);
+    mPosition->setObjectName(QStringLiteral("labelPosition"));
+    mPosition->setTextFormat(Qt::PlainText);
+    layout->addWidget(mPrevious);
+    layout->addWidget(mPosition);
+    layout->addWidget(mNext);
+    mPaging->hide();
+    return mPaging;
+}
+
+void PreviewArea::setDocuments(const QStringList &pdfPaths, const QStringList &shownAs)
+{
+    mRenderer.setDocuments(pdfPaths, shownAs);
+    planAnew();
+}
+
+void PreviewArea::setProblem(const QString &problem)
+{
+    mProblem = problem;
+    showWords();
+}
+
+void PreviewArea::setIsTapePrinter(bool isTapePrinter)
+{
+    mPreview->setIsTapePrinter(isTapePrinter);
+}
+
+void PreviewArea::follow(const job::TapePage &page, const job::JobOptions &options, const TapeLook &look)
+{
+    if (page == mPage && options == mOptions && look == mLook) {
+        return;
+    }
+    mPage = page;
+    mOptions = options;
+    mLook = look;
+    planAnew();
+}
+
+void PreviewArea::planAnew()
+{
+    std::vector<job::PageSizes> sizes;
+    for (const ReadDocument &document : mRenderer.documents()) {
+        sizes.push_back(document.sizes);
+    }
+    const bool fitsLength = job::layoutChoicesOf(mOptions).fitLength;
+    if (fitsLength) {
+        mRenderer.measure();
+    }
+    mPlan = job::planLabels(sizes, mPage, mOptions, fitsLength ? mRenderer.drawn() : std::vector<job::DrawnRects>());
+    turnTo(mLabel);
+}
+
+void PreviewArea::turnTo(std::size_t label)
+{
+    mLabel = mPlan.labels.empty() ? 0 : std::min(label, mPlan.labels.size() - 1);
+    showLabel();
+}
+
+const job::Label &PreviewArea::shownLabel() const
+{
+    static const job::Label none;
+    return mLabel < mPlan.labels.size() ? mPlan.labels[mLabel] : none;
+}
+
+void PreviewArea::showLabel()
+{
+    QRectF content;
+    for (const job::PlacedPage &page : shownLabel()) {
+        content |= page.place.mapRect(partThatCounts(page)).intersected(page.clip);
+    }
+    mPreview->showLabel({mPage, shownLabel(), content, isCutOff(), mLook});
+    askForPages();
+    showWords();
+    const auto count = static_cast<int>(mPlan.labels.size());
+    const auto number = static_cast<int>(mLabel) + 1;
+    mPaging->setVisible(count > 1);
+    mPosition->setText(tr("%1 / %2", "which label of how many").arg(number).arg(count));
+    mPosition->setAccessibleName(tr("Label %1 of %2").arg(number).arg(count));
+    mPrevious->setEnabled(number > 1);
+    mNext->setEnabled(number < count);
+}
+
+void PreviewArea::askForPages()
+{
+    std::vector<WantedPage> wanted;
+    for (const job::PlacedPage &page : shownLabel()) {
+        const double dotsPerPoint = mPreview->dotsPerPoint() * scaleOf(page);
+        if (dotsPerPoint > 0.0 && std::isfinite(dotsPerPoint)) {
+            wanted.push_back({page.document, page.page, nextScale(dotsPerPoint)});
+        }
+    }
+    mRenderer.want(std::move(wanted));
+}
+
+QRectF PreviewArea::partThatCounts(const job::PlacedPage &page) const
+{
+    const auto number = static_cast<std::size_t>(page.page);
+    const bool isDrawnAlone = job::layoutChoicesOf(mOptions).fitLength && page.document < mRenderer.drawn().size();
+    return isDrawnAlone ? mRenderer.drawn()[page.document][number]
+                        : QRectF({}, mRenderer.documents()[page.document].sizes[number]);
+}
+
+bool PreviewArea::isCutOff() const
+{
+    // Where nothing is printed at all, that is what is said.
+    return !mPage.layoutRect().isEmpty() &&
+           std::any_of(shownLabel().begin(), shownLabel().end(),
+                       [this](const job::PlacedPage &page) { return dialog::isCutOff(page, partThatCounts(page)); });
+}
+
+bool PreviewArea::isBlank()
+{
+    const job::Label &label = shownLabel();
+    return !label.empty() && std::all_of(label.begin(), label.end(), [this](const job::PlacedPage &page) {
+        const PagePicture *picture = mRenderer.picture(page.document, page.page);
+        return picture != nullptr && picture->isBlank;
+    });
+}
+
+QStringList PreviewArea::messages()
+{
+    QStringList sentences;
+    if (!mProblem.isNull()) {
+        sentences.append(tr("There is no preview: %1").arg(mProblem));
+    }
+    for (const ReadDocument &document : mRenderer.documents()) {
+        if (!document.problem.isNull()) {
+            sentences.append(tr("There is no preview: %1").arg(document.problem));
+        }
+    }
+    if (!shownLabel().empty() && mPage.layoutRect().isEmpty()) {
+        sentences.append(job::Texts::tr("The margins leave nothing of the tape to print on: make the tape longer or "
+                                        "the margin smaller."));
+    } else if (isCutOff()) {
+        sentences.append(tr("Part of the page is cut off."));
+    }
+    if (isBlank()) {
+        sentences.append(tr("Nothing is drawn on this page."));
+    }
+    if (mPage.isTape && mLook.isFaint()) {
+        sentences.append(tr("Ink of this colour is hard to see on this tape."));
+    }
+    return sentences;
+}
+
+QString PreviewArea::tapeUsed() const
+{
+    const auto count = static_cast<int>(mPlan.labelCount());
+    if (!mPage.isTape) {
+        return tr("%n sheet(s)", nullptr, count);
+    }
+    const double lengthPt = mPage.sizePt.height() * static_cast<double>(mPlan.labelCount());
+    return tr("%1, %2 of tape", "such as: 3 labels, 18.6 cm of tape")
+        .arg(tr("%n label(s)", nullptr, count), tapeText(lengthPt, mLook.unit));
+}
+
+void PreviewArea::showWords()
+{
+    const QString words = messages().join(u'\n');
+    mMessages->setText(words);
+    mMessages->setVisible(!words.isEmpty());
+    // As long as not every document is known, the number would be wrong.
+    const bool areAllKnown = std::all_of(mRenderer.documents().begin(), mRenderer.documents().end(),
+                                         [](const ReadDocument &document) { return document.problem.isNull(); });
+    const bool isKnown = areAllKnown && !mPlan.labels.empty() && !mPage.isEmpty();
+    mTapeUsed->setText(isKnown ? tapeUsed() : QString());
+    mTapeUsed->setVisible(isKnown);
+}
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: Apache-2.0
+// What will come out of the printer: a label, the others to page to, how much tape they take, and what to know of them.
+#pragma once
+
+#include "dialog/PageRenderer.h"
+#include "dialog/TapeLook.h"
+#include "job/LabelPlan.h"
+
+#include <QStringList>
+#include <QWidget>
+
+#include <cstddef>
+#include <vector>
+
+class QLabel;
+class QToolButton;
+
+namespace tapeprint::dialog
+{
+
+class TapePreview;
+
+class PreviewArea : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PreviewArea(QWidget *parent = nullptr);
+
+    /// The documents of the job, as PDF files; they are shown as soon as they are read. \param shownAs how sentences
+    /// name them, one by one; where it ends, by their paths.
+    void setDocuments(const QStringList &pdfPaths, const QStringList &shownAs = {});
+    /// Why the documents cannot be shown, in a sentence; null when they can.
+    void setProblem(const QString &problem);
+    /// Whether the printer is one that is loaded with tape, whatever the page in it.
+    void setIsTapePrinter(bool isTapePrinter);
+    /// Follows the job. \param options its options as they stand this moment.
+    void follow(const job::TapePage &page, const job::JobOptions &options, const TapeLook &look);
+
+    /// What is shown: every label of the job. Without labels as long as the documents are being read.
+    const job::LabelPlan &plan() const { return mPlan; }
+    /// Index of the label that is shown.
+    std::size_t label() const { return mLabel; }
+    /// Whether something is still to come: documents being read, pages being rendered.
+    bool isWorking() const { return mRenderer.isReading() || mRenderer.isMeasuring() || mRenderer.isRendering(); }
+
+Q_SIGNALS:
+    /// The documents have been read: the plan has its labels.
+    void planned();
+    /// Everything that is to be seen is there.
+    void settled();
+
+private:
+    QWidget *makePaging();
+    void planAnew();
+    void turnTo(std::size_t label);
+    void showLabel();
+    void askForPages();
+    void showWords();
+    const job::Label &shownLabel() const;
+    QRectF partThatCounts(const job::PlacedPage &page) const;
+    bool isCutOff() const;
+    bool isBlank();
+    QStringList messages();
+    QString tapeUsed() const;
+
+    job::TapePage mPage;
+    job::JobOptions mOptions;
+    TapeLook mLook;
+    QString mProblem;
+    job::LabelPlan mPlan;
+    std::size_t mLabel = 0;
+
+    PageRenderer mRenderer;
+    TapePreview *mPreview = nullptr;
+    QWidget *mPaging = nullptr;
+    QToolButton *mPrevious = nullptr;
+    QToolButton *mNext = nullptr;
+    QLabel *mPosition = nullptr;
+    QLabel *mTapeUsed = nullptr;
+    QLabel *mMessages = nullptr;
+};
+
+} // namespace tapeprint::dialog

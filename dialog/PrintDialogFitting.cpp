@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the window does about the length of the tape: fitting it once, keeping it fitted, and never over a length that a
+// person typed without asking.
+#include "dialog/PreviewArea.h"
+#include "dialog/PrintDialog.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QMessageBox>
+
+#include <cmath>
+
+#include <pdekit/Numbers.h>
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+/// Lengths go through a panel's field, which keeps hundredths of an inch.
+constexpr double sameLengthMm = 0.13;
+
+bool isSameLength(double leftMm, double rightMm)
+{
+    return std::abs(leftMm - rightMm) < sameLengthMm;
+}
+
+} // namespace
+
+void PrintDialog::takeDocuments()
+{
+    if (!mDesk.problem().isNull()) {
+        mFitWanted = false;
+        mPreview->setDocuments({}, {});
+        mPreview->setProblem(mDesk.problem());
+        return;
+    }
+    mPreview->setProblem(QString());
+    mPreview->setDocuments(mDesk.documents()->pdfs, mDesk.documents()->files);
+    fitTape();
+}
+
+void PrintDialog::fitOnce()
+{
+    mFitWanted = true;
+    mFittedLengthMm = 0.0;
+    if (!job::layoutChoicesOf(mJob.options()).fitLength) {
+        mJob.changeOption(job::OptionName::fitLength, QStringLiteral("true")); // the documents are looked at now
+        return;
+    }
+    fitTape();
+}
+
+void PrintDialog::fitTape()
+{
+    const std::optional<job::PdfDocuments> &documents = mDesk.documents();
+    const job::SettledJob current = currentJob();
+    // While an alert of a panel stands over the window, a call of that panel is under way: it is not to be made anew.
+    const QWidget *modal = QApplication::activeModalWidget();
+    if (!current.fitsLength() || !documents || documents->drawn.empty() || (modal != nullptr && modal != this)) {
+        return;
+    }
+    const double shownMm = pdekit::doubleValue(current.options.value(mJob.tape().lengthOption));
+    // A length that the person sets afterwards is theirs: fitting ends, and pages count whole again.
+    if (!mFitWanted && mFittedLengthMm > 0.0 && !isSameLength(shownMm, mFittedLengthMm)) {
+        mKeepFitting->setChecked(false);
+        mFittedLengthMm = 0.0;
+        mJob.changeOption(job::OptionName::fitLength, QStringLiteral("false"));
+        return;
+    }
+    if (!mFitWanted && !mKeepFitting->isChecked()) {
+        return;
+    }
+    const bool wasAsked = std::exchange(mFitWanted, false);
+    const std::optional<job::AutomaticLength> length = job::automaticLength(current, *documents);
+    if (!length) {
+        if (wasAsked) {
+            say(QMessageBox::Information, tr("Nothing is drawn on the document: the tape keeps its length."));
+        }
+        return;
+    }
+    if (!isSameLength(shownMm, length->lengthMm)) {
+        applyLength(*length);
+    }
+    mFittedLengthMm = length->lengthMm;
+    if (wasAsked && length->isHeld) {
+        say(QMessageBox::Information, tr("The document needs more tape than the printer takes: it is made smaller."));
+    }
+}
+
+void PrintDialog::applyLength(const job::AutomaticLength &length)
+{
+    mJob.changePaperLength(length.lengthMm);
+    mPanels.showAll();
+    const double followedMm = pdekit::doubleValue(mPanels.currentOptions().value(mJob.tape().lengthOption));
+    if (!isSameLength(followedMm, length.lengthMm) && mayReplaceTypedLength(followedMm)) {
+        remakePanels();
+    }
+}
+
+bool PrintDialog::mayReplaceTypedLength(double lengthMm)
+{
+    // The panel keeps a length that was typed. Kept fitted, the person has said beforehand that it may go.
+    if (mKeepFitting->isChecked() && mFittedLengthMm > 0.0) {
+        return true;
+    }
+    const bool replace =
+        QMessageBox::question(this, windowTitle(),
+                              tr("The tape length was set to %1 mm by hand. Replace it by the length that fits?")
+                                  .arg(pdekit::fixedDecimals(lengthMm, 1))) == QMessageBox::Yes;
+    if (!replace) {
+        mKeepFitting->setChecked(false);
+        mJob.changeOption(job::OptionName::fitLength, QStringLiteral("false"));
+    }
+    return replace;
+}
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: Apache-2.0
+// One folder a process, made when the first file is asked for, and a helper that removes it when nothing else can.
+#include "job/PrivateFile.h"
+
+#include "job/DeathWatch.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMutex>
+#include <QMutexLocker>
+
+#include <cerrno>
+#include <cstdlib>
+
+#include <sys/stat.h>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+class PrivateFolder
+{
+public:
+    PrivateFolder() = default;
+    ~PrivateFolder()
+    {
+        if (!mPath.isNull()) {
+            QDir(mPath).removeRecursively();
+        }
+    }
+    PrivateFolder(const PrivateFolder &) = delete;
+    PrivateFolder &operator=(const PrivateFolder &) = delete;
+
+    /// A new folder inside. \return null, and what the system says, when there is none to be had.
+    QString makePlace(QString *error)
+    {
+        const QMutexLocker lock(&mMutex);
+        if (mPath.isNull() && !make()) {
+            *error = qt_error_string(errno);
+            return {};
+        }
+        QString place = QStringLiteral("%1/%2").arg(mPath, QString::number(++mPlaces));
+        if (mkdir(QFile::encodeName(place).constData(), S_IRWXU) != 0) {
+            *error = qt_error_string(errno);
+            return {};
+        }
+        return place;
+    }
+
+private:
+    bool make()
+    {
+        QByteArray path = QFile::encodeName(QDir::cleanPath(QDir::tempPath())) + "/tapeprint-XXXXXX";
+        if (mkdtemp(path.data()) == nullptr) {
+            return false;
+        }
+        mPath = QFile::decodeName(path);
+        mWatch = DeathWatch::removing(path);
+        return true;
+    }
+
+    QMutex mMutex;
+    QString mPath;
+    int mPlaces = 0;
+    std::unique_ptr<DeathWatch> mWatch;
+};
+
+PrivateFolder &privateFolder()
+{
+    static PrivateFolder folder;
+    return folder;
+}
+
+} // namespace
+
+std::unique_ptr<PrivateFile> PrivateFile::create(const QString &name, QString *error)
+{
+    const QString place = privateFolder().makePlace(error);
+    if (place.isNull()) {
+        return nullptr;
+    }
+    std::unique_ptr<PrivateFile> created(new PrivateFile(place + u'/' + name));
+    if (!created->mFile.open(QIODevice::ReadWrite | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner)) {
+        *error = created->mFile.errorString();
+        return nullptr;
+    }
+    return created;
+}
+
+bool PrivateFile::fill(const QByteArray &bytes, QString *error)
+{
+    if (mFile.write(bytes) == bytes.size() && mFile.flush()) {
+        return true;
+    }
+    *error = mFile.errorString();
+    return false;
+}
+
+PrivateFile::~PrivateFile()
+{
+    mFile.close();
+    QDir(QFileInfo(path()).path()).removeRecursively();
+}
+
+} // namespace tapeprint::job
