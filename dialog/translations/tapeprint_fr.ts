@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -145,6 +224,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>&amp;Papier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -382,55 +497,55 @@
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier temporaire ne peut pas être écrit (%1). Libérez de la place dans le dossier des fichiers temporaires.</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les filtres n’ont pas pu faire de pages du document %1 : %2.</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image %1 (%2 x %3 points) ne peut pas être décompressée (%4). Réduisez-la ou imprimez-la en PDF.</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image %1 est endommagée (%2). Recréez-la ou indiquez-en une autre.</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 ne peut pas être mis en page sur un ruban. Imprimez un PDF, un fichier PostScript, une image ou du texte brut.</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 est protégé par un mot de passe. Enregistrez-le sans mot de passe et imprimez celui-ci.</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 est endommagé (%2). Recréez-le ou indiquez-en un autre.</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document %1 n’a aucune page. Indiquez-en un qui contienne quelque chose à imprimer.</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les étiquettes ne peuvent pas être mises en page (%1). Vérifiez que le document est complet et qu’il y a de la place pour les fichiers temporaires.</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>La description de cette imprimante n’accepte aucune page de la longueur choisie. La page garde une longueur de %1 mm et la longueur est laissée au pilote.</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une longueur aussi proche de celle du ruban est remplacée par celle-ci par le système d’impression : %1 mm.</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les marges ne laissent rien du ruban à imprimer. Allongez le ruban ou réduisez la marge.</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune page du document n’est choisie. Modifiez l’étendue de pages.</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -504,6 +619,22 @@
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>La page %1 du document %2 n’a pas de taille. Omettez-la ou recréez-la.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>Une longueur aussi proche de celle d’un autre papier est remplacée par celle-ci par le système d’impression : %1 mm.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>plus de %1 Mio de mémoire seraient nécessaires</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>Les pages du document %1 ne peuvent pas être écrites (%2). Libérez de la place dans le dossier des fichiers temporaires.</translation>
     </message>
 </context>
 </TS>

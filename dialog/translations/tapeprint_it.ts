@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -145,6 +224,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>C&amp;arta:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -382,55 +497,55 @@
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere un file temporaneo (%1). Liberare spazio nella cartella dei file temporanei.</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>I filtri non sono riusciti a creare pagine dal documento %1: %2.</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’immagine %1 (%2 x %3 punti) non può essere decompressa (%4). Ridurla o stamparla come PDF.</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’immagine %1 è danneggiata (%2). Ricrearla o indicarne un’altra.</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 non può essere disposto sul nastro. Stampare un PDF, un file PostScript, un’immagine o testo semplice.</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 è protetto da password. Salvarlo senza password e stampare quello.</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 è danneggiato (%2). Ricrearlo o indicarne un altro.</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il documento %1 non ha pagine. Indicarne uno con qualcosa da stampare.</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile disporre le etichette (%1). Verificare che il documento sia completo e che ci sia spazio per i file temporanei.</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descrizione di questa stampante non accetta pagine della lunghezza scelta. La pagina resta lunga %1 mm e la lunghezza è lasciata al driver.</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il sistema di stampa trasforma una lunghezza così vicina a quella del nastro in quest’ultima: %1 mm.</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>I margini non lasciano nastro su cui stampare. Allungare il nastro o ridurre il margine.</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna pagina del documento è selezionata. Modificare l’intervallo di pagine.</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -504,6 +619,22 @@
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>La pagina %1 del documento %2 non ha dimensioni. Tralasciarla o ricrearla.</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>Il sistema di stampa trasforma una lunghezza così vicina a quella di un’altra carta in quest’ultima: %1 mm.</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>servirebbero più di %1 MiB di memoria</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>Impossibile scrivere le pagine del documento %1 (%2). Liberare spazio nella cartella dei file temporanei.</translation>
     </message>
 </context>
 </TS>

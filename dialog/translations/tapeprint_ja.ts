@@ -3,6 +3,85 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>tapeprint::dialog::LayoutPage</name>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shrink when too large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit to the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill the tape, cut off the rest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longer side along the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Across the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the tape, upside down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Across the tape, upside down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the tape:</source>
+        <comment>where a page stands</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Across the tape:</source>
+        <comment>where a page stands</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::OptionsPage</name>
     <message>
         <source>%1:</source>
@@ -143,6 +222,42 @@
     <message>
         <source>P&amp;aper:</source>
         <translation>用紙(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make the tape as long as what is drawn needs, with both margins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep it fitted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is drawn on the document: the tape keeps its length.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document needs more tape than the printer takes: it is made smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -380,55 +495,55 @@
     </message>
     <message>
         <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>一時ファイルを書き込めません（%1）。一時ファイルのフォルダーの空き容量を増やしてください。</translation>
     </message>
     <message>
         <source>The filters could not make pages of the document %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルターは文書 %1 をページにできませんでした: %2。</translation>
     </message>
     <message>
         <source>The picture %1 (%2 x %3 dots) cannot be unpacked (%4): make it smaller, or print it as a PDF.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像 %1（%2 x %3 ドット）を展開できません（%4）。小さくするか、PDF として印刷してください。</translation>
     </message>
     <message>
         <source>The picture %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像 %1 は壊れています（%2）。作り直すか、別の画像を指定してください。</translation>
     </message>
     <message>
         <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation type="unfinished"></translation>
+        <translation>文書 %1 はテープに割り付けられません。PDF、PostScript ファイル、画像、またはプレーンテキストを印刷してください。</translation>
     </message>
     <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
-        <translation type="unfinished"></translation>
+        <translation>文書 %1 はパスワードで保護されています。パスワードなしで保存し、それを印刷してください。</translation>
     </message>
     <message>
         <source>The document %1 is damaged (%2): make it anew or name another.</source>
-        <translation type="unfinished"></translation>
+        <translation>文書 %1 は壊れています（%2）。作り直すか、別の文書を指定してください。</translation>
     </message>
     <message>
         <source>The document %1 has no page: name one with something to print.</source>
-        <translation type="unfinished"></translation>
+        <translation>文書 %1 にはページがありません。印刷するもののある文書を指定してください。</translation>
     </message>
     <message>
         <source>The labels cannot be laid out (%1): see that the document is whole and that there is room for temporary files.</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルを割り付けられません（%1）。文書が完全であること、一時ファイルのための空き容量があることを確認してください。</translation>
     </message>
     <message>
         <source>This printer&apos;s description takes no page of the chosen length: the page stays %1 mm long, and the length is left to the driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプリンターの記述では、選んだ長さのページを使えません。ページの長さは %1 mm のままで、長さはドライバーに任されます。</translation>
     </message>
     <message>
         <source>The print system makes a length so near to the tape&apos;s own into that: %1 mm.</source>
-        <translation type="unfinished"></translation>
+        <translation>テープ本来の長さにこれほど近い長さは、印刷システムによってその長さ（%1 mm）になります。</translation>
     </message>
     <message>
         <source>The margins leave nothing of the tape to print on: make the tape longer or the margin smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>余白のために、テープに印刷できる部分が残りません。テープを長くするか、余白を小さくしてください。</translation>
     </message>
     <message>
         <source>None of the document&apos;s pages is chosen: change the page range.</source>
-        <translation type="unfinished"></translation>
+        <translation>文書のページが 1 つも選ばれていません。ページ範囲を変更してください。</translation>
     </message>
     <message>
         <source>The panel &quot;%1&quot; does not offer %2=%3, which the printer has: the job carries %4=%5.</source>
@@ -502,6 +617,22 @@
     <message>
         <source>The printer&apos;s bytes went to standard output (%1 bytes).</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of the document %2 has no size: leave it out or make it anew.</source>
+        <translation>文書 %2 の %1 ページには大きさがありません。そのページを除くか、作り直してください。</translation>
+    </message>
+    <message>
+        <source>The print system makes a length so near to that of another paper into that: %1 mm.</source>
+        <translation>別の用紙の長さにこれほど近い長さは、印刷システムによってその長さ（%1 mm）になります。</translation>
+    </message>
+    <message>
+        <source>more than %1 MiB of memory would be needed</source>
+        <translation>%1 MiB を超えるメモリーが必要です</translation>
+    </message>
+    <message>
+        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
+        <translation>文書 %1 のページを書き込めません（%2）。一時ファイルのフォルダーの空き容量を増やしてください。</translation>
     </message>
 </context>
 </TS>
