@@ -253,10 +253,13 @@ std::vector<QRectF> placesOnSheet(int count, const QRectF &area, const QSizeF &p
     const QSizeF place((area.width() - gapPt * (bestColumns - 1)) / bestColumns,
                        (area.height() - gapPt * (rows - 1)) / rows);
     std::vector<QRectF> places;
+    places.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
-        places.emplace_back(QPointF(area.left() + (i % bestColumns) * (place.width() + gapPt),
-                                    area.top() + (i / bestColumns) * (place.height() + gapPt)),
-                            place);
+        const int column = i % bestColumns;
+        const int row = i / bestColumns;
+        places.emplace_back(
+            QPointF(area.left() + column * (place.width() + gapPt), area.top() + row * (place.height() + gapPt)),
+            place);
     }
     return places;
 }

@@ -105,7 +105,8 @@ TEST_F(BadDocument, LengthsBeyondTheLimits_AreHeldByThePanelAndSaid)
     const PrintedTape printed = printTape(folder, u"mm"_qs, {u"KsTapeLength=5000"_qs}, {good});
     ASSERT_EQ(printed.labels.size(), 1U) << printed.outcome.messages.toStdString();
     EXPECT_EQ(printed.labels[0].size.height(), 11811); // a metre
-    EXPECT_TRUE(printed.outcome.messages.contains("KsTapeLength=1000.0")) << printed.outcome.messages.toStdString();
+    EXPECT_TRUE(printed.outcome.messages.contains("instead of 5000 the job carries 1000.0"))
+        << printed.outcome.messages.toStdString();
 }
 
 TEST_F(BadDocument, TwoThousandPages_AreLaidOutInSeconds)

@@ -8,17 +8,17 @@
 #include "tests/printers/PrintedTape.h"
 #include "tests/printers/SamplePrinter.h"
 
+#include "dialog/LabelPicture.h"
 #include "dialog/Panels.h"
 #include "job/LaidOutJob.h"
 #include "job/PdfPages.h"
 #include "tests/support/TextPrinting.h"
 
-#include <QPainter>
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <ostream>
 
 namespace printertest
@@ -66,8 +66,7 @@ std::optional<Previewed> previewed(const QString &ppdPath, const QStringList &op
     job::Job settings;
     dialog::Panels panels(settings, {QStringLiteral(TAPEPRINT_BUNDLE_DIR)});
     panels.open(std::move(*destination), request.options);
-    panels.showAll();
-    EXPECT_TRUE(panels.saveValues(&error)) << error.toStdString();
+    EXPECT_TRUE(panels.settle(&error)) << error.toStdString();
     const job::SettledJob settled = job::settle(settings);
     std::optional<job::PdfDocuments> documents = job::collectPdfs(settled, files, goOn, &error);
     if (!documents) {
@@ -77,50 +76,40 @@ std::optional<Previewed> previewed(const QString &ppdPath, const QStringList &op
     return Previewed{job::planLabels(documents->sizes, settled.page, settled.options, documents->drawn), *documents};
 }
 
-/// One label, drawn larger by a whole factor so that a dot's share of ink is seen.
+/// So many times finer than the printer a label is drawn along each side, that a dot's share of ink is seen.
 constexpr int subdots = 4;
 
-QImage drawn(const Previewed &preview, std::size_t label, const QSize &size, const QSize &dotsPerInch)
+/// One label as the dialog draws it. \param finer how much finer than the printer.
+QImage drawn(const Previewed &preview, std::size_t label, const QSize &dotsPerInch, int finer)
 {
-    QImage image(size * subdots, QImage::Format_Grayscale8);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    const QSizeF scale(dotsPerInch.width() * subdots / 72.0, dotsPerInch.height() * subdots / 72.0);
-    painter.scale(scale.width(), scale.height());
-    painter.translate(-preview.plan.page.printableRect().topLeft());
-    for (const job::PlacedPage &placed : preview.plan.labels.at(label)) {
+    std::vector<std::unique_ptr<job::PdfPages>> documents;
+    std::vector<const job::PdfPages *> borrowed;
+    for (const QString &pdf : preview.documents.pdfs) {
         QString error;
-        const auto pages =
-            job::PdfPages::open(preview.documents.pdfs.at(static_cast<qsizetype>(placed.document)), &error);
-        if (!pages) {
-            ADD_FAILURE() << error.toStdString();
-            return {};
-        }
-        const double enlarged = std::sqrt(std::abs(placed.place.determinant()));
-        const job::RenderedPage page =
-            pages->render(placed.page, enlarged * std::max(scale.width(), scale.height()), goOn);
-        painter.save();
-        painter.setClipRect(placed.clip);
-        painter.setTransform(placed.place, true);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(page.rectPt, page.image);
-        painter.restore();
+        documents.push_back(job::PdfPages::open(pdf, &error));
+        borrowed.push_back(documents.back().get());
+        EXPECT_TRUE(documents.back()) << error.toStdString();
     }
-    return image;
+    constexpr double pointsPerInch = 72.0;
+    const QSizeF dotsPerPoint = QSizeF(dotsPerInch) * finer / pointsPerInch;
+    return dialog::renderLabel(preview.plan, label, dialog::renderedAt(dotsPerPoint, borrowed), dotsPerPoint,
+                               preview.plan.page.printableRect());
 }
 
-/// How dark a dot of the preview is, from 0 to 1. The rasteriser blackens every dot that is touched, the threshold lies
-/// low therefore.
-double inkIn(const QImage &image, int x, int y)
+/// Whether the rasteriser would blacken a dot, as it does each that is touched: when a tenth of it is ink.
+bool isInk(const QImage &image, int x, int y)
 {
-    int dark = 0;
-    for (int row = y * subdots; row < (y + 1) * subdots; ++row) {
+    constexpr double touched = 0.1;
+    constexpr int black = 255;
+    const QRect dot = QRect(x * subdots, y * subdots, subdots, subdots) & image.rect();
+    int ink = 0;
+    for (int row = dot.top(); row <= dot.bottom(); ++row) {
         const uchar *line = image.constScanLine(row);
-        for (int column = x * subdots; column < (x + 1) * subdots; ++column) {
-            dark += 255 - line[column];
+        for (int column = dot.left(); column <= dot.right(); ++column) {
+            ink += black - line[column];
         }
     }
-    return dark / (255.0 * subdots * subdots);
+    return ink > touched * black * subdots * subdots;
 }
 
 /// Which dots are black.
@@ -175,8 +164,7 @@ Dots dotsOf(const QSize &size, const IsBlack &isBlack)
 /// puts letters on whole dots, the preview does not); what is drawn begins and ends at the same dot or beside it.
 void expectSameContent(const QImage &image, const RasterPage &raster, const QString &label)
 {
-    constexpr double touched = 0.1;
-    const Dots preview = dotsOf(raster.size, [&image](int x, int y) { return inkIn(image, x, y) > touched; });
+    const Dots preview = dotsOf(raster.size, [&image](int x, int y) { return isInk(image, x, y); });
     const Dots print = dotsOf(raster.size, [&raster](int x, int y) { return raster.isBlack(x, y); });
     qint64 different = 0;
     qint64 misplaced = 0;
@@ -221,12 +209,8 @@ TEST_P(PreviewIsPrint, SameSizeToADotAndSameContent)
         const auto dots = [](double mm, int perInch) { return static_cast<int>(std::lround(mm / 25.4 * perInch)); };
         EXPECT_EQ(raster.size.width(), dots(tested.sizeMm.width() - strip, raster.dotsPerInch.width()));
         EXPECT_EQ(raster.size.height(), dots(tested.sizeMm.height(), raster.dotsPerInch.height()));
-        const QSizeF page = preview->plan.page.printableRect().size();
-        constexpr double almostHalf = 0.499; // half a dot goes down
-        EXPECT_EQ(static_cast<int>(page.width() / 72.0 * raster.dotsPerInch.width() + almostHalf), raster.size.width());
-        EXPECT_EQ(static_cast<int>(page.height() / 72.0 * raster.dotsPerInch.height() + almostHalf),
-                  raster.size.height());
-        expectSameContent(drawn(*preview, label, raster.size, raster.dotsPerInch), raster,
+        EXPECT_EQ(drawn(*preview, label, raster.dotsPerInch, 1).size(), raster.size);
+        expectSameContent(drawn(*preview, label, raster.dotsPerInch, subdots), raster,
                           QStringLiteral("label %1").arg(label));
     }
 }

@@ -96,11 +96,11 @@ TEST_F(UnattendedJob, OptionsLaidDown_ArriveAndShapeTheJob)
     // The second resolution prints with the first quality alone.
     EXPECT_EQ(tapeOptions(calls[0]),
               panelOptionsMm({"KsTapeColor=KsTapeColorRed", "KsTapeLength=60.0", "Resolution=300x600dpi",
-                              "KsInkColor=KsInkColorWhite", "KsPriority=KsPrioritySpeed"}));
+                              "KsInkColor=KsInkColorWhite", "KsPriority=KsPrioritySpeed", "PageSize=Custom.24x60mm"}));
     const std::vector<Label> labels = labelsIn(cups.printedBy(u"tape"_qs));
     ASSERT_EQ(labels.size(), 1U);
     EXPECT_EQ(labels[0].bytesPerRow, 34);
-    expectDots(labels[0].rows, 100.0, 600.0);
+    expectDots(labels[0].rows, 60.0, 600.0);
 }
 
 TEST_F(UnattendedJob, ValueThatThePpdDoesNotList_ArrivesAsItIs)
@@ -117,7 +117,8 @@ TEST_F(UnattendedJob, ValuesOutOfRange_AreHeldWithinTheLimits)
     const std::vector<FilterCall> calls =
         printed({u"-o"_qs, u"KsTapeLength=5000"_qs, u"-o"_qs, u"KsPrintTapeLength=9"_qs, document});
     ASSERT_EQ(calls.size(), 1U);
-    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=1000.0", "KsPrintTapeLength=8.0"}));
+    EXPECT_EQ(tapeOptions(calls[0]),
+              panelOptionsMm({"KsTapeLength=1000.0", "KsPrintTapeLength=8.0", "PageSize=Custom.24x1000mm"}));
 }
 
 TEST_F(UnattendedJob, FixedLengthTape_IsSentWithItsOwnLength)
@@ -140,7 +141,8 @@ TEST_F(UnattendedJob, GermanSession_SendsPoints)
     const std::vector<FilterCall> calls =
         printed({u"-o"_qs, u"KsTapeLength=60.5"_qs, u"-o"_qs, u"KsMargin=3.3"_qs, document});
     ASSERT_EQ(calls.size(), 1U);
-    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=60.5", "KsMargin=3.3"}));
+    EXPECT_EQ(tapeOptions(calls[0]),
+              panelOptionsMm({"KsTapeLength=60.5", "KsMargin=3.3", "PageSize=Custom.24x60.5mm"}));
 }
 
 TEST_F(UnattendedJob, PrinterWithNoneOfThePanelsKeywords_GetsItsPaperAndWhatWasAskedFor)
