@@ -7,7 +7,6 @@
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
-#include <QByteArray>
 #include <QFile>
 
 #include <algorithm>
@@ -15,7 +14,6 @@
 #include <exception>
 #include <map>
 #include <memory>
-#include <span>
 #include <vector>
 
 #include <pdekit/Numbers.h>
@@ -196,19 +194,6 @@ std::optional<PageSizes> pageSizesOf(const QString &pdf, QString *error, const Q
         *error = openingFailure(name, failure);
         return std::nullopt;
     }
-}
-
-RasterShift rasterShiftOf(const ppd_file_t *ppd, const TapePage &page)
-{
-    if (ppd == nullptr) {
-        return {};
-    }
-    const std::span filters(ppd->filters, static_cast<std::size_t>(std::max(ppd->num_filters, 0)));
-    const bool takesRaster = std::any_of(filters.begin(), filters.end(), [](const char *filter) {
-        return QByteArray(filter).startsWith("application/vnd.cups-raster");
-    });
-    const double height = page.sizePt.height();
-    return {takesRaster ? std::floor(height + 0.5) - height : 0.0};
 }
 
 bool writeLaidOut(const LabelPlan &plan, const QStringList &pdfs, RasterShift shift, const QString &path,

@@ -115,11 +115,14 @@ bool isAsSeen(const PageBox &box, const QSizeF &drawn)
     return std::abs(size.width() - drawn.width()) < slack && std::abs(size.height() - drawn.height()) < slack;
 }
 
-/// Extends a rectangle by the dots of an image that are not white.
+/// The rectangle of the dots of an image that are not white. Poppler makes white a shade less where it enlarges a
+/// picture; no printer makes a dot of that.
 QRect inkOf(const QImage &image)
 {
-    constexpr QRgb colours = 0x00ffffff;
-    const auto isInk = [](QRgb dot) { return (dot & colours) != colours; };
+    constexpr int leastWhite = 254;
+    const auto isInk = [](QRgb dot) {
+        return qRed(dot) < leastWhite || qGreen(dot) < leastWhite || qBlue(dot) < leastWhite;
+    };
     QRect ink;
     for (int y = 0; y < image.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));

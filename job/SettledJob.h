@@ -5,7 +5,7 @@
 
 #include "job/AutomaticLength.h"
 #include "job/Job.h"
-#include "job/LaidOutDocument.h"
+#include "job/RasterShift.h"
 
 #include <QString>
 

@@ -360,6 +360,14 @@
         <source>300 × 600 dpi</source>
         <translation>300 × 600 dpi</translation>
     </message>
+    <message id="600 x 600 dpi">
+        <source>600 × 600 dpi</source>
+        <translation>600 × 600 dpi</translation>
+    </message>
+    <message id="180 x 180 dpi">
+        <source>180 × 180 dpi</source>
+        <translation>180 × 180 dpi</translation>
+    </message>
     <message id="180 x 360 dpi">
         <source>180 × 360 dpi</source>
         <translation>180 × 360 dpi</translation>

@@ -129,6 +129,7 @@ TEST_F(StrangersTexts, SentenceOfAFailure_IsShownAsItStands)
         timer->start(10);
     });
     QTest::mouseClick(dialog->findChild<QWidget *>(u"print"_qs), Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&text] { return !text.isNull(); }));
     EXPECT_EQ(text, u"<b>no</b> &amp; never"_qs);
     EXPECT_EQ(format, Qt::PlainText);
 }

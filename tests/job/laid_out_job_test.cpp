@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // A job's way from its documents to the labels, and what is said when there is none.
+#include "job/LaidOutDocument.h"
 #include "job/LaidOutJob.h"
 
 #include "tests/job/DocumentPictures.h"

@@ -71,12 +71,13 @@ TEST_F(WindowJob, PicksAndATypedLength_ReachTheFilter)
     const std::vector<FilterCall> calls = print();
     ASSERT_EQ(calls.size(), 1U);
     // The second resolution prints with the first quality alone.
-    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeColor=KsTapeColorRed", "Resolution=300x600dpi",
-                                                     "KsPriority=KsPrioritySpeed", "KsTapeLength=75.5"}));
+    EXPECT_EQ(tapeOptions(calls[0]),
+              panelOptionsMm({"KsTapeColor=KsTapeColorRed", "Resolution=300x600dpi", "KsPriority=KsPrioritySpeed",
+                              "KsTapeLength=75.5", "PageSize=Custom.24x75.5mm"}));
     const auto labels = labelsIn(cups.printedBy(u"tape"_qs));
     ASSERT_EQ(labels.size(), 1U);
-    // 100 mm at 600 dpi are 2362.2 rows, at 300 dpi they would be 1181.1.
-    EXPECT_NEAR(labels[0].rows, 2362, 1);
+    // 75.5 mm at 600 dpi are 1783.5 rows, at 300 dpi they would be 891.7.
+    EXPECT_NEAR(labels[0].rows, 1783, 1);
 }
 
 TEST_F(WindowJob, UntouchedWindow_SendsWhatAJobWithoutAWindowSends)
@@ -151,12 +152,13 @@ TEST_F(WindowJob, SliderMovedByKeys_SendsWhatItsFieldShows)
     dialog.press({u"Right"_qs, u"Right"_qs, u"Right"_qs}); // a millimetre each
     const std::vector<FilterCall> calls = print();
     ASSERT_EQ(calls.size(), 1U);
-    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=103.0"}));
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=103.0", "PageSize=Custom.24x103mm"}));
 }
 
 TEST_F(WindowJob, LengthBelowTheMinimum_OneAlertAndTheNearestValueIsSent)
 {
-    ASSERT_NO_FATAL_FAILURE(open());
+    // The shortest margin: two of the usual ones would leave nothing of the shortest tape.
+    ASSERT_NO_FATAL_FAILURE(open({u"-o"_qs, u"KsMargin=1.0"_qs}));
     dialog.goTo(PanelControl::tapeLength);
     dialog.type(u"3"_qs);
     dialog.press({u"Return"_qs});
@@ -167,7 +169,7 @@ TEST_F(WindowJob, LengthBelowTheMinimum_OneAlertAndTheNearestValueIsSent)
     EXPECT_EQ(dialog.windows(), QStringList{dialog.window()}); // no second one
     const std::vector<FilterCall> calls = print();
     ASSERT_EQ(calls.size(), 1U);
-    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=4.0"}));
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=4.0", "KsMargin=1.0", "PageSize=Custom.24x4mm"}));
 }
 
 TEST_F(WindowJob, GermanSession_SendsPoints)
@@ -181,7 +183,8 @@ TEST_F(WindowJob, GermanSession_SendsPoints)
     dialog.type(u"3.3"_qs);
     const std::vector<FilterCall> calls = print();
     ASSERT_EQ(calls.size(), 1U);
-    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=75.5", "KsMargin=3.3"}));
+    EXPECT_EQ(tapeOptions(calls[0]),
+              panelOptionsMm({"KsTapeLength=75.5", "KsMargin=3.3", "PageSize=Custom.24x75.5mm"}));
 }
 
 TEST_F(WindowJob, BrokenBundleThatThePpdNames_TheDialogStillPrints)
