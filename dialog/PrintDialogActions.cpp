@@ -8,12 +8,10 @@
 #include "dialog/PrintDialog.h"
 #include "dialog/SummaryView.h"
 
-#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QResizeEvent>
@@ -92,15 +90,17 @@ bool PrintDialog::eventFilter(QObject *watched, QEvent *event)
 void PrintDialog::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const QWidget *focus = focusWidget();
-    const bool isEditing =
-        qobject_cast<const QLineEdit *>(focus) != nullptr || qobject_cast<const QAbstractSpinBox *>(focus) != nullptr;
-    // In a field, Return ends the editing and no more: tape is not printed by accident.
-    if (isReturn && isEditing) {
-        event->accept();
+    if (!isReturn) {
+        QDialog::keyPressEvent(event);
         return;
     }
-    QDialog::keyPressEvent(event);
+    event->accept();
+    // Tape is not printed by accident: Return belongs to the control that has it. Buttons take it, Ctrl+Return prints.
+    if ((event->modifiers() & Qt::ControlModifier) != 0) {
+        mPrintButton->click();
+    } else if (auto *button = qobject_cast<QPushButton *>(focusWidget()); button != nullptr) {
+        button->click();
+    }
 }
 
 void PrintDialog::pickPrinter(int index)

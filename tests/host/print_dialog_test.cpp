@@ -180,6 +180,25 @@ TEST_F(PrintDialogTest, ReturnInAField_DoesNotPrint)
     EXPECT_FALSE(takeCalls().contains(u"save"_qs));
 }
 
+TEST_F(PrintDialogTest, ReturnOnAPopUp_DoesNotPrintAndCtrlReturnDoes)
+{
+    auto *popUp = child<QComboBox>(u"tape"_qs);
+    popUp->setFocus();
+    takeCalls();
+    QTest::keyClick(popUp, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_FALSE(takeCalls().contains(u"save"_qs));
+    // The panel refuses, so that nothing is printed and the question alone is seen.
+    qApp->setProperty("hostTestRefuse", true);
+    pdekit::setAlertHandler([](const pdekit::AlertRequest &) {});
+    QTest::keyClick(popUp, Qt::Key_Return, Qt::ControlModifier);
+    QApplication::processEvents();
+    pdekit::setAlertHandler({});
+    qApp->setProperty("hostTestRefuse", QVariant());
+    EXPECT_TRUE(takeCalls().contains(u"shouldPrint"_qs));
+    EXPECT_TRUE(dialog->isVisible());
+}
+
 TEST_F(PrintDialogTest, RefusingPanel_KeepsTheDialogOpen)
 {
     qApp->setProperty("hostTestRefuse", true);
