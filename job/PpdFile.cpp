@@ -7,9 +7,46 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QtEndian>
+
+#include <array>
+#include <memory>
+
+#include <sys/types.h>
+
+#include <cups/file.h>
 
 namespace tapeprint::job
 {
+
+namespace
+{
+
+struct CupsFileCloser {
+    void operator()(cups_file_t *file) const { cupsFileClose(file); }
+};
+
+/// Whether a compressed file ends too early: libcups then reads what there is, and says nothing. Gzip (RFC 1952) writes
+/// the size of what it packed into the last four bytes, lowest first.
+bool isCutOff(const QString &path)
+{
+    constexpr qint64 sizeBytes = 4;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.read(2) != QByteArray("\x1f\x8b") ||
+        !file.seek(file.size() - sizeBytes)) {
+        return false;
+    }
+    const auto stated = qFromLittleEndian<quint32>(file.read(sizeBytes).constData());
+    const std::unique_ptr<cups_file_t, CupsFileCloser> unpacked(cupsFileOpen(QFile::encodeName(path).constData(), "r"));
+    std::array<char, 65536> piece{};
+    quint32 bytes = 0; // as gzip counts: beyond four gigabytes it begins anew
+    for (ssize_t size = 0; unpacked && (size = cupsFileRead(unpacked.get(), piece.data(), piece.size())) > 0;) {
+        bytes += static_cast<quint32>(size);
+    }
+    return bytes != stated;
+}
+
+} // namespace
 
 PpdFile openPpdFile(const QString &path, QString *error, const QString &shownAs)
 {
@@ -25,6 +62,10 @@ PpdFile openPpdFile(const QString &path, QString *error, const QString &shownAs)
         return nullptr;
     }
     file.close();
+    if (isCutOff(path)) {
+        *error = Texts::tr("The PPD file %1 is cut off: its end is missing. Copy it anew.").arg(name);
+        return nullptr;
+    }
 
     PpdFile ppd(ppdOpenFile(QFile::encodeName(path).constData()));
     if (!ppd) {

@@ -636,5 +636,9 @@
         <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
         <translation>Die Seiten des Dokuments %1 können nicht geschrieben werden (%2). Schaffen Sie im Ordner für temporäre Dateien Platz.</translation>
     </message>
+    <message>
+        <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
+        <translation>Die PPD-Datei %1 ist abgeschnitten: Ihr Ende fehlt. Kopieren Sie sie neu.</translation>
+    </message>
 </context>
 </TS>

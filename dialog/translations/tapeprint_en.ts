@@ -636,5 +636,9 @@
         <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
         <translation>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</translation>
     </message>
+    <message>
+        <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
+        <translation>The PPD file %1 is cut off: its end is missing. Copy it anew.</translation>
+    </message>
 </context>
 </TS>

@@ -636,5 +636,9 @@
         <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
         <translation>No se pueden escribir las páginas del documento %1 (%2). Libere espacio en la carpeta de archivos temporales.</translation>
     </message>
+    <message>
+        <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
+        <translation>El archivo PPD %1 está cortado: falta el final. Cópielo de nuevo.</translation>
+    </message>
 </context>
 </TS>

@@ -636,5 +636,9 @@
         <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
         <translation>Les pages du document %1 ne peuvent pas être écrites (%2). Libérez de la place dans le dossier des fichiers temporaires.</translation>
     </message>
+    <message>
+        <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
+        <translation>Le fichier PPD %1 est tronqué&#xa0;: sa fin manque. Copiez-le à nouveau.</translation>
+    </message>
 </context>
 </TS>

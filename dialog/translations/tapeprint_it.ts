@@ -636,5 +636,9 @@
         <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
         <translation>Impossibile scrivere le pagine del documento %1 (%2). Liberare spazio nella cartella dei file temporanei.</translation>
     </message>
+    <message>
+        <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
+        <translation>Il file PPD %1 è troncato: manca la fine. Copiarlo di nuovo.</translation>
+    </message>
 </context>
 </TS>

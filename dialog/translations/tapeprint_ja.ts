@@ -634,5 +634,9 @@
         <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
         <translation>文書 %1 のページを書き込めません（%2）。一時ファイルのフォルダーの空き容量を増やしてください。</translation>
     </message>
+    <message>
+        <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
+        <translation>PPD ファイル %1 は途中で切れており、末尾がありません。コピーし直してください。</translation>
+    </message>
 </context>
 </TS>

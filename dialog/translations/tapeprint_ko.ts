@@ -634,5 +634,9 @@
         <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
         <translation>문서 %1의 페이지를 쓸 수 없습니다(%2). 임시 파일 폴더의 공간을 확보하십시오.</translation>
     </message>
+    <message>
+        <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
+        <translation>PPD 파일 %1이(가) 잘려 끝부분이 없습니다. 다시 복사하십시오.</translation>
+    </message>
 </context>
 </TS>

@@ -636,5 +636,9 @@
         <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
         <translation>De pagina’s van het document %1 kunnen niet worden geschreven (%2). Maak ruimte vrij in de map voor tijdelijke bestanden.</translation>
     </message>
+    <message>
+        <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
+        <translation>Het PPD-bestand %1 is afgebroken: het einde ontbreekt. Kopieer het opnieuw.</translation>
+    </message>
 </context>
 </TS>

@@ -636,5 +636,9 @@
         <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
         <translation>Não é possível gravar as páginas do documento %1 (%2). Liberte espaço na pasta dos ficheiros temporários.</translation>
     </message>
+    <message>
+        <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
+        <translation>O ficheiro PPD %1 está truncado: falta o fim. Copie-o de novo.</translation>
+    </message>
 </context>
 </TS>

@@ -634,5 +634,9 @@
         <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
         <translation>无法写入文档 %1 的页面（%2）。请在临时文件夹中腾出空间。</translation>
     </message>
+    <message>
+        <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
+        <translation>PPD 文件 %1 被截断：缺少末尾部分。请重新复制。</translation>
+    </message>
 </context>
 </TS>

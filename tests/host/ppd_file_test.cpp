@@ -5,6 +5,9 @@
 #include "job/PpdMarks.h"
 #include "tests/support/TextPrinting.h"
 
+#include <QFile>
+#include <QProcess>
+
 #include <gtest/gtest.h>
 
 namespace
@@ -84,6 +87,23 @@ TEST(PpdDefault, OfForty_BytesFitsAndOfFortyOneDoesNot)
     EXPECT_EQ(QByteArray(option->defchoice), QByteArray(40, 'x'));
     EXPECT_TRUE(setDefaultChoice(printer.ppd.get(), u"KsMargin"_qs, u"3"_qs));
     EXPECT_EQ(QByteArray(option->defchoice), QByteArray("3"));
+}
+
+TEST(PpdFile_Compressed, ThatIsCutOff_IsNamed)
+{
+    const QTemporaryDir folder;
+    const QString path = hosttest::writeFile(folder, u"test.ppd"_qs, hosttest::testPpd());
+    ASSERT_EQ(QProcess::execute(u"gzip"_qs, {u"-n"_qs, path}), 0);
+    QFile whole(path + u".gz"_qs);
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    const QByteArray bytes = whole.readAll();
+    QString error;
+    EXPECT_NE(openPpdFile(whole.fileName(), &error), nullptr) << error.toStdString();
+    for (const qsizetype left : {bytes.size() - 1, bytes.size() - 8, bytes.size() / 2, qsizetype{30}}) {
+        const QString cut = hosttest::writeFile(folder, u"cut.ppd.gz"_qs, bytes.left(left));
+        EXPECT_EQ(openPpdFile(cut, &error), nullptr) << left;
+        EXPECT_TRUE(error.contains(u"cut off"_qs)) << error.toStdString();
+    }
 }
 
 } // namespace
