@@ -16,6 +16,7 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QThread>
@@ -134,6 +135,11 @@ protected:
         QApplication::processEvents();
     }
 
+    void pickTape(const QString &tape)
+    {
+        pick(u"tape"_qs, child<QComboBox>(u"tape"_qs)->itemText(child<QComboBox>(u"tape"_qs)->findData(tape)));
+    }
+
     const job::LabelPlan &plan() { return child<PreviewArea>(u"previewArea"_qs)->plan(); }
     double fieldMm() { return child<QLineEdit>(u"mLengthTxFld"_qs)->text().toDouble(); }
     double optionMm() { return printJob.options().value(u"KsTapeLength"_qs).toDouble(); }
@@ -202,7 +208,7 @@ TEST_F(WindowFitting, FitLength_OverATypedLength_ReplacesItWhenAccepted)
     click(u"fitLength"_qs);
     ASSERT_TRUE(QTest::qWaitFor([this] { return isFitted(); }, patienceMs)) << fieldMm();
     rest();
-    EXPECT_EQ(answers.sentences.size(), 1);
+    EXPECT_EQ(answers.sentences.size(), 1) << answers.sentences.join(u'\n').toStdString();
     EXPECT_TRUE(isFitted()) << fieldMm();
     expectOneLength(fieldMm());
 }
@@ -242,6 +248,73 @@ TEST_F(WindowFitting, KeepFitting_FollowsAChangeOfTheMarginUntilALengthIsTyped)
     EXPECT_EQ(panels.currentOptions().value(u"KsTapeLength"_qs).toDouble(), 70.0);
     EXPECT_FALSE(job::layoutChoicesOf(printJob.options()).fitLength);
     EXPECT_EQ(answers.sentences, QStringList());
+}
+
+TEST_F(WindowFitting, KeepFitting_FollowsAnotherTape)
+{
+    ASSERT_NO_FATAL_FAILURE(open(boxOfHundredPoints));
+    Answers answers(QMessageBox::Ok);
+    tick(u"keepFitting"_qs, true);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return isFitted(); }, patienceMs)) << fieldMm();
+    rest();
+    // The page is 60 points across, of which 12 mm of tape print 11 mm (31.18 points): 100 points become 51.97 points
+    // or 18.33 mm, with the margins 22.33 mm; the dots of 0.085 mm shrink with the page.
+    pickTape(u"12mm"_qs);
+    rest();
+    EXPECT_TRUE(isKept());
+    EXPECT_GE(fieldMm(), 22.4);
+    EXPECT_LE(fieldMm(), 22.5);
+    expectOneLength(fieldMm());
+    pickTape(u"24mm"_qs);
+    rest();
+    EXPECT_TRUE(isKept());
+    EXPECT_TRUE(isFitted()) << fieldMm();
+    EXPECT_EQ(answers.sentences, QStringList());
+}
+
+TEST_F(WindowFitting, KeepFitting_OverATypedLength_LetsAMarginOfTwoDigitsBeTyped)
+{
+    ASSERT_NO_FATAL_FAILURE(open(boxOfHundredPoints));
+    type(u"mLengthTxFld"_qs, u"70"_qs);
+    Answers answers(QMessageBox::Yes);
+    tick(u"keepFitting"_qs, true);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return isFitted(); }, patienceMs)) << fieldMm();
+    rest();
+    const double fittedMm = fieldMm();
+
+    const QPointer<QLineEdit> margin = child<QLineEdit>(u"mMarginTxFld"_qs);
+    margin->setFocus();
+    margin->selectAll();
+    for (const QChar digit : u"12"_qs) { // the tape follows each of them
+        QTest::keyClick(margin.data(), digit.toLatin1());
+        rest();
+        ASSERT_NE(margin, nullptr) << "the field went while it was typed in";
+    }
+    EXPECT_EQ(margin->text().toDouble(), 12.0);
+    EXPECT_NEAR(fieldMm(), fittedMm + 20.0, 0.11); // 10 mm more at both ends
+    EXPECT_NEAR(previewMm(), fieldMm(), 0.05);
+    EXPECT_TRUE(isKept());
+    EXPECT_EQ(answers.sentences.size(), 1) << answers.sentences.join(u'\n').toStdString();
+}
+
+TEST_F(WindowFitting, FitLength_AfterALengthTypedOverAFittedOne_AsksAgain)
+{
+    ASSERT_NO_FATAL_FAILURE(open(boxOfHundredPoints));
+    Answers answers(QMessageBox::Yes);
+    click(u"fitLength"_qs);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return isFitted(); }, patienceMs)) << fieldMm();
+    rest();
+    type(u"mLengthTxFld"_qs, u"70"_qs);
+    rest();
+    EXPECT_EQ(fieldMm(), 70.0);
+    EXPECT_NEAR(previewMm(), 70.0, 0.05);
+    EXPECT_FALSE(job::layoutChoicesOf(printJob.options()).fitLength);
+    EXPECT_EQ(answers.sentences, QStringList());
+    click(u"fitLength"_qs);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return isFitted(); }, patienceMs)) << fieldMm();
+    rest();
+    EXPECT_EQ(answers.sentences.size(), 1) << answers.sentences.join(u'\n').toStdString();
+    expectOneLength(fieldMm());
 }
 
 TEST_F(WindowFitting, Layout_PicksReachThePlanAndTheFiltersHaveNothingLeftToDo)
