@@ -136,6 +136,7 @@ private:
     DocumentDesk mDesk;
     bool mClosed = false;
     bool mFitWanted = false;      ///< the person asked for the length, and the documents are still being looked at
+    bool mIsFitting = false;      ///< the length is being fitted; a question about it may stand open
     double mFittedLengthMm = 0.0; ///< the length that was worked out last; 0 when none was
     QTimer mFollowTimer;          ///< gathers changes of one event into one look at the job
     QTimer mRestTimer;            ///< a change of the views' areas has come to rest when nothing else waits to be done

@@ -131,6 +131,10 @@ void PrintDialog::pickPrinter(int index)
 
 void PrintDialog::pickTape(const QString &tape)
 {
+    // Another tape brings a length along that nobody typed: it is fitted like the one before.
+    if (mKeepFitting->isChecked()) {
+        mFittedLengthMm = 0.0;
+    }
     mPanels.changePaper(tape);
 }
 

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 
 #include <cmath>
 
@@ -58,9 +59,12 @@ void PrintDialog::fitTape()
     const job::SettledJob current = currentJob();
     // While an alert of a panel stands over the window, a call of that panel is under way: it is not to be made anew.
     const QWidget *modal = QApplication::activeModalWidget();
-    if (!current.fitsLength() || !documents || documents->drawn.empty() || (modal != nullptr && modal != this)) {
+    if (mIsFitting || !current.fitsLength() || !documents || documents->drawn.empty() ||
+        (modal != nullptr && modal != this)) {
         return;
     }
+    // A question that has just been answered is no modal window any more, but its answer has not been heard yet.
+    const QScopedValueRollback fitting(mIsFitting, true);
     const double shownMm = pdekit::doubleValue(current.options.value(mJob.tape().lengthOption));
     // A length that the person sets afterwards is theirs: fitting ends, and pages count whole again.
     if (!mFitWanted && mFittedLengthMm > 0.0 && !isSameLength(shownMm, mFittedLengthMm)) {
