@@ -16,11 +16,11 @@ DocumentDesk::DocumentDesk(QStringList files, QObject *parent) : QObject(parent)
                            [](const QString &file) { return job::dependsOnTextPage(job::documentKindOf(file)); });
 }
 
-void DocumentDesk::follow(const job::SettledJob &job)
+bool DocumentDesk::follow(const job::SettledJob &job)
 {
     const Needs needs{job.page.isTape, job.fitsLength(), mHasText ? job::textPageOf(job) : QSizeF()};
     if (mFiles.isEmpty() || mNeeds == needs) {
-        return;
+        return false;
     }
     mNeeds = needs;
     if (!needs.isTape) {
@@ -28,7 +28,7 @@ void DocumentDesk::follow(const job::SettledJob &job)
         mDocuments = job::PdfDocuments{mFiles, mFiles, {}, {}, {}};
         mProblem = QString();
         Q_EMIT changed();
-        return;
+        return false;
     }
     mWork.start([this, job, files = mFiles](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
         QString problem;
@@ -39,6 +39,7 @@ void DocumentDesk::follow(const job::SettledJob &job)
             Q_EMIT changed();
         };
     });
+    return true;
 }
 
 } // namespace tapeprint::dialog

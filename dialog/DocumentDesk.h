@@ -24,7 +24,8 @@ public:
 
     /// Sees to it that there are PDFs for a job as it stands: for tape of every document, with what is drawn on them
     /// when the tape is to fit; for paper the documents that are PDFs already.
-    void follow(const job::SettledJob &job);
+    /// \return whether they are being made: changed() follows.
+    bool follow(const job::SettledJob &job);
 
     /// The documents; nothing as long as they are being made, or when one of them cannot be used.
     const std::optional<job::PdfDocuments> &documents() const { return mDocuments; }

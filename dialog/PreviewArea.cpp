@@ -105,12 +105,14 @@ QWidget *PreviewArea::makePaging()
 
 void PreviewArea::setDocuments(const QStringList &pdfPaths, const QStringList &shownAs)
 {
+    mExpectsDocuments = false;
     mRenderer.setDocuments(pdfPaths, shownAs);
     planAnew();
 }
 
 void PreviewArea::setProblem(const QString &problem)
 {
+    mExpectsDocuments = false;
     mProblem = problem;
     showWords();
 }

@@ -30,6 +30,8 @@ public:
     /// The documents of the job, as PDF files; they are shown as soon as they are read. \param shownAs how sentences
     /// name them, one by one; where it ends, by their paths.
     void setDocuments(const QStringList &pdfPaths, const QStringList &shownAs = {});
+    /// Documents are being made, and will be given by setDocuments() or refused by setProblem().
+    void expectDocuments() { mExpectsDocuments = true; }
     /// Why the documents cannot be shown, in a sentence; null when they can.
     void setProblem(const QString &problem);
     /// Whether the printer is one that is loaded with tape, whatever the page in it.
@@ -42,7 +44,10 @@ public:
     /// Index of the label that is shown.
     std::size_t label() const { return mLabel; }
     /// Whether something is still to come: documents being read, pages being rendered.
-    bool isWorking() const { return mRenderer.isReading() || mRenderer.isMeasuring() || mRenderer.isRendering(); }
+    bool isWorking() const
+    {
+        return mExpectsDocuments || mRenderer.isReading() || mRenderer.isMeasuring() || mRenderer.isRendering();
+    }
 
 Q_SIGNALS:
     /// The documents have been read: the plan has its labels.
@@ -68,6 +73,7 @@ private:
     job::JobOptions mOptions;
     TapeLook mLook;
     QString mProblem;
+    bool mExpectsDocuments = false;
     job::LabelPlan mPlan;
     std::size_t mLabel = 0;
 

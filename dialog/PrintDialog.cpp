@@ -224,6 +224,7 @@ void PrintDialog::showDestination()
     settlePanels();
     showPages(0);
     mJob.rememberAsOpened();
+    mKeepFitting->setChecked(job::layoutChoicesOf(mJob.options()).fitLength); // asked for beforehand
     follow();
 }
 

@@ -124,7 +124,6 @@ void PrintDialog::pickPrinter(int index)
     // The old page goes before the panel and the PPD that it shows.
     delete mLayoutPage;
     delete mOptionsPage;
-    mKeepFitting->setChecked(false);
     mPanels.open(std::move(*destination), mSetup.request.options);
     showDestination();
 }
@@ -176,7 +175,9 @@ void PrintDialog::follow()
 void PrintDialog::followInThePreview()
 {
     const job::SettledJob current = currentJob();
-    mDesk.follow(current);
+    if (mDesk.follow(current)) {
+        mPreview->expectDocuments();
+    }
     mPreview->follow(current.page, current.options, tapeLookOf(mJob.ppd(), current.options, mJob.tape()));
     mPreview->setVisible(!current.page.isEmpty());
     fitTape();

@@ -95,11 +95,17 @@ void PrintDialog::fitTape()
 
 void PrintDialog::applyLength(const job::AutomaticLength &length)
 {
+    const std::optional<pdekit::Paper> before = mJob.pageFormat().paper;
     mJob.changePaperLength(length.lengthMm);
     mPanels.showAll();
     const double followedMm = pdekit::doubleValue(mPanels.currentOptions().value(mJob.tape().lengthOption));
-    if (!isSameLength(followedMm, length.lengthMm) && mayReplaceTypedLength(followedMm)) {
+    if (isSameLength(followedMm, length.lengthMm)) {
+        return;
+    }
+    if (mayReplaceTypedLength(followedMm)) {
         remakePanels();
+    } else {
+        mJob.pageFormat().paper = before;
     }
 }
 
