@@ -7,6 +7,7 @@
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
+#include <QByteArray>
 #include <QFile>
 
 #include <algorithm>
@@ -219,7 +220,8 @@ bool writeLaidOut(const LabelPlan &plan, const QStringList &pdfs, RasterShift sh
             }
             target.addPage(labelPage(target, label, plan.page, shift, sources), false);
         }
-        QPDFWriter writer(target, QFile::encodeName(path).constData());
+        const QByteArray name = QFile::encodeName(path); // the writer keeps no copy of it
+        QPDFWriter writer(target, name.constData());
         writer.setStaticID(true); // the same job is the same document
         writer.write();
     } catch (const std::exception &failure) {

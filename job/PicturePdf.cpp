@@ -5,6 +5,7 @@
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
+#include <QByteArray>
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
@@ -105,7 +106,8 @@ void writePage(const QImage &picture, const QSizeF &sizePt, const QString &path)
     page.getKey("/Resources").getKey("/XObject").replaceKey("/Picture", pdf.makeIndirectObject(image));
     page.replaceKey("/Contents", QPDFObjectHandle::newStream(&pdf, width + " 0 0 " + height + " 0 0 cm /Picture Do\n"));
     pdf.addPage(pdf.makeIndirectObject(page), true);
-    QPDFWriter writer(pdf, QFile::encodeName(path).constData());
+    const QByteArray name = QFile::encodeName(path); // the writer keeps no copy of it
+    QPDFWriter writer(pdf, name.constData());
     writer.write();
 }
 
