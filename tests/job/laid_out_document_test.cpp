@@ -273,7 +273,8 @@ protected:
         const QString path = folder.path(u"locked.pdf"_qs);
         QPDF document;
         document.processMemoryFile("plain", pdf.constData(), static_cast<std::size_t>(pdf.size()));
-        QPDFWriter writer(document, path.toUtf8().constData());
+        const QByteArray name = path.toUtf8(); // the writer keeps no copy of it
+        QPDFWriter writer(document, name.constData());
         writer.setR6EncryptionParameters(userPassword, "owner", true, true, true, true, true, true, qpdf_r3p_full,
                                          true);
         writer.write();
