@@ -2,8 +2,8 @@
 // Any bytes as the vendor ticket of a job: the codes stay within four bits, whichever way the ticket is reached.
 #include "fuzz/Invariants.h"
 
+#include "pagesettings/Exports.h"
 #include "pdekit/PropertyList.h"
-#include "ppd/TapeInfo.h"
 
 using namespace pdekit;
 using fuzz::require;

@@ -37,9 +37,10 @@ TapeKeywords TapeKeywords::fromMetadata(const QJsonObject &metadata)
     for (const Name &name : names) {
         keywords.*name.member = tape.value(name.key).toString();
     }
-    for (const QJsonValue &beginning : tape.value(QLatin1String("FixedLengthPapers")).toArray()) {
-        if (!beginning.toString().isEmpty()) { // an empty beginning would name every paper
-            keywords.fixedLengthPapers.append(beginning.toString());
+    const QJsonArray papers = tape.value(QLatin1String("FixedLengthPapers")).toArray();
+    for (const auto &paper : papers) {
+        if (const QString beginning = paper.toString(); !beginning.isEmpty()) { // an empty one would name every paper
+            keywords.fixedLengthPapers.append(beginning);
         }
     }
     const QJsonObject colors = tape.value(QLatin1String("Colors")).toObject();

@@ -3,19 +3,11 @@
 // roundings differ from one operation to the next on purpose; here they stand side by side.
 #pragma once
 
+#include "pagesettings/Exports.h" // RoundDouble, MiriToInch, InchToMiri
+
 #include <QString>
 
 #include <cstdint>
-
-/// \name Conversions and rounding, exported for other users of the bundle too.
-extern "C" {
-/// Rounds half away from zero. The panel itself never calls it.
-Q_DECL_EXPORT std::int64_t RoundDouble(double value);
-/// Millimetres to inches: times 0.0393701.
-Q_DECL_EXPORT double MiriToInch(double millimetres);
-/// Inches to millimetres: divided by the same 0.0393701, not times 25.4.
-Q_DECL_EXPORT double InchToMiri(double inches);
-}
 
 namespace lengths
 {

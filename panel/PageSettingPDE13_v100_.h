@@ -9,7 +9,7 @@
 #include "pdekit/RadioMatrix.h"
 #include "pdekit/Slider.h"
 #include "plugin/BasePDE13_v100_.h"
-#include "ppd/TapeInfo.h"
+#include "pagesettings/Exports.h"
 
 #include <QComboBox>
 #include <QFrame>

@@ -687,10 +687,12 @@ TEST_F(PreviewInTheDialog, Copies_AreInTheTapeUsed)
     const auto *used = dialog->findChild<QLabel *>(u"tapeUsed"_qs);
     job.takeChoice(u"KsTapeLength"_qs, u"30"_qs);
     QApplication::processEvents();
-    EXPECT_EQ(used->text(), u"1 label, 3.0 cm of tape"_qs);
+    // Text is set anew for another length, which takes its time.
+    EXPECT_TRUE(QTest::qWaitFor([&used] { return used->text() == u"1 label, 3.0 cm of tape"_qs; }, 20000))
+        << used->text().toStdString();
     QTest::keyClick(dialog->findChild<QSpinBox *>(u"copies"_qs), Qt::Key_Up);
-    QApplication::processEvents();
-    EXPECT_EQ(used->text(), u"2 labels, 6.0 cm of tape"_qs);
+    EXPECT_TRUE(QTest::qWaitFor([&used] { return used->text() == u"2 labels, 6.0 cm of tape"_qs; }, 20000))
+        << used->text().toStdString();
 }
 
 TEST_F(PreviewInTheDialog, OptionsOfTheTape_StandOnNoPageOfTheDialogs)
