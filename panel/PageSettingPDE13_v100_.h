@@ -3,13 +3,13 @@
 #pragma once
 
 #include "controls/PDETextField13_v100_.h"
+#include "pagesettings/Exports.h"
 #include "panel/LengthArithmetic.h"
 #include "panel/ShownValues.h"
 #include "pdekit/NotificationCenter.h"
 #include "pdekit/RadioMatrix.h"
 #include "pdekit/Slider.h"
 #include "plugin/BasePDE13_v100_.h"
-#include "pagesettings/Exports.h"
 
 #include <QComboBox>
 #include <QFrame>
