@@ -19,7 +19,7 @@ namespace
 {
 
 constexpr int mostFindingsSaid = 20;
-constexpr int leastChecked = 250;
+constexpr int leastChecked = TAPEPRINT_SWEEP_LEAST;
 
 bool canBeOpened(const QString &path)
 {
