@@ -101,21 +101,18 @@ QString shortLimit(double value)
 QString textProblem(const CustomParameter &parameter, const QString &value)
 {
     const auto length = static_cast<double>(value.toUcs4().size());
-    if (length < parameter.least || (parameter.most > 0.0 && length > parameter.most)) {
-        return Texts::tr("Give %1 to %2 characters.").arg(shortLimit(parameter.least), shortLimit(parameter.most));
-    }
-    const bool isPasscode = parameter.kind == CustomKind::Passcode;
     const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
-    if (isPasscode && !std::all_of(value.begin(), value.end(), isDigit)) {
-        return Texts::tr("Give digits alone.");
+    if (length < parameter.least || (parameter.most > 0.0 && length > parameter.most) ||
+        (parameter.kind == CustomKind::Passcode && !std::all_of(value.begin(), value.end(), isDigit))) {
+        return customLimits(parameter, false);
     }
     // The print system ends a text at a brace that none opened.
     int depth = 0;
-    const auto controls = [&depth](QChar character) {
+    const auto breaksOff = [&depth](QChar character) {
         depth += character == u'{' ? 1 : character == u'}' ? -1 : 0;
         return character < u' ' || depth < 0;
     };
-    if (std::any_of(value.begin(), value.end(), controls) || depth != 0) {
+    if (std::any_of(value.begin(), value.end(), breaksOff) || depth != 0) {
         return Texts::tr("Leave out single braces and characters that cannot be seen.");
     }
     return {};
@@ -123,26 +120,17 @@ QString textProblem(const CustomParameter &parameter, const QString &value)
 
 QString numberProblem(const CustomParameter &parameter, const QString &value, bool inInches)
 {
-    const double unit = !parameter.isLength() ? 1.0 : inInches ? pointsPerInch : pointsFromMm(1.0);
-    const QString least = shortLimit(parameter.least / unit);
-    const QString most = shortLimit(parameter.most / unit);
     std::optional<double> number;
     if (parameter.isLength()) {
-        number = pointsOf(value);
+        number = pointsOfLength(value);
     } else if (isNumber(value)) {
         number = pdekit::doubleValue(value);
     }
     const bool isTooFine = number && parameter.isWhole() && std::floor(*number) < *number;
     const double slack = limitSlack * std::max(std::abs(parameter.least), std::abs(parameter.most));
-    if (number && !isTooFine && *number >= parameter.least - slack && *number <= parameter.most + slack) {
-        return {};
-    }
-    if (parameter.isLength()) {
-        return inInches ? Texts::tr("Give a length from %1 to %2 in.").arg(least, most)
-                        : Texts::tr("Give a length from %1 to %2 mm.").arg(least, most);
-    }
-    return parameter.isWhole() ? Texts::tr("Give a whole number from %1 to %2.").arg(least, most)
-                               : Texts::tr("Give a number from %1 to %2.").arg(least, most);
+    const bool isTaken =
+        number && !isTooFine && *number >= parameter.least - slack && *number <= parameter.most + slack;
+    return isTaken ? QString() : customLimits(parameter, inInches);
 }
 
 } // namespace
@@ -207,7 +195,7 @@ QStringList customValuesIn(const std::vector<CustomParameter> &parameters, const
     return values;
 }
 
-std::optional<double> pointsOf(const QString &length)
+std::optional<double> pointsOfLength(const QString &length)
 {
     struct Unit {
         QLatin1String name;
@@ -215,7 +203,7 @@ std::optional<double> pointsOf(const QString &length)
     };
     static const std::array units{
         Unit{QLatin1String("mm"), pointsPerInch / 25.4}, Unit{QLatin1String("cm"), pointsPerInch / 2.54},
-        Unit{QLatin1String("in"), pointsPerInch},        Unit{QLatin1String("ft"), 12.0 * pointsPerInch},
+        Unit{QLatin1String("in"), pointsPerInch}, Unit{QLatin1String("ft"), 12.0 * pointsPerInch},
         Unit{QLatin1String("m"), pointsPerInch / 0.0254}};
     double points = 1.0;
     QString number = length;
@@ -227,6 +215,32 @@ std::optional<double> pointsOf(const QString &length)
         }
     }
     return isNumber(number) ? std::optional(pdekit::doubleValue(number) * points) : std::nullopt;
+}
+
+QString customLimits(const CustomParameter &parameter, bool inInches)
+{
+    const double unit = !parameter.isLength() ? 1.0 : inInches ? pointsPerInch : pointsFromMm(1.0);
+    const QString least = shortLimit(parameter.least / unit);
+    const QString most = shortLimit(parameter.most / unit);
+    switch (parameter.kind) {
+    case CustomKind::Text:
+    case CustomKind::Password:
+        return parameter.most > 0.0 ? Texts::tr("Give %1 to %2 characters.").arg(least, most)
+                                    : Texts::tr("Give %1 characters or more.").arg(least);
+    case CustomKind::Passcode:
+        return parameter.most > 0.0 ? Texts::tr("Give %1 to %2 digits.").arg(least, most)
+                                    : Texts::tr("Give %1 digits or more.").arg(least);
+    case CustomKind::Length:
+        return inInches ? Texts::tr("Give a length from %1 to %2 in.").arg(least, most)
+                        : Texts::tr("Give a length from %1 to %2 mm.").arg(least, most);
+    case CustomKind::Integer:
+        return Texts::tr("Give a whole number from %1 to %2.").arg(least, most);
+    case CustomKind::Curve:
+    case CustomKind::InverseCurve:
+    case CustomKind::Real:
+        break;
+    }
+    return Texts::tr("Give a number from %1 to %2.").arg(least, most);
 }
 
 QString customProblem(const CustomParameter &parameter, const QString &value, bool inInches)

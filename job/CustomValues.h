@@ -48,10 +48,12 @@ QString customValue(const std::vector<CustomParameter> &parameters, const QStrin
 QStringList customValuesIn(const std::vector<CustomParameter> &parameters, const QString &value);
 
 /// Points of a length as CUPS reads it: "12.5", "4.4mm", "1in"; nothing for what is no length.
-std::optional<double> pointsOf(const QString &length);
+std::optional<double> pointsOfLength(const QString &length);
 
-/// Why a parameter does not take a value, as a sentence; null when it does. \param inInches the unit in which limits of
-/// lengths are named, millimetres otherwise.
+/// What a parameter takes, as a sentence. \param inInches the unit in which limits of lengths are named, millimetres
+/// otherwise.
+QString customLimits(const CustomParameter &parameter, bool inInches);
+/// Why a parameter does not take a value, as a sentence; null when it does.
 QString customProblem(const CustomParameter &parameter, const QString &value, bool inInches);
 
 /// A job's options as they may be shown: passwords and passcodes in asterisks.

@@ -56,7 +56,8 @@ std::vector<OfferedChoice> choicesToOffer(const ppd_option_t &option, bool hasCu
         choices.push_back({keyword, choiceText(choice)});
     }
     std::vector<OfferedChoice *> all;
-    std::transform(choices.begin(), choices.end(), std::back_inserter(all), [](OfferedChoice &choice) { return &choice; });
+    std::transform(choices.begin(), choices.end(), std::back_inserter(all),
+                   [](OfferedChoice &choice) { return &choice; });
     tellApart(all);
     return choices;
 }

@@ -29,8 +29,8 @@ inline std::span<ppd_choice_t> choicesOf(const ppd_option_t &option)
 /// What an own value of an option consists of. \param custom may be null.
 std::vector<ppd_cparam_t *> parametersOf(ppd_coption_t *custom);
 
-/// The choice keyword of an option as the PPD spells it; a custom value the PPD allows as it is given; of an option that
-/// takes several choices their keywords, joined by commas, in the PPD's order; null when the PPD does not list the
+/// The choice keyword of an option as the PPD spells it; a custom value the PPD allows as it is given; of an option
+/// that takes several choices their keywords, joined by commas, in the PPD's order; null when the PPD does not list the
 /// choice.
 QString listedChoice(ppd_file_t *ppd, const QString &key, const QString &choice);
 

@@ -27,9 +27,14 @@ std::optional<QString> fromUtf8(const QByteArray &bytes)
     return decoder.hasError() ? std::nullopt : std::optional(text);
 }
 
-/// The bytes without a character at their end that is not whole.
+/// The bytes without a character at their end that is not whole. Only what fills one of libcups' records, of which the
+/// shortest takes 39 bytes, can have been cut.
 QByteArray withoutCutCharacter(QByteArray bytes)
 {
+    constexpr int shortestRecord = 39;
+    if (bytes.size() < shortestRecord) {
+        return bytes;
+    }
     constexpr int mostTrailing = 3;
     const auto isTrailing = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; };
     for (int i = 0; i < mostTrailing && !bytes.isEmpty() && isTrailing(bytes.back()); ++i) {

@@ -19,9 +19,9 @@ QString optionText(const ppd_option_t &option);
 /// The text of a choice, its keyword when it has none.
 QString choiceText(const ppd_choice_t &choice);
 
-/// Puts the PPD's own translations in the place of its texts: of groups, options, choices and custom parameters. Unlike
-/// ppdLocalize this goes by the languages of the window and not by the C library's locale, which need not be installed,
-/// and looks each text up once, however many there are. \param ppd the dialog's own copy, changed; may be null.
+/// Puts the PPD's own translations in the place of its texts: of groups, options, choices and custom parameters.
+/// ppdLocalize does the same, but searches for each text among all of them: ten thousand take it a second. Of the
+/// languages libcups keeps the environment's alone. \param ppd the dialog's own copy, changed; may be null.
 /// \param languages as QLocale::uiLanguages names them, the preferred first; a language that the PPD lacks is passed
 /// over, up to English, which the texts themselves are in.
 void translateTexts(ppd_file_t *ppd, const QStringList &languages);
