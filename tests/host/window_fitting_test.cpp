@@ -76,9 +76,9 @@ protected:
     {
         job::Destination destination;
         destination.ppdPath = QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd");
-        QString error;
+        job::Problem error;
         destination.ppd = job::openPpdFile(destination.ppdPath, &error);
-        ASSERT_NE(destination.ppd, nullptr) << error.toStdString();
+        ASSERT_NE(destination.ppd, nullptr) << error.sentence.toStdString();
         panels.open(std::move(destination), asked);
         const QStringList files{hosttest::writeFile(folder, u"label.pdf"_qs, document)};
         dialog = std::make_unique<PrintDialog>(printJob, panels, PrintDialog::Setup{{}, u"label"_qs, files, {}},
