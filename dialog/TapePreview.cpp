@@ -73,7 +73,7 @@ TapePreview::TapePreview(QWidget *parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("tapePreview"));
     setAccessibleName(tr("Tape preview"));
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 QSize TapePreview::sizeHint() const
@@ -83,7 +83,7 @@ QSize TapePreview::sizeHint() const
 
 QSize TapePreview::minimumSizeHint() const
 {
-    return {leastWidth, sizeHint().height()};
+    return {leastWidth, tapeHeight + 2 * fontMetrics().height()};
 }
 
 void TapePreview::showLabel(ShownLabel label)
