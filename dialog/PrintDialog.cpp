@@ -144,6 +144,7 @@ void PrintDialog::makePages()
 void PrintDialog::showPages(int first)
 {
     orderByTab();
+    assignKeys();
     turnToPage(std::clamp(first, 0, static_cast<int>(mPageList.size()) - 1));
     mPanelArea->updateGeometry();
 }

@@ -100,6 +100,7 @@ private:
     void makePages();
     void showPages(int first);
     void orderByTab();
+    void assignKeys();
     void settlePanels();
     void removePages();
     void turnToPage(int index);

@@ -8,6 +8,7 @@
 //   Settings [     ]                | Summary
 //   page of the chooser             | Preview, Fit Length
 //   mMoreButtonsPlace     mAmountPlace, progress     Cancel, Print
+#include "dialog/Mnemonics.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/PanelArea.h"
 #include "dialog/PopUp.h"
@@ -199,6 +200,17 @@ QWidget *PrintDialog::makeProgress(QWidget *parent)
     layout->addWidget(bar);
     progress->hide();
     return progress;
+}
+
+void PrintDialog::assignKeys()
+{
+    QList<const QWidget *> views;
+    for (const PanelEntry &entry : mPanels.entries()) {
+        if (entry.view != nullptr) {
+            views.append(entry.view);
+        }
+    }
+    assignMnemonics(*this, views);
 }
 
 } // namespace tapeprint::dialog

@@ -200,7 +200,9 @@ void TapePreview::paintEvent(QPaintEvent * /*event*/)
     const QRectF area = room();
     const QSizeF whole = drawnSizePt() * size;
     QRectF strip({}, whole.boundedTo(area.size()).expandedTo({1.0, 1.0}));
-    strip.moveCenter(area.center());
+    // At the top, so that it stays where it is when words come below.
+    strip.moveLeft(area.center().x() - strip.width() / 2.0);
+    strip.moveTop(area.top());
     strip.moveTopLeft(QPointF(std::round(strip.left()), std::round(strip.top())));
 
     QPainter painter(this);
