@@ -145,16 +145,17 @@ QueueName QueueName::parse(const QString &text)
     return slash < 0 ? QueueName{text, {}} : QueueName{text.left(slash), text.mid(slash + 1)};
 }
 
-bool serverAnswers(QString *error)
+bool serverAnswers(Problem *error)
 {
     const Connection server(
         httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, connectTimeoutMs, nullptr));
     if (server && saysAnything(server.get())) {
         return true;
     }
-    *error = Texts::tr("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
-                       "without one with --ppd FILE.")
-                 .arg(harmless(QString::fromUtf8(cupsServer())));
+    *error = {Problem::Unreachable,
+              Texts::tr("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
+                        "without one with --ppd FILE.")
+                  .arg(harmless(QString::fromUtf8(cupsServer())))};
     return false;
 }
 
@@ -165,7 +166,7 @@ std::vector<PrintQueue> listQueues()
     return queues;
 }
 
-std::optional<PrintQueue> findQueue(const QString &name, const QString &instance, QString *error)
+std::optional<PrintQueue> findQueue(const QString &name, const QString &instance, Problem *error)
 {
     if (!serverAnswers(error)) {
         return std::nullopt;
@@ -182,16 +183,18 @@ std::optional<PrintQueue> findQueue(const QString &name, const QString &instance
         return queue;
     }
     if (name.isEmpty()) {
-        *error = Texts::tr("There is no default printer: name a print queue with -d QUEUE, or print without one "
-                           "with --ppd FILE.");
+        *error = {Problem::NoSuchPrinter,
+                  Texts::tr("There is no default printer: name a print queue with -d QUEUE, or print without one "
+                            "with --ppd FILE.")};
     } else {
-        *error = Texts::tr("The print server knows no queue %1: see lpstat -e for the queues there are.")
-                     .arg(harmless(QueueName({name, instance}).text()));
+        *error = {Problem::NoSuchPrinter,
+                  Texts::tr("The print server knows no queue %1: see lpstat -e for the queues there are.")
+                      .arg(harmless(QueueName({name, instance}).text()))};
     }
     return std::nullopt;
 }
 
-PpdFile openQueuePpd(const PrintQueue &queue, QString *error)
+PpdFile openQueuePpd(const PrintQueue &queue, Problem *error)
 {
     QString reason;
     const auto file = PrivateFile::create(QStringLiteral("queue.ppd"), &reason);
@@ -211,9 +214,10 @@ PpdFile openQueuePpd(const PrintQueue &queue, QString *error)
         return nullptr;
     }
     if (status != HTTP_STATUS_OK) {
-        *error = Texts::tr("The PPD of queue %1 cannot be had from the print server (%2): see that the queue is "
-                           "set up.")
-                     .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())));
+        *error = {Problem::Unreachable,
+                  Texts::tr("The PPD of queue %1 cannot be had from the print server (%2): see that the queue is "
+                            "set up.")
+                      .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())))};
         return nullptr;
     }
     return openPpdFile(QFile::decodeName(path.data()), error, Texts::tr("of queue %1").arg(queue.name));
