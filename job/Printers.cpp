@@ -4,6 +4,7 @@
 
 #include "job/PlainText.h"
 #include "job/PrivateFile.h"
+#include "job/SavedDestinations.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
@@ -136,16 +137,6 @@ int collectQueue(void *queues, unsigned flags, cups_dest_t *destination)
     return 1;
 }
 
-/// libcups answers any instance of a queue that exists: whether the person has one of that name is asked apart.
-bool instanceExists(const QString &name, const QString &instance)
-{
-    const std::vector<PrintQueue> queues = listQueues();
-    return std::any_of(queues.begin(), queues.end(), [&](const PrintQueue &queue) {
-        return queue.name.compare(name, Qt::CaseInsensitive) == 0 &&
-               queue.instance.compare(instance, Qt::CaseInsensitive) == 0;
-    });
-}
-
 } // namespace
 
 QueueName QueueName::parse(const QString &text)
@@ -185,7 +176,8 @@ std::optional<PrintQueue> findQueue(const QString &name, const QString &instance
     const DestinationPtr destination(cupsGetNamedDest(CUPS_HTTP_DEFAULT,
                                                       name.isEmpty() ? nullptr : nameBytes.constData(),
                                                       instance.isEmpty() ? nullptr : instanceBytes.constData()));
-    if (destination && (instance.isEmpty() || instanceExists(name, instance))) {
+    // libcups answers any instance of a queue that exists: whether the person has one of that name is asked apart.
+    if (destination && (instance.isEmpty() || SavedDestinations::read().hasInstance({name, instance}))) {
         PrintQueue queue = queueFrom(*destination);
         removeServerDefaults(queue);
         return queue;

@@ -102,7 +102,7 @@ TEST_F(Output, ThatIsStandardInput_IsRefused)
     start(program, programPath(),
           {u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, document});
     ASSERT_TRUE(program.waitForFinished());
-    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_EQ(program.exitCode(), testsupport::unwritableOutput);
     EXPECT_EQ(contentsOf(document), "Hello\n");
 }
 
@@ -112,7 +112,7 @@ TEST_F(Output, ThatStandardOutputAppendsToTheDocument_IsRefused)
     program.setStandardOutputFile(document, QIODevice::Append);
     start(program, programPath(), job(u"-"_qs, document));
     ASSERT_TRUE(program.waitForFinished());
-    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_EQ(program.exitCode(), testsupport::unwritableOutput);
     EXPECT_EQ(contentsOf(document), "Hello\n");
 }
 
@@ -210,7 +210,7 @@ TEST_F(Output, OnAFullDisk_IsSaidAndKeepsWhatStoodThere)
           QStringList{u"-rm"_qs, u"/bin/sh"_qs, script, path(u"out"_qs), programPath()} +
               job(u"out/out.prn"_qs, document));
     ASSERT_TRUE(shell.waitForFinished());
-    EXPECT_EQ(shell.exitCode(), 1);
+    EXPECT_EQ(shell.exitCode(), testsupport::unwritableOutput);
     EXPECT_EQ(shell.readAllStandardOutput(), "mineout.prn\n");
     EXPECT_TRUE(shell.readAllStandardError().contains("No space left on device"));
 }
@@ -279,7 +279,7 @@ TEST_F(Output, OfADocumentThatChangesMeanwhile_IsNotMade)
     ASSERT_TRUE(QTest::qWaitFor([&] { return isRunning(unique) || program.state() == QProcess::NotRunning; }, 30000));
     hosttest::writeFile(folder, u"label.txt"_qs, "Something else\n");
     ASSERT_TRUE(program.waitForFinished());
-    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_EQ(program.exitCode(), testsupport::badDocument);
     EXPECT_TRUE(program.readAllStandardError().contains("has changed since it was opened"));
     EXPECT_FALSE(QFileInfo::exists(path(u"out.prn"_qs)));
 }

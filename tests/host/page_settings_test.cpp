@@ -128,7 +128,7 @@ TEST_F(PageSettings, ResolutionAlone_IsNoneOfItsKeywords)
     destination.ppd = job::openPpdFile(hosttest::writeFile(folder, u"other.ppd"_qs, text), &error);
     panels.open(std::move(destination), options({{u"Resolution"_qs, u"600x600dpi"_qs}}));
     EXPECT_TRUE(panels.entries().empty());
-    QString ignored;
+    job::Problem ignored;
     ASSERT_TRUE(panels.settle(&ignored));
     EXPECT_EQ(job.options().lines(), (QStringList{u"Resolution=600x600dpi"_qs, u"PageSize=W12"_qs}));
 }

@@ -385,7 +385,7 @@ TEST_F(WindowFitting, Print_Cancelled_StaysOpenAndMayBePrintedAgain)
 {
     std::atomic<int> calls = 0;
     ASSERT_NO_FATAL_FAILURE(
-        open(boxOfHundredPoints, [&calls](const job::SettledJob &, const std::atomic<bool> &stop, QString *) {
+        open(boxOfHundredPoints, [&calls](const job::SettledJob &, const std::atomic<bool> &stop, job::Problem *) {
             if (calls.fetch_add(1) > 0) {
                 return std::optional(job::PrintedJob{u"tape"_qs, {}, {}});
             }
@@ -433,7 +433,7 @@ TEST_F(WindowFitting, ClosingTheDialog_WhileItPrints_WaitsForNothingAndTellsTheA
     };
     const auto shared = std::make_shared<Shared>();
     ASSERT_NO_FATAL_FAILURE(
-        open(boxOfHundredPoints, [shared](const job::SettledJob &job, const std::atomic<bool> &stop, QString *) {
+        open(boxOfHundredPoints, [shared](const job::SettledJob &job, const std::atomic<bool> &stop, job::Problem *) {
             shared->isRunning = true;
             while (!shared->mayEnd) {
                 QThread::msleep(1);

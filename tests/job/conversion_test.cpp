@@ -48,7 +48,7 @@ protected:
     {
         Problem error;
         EXPECT_FALSE(convertToPdf(document, textPage, folder.path(u"refused.pdf"_qs), goOn, &error));
-        return error;
+        return error.sentence;
     }
 
     static PageSizes sizesOf(const QString &pdf)
