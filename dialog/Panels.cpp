@@ -144,7 +144,7 @@ void Panels::remake()
     showAll();
 }
 
-bool Panels::settle(QString *error)
+bool Panels::settle(job::Problem *error)
 {
     showAll();
     const bool saved = saveValues(error);
@@ -202,7 +202,7 @@ void Panels::tellAreasChanged()
     }
 }
 
-bool Panels::saveValues(QString *error)
+bool Panels::saveValues(job::Problem *error)
 {
     for (const PanelEntry &entry : mPanels) {
         QString reason;
@@ -225,7 +225,7 @@ bool Panels::shouldPrint(QString *refusedBy)
     return true;
 }
 
-bool Panels::revert(QString *error)
+bool Panels::revert(job::Problem *error)
 {
     const QString paper = mJob.options().value(job::OptionName::pageSize);
     mJob.revert();

@@ -2,6 +2,8 @@
 // A parsed PPD file, held with its deleter, and the sentence that says why one could not be opened.
 #pragma once
 
+#include "job/Problem.h"
+
 #include <QString>
 
 #include <memory>
@@ -19,6 +21,6 @@ using PpdFile = std::unique_ptr<ppd_file_t, PpdCloser>;
 
 /// Opens a PPD file, with the defaults marked. \param error takes a sentence that names the file, and the line where
 /// the file is at fault. \param shownAs how the sentence names the file; null: by its path.
-PpdFile openPpdFile(const QString &path, QString *error, const QString &shownAs = QString());
+PpdFile openPpdFile(const QString &path, Problem *error, const QString &shownAs = QString());
 
 } // namespace tapeprint::job

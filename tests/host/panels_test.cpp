@@ -200,7 +200,7 @@ TEST_F(PanelsTest, Settling_ShowsSavesAndNotesWhatThePanelReplaced)
     open(options({{u"KsMargin"_qs, tooLong}, {u"CutMedia"_qs, u"Label"_qs}}));
     takeCalls();
     EXPECT_TRUE(panels.notices().isEmpty());
-    QString error;
+    Problem error;
     EXPECT_TRUE(panels.settle(&error));
     EXPECT_EQ(takeCalls(), (QStringList{u"willShow"_qs, u"save"_qs, u"changed KsMargin=2.0, tape W12"_qs}));
     EXPECT_EQ(panels.notices(), QStringList{u"The panel \"Test Panel\" holds KsMargin within its limits and steps: "
@@ -224,7 +224,7 @@ TEST_F(PanelsTest, ChangeOfAnotherOption_IsMarkedRecordedAndTold)
 TEST_F(PanelsTest, Revert_BringsJobMarksAndTapeBackAndTellsThePanelOfEachChange)
 {
     open();
-    QString error;
+    Problem error;
     ASSERT_TRUE(panels.settle(&error));
     const QStringList before = job.options().lines();
     job.changeOption(u"PageSize"_qs, u"W24"_qs);
@@ -253,10 +253,11 @@ TEST_F(PanelsTest, FailureToSave_NamesThePanelAndItsReason)
 {
     open();
     qApp->setProperty("hostTestFailSaving", true);
-    QString error;
+    Problem error;
     EXPECT_FALSE(panels.saveValues(&error));
     qApp->setProperty("hostTestFailSaving", QVariant());
-    EXPECT_TRUE(error.contains(u"Test Panel"_qs) && error.contains(u"no margin"_qs)) << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"Test Panel"_qs) && error.sentence.contains(u"no margin"_qs))
+        << error.sentence.toStdString();
     EXPECT_TRUE(panels.saveValues(&error));
 }
 

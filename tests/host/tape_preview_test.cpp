@@ -491,6 +491,7 @@ TEST_F(TapePreviewTest, TapeUsed_CountsLabelsAndCopies)
 
 TEST_F(TapePreviewTest, DocumentsThatCannotBeShown_AreSaidInWordsOnAnEmptyTape)
 {
+    preview->setFixedHeight(120); // or the words below would make the drawing lower
     showTape(36.0, 144.0);
     const QImage empty = drawn();
     const auto expectSaid = [&](const QByteArray &bytes, const QString &sentence) {
@@ -730,11 +731,11 @@ class PreviewOfPageSettings : public testing::Test
 protected:
     void SetUp() override
     {
-        QString error;
+        Problem error;
         Destination destination;
         destination.ppdPath = QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd");
         destination.ppd = openPpdFile(destination.ppdPath, &error);
-        ASSERT_NE(destination.ppd, nullptr) << error.toStdString();
+        ASSERT_NE(destination.ppd, nullptr) << error.sentence.toStdString();
         panels.open(std::move(destination), {});
         const QByteArray label = pdf("0 0 100 30", "0 0 50 30 re f");
         dialog = std::make_unique<PrintDialog>(
