@@ -2,12 +2,12 @@
 // The window's printers and pages. Values live in the dialog's objects; the controls only show them.
 #include "dialog/PrintDialog.h"
 
-#include "dialog/ChoicePopUp.h"
 #include "dialog/GatheredAlerts.h"
 #include "dialog/LayoutPage.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PaperMenu.h"
 #include "dialog/PlainText.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/SummaryView.h"
@@ -80,7 +80,7 @@ void PrintDialog::showDestination()
 {
     mUnit.setDescribed(describedUnit(mJob.ppd(), mJob.tape()));
     showWhetherTape();
-    showTapes();
+    mPapers->fill();
     makePages();
     settlePanels();
     showPages(0);
@@ -102,16 +102,6 @@ void PrintDialog::showWhetherTape()
     mPreview->setIsTapePrinter(isTape);
     mSummary->parentWidget()->setVisible(isTape); // it is the panels' summary
     mFitControls->setVisible(isTape);
-}
-
-void PrintDialog::showTapes()
-{
-    const ppd_option_t *tapes = job::findOption(mJob.ppd(), job::OptionName::pageSize);
-    mTapePopUp->clear();
-    mTapePopUp->setEnabled(tapes != nullptr);
-    if (tapes != nullptr) {
-        fillWithChoices(mTapePopUp, *tapes);
-    }
 }
 
 void PrintDialog::makePages()

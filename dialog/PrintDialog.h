@@ -37,10 +37,12 @@ class QStackedWidget;
 namespace tapeprint::dialog
 {
 
+class ConflictNotice;
 class LayoutPage;
 class NoticesArea;
 class OptionsPage;
 class PanelArea;
+class PaperMenu;
 class PreviewArea;
 class SummaryView;
 
@@ -96,7 +98,6 @@ private:
 
     void fillPrinters();
     void showDestination();
-    void showTapes();
     void makePages();
     void showPages(int first);
     void orderByTab();
@@ -113,6 +114,11 @@ private:
     void pickPage(int index);
     void follow();
     void followInThePreview();
+    void makeConflictNotice();
+    void followConflicts();
+    void resolveConflicts();
+    /// \return whether there are conflicts and the person is being asked what to do about them.
+    bool asksAboutConflicts();
     void revert();
     void remakePanels();
     void print();
@@ -149,9 +155,12 @@ private:
 
     QComboBox *mPrinterPopUp = nullptr;
     QComboBox *mTapePopUp = nullptr;
+    PaperMenu *mPapers = nullptr; ///< what the tape's pop-up offers
     QSpinBox *mCopiesField = nullptr;
     QLabel *mTapeLabel = nullptr;
     NoticesArea *mNotices = nullptr;
+    ConflictNotice *mConflicts = nullptr;
+    bool mConflictsAreSeen = false; ///< the person said to print all the same
     QWidget *mChooserRow = nullptr; ///< hidden while there is one page alone
     QComboBox *mPageChooser = nullptr;
     PanelArea *mPanelArea = nullptr;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the window does when the person acts: picks, Revert, Print, Cancel, and the live summary.
-#include "dialog/ChoicePopUp.h"
 #include "dialog/LayoutPage.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PaperMenu.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/SummaryView.h"
@@ -29,7 +29,8 @@ void PrintDialog::connectControls()
 {
     // "activated" is the person's act alone; setting a control from code sends nothing.
     connect(mPrinterPopUp, &QComboBox::activated, this, &PrintDialog::pickPrinter);
-    connect(mTapePopUp, &QComboBox::activated, this, [this] { pickTape(mTapePopUp->currentData().toString()); });
+    connect(mPapers, &PaperMenu::picked, this, &PrintDialog::pickTape);
+    connect(mPapers, &PaperMenu::problem, this, &PrintDialog::tellProblem);
     connect(mCopiesField, &QSpinBox::valueChanged, this, [this](int copies) {
         if (copies != mJob.copies()) {
             mJob.setCopies(copies);
@@ -163,7 +164,7 @@ void PrintDialog::follow()
     showNotices();
     mSummary->showSummary(mPanels.summary());
     followInThePreview();
-    selectChoice(mTapePopUp, job::markedChoice(mJob.ppd(), job::OptionName::pageSize));
+    mPapers->follow();
     mCopiesField->setValue(mJob.copies());
     if (mLayoutPage) {
         mLayoutPage->follow();
@@ -171,6 +172,7 @@ void PrintDialog::follow()
     if (mOptionsPage) {
         mOptionsPage->follow();
     }
+    followConflicts();
 }
 
 void PrintDialog::followInThePreview()
@@ -219,6 +221,10 @@ void PrintDialog::remakePanels()
 
 void PrintDialog::print()
 {
+    const bool conflictsAreSeen = std::exchange(mConflictsAreSeen, false);
+    if (mOptionsPage) {
+        mOptionsPage->commit();
+    }
     job::Problem error;
     if (!mPanels.saveValues(&error)) {
         tellProblem(error.sentence);
@@ -227,6 +233,9 @@ void PrintDialog::print()
     // A panel that refuses has told the person why; the dialog stays as it is.
     if (QString panel; !mPanels.shouldPrint(&panel)) {
         follow();
+        return;
+    }
+    if (!conflictsAreSeen && asksAboutConflicts()) {
         return;
     }
     setPrinting(true);

@@ -11,6 +11,7 @@
 #include "dialog/Mnemonics.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PaperMenu.h"
 #include "dialog/PopUp.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
@@ -56,6 +57,7 @@ void PrintDialog::buildControls()
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(makeDestinationRows());
     mNotices = new NoticesArea(this);
+    makeConflictNotice();
     layout->addWidget(mNotices);
     auto *middle = new QHBoxLayout;
     middle->addWidget(makePagesArea());
@@ -80,6 +82,7 @@ QWidget *PrintDialog::makeDestinationRows()
 
     mTapePopUp = new PopUp(rows);
     mTapePopUp->setObjectName(QStringLiteral("tape"));
+    mPapers = new PaperMenu(*mTapePopUp, mJob, mUnit, this);
     mTapeLabel = makeLabel({}, mTapePopUp);
     mCopiesField = new QSpinBox(rows);
     mCopiesField->setObjectName(QStringLiteral("copies"));

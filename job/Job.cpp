@@ -34,6 +34,7 @@ void Job::close()
     mLaidDown = {};
     mTape = {};
     mChosen = {};
+    mLastChanged.clear();
     mOpenedWith = {};
     mDestination = {};
 }
@@ -130,6 +131,9 @@ void Job::changeOption(const QString &key, const QString &choice)
 
 void Job::record(const QString &key, const QString &choice)
 {
+    if (mOptions.value(key) != choice) {
+        mLastChanged = key;
+    }
     markChoice(ppd(), key, choice);
     mOptions.set(key, choice);
     if (key == OptionName::pageSize) {

@@ -64,6 +64,8 @@ public:
     bool takeChoice(const QString &key, const QString &choice);
     /// The person changes an option in the dialog itself: the paper follows, too.
     void changeOption(const QString &key, const QString &choice);
+    /// The option that was changed last; null when none was.
+    const QString &lastChanged() const { return mLastChanged; }
     /// The paper becomes a tape of another length. Panels take it over when they are shown again.
     void changePaperLength(double lengthMm);
     /// The choices that the job carries become the defaults of this PPD copy, from which panels that are made anew
@@ -112,6 +114,7 @@ private:
     JobOptions mLaidDown;
     TapeKeywords mTape;
     JobOptions mChosen; ///< what was laid down, and what the person changed in the dialog since
+    QString mLastChanged;
     Snapshot mOpenedWith;
 };
 

@@ -127,6 +127,7 @@ const std::array flags{
     Flag{QLatin1String("--help"), &CommandLine::help},
     Flag{QLatin1String("--version"), &CommandLine::version},
     Flag{QLatin1String("--trust-ppd"), &CommandLine::trustPpd},
+    Flag{QLatin1String("--resolve"), &CommandLine::resolve},
     Flag{QLatin1String("-s"), &CommandLine::silent},
     Flag{QLatin1String("-c"), nullptr},
 };
@@ -248,6 +249,7 @@ QString commandLineHelp()
                "  --trust-ppd          with --ppd: run programs and commands of its own that the PPD file names\n"
                "  --fit-length         make the tape as long as what is drawn on the document needs, with both "
                "margins\n"
+               "  --resolve            without a window: change options that do not go together, and say which\n"
                "  --no-dialog          do the same job without a window\n"
                "  --show-options       print the options that the job would carry, and submit nothing\n"
                "  --summary            print the summary of the job as \"title: value\" lines, and submit nothing\n"

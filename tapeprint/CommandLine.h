@@ -25,8 +25,9 @@ struct CommandLine {
     bool help = false;
     bool version = false;
     bool trustPpd = false;
-    bool silent = false; ///< -s: say nothing about a job that went well
-    QStringList files;   ///< none: standard input
+    bool resolve = false; ///< options that do not go together are changed
+    bool silent = false;  ///< -s: say nothing about a job that went well
+    QStringList files;    ///< none: standard input
 
     /// Whether the options are only shown and nothing is printed.
     bool onlyShows() const { return showOptions || summary; }

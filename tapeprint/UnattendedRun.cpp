@@ -4,6 +4,8 @@
 
 #include "dialog/GatheredAlerts.h"
 #include "dialog/Panels.h"
+#include "job/Conflicts.h"
+#include "job/CustomValues.h"
 #include "job/DocumentSpool.h"
 #include "job/LaidOutJob.h"
 #include "job/PageLayout.h"
@@ -47,6 +49,39 @@ bool settleJob(dialog::Panels &panels, const dialog::GatheredAlerts &alerts, job
         return false;
     }
     return true;
+}
+
+/// Names the options that do not go together, and resolves them when that is asked for. \param messages takes what the
+/// person should know of it. \param error takes the conflict that keeps the job from being printed.
+bool settleConflicts(job::Job &job, dialog::Panels &panels, const CommandLine &line, QStringList &messages,
+                     job::Problem *error)
+{
+    const std::vector<job::Conflict> conflicts = job::conflictsOf(job.ppd());
+    if (conflicts.empty()) {
+        return true;
+    }
+    QStringList sentences = job::sentencesOf(conflicts);
+    const std::optional<job::Resolution> resolution =
+        line.resolve ? job::resolutionOf(job.ppd(), job.lastChanged()) : std::nullopt;
+    if (resolution) {
+        panels.apply(*resolution);
+        if (!panels.saveValues(error)) {
+            return false;
+        }
+        messages += sentences;
+        messages.append(resolution->sentence());
+        sentences = job::sentencesOf(job::conflictsOf(job.ppd())); // a panel may hold on to its own value
+    } else if (line.onlyShows()) {
+        messages += sentences;
+        return true;
+    }
+    if (sentences.isEmpty()) {
+        return true;
+    }
+    sentences.append(line.resolve ? QStringLiteral("There is no way out of it: choose others with -o.")
+                                  : QStringLiteral("Choose others with -o, or let --resolve change them."));
+    *error = {job::Problem::Conflict, sentences.join(u' ')};
+    return false;
 }
 
 const std::atomic<bool> neverStopped{false};
@@ -123,8 +158,11 @@ RunReport runUnattended(const CommandLine &line)
     if (!settleJob(panels, alerts, &error)) {
         return failedRun(error);
     }
+    if (!settleConflicts(job, panels, line, report.messages, &error)) {
+        return failedRun(error);
+    }
     if (line.showOptions) {
-        report.output += job::settle(job).carried().lines();
+        report.output += job::withoutSecrets(job.ppd(), job::settle(job).carried()).lines();
     }
     if (line.summary) {
         report.output += summaryLines(panels);
