@@ -3,6 +3,7 @@
 #include "job/Job.h"
 
 #include "job/FilterRun.h"
+#include "job/IppAttributeNames.h"
 #include "job/LaidDownOptions.h"
 
 #include <utility>
@@ -22,18 +23,39 @@ void Job::open(Destination destination, const JobOptions &asked)
     Q_EMIT changed();
 }
 
+void Job::reopen(const QString &instance, const JobOptions &saved, const JobOptions &asked)
+{
+    if (!mDestination.queue) {
+        return;
+    }
+    if (PpdFile fresh = freshCopy(mDestination.ppd)) {
+        mDestination.ppd = std::move(fresh);
+    }
+    mDestination.queue->instance = instance;
+    mDestination.queue->options = saved;
+    clearOptions();
+    describePrinter();
+    layDownOptions(asked);
+    Q_EMIT changed();
+}
+
 void Job::close()
+{
+    clearOptions();
+    mPrinter = {};
+    mOpenedWith = {};
+    mDestination = {};
+}
+
+void Job::clearOptions()
 {
     mSession = {};
     mSettings = {};
     mPageFormat = {};
-    mPrinter = {};
     mOptions = {};
     mLaidDown = {};
     mTape = {};
     mChosen = {};
-    mOpenedWith = {};
-    mDestination = {};
 }
 
 void Job::describePrinter()
@@ -141,13 +163,13 @@ void Job::changePaperLength(double lengthMm)
     Q_EMIT changed();
 }
 
-void Job::makeDefaultsOfOptions()
+void Job::renewPpd()
 {
-    for (const auto &[key, value] : mOptions.entries()) {
-        if (isNumber(value) || !listedChoice(ppd(), key, value).isNull()) {
-            setDefaultChoice(ppd(), key, value);
-        }
+    if (PpdFile fresh = freshCopy(mDestination.ppd)) {
+        mDestination.ppd = std::move(fresh);
     }
+    JobOptions already = mOptions;
+    layDown(mOptions, ppd(), &already);
 }
 
 void Job::setCopies(int copies)
@@ -179,15 +201,28 @@ void Job::setPaperLengthMm(double lengthMm)
 
 Job::Snapshot Job::takeSnapshot() const
 {
-    return {mOptions, takeMarks(ppd()), takeDefaults(ppd()), mPageFormat, mSettings};
+    const PrintQueue queue = mDestination.queue.value_or(PrintQueue());
+    return {mOptions,         mLaidDown,           queue.instance, queue.options,
+            takeMarks(ppd()), takeDefaults(ppd()), mPageFormat,    mSettings};
 }
 
 void Job::revert()
 {
     const JobOptions left = std::exchange(mOptions, mOpenedWith.options);
     putMarks(ppd(), mOpenedWith.marks);
+    // A mark is the choice alone: the values of a custom one stand in the option.
+    for (const auto &[key, value] : mOptions.entries()) {
+        if (!isIppJobAttribute(key)) {
+            markChoice(ppd(), key, value);
+        }
+    }
     putDefaults(ppd(), mOpenedWith.defaults);
-    mChosen = mLaidDown;
+    mChosen = mLaidDown = mOpenedWith.laidDown;
+    if (mDestination.queue) {
+        mDestination.queue->instance = mOpenedWith.instance;
+        mDestination.queue->options = mOpenedWith.saved;
+        describePrinter();
+    }
     mPageFormat = mOpenedWith.pageFormat;
     mSettings = mOpenedWith.settings;
 

@@ -13,6 +13,21 @@ namespace
 
 const QLatin1String customPrefix("Custom.");
 
+/// libcups marks and has no call that unmarks: a mark stands at the choice and in a list beside it.
+void removeMarks(ppd_file_t *ppd)
+{
+    if (ppd == nullptr) {
+        return;
+    }
+    while (auto *choice = static_cast<ppd_choice_t *>(cupsArrayFirst(ppd->marked))) {
+        choice->marked = 0;
+        cupsArrayRemove(ppd->marked, choice);
+    }
+    for (ppd_size_t &size : std::span(ppd->sizes, static_cast<std::size_t>(std::max(ppd->num_sizes, 0)))) {
+        size.marked = 0;
+    }
+}
+
 } // namespace
 
 ppd_option_t *findOption(ppd_file_t *ppd, const QString &key)
@@ -78,6 +93,7 @@ PpdMarks takeMarks(ppd_file_t *ppd)
 
 void putMarks(ppd_file_t *ppd, const PpdMarks &marks)
 {
+    removeMarks(ppd);
     for (const auto &[key, choice] : marks) {
         markChoice(ppd, key, choice);
     }

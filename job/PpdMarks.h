@@ -34,7 +34,7 @@ bool setDefaultChoice(ppd_file_t *ppd, const QString &key, const QString &value)
 
 /// Every mark of the PPD.
 PpdMarks takeMarks(ppd_file_t *ppd);
-/// Puts marks back.
+/// Puts marks back; no other choice stays marked.
 void putMarks(ppd_file_t *ppd, const PpdMarks &marks);
 
 /// The default choice of every option, in the PPD's order.

@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: Apache-2.0
+// Presets in a file of the test's own, as libcups and other programs know them.
+#include "TapePpd.h"
+
+#include "job/KeptOptions.h"
+#include "job/LpOptionsFile.h"
+#include "job/Presets.h"
+#include "tests/support/TextPrinting.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <array>
+#include <csignal>
+#include <memory>
+
+#include <cups/cups.h>
+#include <cups/file.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace tapeprint::job;
+using jobtest::options;
+
+
+/// A home and a machine's folder of their own, and the variables as they were afterwards.
+class Presets : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        for (const char *name : {"HOME", "CUPS_SERVERROOT"}) {
+            before.emplace_back(name, qgetenv(name));
+        }
+        QDir(folder.path()).mkdir(u"root"_qs);
+        QDir(folder.path()).mkdir(u"home"_qs);
+        qputenv("HOME", folder.filePath(u"home"_qs).toUtf8());
+        qputenv("CUPS_SERVERROOT", folder.filePath(u"root"_qs).toUtf8());
+    }
+    void TearDown() override
+    {
+        for (const auto &[name, value] : before) {
+            value.isNull() ? qunsetenv(name) : qputenv(name, value);
+        }
+    }
+
+    /// libcups takes root's changes as the machine's.
+    QString ownPath() const
+    {
+        return folder.filePath(getuid() == 0 ? u"root/lpoptions"_qs : u"home/.cups/lpoptions"_qs);
+    }
+    QString otherPath() const
+    {
+        return folder.filePath(getuid() == 0 ? u"home/.cups/lpoptions"_qs : u"root/lpoptions"_qs);
+    }
+    void write(const QString &path, const QByteArray &bytes)
+    {
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+    QByteArray written() const
+    {
+        QFile file(ownPath());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QStringList names(const QString &queue)
+    {
+        QStringList names;
+        for (const Preset &preset : presetsOf(queue, &error)) {
+            names.append(preset.name);
+        }
+        return names;
+    }
+
+    QTemporaryDir folder;
+    std::vector<std::pair<const char *, QByteArray>> before;
+    QString error;
+};
+
+TEST_F(Presets, Saving_KeepsEveryOtherLineAsItWas)
+{
+    const QByteArray others = "# my printers\n"
+                              "\n"
+                              "Dest office/draft   print-quality=3  # fast\n"
+                              "Default gone/a Option=\"two words\"\n"
+                              "dest tape/my small labels x=y\n"
+                              "what is this\n"
+                              "Dest tape KsMargin=2.0\n";
+    write(ownPath(), others);
+    ASSERT_TRUE(
+        savePreset(u"tape"_qs, u"red"_qs, options({{u"PageSize"_qs, u"W12"_qs}, {u"Ink"_qs, u"Red"_qs}}), &error))
+        << error.toStdString();
+    EXPECT_EQ(written(), others + "Dest tape/red PageSize=W12 Ink=Red\n");
+}
+
+TEST_F(Presets, SavingOver_ReplacesTheLineWhereItStands)
+{
+    write(ownPath(), "Default tape/Red Ink=Red KsMargin=5.0\nDest office A=1\nDest tape/red Ink=Blue\n");
+    ASSERT_TRUE(savePreset(u"tape"_qs, u"red"_qs, options({{u"Ink"_qs, u"Dark"_qs}}), &error)) << error.toStdString();
+    EXPECT_EQ(written(), "Default tape/Red Ink=Dark\nDest office A=1\n");
+}
+
+TEST_F(Presets, OfAPersonWithoutAny_AreNone)
+{
+    EXPECT_EQ(names(u"tape"_qs), QStringList());
+    EXPECT_TRUE(error.isNull()) << error.toStdString();
+}
+
+TEST_F(Presets, AreListedByNameWithThoseForEverybody)
+{
+    write(ownPath(), "Dest tape/red Ink=Red\nDest tape A=1\nDest other/thin B=2\nDest TAPE/Amber Ink=Amber\n");
+    write(otherPath(), "Dest tape/house Ink=Black\n");
+    const std::vector<Preset> presets = presetsOf(u"tape"_qs, &error);
+    ASSERT_EQ(presets.size(), 3U);
+    EXPECT_EQ(presets[0].name, u"Amber"_qs);
+    EXPECT_EQ(presets[1].name, u"house"_qs);
+    EXPECT_EQ(presets[2].name, u"red"_qs);
+    EXPECT_TRUE(presets[0].isOwn);
+    EXPECT_FALSE(presets[1].isOwn);
+    EXPECT_EQ(presets[2].options.lines(), QStringList{u"Ink=Red"_qs});
+    EXPECT_EQ(savedForQueue(u"tape"_qs, &error).lines(), QStringList{u"A=1"_qs});
+}
+
+TEST_F(Presets, ANameWithBlanksInTheFile_IsSurvivedAsCupsReadsIt)
+{
+    // libcups ends the name at the blank, and takes the rest for options.
+    write(ownPath(), "Dest tape/my small labels Ink=Red\n");
+    const std::vector<Preset> presets = presetsOf(u"tape"_qs, &error);
+    ASSERT_EQ(presets.size(), 1U);
+    EXPECT_EQ(presets[0].name, u"my"_qs);
+    EXPECT_EQ(presets[0].options.value(u"Ink"_qs), u"Red"_qs);
+    ASSERT_TRUE(deletePreset(u"tape"_qs, u"my"_qs, &error));
+    EXPECT_EQ(written(), "");
+}
+
+TEST_F(Presets, Name_ThatCupsCannotKeep_IsRefusedAndABetterOneOffered)
+{
+    for (const QString &name :
+         {u""_qs, u"two words"_qs, u"a/b"_qs, u"a\\b"_qs, u"\"a\""_qs, u"a'b"_qs, u"a#b"_qs, u"a\tb"_qs, u"a\u0007"_qs,
+          u"a\u2028b"_qs, u"a\u202Eb"_qs, u"a\u00A0b"_qs, QString(128, u'a'), QString(64, QChar(0x00e4))}) {
+        EXPECT_FALSE(problemWithPresetName(name).isNull()) << name.toStdString();
+        error.clear();
+        EXPECT_FALSE(savePreset(u"tape"_qs, name, options({{u"A"_qs, u"1"_qs}}), &error)) << name.toStdString();
+        EXPECT_FALSE(error.isNull());
+        EXPECT_TRUE(name.isEmpty() || problemWithPresetName(suitablePresetName(name)).isNull()) << name.toStdString();
+    }
+    EXPECT_FALSE(QFile::exists(ownPath()));
+    EXPECT_EQ(suitablePresetName(u"  Small labels / 12 mm "_qs), u"Small-labels-12-mm"_qs);
+    EXPECT_EQ(suitablePresetName(u"größe"_qs), u"größe"_qs);
+    EXPECT_EQ(suitablePresetName(u"///"_qs), QString());
+    EXPECT_EQ(suitablePresetName(QString(64, QChar(0x00e4))),
+              QString(63, QChar(0x00e4))); // two bytes each, 127 at most
+    EXPECT_TRUE(problemWithPresetName(QString(127, u'a')).isNull());
+    EXPECT_TRUE(problemWithPresetName(u"größe"_qs).isNull());
+}
+
+TEST_F(Presets, ValuesOfEveryKind_AreReadByCupsAsTheyWereSaved)
+{
+    const JobOptions saved = options({{u"Plain"_qs, u"12.5"_qs},
+                                      {u"Blanks"_qs, u"two  words "_qs},
+                                      {u"Quotes"_qs, u"say \"a\" or 'b'"_qs},
+                                      {u"Slashes"_qs, u"a\\b\\"_qs},
+                                      {u"Hash"_qs, u"a#b \\# c"_qs},
+                                      {u"Braces"_qs, u"{Width=1 Height=2}"_qs},
+                                      {u"Umlaut"_qs, u"größe"_qs},
+                                      {u"Custom"_qs, u"Custom.10x20mm"_qs}});
+    ASSERT_TRUE(savePreset(u"tape"_qs, u"odd"_qs, saved, &error)) << error.toStdString();
+    // The line goes through libcups' own reader of such files and its own parser of options.
+    const std::unique_ptr<cups_file_t, int (*)(cups_file_t *)> file(
+        cupsFileOpen(QFile::encodeName(ownPath()).constData(), "r"), cupsFileClose);
+    std::array<char, 8192> line{};
+    char *value = nullptr;
+    int number = 0;
+    ASSERT_NE(cupsFileGetConf(file.get(), line.data(), line.size(), &value, &number), nullptr);
+    const QByteArray rest(value);
+    ASSERT_TRUE(rest.startsWith("tape/odd ")) << rest.toStdString();
+    cups_option_t *parsed = nullptr;
+    const int count = cupsParseOptions(rest.constData() + 9, 0, &parsed);
+    EXPECT_EQ(count, 8);
+    for (const auto &[name, text] : saved.entries()) {
+        EXPECT_EQ(QString::fromUtf8(cupsGetOption(name.toUtf8().constData(), count, parsed)), text)
+            << name.toStdString();
+    }
+    cupsFreeOptions(count, parsed);
+    EXPECT_TRUE(meanTheSame(presetsOf(u"tape"_qs, &error).at(0).options, saved));
+}
+
+TEST_F(Presets, MoreThanCupsReadsOfALine_IsRefusedAndNothingWritten)
+{
+    write(ownPath(), "Dest tape/old A=1\n");
+    JobOptions many;
+    for (int i = 0; i < 1000; ++i) {
+        many.set(u"Option%1"_qs.arg(i), u"Value"_qs);
+    }
+    EXPECT_FALSE(savePreset(u"tape"_qs, u"many"_qs, many, &error));
+    EXPECT_EQ(error, u"These are more options than CUPS keeps in a preset."_qs);
+    error.clear();
+    EXPECT_FALSE(savePreset(u"tape"_qs, u"lines"_qs, options({{u"A"_qs, u"1\nDefault evil"_qs}}), &error));
+    EXPECT_EQ(error, u"An option has a value that CUPS cannot keep in a preset."_qs);
+    EXPECT_EQ(written(), "Dest tape/old A=1\n");
+}
+
+TEST_F(Presets, Renaming_ChangesTheNameAlone)
+{
+    write(ownPath(), "Dest tape/red Ink=\"Dark \\#2\"\nDest other/red A=1\nDest tape/blue Ink=Blue\n");
+    ASSERT_TRUE(renamePreset(u"tape"_qs, u"red"_qs, u"dark"_qs, &error)) << error.toStdString();
+    EXPECT_EQ(written(), "Dest tape/dark Ink=\"Dark \\#2\"\nDest other/red A=1\nDest tape/blue Ink=Blue\n");
+    EXPECT_FALSE(renamePreset(u"tape"_qs, u"dark"_qs, u"Blue"_qs, &error));
+    EXPECT_EQ(error, u"There is a preset Blue already."_qs);
+    EXPECT_FALSE(renamePreset(u"tape"_qs, u"red"_qs, u"green"_qs, &error));
+    EXPECT_EQ(names(u"tape"_qs), (QStringList{u"blue"_qs, u"dark"_qs}));
+    EXPECT_TRUE(renamePreset(u"tape"_qs, u"dark"_qs, u"DARK"_qs, &error)) << error.toStdString();
+    EXPECT_EQ(names(u"tape"_qs), (QStringList{u"blue"_qs, u"DARK"_qs}));
+}
+
+TEST_F(Presets, OneIsTheDefaultAtMost)
+{
+    write(ownPath(), "Default office A=1\nDest tape/red Ink=Red\n");
+    ASSERT_TRUE(makePresetDefault(u"tape"_qs, u"red"_qs, &error)) << error.toStdString();
+    EXPECT_EQ(written(), "Dest office A=1\nDefault tape/red Ink=Red\n");
+    EXPECT_TRUE(presetsOf(u"tape"_qs, &error).at(0).isDefault);
+    ASSERT_TRUE(makePresetDefault(u"tape"_qs, {}, &error)) << error.toStdString();
+    EXPECT_EQ(written(), "Dest office A=1\nDest tape/red Ink=Red\nDefault tape\n");
+}
+
+TEST_F(Presets, Deleting_AMissingOne_IsSaid)
+{
+    write(ownPath(), "Dest tape/red Ink=Red\n");
+    write(otherPath(), "Dest tape/house Ink=Black\n");
+    EXPECT_FALSE(deletePreset(u"tape"_qs, u"house"_qs, &error));
+    EXPECT_EQ(error, u"tape has no preset house of yours."_qs);
+    EXPECT_TRUE(deletePreset(u"tape"_qs, u"red"_qs, &error));
+    EXPECT_EQ(names(u"tape"_qs), QStringList{u"house"_qs});
+}
+
+TEST_F(Presets, OnAFullDisk_StayAsTheyWereAndThatIsSaid)
+{
+    const QByteArray others = "Dest office/draft print-quality=3\n";
+    write(ownPath(), others);
+    rlimit limit{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit none{10, limit.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
+    const bool saved = savePreset(u"tape"_qs, u"red"_qs, options({{u"Ink"_qs, u"Red"_qs}}), &error);
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_FALSE(saved);
+    EXPECT_TRUE(error.contains(u"cannot be written"_qs)) << error.toStdString();
+    EXPECT_EQ(written(), others);
+    EXPECT_EQ(QDir(QFileInfo(ownPath()).path()).entryList(QDir::Files),
+              QStringList{u"lpoptions"_qs}); // nothing is left
+}
+
+TEST_F(Presets, WhereNothingCanBeWritten_ThatIsSaid)
+{
+    qputenv("CUPS_SERVERROOT", "/proc/self/nowhere");
+    qputenv("HOME", "/proc/self/nowhere");
+    EXPECT_FALSE(savePreset(u"tape"_qs, u"red"_qs, options({{u"Ink"_qs, u"Red"_qs}}), &error));
+    EXPECT_TRUE(error.contains(u"/proc/self/nowhere"_qs) && error.contains(u"cannot be written"_qs))
+        << error.toStdString();
+}
+
+TEST_F(Presets, AFileThatCannotBeRead_IsNotWrittenOver)
+{
+    QDir().mkpath(ownPath()); // a folder in the file's place
+    EXPECT_FALSE(savePreset(u"tape"_qs, u"red"_qs, options({{u"Ink"_qs, u"Red"_qs}}), &error));
+    EXPECT_TRUE(error.contains(u"cannot be read (it is no file)"_qs)) << error.toStdString();
+    EXPECT_TRUE(QFileInfo(ownPath()).isDir());
+}
+
+TEST(PresetOptions, LeaveOutWhatBelongsToTheOneDocument)
+{
+    const JobOptions job = options({{u"PageSize"_qs, u"W12"_qs},
+                                    {u"copies"_qs, u"3"_qs},
+                                    {u"page-ranges"_qs, u"2-4"_qs},
+                                    {u"page-set"_qs, u"odd"_qs},
+                                    {u"job-hold-until"_qs, u"night"_qs},
+                                    {u"job-password"_qs, u"1234"_qs},
+                                    {u"fit-length"_qs, u"false"_qs},
+                                    {u"number-up"_qs, u"2"_qs}});
+    EXPECT_EQ(optionsForPreset(job, nullptr).lines(),
+              (QStringList{u"PageSize=W12"_qs, u"copies=3"_qs, u"number-up=2"_qs}));
+    EXPECT_EQ(optionsForNextTime(job, nullptr).lines(), (QStringList{u"PageSize=W12"_qs, u"number-up=2"_qs}));
+    EXPECT_EQ(optionsOfDocument(job).lines(),
+              (QStringList{u"copies=3"_qs, u"page-ranges=2-4"_qs, u"page-set=odd"_qs, u"job-hold-until=night"_qs}));
+    EXPECT_EQ(optionsForPreset(options({{u"copies"_qs, u"1"_qs}}), nullptr).lines(), QStringList());
+}
+
+TEST(PresetOptions, AreTheSame_InWhateverOrderAndSpelling)
+{
+    const JobOptions job = options({{u"A"_qs, u"62"_qs}, {u"B"_qs, u"Red"_qs}});
+    EXPECT_TRUE(meanTheSame(job, options({{u"B"_qs, u"red"_qs}, {u"A"_qs, u"62.0"_qs}})));
+    EXPECT_FALSE(meanTheSame(job, options({{u"B"_qs, u"Red"_qs}, {u"A"_qs, u"62.5"_qs}})));
+    EXPECT_FALSE(meanTheSame(job, options({{u"A"_qs, u"62"_qs}})));
+    EXPECT_FALSE(meanTheSame(options({{u"A"_qs, u"62"_qs}}), job));
+    EXPECT_FALSE(meanTheSame(job, options({{u"A"_qs, u"62"_qs}, {u"C"_qs, u"Red"_qs}})));
+}
+
+} // namespace
