@@ -50,10 +50,11 @@ PreviewArea::PreviewArea(QWidget *parent) : QWidget(parent)
     mTapeUsed = makeWords(QStringLiteral("tapeUsed"), this);
     layout->addWidget(mPreview);
     layout->addWidget(mMessages);
-    auto *row = new QHBoxLayout;
-    row->addWidget(mTapeUsed, 1);
-    row->addWidget(makePaging());
-    layout->addLayout(row);
+    mWordsRow = new QHBoxLayout;
+    mWordsRow->addWidget(mTapeUsed, 1);
+    mWordsRow->addStretch();
+    mWordsRow->addWidget(makePaging());
+    layout->addLayout(mWordsRow);
 
     mPreview->setPictures([this](const job::PlacedPage &page) {
         const PagePicture *picture = mRenderer.picture(page.document, page.page);
@@ -115,6 +116,11 @@ void PreviewArea::setProblem(const QString &problem)
     mExpectsDocuments = false;
     mProblem = problem;
     showWords();
+}
+
+void PreviewArea::addBesideWords(QWidget *control)
+{
+    mWordsRow->addWidget(control);
 }
 
 void PreviewArea::setIsTapePrinter(bool isTapePrinter)

@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <vector>
 
+class QHBoxLayout;
 class QLabel;
 class QToolButton;
 
@@ -34,6 +35,8 @@ public:
     void expectDocuments() { mExpectsDocuments = true; }
     /// Why the documents cannot be shown, in a sentence; null when they can.
     void setProblem(const QString &problem);
+    /// Puts a small control beside the words about the tape used.
+    void addBesideWords(QWidget *control);
     /// Whether the printer is one that is loaded with tape, whatever the page in it.
     void setIsTapePrinter(bool isTapePrinter);
     /// Follows the job. \param options its options as they stand this moment.
@@ -79,6 +82,7 @@ private:
 
     PageRenderer mRenderer;
     TapePreview *mPreview = nullptr;
+    QHBoxLayout *mWordsRow = nullptr;
     QWidget *mPaging = nullptr;
     QToolButton *mPrevious = nullptr;
     QToolButton *mNext = nullptr;

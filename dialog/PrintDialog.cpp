@@ -10,6 +10,8 @@
 #include "dialog/PlainText.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/SummaryView.h"
+#include "dialog/TapeLook.h"
+#include "dialog/UnitButton.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -135,6 +137,7 @@ QWidget *PrintDialog::makeSummaryArea()
     summaryBox->setMinimumWidth(summaryWidth);
     layout->addWidget(summaryBox, 1);
     mPreview = new PreviewArea(area);
+    mPreview->addBesideWords(new UnitButton(mUnit, mPreview));
     layout->addWidget(mPreview);
     layout->addWidget(makeFitControls());
     return area;
@@ -218,6 +221,7 @@ void PrintDialog::fillPrinters()
 
 void PrintDialog::showDestination()
 {
+    mUnit.setDescribed(describedUnit(mJob.ppd(), mJob.tape()));
     showWhetherTape();
     showTapes();
     makePages();

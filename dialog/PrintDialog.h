@@ -12,6 +12,7 @@
 
 #include "dialog/BackgroundWork.h"
 #include "dialog/DocumentDesk.h"
+#include "dialog/MeasureUnit.h"
 #include "dialog/Panels.h"
 #include "job/Destination.h"
 #include "job/Job.h"
@@ -134,6 +135,7 @@ private:
     std::optional<job::PrintedJob> mPrinted;
     BackgroundWork mPrinting;
     DocumentDesk mDesk;
+    MeasureUnit mUnit; ///< of every length that the dialog itself shows or takes
     bool mClosed = false;
     bool mFitWanted = false;      ///< the person asked for the length, and the documents are still being looked at
     bool mIsFitting = false;      ///< the length is being fitted; a question about it may stand open

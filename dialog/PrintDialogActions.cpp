@@ -47,6 +47,7 @@ void PrintDialog::connectControls()
     });
     connect(&mDesk, &DocumentDesk::changed, this, &PrintDialog::takeDocuments);
 
+    connect(&mUnit, &MeasureUnit::changed, this, [this] { mFollowTimer.start(); });
     connect(&mFollowTimer, &QTimer::timeout, this, &PrintDialog::follow);
     connect(&mJob, &job::Job::changed, this, [this] { mFollowTimer.start(); });
     connect(&mPanels, &Panels::panelResized, this, &PrintDialog::fitPanel);
@@ -178,7 +179,9 @@ void PrintDialog::followInThePreview()
     if (mDesk.follow(current)) {
         mPreview->expectDocuments();
     }
-    mPreview->follow(current.page, current.options, tapeLookOf(mJob.ppd(), current.options, mJob.tape()));
+    TapeLook look = tapeLookOf(mJob.ppd(), current.options, mJob.tape());
+    look.unit = mUnit.unit();
+    mPreview->follow(current.page, current.options, look);
     mPreview->setVisible(!current.page.isEmpty());
     fitTape();
 }

@@ -117,8 +117,8 @@ bool PrintDialog::mayReplaceTypedLength(double lengthMm)
     }
     const bool replace =
         QMessageBox::question(this, windowTitle(),
-                              tr("The tape length was set to %1 mm by hand. Replace it by the length that fits?")
-                                  .arg(pdekit::fixedDecimals(lengthMm, 1))) == QMessageBox::Yes;
+                              tr("The tape length was set to %1 by hand. Replace it by the length that fits?")
+                                  .arg(mUnit.measureText(job::pointsFromMm(lengthMm)))) == QMessageBox::Yes;
     if (!replace) {
         mKeepFitting->setChecked(false);
         mJob.changeOption(job::OptionName::fitLength, QStringLiteral("false"));

@@ -1,24 +1,24 @@
 // SPDX-License-Identifier: Apache-2.0
-// What tape and ink look like, and in which unit lengths are told, as a printer's description and a job's choices say.
+// What tape and ink look like, and in which unit a printer counts, as its description and a job's choices say.
 #pragma once
 
+#include "dialog/MeasureUnit.h"
 #include "job/JobOptions.h"
 #include "job/TapeKeywords.h"
 
 #include <QColor>
-#include <QString>
+
+#include <optional>
 
 #include <cups/ppd.h>
 
 namespace tapeprint::dialog
 {
 
-enum class LengthUnit { Millimetre, Inch };
-
 struct TapeLook {
     QColor tape = Qt::white; ///< with an alpha: one can see through it
     QColor ink = Qt::black;
-    LengthUnit unit = LengthUnit::Millimetre;
+    LengthUnit unit = LengthUnit::Millimetre; ///< in which its measures are told
 
     bool isClear() const { return tape.alpha() < 255; }
     /// Whether ink and tape differ so little that the print is hard to see.
@@ -27,14 +27,10 @@ struct TapeLook {
 };
 
 /// \param ppd may be null. \param options have the last word over its marks. A colour that nobody says is white for the
-/// tape and black for the ink.
+/// tape and black for the ink. The unit is the reader's to say.
 TapeLook tapeLookOf(ppd_file_t *ppd, const job::JobOptions &options, const job::TapeKeywords &keywords);
 
-/// A length with its unit: millimetres with one decimal, inches with two. The decimal point is a point in every
-/// language.
-QString measureText(double lengthPt, LengthUnit unit);
-
-/// How much tape: in centimetres, from a metre on in metres, or in inches.
-QString tapeText(double lengthPt, LengthUnit unit);
+/// The unit in which a tape printer's panel counts; nothing for paper, of which the description does not say.
+std::optional<LengthUnit> describedUnit(ppd_file_t *ppd, const job::TapeKeywords &keywords);
 
 } // namespace tapeprint::dialog

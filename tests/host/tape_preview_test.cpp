@@ -158,17 +158,17 @@ TEST_F(TapePreviewTest, Paper_Drawn_StandsAsWhitePaper)
     EXPECT_EQ(preview->accessibleDescription(), u"Length 101.6 mm, width 50.8 mm"_qs);
 }
 
-TEST_F(TapePreviewTest, Measures_AreMillimetresWithAPointInEveryLocale)
+TEST_F(TapePreviewTest, Measures_AreWrittenAsThePersonsLanguageWritesNumbers)
 {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German));
     showTape(36.0, 288.0); // half an inch by four inches
     QLocale::setDefault(before);
 
-    EXPECT_EQ(preview->accessibleDescription(), u"Length 101.6 mm, width 12.7 mm"_qs);
+    EXPECT_EQ(preview->accessibleDescription(), u"Length 101,6 mm, width 12,7 mm"_qs);
 }
 
-TEST_F(TapePreviewTest, Measures_AreInchesWhereThePrinterSaysSo)
+TEST_F(TapePreviewTest, Measures_AreInchesWhereTheWindowSaysSo)
 {
     look.unit = LengthUnit::Inch;
     showTape(36.0, 289.0);

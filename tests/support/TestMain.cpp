@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The main function of test programs: an application object, and GoogleTest inside it.
 #include <QApplication>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -11,6 +12,9 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     qputenv("LOCPATH", TAPEPRINT_TEST_LOCALES);
+    // What a window remembers for the person who runs the tests is neither read nor changed by them.
+    const QTemporaryDir settings;
+    qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     ::testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: Apache-2.0
+// libcups waits in steps of a fifth of a second and asks after each whether to wait on: that is where a stop and a
+// silence are noticed.
+#include "job/ServerConnection.h"
+
+#include "job/PlainText.h"
+#include "job/Texts.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds tick{200};
+constexpr milliseconds connectPatience{5000};
+/// One attempt to connect, which nothing interrupts.
+constexpr milliseconds connectAttempt{800};
+constexpr int mostQuestions = 3;
+
+/// The innermost connection of the thread: connections may be nested.
+thread_local ServerConnection *current = nullptr; // NOLINT(*-avoid-non-const-global-variables): one a thread
+
+QString serverName()
+{
+    return harmless(QString::fromUtf8(cupsServer()));
+}
+
+} // namespace
+
+ServerConnection::ServerConnection(const std::atomic<bool> *stop, Passwords passwords)
+    : mStop(stop), mPasswords(passwords), mThreadsUser(cupsUser()), mOuter(std::exchange(current, this))
+{
+    // libcups's own way is to ask on the terminal and to wait there for good.
+    cupsSetPasswordCB2([](const char * /*prompt*/, http_t * /*http*/, const char * /*method*/,
+                          const char * /*resource*/,
+                          void * /*data*/) { return current != nullptr ? current->answerPassword() : nullptr; },
+                       nullptr);
+}
+
+ServerConnection::~ServerConnection()
+{
+    httpClose(mHttp);
+    cupsSetUser(mThreadsUser.constData());
+    current = mOuter;
+}
+
+std::unique_ptr<ServerConnection> ServerConnection::open(const std::atomic<bool> *stop, Passwords passwords)
+{
+    std::unique_ptr<ServerConnection> server(new ServerConnection(stop, passwords));
+    // Without a time to connect in it only prepares to: from the first byte on, the waiting is ours.
+    server->mHttp = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, 0, nullptr);
+    if (server->mHttp != nullptr) {
+        httpSetTimeout(
+            server->mHttp, std::chrono::duration<double>(tick).count(),
+            [](http_t * /*http*/, void *data) { return static_cast<ServerConnection *>(data)->mayWaitOn() ? 1 : 0; },
+            server.get());
+        server->reconnect();
+    }
+    return server;
+}
+
+bool ServerConnection::isOpen() const
+{
+    return mHttp != nullptr && httpGetFd(mHttp) >= 0;
+}
+
+bool ServerConnection::reconnect()
+{
+    mIsSilent = false;
+    const Clock::time_point start = Clock::now();
+    while (mHttp != nullptr && !isOver() && Clock::now() - start < connectPatience) {
+        const Clock::time_point attempt = Clock::now();
+        if (httpReconnect2(mHttp, static_cast<int>(connectAttempt.count()), nullptr) == 0) {
+            return true;
+        }
+        if (Clock::now() - attempt < connectAttempt / 2) {
+            break; // refused, which another attempt does not change
+        }
+    }
+    return false;
+}
+
+void ServerConnection::allowOnly(milliseconds time)
+{
+    mEnd = Clock::now() + time;
+    mStop = nullptr;
+    mPasswords = Passwords::GoWithout;
+    mIsSilent = false;
+}
+
+bool ServerConnection::isStopped() const
+{
+    return mStop != nullptr && *mStop;
+}
+
+bool ServerConnection::isOver() const
+{
+    return isStopped() || (mEnd && Clock::now() >= *mEnd);
+}
+
+bool ServerConnection::mayWaitOn()
+{
+    const Clock::time_point now = Clock::now();
+    if (now - std::exchange(mLastTick, now) > 2 * tick) {
+        mSilentSince = now - tick; // something was sent or came since
+    }
+    mIsSilent = mIsSilent || now - mSilentSince >= longestSilence;
+    return !mIsSilent && !isOver();
+}
+
+bool ServerConnection::isUnreachable() const
+{
+    return mIsSilent || !isOpen();
+}
+
+const char *ServerConnection::answerPassword()
+{
+    const PasswordAsker ask = mPasswords == Passwords::Ask ? passwordAsker() : nullptr;
+    std::optional<Credentials> answer;
+    if (ask && !isOver() && mQuestions < mostQuestions) {
+        ++mQuestions;
+        answer = ask({serverName(), QString::fromUtf8(cupsUser()), mQuestions}, [this] { return isOver(); });
+    }
+    mWasRefused = !answer;
+    mPassword = answer ? std::move(answer->password) : Secret();
+    if (!answer) {
+        return nullptr;
+    }
+    cupsSetUser(answer->user.toUtf8().constData());
+    return mPassword.text();
+}
+
+QString ServerConnection::problem() const
+{
+    if (isStopped()) {
+        return {};
+    }
+    if (mWasRefused) {
+        return Texts::tr("The print server %1 wants a user's name and password, and was given none that it accepts.")
+            .arg(serverName());
+    }
+    if (isUnreachable()) {
+        return noAnswer();
+    }
+    return harmless(QString::fromUtf8(cupsLastErrorString()));
+}
+
+QString ServerConnection::noAnswer()
+{
+    return Texts::tr("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
+                     "without one with --ppd FILE.")
+        .arg(serverName());
+}
+
+} // namespace tapeprint::job

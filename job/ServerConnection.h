@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: Apache-2.0
+// A connection to the print server that never holds its thread up: it hears of a change of mind, gives up on a server
+// that has gone silent, and asks the front end, not the terminal, for a password.
+#pragma once
+
+#include "job/Credentials.h"
+
+#include <QString>
+
+#include <atomic>
+#include <chrono>
+#include <memory>
+
+#include <cups/cups.h>
+
+namespace tapeprint::job
+{
+
+/// For one thread, which opens it, uses it and destroys it. While it lives, its thread's password questions go to
+/// setPasswordAsker()'s function; a password given is good for this connection alone.
+///
+///     const auto server = ServerConnection::open(stop);
+///     if (server->isOpen()) {
+///         const Response response(cupsDoRequest(server->http(), request, "/"));
+///         if (!response) { *error = server->problem(); }
+///
+/// No call with CUPS_HTTP_DEFAULT has any of this.
+class ServerConnection
+{
+public:
+    /// A server that works says something within this time; it is patience with silence, not with long answers.
+    static constexpr std::chrono::seconds longestSilence{10};
+
+    /// Whether the person is asked when the server wants a password.
+    enum class Passwords { Ask, GoWithout };
+
+    /// Connects to the server of libcups's settings, whichever the thread has. \param stop when it becomes true every
+    /// call on the connection fails within about a second; null: nobody stops it. \return never null, but maybe not
+    /// open.
+    static std::unique_ptr<ServerConnection> open(const std::atomic<bool> *stop, Passwords passwords = Passwords::Ask);
+    ~ServerConnection();
+    ServerConnection(const ServerConnection &) = delete;
+    ServerConnection &operator=(const ServerConnection &) = delete;
+
+    bool isOpen() const;
+    /// For libcups's calls; null when there was no server at all. Owned by this object.
+    http_t *http() const { return mHttp; }
+    /// Connects anew, as the same person, after a call failed. \return whether there is a server.
+    bool reconnect();
+    /// From now on the stop flag means nothing, nobody is asked for a password, and all calls end at the given time
+    /// from now: for putting in order what was begun.
+    void allowOnly(std::chrono::milliseconds time);
+
+    /// Whether calls fail because the stop flag is set.
+    bool isStopped() const;
+    /// Whether calls fail because the server is gone or silent.
+    bool isUnreachable() const;
+    /// Why the last call failed, as a sentence; null when it was stopped. For use in the connection's own thread.
+    QString problem() const;
+    /// That the server cannot be reached, as a sentence.
+    static QString noAnswer();
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    ServerConnection(const std::atomic<bool> *stop, Passwords passwords);
+    bool isOver() const;
+    bool mayWaitOn();
+    const char *answerPassword();
+
+    http_t *mHttp = nullptr;
+    const std::atomic<bool> *mStop = nullptr;
+    Passwords mPasswords;
+    std::optional<Clock::time_point> mEnd; ///< when all calls end
+    Clock::time_point mLastTick;           ///< when libcups last waited in vain
+    Clock::time_point mSilentSince;
+    bool mIsSilent = false;
+    int mQuestions = 0;
+    bool mWasRefused = false; ///< no password was given, or none that is good
+    Secret mPassword;         ///< libcups reads it from here
+    QByteArray mThreadsUser;  ///< who the thread's calls are made for, before any question
+    ServerConnection *mOuter; ///< the thread's connection before this one
+};
+
+} // namespace tapeprint::job

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: Apache-2.0
+// The connection to the print server when the server is silent, goes away, or wants a password.
+#include "job/ServerConnection.h"
+#include "tests/support/MeddlingServer.h"
+
+#include <QTemporaryDir>
+
+#include <chrono>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace tapeprint::job;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+using tapeprint::test::Meddling;
+using tapeprint::test::MeddlingServer;
+using tapeprint::test::SeenRequest;
+
+class ServerConnectionTest : public testing::Test
+{
+protected:
+    void SetUp() override { cupsSetServer(socket.toUtf8().constData()); }
+    void TearDown() override
+    {
+        cupsSetServer(nullptr);
+        setPasswordAsker(nullptr);
+    }
+
+    /// \return whether the server answered a request.
+    static bool ask(const ServerConnection &server)
+    {
+        ipp_t *response = cupsDoRequest(server.http(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/");
+        const bool answered = response != nullptr && cupsLastError() == IPP_STATUS_OK;
+        ippDelete(response);
+        return answered;
+    }
+
+    /// Answers with a user's passwords, one after the other, and notes the questions.
+    void answerWith(const std::vector<QByteArray> &passwords)
+    {
+        setPasswordAsker([this, passwords](const PasswordQuestion &question, const std::function<bool()> &) {
+            questions.push_back(question.user.toStdString() + ' ' + std::to_string(question.attempt));
+            const auto at = questions.size() - 1;
+            QByteArray password = at < passwords.size() ? passwords[at] : QByteArray();
+            return at < passwords.size() ? std::optional(Credentials{QStringLiteral("anna"), Secret(password)})
+                                         : std::nullopt;
+        });
+    }
+
+    static Meddling letAnnaIn(const SeenRequest &request)
+    {
+        return request.authorization == "anna:right" ? Meddling::AnswerOk : Meddling::Deny;
+    }
+
+    QTemporaryDir folder;
+    QString socket = folder.filePath(QStringLiteral("server.sock"));
+    std::atomic<bool> stop{false};
+    std::vector<std::string> questions;
+    std::string me = cupsUser();
+};
+
+TEST_F(ServerConnectionTest, SilentServer_IsLeftWithinASecondAfterAStop)
+{
+    const MeddlingServer silent(socket, {}, [](const SeenRequest &) { return Meddling::KeepSilent; });
+    const auto server = ServerConnection::open(&stop);
+    ASSERT_TRUE(server->isOpen());
+    std::thread person([this] {
+        std::this_thread::sleep_for(milliseconds(300));
+        stop = true;
+    });
+    const auto start = steady_clock::now();
+    EXPECT_FALSE(ask(*server));
+    // A second of libcups's own for a first word of the server is waited through by itself.
+    EXPECT_LT(steady_clock::now() - start, milliseconds(300 + 1000 + 700));
+    person.join();
+    EXPECT_TRUE(server->isStopped());
+    EXPECT_TRUE(server->problem().isNull()); // the person knows
+}
+
+TEST_F(ServerConnectionTest, SilentServer_GetsNoMoreThanTheTimeAllowed)
+{
+    const MeddlingServer silent(socket, {}, [](const SeenRequest &) { return Meddling::KeepSilent; });
+    const auto server = ServerConnection::open(&stop);
+    stop = true;
+    server->allowOnly(milliseconds(1500));
+    EXPECT_FALSE(server->isStopped()); // what was begun is put in order all the same
+    const auto start = steady_clock::now();
+    EXPECT_FALSE(ask(*server));
+    EXPECT_GT(steady_clock::now() - start, milliseconds(1400));
+    EXPECT_LT(steady_clock::now() - start, milliseconds(3000));
+}
+
+TEST_F(ServerConnectionTest, NoServer_IsSaidAtOnce)
+{
+    const auto start = steady_clock::now();
+    const auto server = ServerConnection::open(&stop);
+    EXPECT_FALSE(server->isOpen());
+    EXPECT_TRUE(server->problem().contains(u"server.sock does not answer")) << server->problem().toStdString();
+    EXPECT_LT(steady_clock::now() - start, milliseconds(1000));
+}
+
+TEST_F(ServerConnectionTest, ServerThatComesBack_TakesTheSameConnectionAnew)
+{
+    MeddlingServer around(socket, {}, [](const SeenRequest &) { return Meddling::AnswerOk; });
+    const auto server = ServerConnection::open(&stop);
+    EXPECT_TRUE(ask(*server));
+    around.goAway();
+    EXPECT_FALSE(ask(*server));
+    EXPECT_FALSE(server->reconnect());
+    EXPECT_TRUE(server->isUnreachable());
+    around.comeBack();
+    EXPECT_TRUE(server->reconnect());
+    EXPECT_TRUE(ask(*server));
+}
+
+TEST_F(ServerConnectionTest, WrongPassword_IsAskedForAgainAndTheRightOneHolds)
+{
+    const MeddlingServer guarded(socket, {}, letAnnaIn);
+    answerWith({"wrong", "right"});
+    const auto server = ServerConnection::open(&stop);
+    EXPECT_TRUE(ask(*server));
+    EXPECT_EQ(questions, (std::vector<std::string>{me + " 1", "anna 2"}));
+    EXPECT_TRUE(ask(*server));
+    EXPECT_TRUE(server->reconnect());
+    EXPECT_TRUE(ask(*server));
+    EXPECT_EQ(questions.size(), 2U); // who this is is known on this connection
+}
+
+TEST_F(ServerConnectionTest, PasswordGiven_IsForgottenWithTheConnection)
+{
+    const MeddlingServer guarded(socket, {}, letAnnaIn);
+    answerWith({"right"});
+    EXPECT_TRUE(ask(*ServerConnection::open(&stop)));
+    EXPECT_EQ(cupsUser(), me);
+    EXPECT_FALSE(ask(*ServerConnection::open(&stop)));
+    EXPECT_EQ(questions, (std::vector<std::string>{me + " 1", me + " 1"}));
+}
+
+TEST_F(ServerConnectionTest, ServerThatAsksForEver_IsAnsweredThreeTimes)
+{
+    const MeddlingServer never(socket, {}, [](const SeenRequest &) { return Meddling::Deny; });
+    answerWith({"a", "b", "c", "d", "e"});
+    const auto server = ServerConnection::open(&stop);
+    EXPECT_FALSE(ask(*server));
+    EXPECT_EQ(questions, (std::vector<std::string>{me + " 1", "anna 2", "anna 3"}));
+    EXPECT_TRUE(server->problem().contains(u"user's name and password")) << server->problem().toStdString();
+}
+
+TEST_F(ServerConnectionTest, PersonWhoDeclines_IsAskedOnce)
+{
+    const MeddlingServer guarded(socket, {}, letAnnaIn);
+    answerWith({});
+    const auto server = ServerConnection::open(&stop);
+    EXPECT_FALSE(ask(*server));
+    EXPECT_EQ(questions.size(), 1U);
+    EXPECT_TRUE(server->problem().contains(u"user's name and password")) << server->problem().toStdString();
+}
+
+TEST_F(ServerConnectionTest, NobodyToAsk_IsSaidAtOnce)
+{
+    const MeddlingServer guarded(socket, {}, letAnnaIn);
+    const auto silent = ServerConnection::open(&stop);
+    EXPECT_FALSE(ask(*silent));
+    EXPECT_TRUE(silent->problem().contains(u"user's name and password")) << silent->problem().toStdString();
+    answerWith({"right"});
+    const auto quiet = ServerConnection::open(&stop, ServerConnection::Passwords::GoWithout);
+    EXPECT_FALSE(ask(*quiet));
+    EXPECT_TRUE(questions.empty());
+}
+
+TEST(Secret, TakesTheBytesAwayFromTheirOwner)
+{
+    QByteArray bytes("right");
+    const Secret secret(bytes);
+    EXPECT_STREQ(secret.text(), "right");
+    EXPECT_TRUE(bytes.isEmpty());
+    EXPECT_STREQ(Secret().text(), "");
+}
+
+} // namespace

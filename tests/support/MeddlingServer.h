@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+// A print server that goes wrong on purpose: it stands before a real one, or before none, sees each request's operation
+// and does to it what the test says.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <atomic>
+#include <functional>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace tapeprint::test
+{
+
+/// What is done to a request.
+enum class Meddling {
+    PassOn,       ///< nothing: the server behind answers
+    AnswerOk,     ///< an answer of success without attributes; no server is needed behind
+    Deny,         ///< 401: a user and a password are wanted
+    KeepSilent,   ///< the request goes nowhere, and nothing is said
+    SwallowReply, ///< the server behind does what it was asked for, and its answer is lost; then silence
+    HangUp,       ///< the connection is cut before the server behind hears of the request
+    CutShort,     ///< the server behind gets the beginning of the request, and then both connections are cut
+};
+
+/// A request as it is seen when its operation is known.
+struct SeenRequest {
+    int operation = 0;        ///< an IPP operation's number; 0 for a request that is none, such as OPTIONS
+    QByteArray authorization; ///< "user:password" of HTTP's Basic scheme; null when none was sent
+};
+
+class MeddlingServer
+{
+public:
+    using Rule = std::function<Meddling(const SeenRequest &request)>;
+
+    /// \param socket where it listens: a path that does not exist yet. \param behind the socket of the real server;
+    /// empty when there is none. \param rule called for each request, in threads of the server's own.
+    MeddlingServer(QString socket, QString behind, Rule rule);
+    ~MeddlingServer();
+    MeddlingServer(const MeddlingServer &) = delete;
+    MeddlingServer &operator=(const MeddlingServer &) = delete;
+
+    /// Cuts all connections and takes no more: nobody is there.
+    void goAway();
+    /// Is there again, on the same socket.
+    void comeBack();
+
+    /// The operations of all requests so far, in their order.
+    std::vector<int> operations() const;
+
+private:
+    class Connection;
+    void listenOn();
+    void acceptAll(int listener);
+    Meddling judge(const SeenRequest &request);
+
+    QString mSocket;
+    QString mBehind;
+    Rule mRule;
+    int mListener = -1;
+    std::atomic<bool> mGone{false};
+    std::thread mAcceptor;
+    mutable std::mutex mMutex;
+    std::vector<int> mOperations; ///< under the lock
+};
+
+} // namespace tapeprint::test
