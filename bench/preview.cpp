@@ -47,7 +47,7 @@ void writeLabel(const QString &path)
 /// Negative when there is nothing to measure.
 double changeToRepaint(const QString &label)
 {
-    QString error;
+    job::Problem error;
     job::Destination destination;
     destination.ppdPath = QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd");
     destination.ppd = job::openPpdFile(destination.ppdPath, &error);
@@ -85,7 +85,7 @@ double changeToRepaint(const QString &label)
 /// What is drawn on the label, as automatic length asks for it. Negative when nothing is found.
 double findDrawnRect(const QString &label)
 {
-    QString error;
+    job::Problem error;
     const std::unique_ptr<job::PdfPages> pages = job::PdfPages::open(label, &error);
     if (pages == nullptr) {
         return -1.0;

@@ -31,11 +31,11 @@ bool DocumentDesk::follow(const job::SettledJob &job)
         return false;
     }
     mWork.start([this, job, files = mFiles](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
-        QString problem;
+        job::Problem problem;
         std::optional<job::PdfDocuments> documents = job::collectPdfs(job, files, stop, &problem);
         return [this, documents = std::move(documents), problem] {
             mDocuments = documents;
-            mProblem = problem;
+            mProblem = problem.sentence;
             Q_EMIT changed();
         };
     });

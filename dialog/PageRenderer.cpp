@@ -142,7 +142,9 @@ private:
         std::vector<ReadDocument> documents;
         for (qsizetype i = 0; i < paths.size() && !mStop; ++i) {
             ReadDocument document;
-            mPages.push_back(job::PdfPages::open(paths[i], &document.problem, shownAs.value(i)));
+            job::Problem problem;
+            mPages.push_back(job::PdfPages::open(paths[i], &problem, shownAs.value(i)));
+            document.problem = problem.sentence;
             for (int page = 0; mPages.back() != nullptr && page < mPages.back()->count() && !mStop; ++page) {
                 document.sizes.push_back(mPages.back()->sizePt(page));
             }

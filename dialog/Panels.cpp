@@ -153,7 +153,7 @@ void Panels::remake()
     showAll();
 }
 
-bool Panels::settle(QString *error)
+bool Panels::settle(job::Problem *error)
 {
     showAll();
     const bool saved = saveValues(error);
@@ -210,7 +210,7 @@ void Panels::tellAreasChanged()
     }
 }
 
-bool Panels::saveValues(QString *error)
+bool Panels::saveValues(job::Problem *error)
 {
     for (const PanelEntry &entry : mPanels) {
         QString reason;
@@ -233,7 +233,7 @@ bool Panels::shouldPrint(QString *refusedBy)
     return true;
 }
 
-bool Panels::revert(QString *error)
+bool Panels::revert(job::Problem *error)
 {
     const QString paper = mJob.options().value(job::OptionName::pageSize);
     mJob.revert();

@@ -10,6 +10,7 @@
 #include "dialog/PanelHost.h"
 #include "dialog/PluginLoader.h"
 #include "job/Job.h"
+#include "job/Problem.h"
 #include "job/ReplacedOptions.h"
 
 #include <QObject>
@@ -66,7 +67,7 @@ public:
     void show(std::size_t index);
     /// Every panel is shown, as far as that goes without a window, and hands over its values: the job is what would be
     /// printed now. \param error takes the sentence of a panel that could not.
-    bool settle(QString *error);
+    bool settle(job::Problem *error);
     /// The person picks another paper. Panels hand over what was typed before the change, and hear of it once more when
     /// they have been shown with the new paper: what they learn by that shows in every control.
     void changePaper(const QString &paper);
@@ -79,12 +80,12 @@ public:
     void remake();
 
     /// Every panel hands over its values. \param error takes the sentence of the panel that could not.
-    bool saveValues(QString *error);
+    bool saveValues(job::Problem *error);
     /// Every panel's last word. \param refusedBy takes the name of the panel that says no.
     bool shouldPrint(QString *refusedBy);
     /// Job and panels go back to the values that the dialog was opened with. \param error takes the sentence of a panel
     /// that could not.
-    bool revert(QString *error);
+    bool revert(job::Problem *error);
     /// The job's options with what each panel's controls say this moment laid over them, sent or not.
     job::JobOptions currentOptions() const;
     /// What the panels set.

@@ -300,7 +300,7 @@ void PrintDialog::settlePanels()
     // What a panel makes of the values laid down is known before the person looks at them. An alert has no window to
     // stand over yet; a panel that cannot hand over its values says so when it is to print.
     const GatheredAlerts alerts;
-    QString error;
+    job::Problem error;
     mPanels.settle(&error);
     mAlerts = alerts.lines();
 }

@@ -58,8 +58,8 @@ public:
     /// What Print does when the settings are final, away from the window's thread. \param stop when it becomes true,
     /// the person has changed their mind. \return what became of the job; nothing, and a sentence in *error, when it
     /// could not be done and the window stays as it is. Without a sentence it was stopped.
-    using PrintAction = std::function<std::optional<job::PrintedJob>(const job::SettledJob &job,
-                                                                     const std::atomic<bool> &stop, QString *error)>;
+    using PrintAction = std::function<std::optional<job::PrintedJob>(
+        const job::SettledJob &job, const std::atomic<bool> &stop, job::Problem *error)>;
 
     /// \param job with a destination opened, and \param panels made for it; both outlive the window.
     PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction);
@@ -112,7 +112,7 @@ private:
     void remakePanels();
     void print();
     void setPrinting(bool isPrinting);
-    void finishPrinting(std::optional<job::PrintedJob> printed, const QString &error);
+    void finishPrinting(std::optional<job::PrintedJob> printed, const job::Problem &error);
 
     QWidget *makeFitControls();
     job::SettledJob currentJob() const;

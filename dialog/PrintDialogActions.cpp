@@ -112,13 +112,13 @@ void PrintDialog::pickPrinter(int index)
     // What was asked for is opened as it was asked for, with its own PPD and output; any other queue as it is.
     const QString name = mPrinterPopUp->itemData(index).toString();
     const job::QueueName queue = job::QueueName::parse(name);
-    QString error;
+    job::Problem error;
     std::optional<job::Destination> destination = name == mSetup.request.fullQueueName()
                                                       ? job::openDestination(mSetup.request, &error)
                                                       : job::openDestination(queue.queue, queue.instance, &error);
     if (!destination) {
         mPrinterPopUp->setCurrentIndex(mCurrentPrinter);
-        tellProblem(error);
+        tellProblem(error.sentence);
         return;
     }
     mCurrentPrinter = index;
@@ -197,9 +197,9 @@ job::SettledJob PrintDialog::currentJob() const
 
 void PrintDialog::revert()
 {
-    QString error;
+    job::Problem error;
     if (!mPanels.revert(&error)) {
-        tellProblem(error);
+        tellProblem(error.sentence);
     }
     // A length that was typed stands in the panel's field alone: only a panel made anew shows the first values.
     remakePanels();
@@ -219,20 +219,20 @@ void PrintDialog::remakePanels()
 
 void PrintDialog::print()
 {
-    QString error;
+    job::Problem error;
     if (!mPanels.saveValues(&error)) {
-        tellProblem(error);
+        tellProblem(error.sentence);
         return;
     }
     // A panel that refuses has told the person why; the dialog stays as it is.
-    if (!mPanels.shouldPrint(&error)) {
+    if (QString panel; !mPanels.shouldPrint(&panel)) {
         follow();
         return;
     }
     setPrinting(true);
     mPrinting.start([this, action = mPrintAction,
                      job = job::settle(mJob)](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
-        QString problem;
+        job::Problem problem;
         std::optional<job::PrintedJob> printed = action(job, stop, &problem);
         return [this, printed = std::move(printed), problem] { finishPrinting(printed, problem); };
     });
@@ -254,12 +254,12 @@ void PrintDialog::setPrinting(bool isPrinting)
     }
 }
 
-void PrintDialog::finishPrinting(std::optional<job::PrintedJob> printed, const QString &error)
+void PrintDialog::finishPrinting(std::optional<job::PrintedJob> printed, const job::Problem &error)
 {
     setPrinting(false);
     if (!printed) {
         if (!error.isNull()) { // without a sentence it was stopped
-            tellProblem(error);
+            tellProblem(error.sentence);
         }
         mPrintButton->setFocus();
         return;

@@ -27,10 +27,10 @@ void checkOptions(const tapeprint::job::JobOptions &options)
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QStringList arguments = size == 0 ? QStringList() : fuzz::inputText(data, size).split(u'\n');
-    QString error;
+    tapeprint::job::Problem error;
     const std::optional<tapeprint::CommandLine> line = tapeprint::parseCommandLine(arguments, &error);
     if (!line) {
-        require(!error.isEmpty());
+        require(!error.sentence.isEmpty());
         return 0;
     }
     require(line->request.outputPath.isEmpty() || !line->request.ppdPath.isEmpty());

@@ -65,7 +65,7 @@ QByteArray pageDescription(const QSizeF &sizePt)
            size + "\"\n*DefaultPaperDimension: Page\n*PaperDimension Page: \"" + size + "\"\n";
 }
 
-bool writeDescription(const QString &path, const QSizeF &sizePt, QString *error)
+bool writeDescription(const QString &path, const QSizeF &sizePt, Problem *error)
 {
     QFile file(path);
     const QByteArray text = pageDescription(sizePt);
@@ -95,7 +95,7 @@ struct Input {
 
 /// Runs cupsfilter from a document type to PDF. \param description a PPD, or null.
 bool convertByFilters(const Input &document, const QString &type, const QString &description,
-                      const QStringList &options, const QString &path, const std::atomic<bool> &stop, QString *error)
+                      const QStringList &options, const QString &path, const std::atomic<bool> &stop, Problem *error)
 {
     ConfinedCommand command;
     command.program = findCupsfilter();
@@ -131,8 +131,9 @@ bool convertByFilters(const Input &document, const QString &type, const QString 
         return false;
     }
     if (run.end != ConfinedRun::End::finished || run.exitCode != 0 || output.size() == 0) {
-        *error = Texts::tr("The filters could not make pages of the document %1: %2.")
-                     .arg(harmless(document.name), run.reason.isEmpty() ? complaintOf(run.messages) : run.reason);
+        *error = {Problem::BadDocument,
+                  Texts::tr("The filters could not make pages of the document %1: %2.")
+                      .arg(harmless(document.name), run.reason.isEmpty() ? complaintOf(run.messages) : run.reason)};
         return false;
     }
     return true;
@@ -140,7 +141,7 @@ bool convertByFilters(const Input &document, const QString &type, const QString 
 
 /// CUPS takes text as UTF-8. What is none is Latin-1, and is written anew beside the PDF.
 /// \return the file to print; null, and a sentence in *error, when that cannot be written.
-QString asUtf8(const QString &document, const QString &path, QString *error)
+QString asUtf8(const QString &document, const QString &path, Problem *error)
 {
     QFile file(document);
     QStringDecoder decoder(QStringDecoder::Utf8);
@@ -167,7 +168,7 @@ QString asUtf8(const QString &document, const QString &path, QString *error)
 }
 
 bool textToPdf(const QString &document, const QSizeF &pagePt, const QString &path, const std::atomic<bool> &stop,
-               QString *error)
+               Problem *error)
 {
     const QString text = asUtf8(document, path, error);
     const QString description = path + QLatin1String(".ppd");
@@ -188,7 +189,7 @@ bool textToPdf(const QString &document, const QSizeF &pagePt, const QString &pat
     return done;
 }
 
-bool postScriptToPdf(const QString &document, const QString &path, const std::atomic<bool> &stop, QString *error)
+bool postScriptToPdf(const QString &document, const QString &path, const std::atomic<bool> &stop, Problem *error)
 {
     const QString type = QStringLiteral("application/postscript");
     QFile file(document);
@@ -245,7 +246,7 @@ DocumentKind documentKindOf(const QString &path)
 }
 
 bool convertToPdf(const QString &document, const QSizeF &textPagePt, const QString &path, const std::atomic<bool> &stop,
-                  QString *error)
+                  Problem *error)
 {
     switch (documentKindOf(document)) {
     case DocumentKind::Pdf:
@@ -259,10 +260,11 @@ bool convertToPdf(const QString &document, const QSizeF &textPagePt, const QStri
     case DocumentKind::Unknown:
         break;
     }
-    *error =
+    *error = {
+        Problem::BadDocument,
         Texts::tr("The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture "
                   "or plain text.")
-            .arg(harmless(document));
+            .arg(harmless(document))};
     return false;
 }
 

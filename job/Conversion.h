@@ -3,6 +3,8 @@
 // a page of the picture's own size, which CUPS's filter for pictures would lose.
 #pragma once
 
+#include "job/Problem.h"
+
 #include <QSizeF>
 #include <QString>
 
@@ -25,7 +27,7 @@ QString noRoomForTemporaryFiles(const QString &reason);
 /// \param path the file to write. \param stop when it becomes true, the conversion ends and the answer is false with a
 /// null sentence. \param error takes a sentence that names the document. \return whether the file is there.
 bool convertToPdf(const QString &document, const QSizeF &textPagePt, const QString &path, const std::atomic<bool> &stop,
-                  QString *error);
+                  Problem *error);
 
 /// Whether a document's PDF depends on the page that text is set on.
 inline bool dependsOnTextPage(DocumentKind kind)

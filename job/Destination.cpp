@@ -13,9 +13,9 @@ namespace tapeprint::job
 namespace
 {
 
-std::optional<Destination> withQueuePpd(Destination destination, QString *error)
+std::optional<Destination> withQueuePpd(Destination destination, Problem *error)
 {
-    QString reason;
+    Problem reason;
     destination.ppd = openQueuePpd(*destination.queue, &reason);
     if (!reason.isNull()) {
         *error = reason;
@@ -25,7 +25,7 @@ std::optional<Destination> withQueuePpd(Destination destination, QString *error)
 }
 
 /// Whether the job can be done by the PPD file's filters: asked before there is a window, and again before they run.
-bool mayRun(const Destination &destination, QString *error)
+bool mayRun(const Destination &destination, Problem *error)
 {
     if (!destination.outputPath.isEmpty() &&
         !mayWriteTo({destination.outputPath, destination.mayReplaceOutput, destination.documents}, error)) {
@@ -45,7 +45,7 @@ QString Destination::title() const
     return queue->fullName();
 }
 
-std::optional<Destination> openDestination(const JobRequest &request, QString *error)
+std::optional<Destination> openDestination(const JobRequest &request, Problem *error)
 {
     Destination destination;
     destination.outputPath = request.outputPath;
@@ -76,7 +76,7 @@ std::optional<Destination> openDestination(const JobRequest &request, QString *e
     return destination.ppd ? std::optional(std::move(destination)) : withQueuePpd(std::move(destination), error);
 }
 
-std::optional<Destination> openDestination(const QString &queue, const QString &instance, QString *error)
+std::optional<Destination> openDestination(const QString &queue, const QString &instance, Problem *error)
 {
     Destination destination;
     destination.queue = findQueue(queue, instance, error);

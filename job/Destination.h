@@ -6,6 +6,7 @@
 #include "job/JobOptions.h"
 #include "job/PpdFile.h"
 #include "job/Printers.h"
+#include "job/Problem.h"
 
 #include <QString>
 
@@ -51,9 +52,9 @@ struct Destination {
 };
 
 /// Opens the queue and the PPD that a request names. \param error takes a sentence on failure.
-std::optional<Destination> openDestination(const JobRequest &request, QString *error);
+std::optional<Destination> openDestination(const JobRequest &request, Problem *error);
 
 /// Opens a queue with its own PPD, as when the person picks another printer.
-std::optional<Destination> openDestination(const QString &queue, const QString &instance, QString *error);
+std::optional<Destination> openDestination(const QString &queue, const QString &instance, Problem *error);
 
 } // namespace tapeprint::job

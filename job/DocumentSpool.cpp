@@ -31,9 +31,10 @@ bool staysAsNamed(const FileStamp &file)
            !place.startsWith(QLatin1String("/sys/"));
 }
 
-void sayUnreadable(const QString &path, const QString &reason, QString *error)
+void sayUnreadable(const QString &path, const QString &reason, Problem *error)
 {
-    *error = QStringLiteral("The document %1 cannot be read (%2): name a readable file.").arg(harmless(path), reason);
+    *error = {Problem::BadDocument,
+              QStringLiteral("The document %1 cannot be read (%2): name a readable file.").arg(harmless(path), reason)};
 }
 
 } // namespace
@@ -43,7 +44,7 @@ DocumentSpool::~DocumentSpool() = default;
 DocumentSpool::DocumentSpool(DocumentSpool &&) noexcept = default;
 DocumentSpool &DocumentSpool::operator=(DocumentSpool &&) noexcept = default;
 
-std::optional<DocumentSpool> DocumentSpool::collect(const QStringList &files, QString *error)
+std::optional<DocumentSpool> DocumentSpool::collect(const QStringList &files, Problem *error)
 {
     DocumentSpool documents;
     for (const QString &file : files) {
@@ -58,7 +59,7 @@ std::optional<DocumentSpool> DocumentSpool::collect(const QStringList &files, QS
     return documents;
 }
 
-bool DocumentSpool::add(const QString &file, QString *error)
+bool DocumentSpool::add(const QString &file, Problem *error)
 {
     const std::optional<FileStamp> source = FileStamp::ofPath(file);
     if (!source) {
@@ -79,17 +80,19 @@ bool DocumentSpool::add(const QString &file, QString *error)
         return keep(input, QFileInfo(file).fileName(), QStringLiteral("The document %1").arg(harmless(file)), error);
     }
     if (source->size == 0) {
-        *error = QStringLiteral("The document %1 is empty: name a file with something to print.").arg(harmless(file));
+        *error = {Problem::BadDocument,
+                  QStringLiteral("The document %1 is empty: name a file with something to print.").arg(harmless(file))};
         return false;
     }
     mFiles.append(file);
     return true;
 }
 
-bool DocumentSpool::addStandardInput(QString *error)
+bool DocumentSpool::addStandardInput(Problem *error)
 {
     if (isatty(STDIN_FILENO) != 0) {
-        *error = QStringLiteral("No document is named: give a FILE, or pipe one into standard input.");
+        *error = {Problem::BadUsage,
+                  QStringLiteral("No document is named: give a FILE, or pipe one into standard input.")};
         return false;
     }
     // It has no name under which it could be looked at again: a null path.
@@ -98,14 +101,15 @@ bool DocumentSpool::addStandardInput(QString *error)
     }
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly)) {
-        *error = QStringLiteral("Standard input cannot be read (%1): name a FILE.").arg(input.errorString());
+        *error = {Problem::BadDocument,
+                  QStringLiteral("Standard input cannot be read (%1): name a FILE.").arg(input.errorString())};
         return false;
     }
     return keep(input, QStringLiteral("stdin"), QStringLiteral("Standard input"), error);
 }
 
 /// Reads to the end into a private file. \param shownAs begins a sentence.
-bool DocumentSpool::keep(QFile &input, const QString &name, const QString &shownAs, QString *error)
+bool DocumentSpool::keep(QFile &input, const QString &name, const QString &shownAs, Problem *error)
 {
     QString reason;
     auto kept = PrivateFile::create(name, &reason);
@@ -119,11 +123,13 @@ bool DocumentSpool::keep(QFile &input, const QString &name, const QString &shown
         return false;
     }
     if (input.error() != QFileDevice::NoError) {
-        *error = QStringLiteral("%1 cannot be read (%2): name a readable FILE.").arg(shownAs, input.errorString());
+        *error = {Problem::BadDocument,
+                  QStringLiteral("%1 cannot be read (%2): name a readable FILE.").arg(shownAs, input.errorString())};
         return false;
     }
     if (kept->file().size() == 0) {
-        *error = QStringLiteral("%1 is empty: give a FILE, or pipe a document in.").arg(shownAs);
+        *error = {Problem::BadDocument,
+                  QStringLiteral("%1 is empty: give a FILE, or pipe a document in.").arg(shownAs)};
         return false;
     }
     mFiles.append(kept->path());

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "job/FileStamp.h"
+#include "job/Problem.h"
 
 #include <QString>
 #include <QStringList>
@@ -28,7 +29,7 @@ public:
 
     /// The documents of a command line; standard input when it names no file. Pipes and devices are read here, once, to
     /// their end. \param error takes a sentence about a document that cannot be read or is empty.
-    static std::optional<DocumentSpool> collect(const QStringList &files, QString *error);
+    static std::optional<DocumentSpool> collect(const QStringList &files, Problem *error);
 
     /// Plain files with the documents.
     const QStringList &files() const { return mFiles; }
@@ -38,9 +39,9 @@ public:
     QString title(const QString &asked) const;
 
 private:
-    bool add(const QString &file, QString *error);
-    bool addStandardInput(QString *error);
-    bool keep(QFile &input, const QString &name, const QString &shownAs, QString *error);
+    bool add(const QString &file, Problem *error);
+    bool addStandardInput(Problem *error);
+    bool keep(QFile &input, const QString &name, const QString &shownAs, Problem *error);
 
     QString mTitle;
     QStringList mFiles;

@@ -57,7 +57,7 @@ QString placeOf(const QString &path)
     return folder == u"/" ? folder + info.fileName() : folder + u'/' + info.fileName();
 }
 
-bool areUnchanged(const FileStamps &files, QString *error)
+bool areUnchanged(const FileStamps &files, Problem *error)
 {
     for (const FileStamp &file : files) {
         // What comes through a pipe was read to its end at once, and its name says nothing more.
@@ -66,13 +66,15 @@ bool areUnchanged(const FileStamps &files, QString *error)
         }
         const std::optional<FileStamp> now = FileStamp::ofPath(file.path);
         if (!now) {
-            *error = Texts::tr("The document %1 is gone: nothing was printed. Put it back, or open another.")
-                         .arg(harmless(file.path));
+            *error = {Problem::BadDocument,
+                      Texts::tr("The document %1 is gone: nothing was printed. Put it back, or open another.")
+                          .arg(harmless(file.path))};
             return false;
         }
         if (!file.isUnchanged(*now)) {
-            *error = Texts::tr("The document %1 has changed since it was opened: nothing was printed. Open it again.")
-                         .arg(harmless(file.path));
+            *error = {Problem::BadDocument,
+                      Texts::tr("The document %1 has changed since it was opened: nothing was printed. Open it again.")
+                          .arg(harmless(file.path))};
             return false;
         }
     }

@@ -2,6 +2,8 @@
 // Which file a name stands for, and in what state it is: names may be links, and files change while a window is open.
 #pragma once
 
+#include "job/Problem.h"
+
 #include <QString>
 
 #include <optional>
@@ -40,6 +42,6 @@ QString placeOf(const QString &path);
 using FileStamps = std::vector<FileStamp>;
 
 /// Whether the files are still what they were. \param error takes a sentence about the first that is not.
-bool areUnchanged(const FileStamps &files, QString *error);
+bool areUnchanged(const FileStamps &files, Problem *error);
 
 } // namespace tapeprint::job

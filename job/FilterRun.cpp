@@ -99,13 +99,13 @@ QByteArray ppdText(const QString &path, QString *reason)
 }
 
 /// The PPD that the filters get: a copy, so that what was looked at is what they read.
-std::unique_ptr<PrivateFile> copyOfPpd(const FilterJob &job, QString *error)
+std::unique_ptr<PrivateFile> copyOfPpd(const FilterJob &job, Problem *error)
 {
     QString reason;
     const QByteArray text = ppdText(job.ppdPath, &reason);
     if (text.isNull()) {
-        *error = Texts::tr("The PPD file %1 cannot be read (%2): name a readable PPD file.")
-                     .arg(harmless(job.ppdPath), harmless(reason));
+        *error = {Problem::BadDescription, Texts::tr("The PPD file %1 cannot be read (%2): name a readable PPD file.")
+                                               .arg(harmless(job.ppdPath), harmless(reason))};
         return nullptr;
     }
     auto copy = PrivateFile::create(QStringLiteral("printer.ppd"), &reason);
@@ -141,7 +141,7 @@ struct FilterChain {
     QStringList others; ///< programs of a trusted description
 };
 
-bool runOneFile(const FilterJob &job, const FilterChain &chain, const QString &file, OutputFile &output, QString *error)
+bool runOneFile(const FilterJob &job, const FilterChain &chain, const QString &file, OutputFile &output, Problem *error)
 {
     const QString path = placeOf(file);
     const ConfinedRun run = runConfined(
@@ -151,13 +151,13 @@ bool runOneFile(const FilterJob &job, const FilterChain &chain, const QString &f
         return false; // the output has said why
     }
     if (run.end != ConfinedRun::End::finished || run.exitCode != 0) {
-        *error = failureOf(run, job, file);
+        *error = {Problem::FailedJob, failureOf(run, job, file)};
         return false;
     }
     return true;
 }
 
-std::optional<FilterOutput> runChain(const FilterJob &job, const FilterChain &chain, QString *error)
+std::optional<FilterOutput> runChain(const FilterJob &job, const FilterChain &chain, Problem *error)
 {
     const std::unique_ptr<OutputFile> output =
         OutputFile::open({job.outputPath, job.mayReplaceOutput, job.documents, job.stop}, error);
@@ -170,8 +170,9 @@ std::optional<FilterOutput> runChain(const FilterJob &job, const FilterChain &ch
         }
     }
     if (output->bytes() == 0) {
-        *error = Texts::tr("The filters of %1 made nothing of the document: see that it has pages to print.")
-                     .arg(harmless(job.ppdPath));
+        *error = {Problem::FailedJob,
+                  Texts::tr("The filters of %1 made nothing of the document: see that it has pages to print.")
+                      .arg(harmless(job.ppdPath))};
         return std::nullopt;
     }
     if (!areUnchanged(job.documents, error) || !output->commit(error)) {
@@ -182,7 +183,7 @@ std::optional<FilterOutput> runChain(const FilterJob &job, const FilterChain &ch
 
 } // namespace
 
-std::optional<FilterOutput> runFilters(const FilterJob &job, QString *error)
+std::optional<FilterOutput> runFilters(const FilterJob &job, Problem *error)
 {
     const QString program = findCupsfilter();
     if (program.isEmpty()) {

@@ -5,6 +5,7 @@
 #include "job/ConfinedRun.h"
 #include "job/FileStamp.h"
 #include "job/JobOptions.h"
+#include "job/Problem.h"
 
 #include <QString>
 #include <QStringList>
@@ -45,7 +46,7 @@ struct FilterOutput {
 
 /// Runs the filters, confined where the machine allows it. A plain file appears when all bytes are in it, and what
 /// stood there before stays until then. \param error takes a sentence on failure.
-std::optional<FilterOutput> runFilters(const FilterJob &job, QString *error);
+std::optional<FilterOutput> runFilters(const FilterJob &job, Problem *error);
 
 /// What the person should know of a run of a PPD's filters: that nothing confines them here, and which programs of its
 /// own a trusted description runs.

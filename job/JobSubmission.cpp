@@ -42,11 +42,13 @@ QString serverSays()
 }
 
 bool sendDocument(const Target &target, int jobId, const QString &path, const QString &name, bool isLast,
-                  QString *error)
+                  Problem *error)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        *error = Texts::tr("The document %1 cannot be read (%2): name a readable file.").arg(path, file.errorString());
+        *error = {
+            Problem::BadDocument,
+            Texts::tr("The document %1 cannot be read (%2): name a readable file.").arg(path, file.errorString())};
         return false;
     }
     cups_dest_t *destination = target.destination.get();
@@ -61,9 +63,10 @@ bool sendDocument(const Target &target, int jobId, const QString &path, const QS
     // Finished in any case: the connection waits for it.
     const ipp_status_t finished = cupsFinishDestDocument(CUPS_HTTP_DEFAULT, destination, target.info.get());
     if (!sent || finished > IPP_STATUS_OK_CONFLICTING) {
-        *error = Texts::tr("The print server did not take the document %1 (%2): see that it is a kind of document "
-                           "that the queue prints.")
-                     .arg(path, serverSays());
+        *error = {Problem::RejectedJob,
+                  Texts::tr("The print server did not take the document %1 (%2): see that it is a kind of document "
+                            "that the queue prints.")
+                      .arg(path, serverSays())};
         return false;
     }
     return true;
@@ -86,7 +89,7 @@ QString stateOfJob(const PrintQueue &queue, int jobId)
 } // namespace
 
 std::optional<SubmittedJob> submitJob(const PrintQueue &queue, const QString &title, const JobOptions &options,
-                                      const QStringList &files, QString *error)
+                                      const QStringList &files, Problem *error)
 {
     if (!serverAnswers(error)) {
         return std::nullopt;
@@ -97,8 +100,9 @@ std::optional<SubmittedJob> submitJob(const PrintQueue &queue, const QString &ti
         target.info.reset(cupsCopyDestInfo(CUPS_HTTP_DEFAULT, target.destination.get()));
     }
     if (!target.info) {
-        *error = Texts::tr("The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.")
-                     .arg(queue.name, serverSays());
+        *error = {Problem::NoSuchPrinter,
+                  Texts::tr("The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.")
+                      .arg(queue.name, serverSays())};
         return std::nullopt;
     }
 
@@ -108,8 +112,9 @@ std::optional<SubmittedJob> submitJob(const PrintQueue &queue, const QString &ti
         cupsCreateDestJob(CUPS_HTTP_DEFAULT, target.destination.get(), target.info.get(), &job.id,
                           title.toUtf8().constData(), cupsOptions.count(), cupsOptions.data());
     if (created > IPP_STATUS_OK_CONFLICTING || job.id == 0) {
-        *error =
-            Texts::tr("The queue %1 did not take the job (%2): see lpstat -p %1 -l.").arg(queue.name, serverSays());
+        *error = {
+            Problem::RejectedJob,
+            Texts::tr("The queue %1 did not take the job (%2): see lpstat -p %1 -l.").arg(queue.name, serverSays())};
         return std::nullopt;
     }
     for (const QString &file : files) {

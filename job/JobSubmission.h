@@ -4,6 +4,7 @@
 
 #include "job/JobOptions.h"
 #include "job/Printers.h"
+#include "job/Problem.h"
 
 #include <QString>
 #include <QStringList>
@@ -22,6 +23,6 @@ struct SubmittedJob {
 /// Sends documents as one job. A job that cannot be completed is cancelled.
 /// \param error takes a sentence when the server does not take it.
 std::optional<SubmittedJob> submitJob(const PrintQueue &queue, const QString &title, const JobOptions &options,
-                                      const QStringList &files, QString *error);
+                                      const QStringList &files, Problem *error);
 
 } // namespace tapeprint::job

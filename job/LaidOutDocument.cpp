@@ -175,7 +175,7 @@ QString openingFailure(const QString &path, const std::exception &failure)
 
 } // namespace
 
-std::optional<PageSizes> pageSizesOf(const QString &pdf, QString *error, const QString &shownAs)
+std::optional<PageSizes> pageSizesOf(const QString &pdf, Problem *error, const QString &shownAs)
 {
     const QString name = harmless(shownAs.isNull() ? pdf : shownAs);
     try {
@@ -187,18 +187,19 @@ std::optional<PageSizes> pageSizesOf(const QString &pdf, QString *error, const Q
             sizes.push_back(box.sizePt());
         }
         if (sizes.empty()) {
-            *error = Texts::tr("The document %1 has no page: name one with something to print.").arg(name);
+            *error = {Problem::BadDocument,
+                      Texts::tr("The document %1 has no page: name one with something to print.").arg(name)};
             return std::nullopt;
         }
         return sizes;
     } catch (const std::exception &failure) {
-        *error = openingFailure(name, failure);
+        *error = {Problem::BadDocument, openingFailure(name, failure)};
         return std::nullopt;
     }
 }
 
 bool writeLaidOut(const LabelPlan &plan, const QStringList &pdfs, RasterShift shift, const QString &path,
-                  const std::atomic<bool> &stop, QString *error)
+                  const std::atomic<bool> &stop, Problem *error)
 {
     QPDF target;
     target.emptyPDF();
@@ -210,7 +211,7 @@ bool writeLaidOut(const LabelPlan &plan, const QStringList &pdfs, RasterShift sh
             sources.push_back(std::make_unique<Source>(pdf));
         }
     } catch (const std::exception &failure) {
-        *error = openingFailure(current, failure);
+        *error = {Problem::BadDocument, openingFailure(current, failure)};
         return false;
     }
     try {
@@ -225,9 +226,10 @@ bool writeLaidOut(const LabelPlan &plan, const QStringList &pdfs, RasterShift sh
         writer.setStaticID(true); // the same job is the same document
         writer.write();
     } catch (const std::exception &failure) {
-        *error = Texts::tr("The labels cannot be laid out (%1): see that the document is whole and that there is room "
-                           "for temporary files.")
-                     .arg(reasonOf(failure));
+        *error = {Problem::BadDocument,
+                  Texts::tr("The labels cannot be laid out (%1): see that the document is whole and that there is room "
+                            "for temporary files.")
+                      .arg(reasonOf(failure))};
         return false;
     }
     return true;

@@ -41,7 +41,7 @@ QString lengthText(double points)
 } // namespace
 
 std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
-                                        QString *error)
+                                        Problem *error)
 {
     const QSizeF textPagePt = textPageOf(job);
     PdfDocuments documents;
@@ -73,7 +73,7 @@ std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList
     return documents;
 }
 
-bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, QString *error)
+bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, Problem *error)
 {
     documents.drawn.clear();
     for (const QString &pdf : documents.pdfs) {
@@ -129,21 +129,22 @@ QString lengthNotice(const TapePage &page)
 }
 
 std::optional<LabelPlan> layOutJob(const SettledJob &job, const PdfDocuments &documents, const QString &path,
-                                   const std::atomic<bool> &stop, QString *error)
+                                   const std::atomic<bool> &stop, Problem *error)
 {
     const TapePage page = job.page;
     if (page.layoutRect().isEmpty()) {
-        *error = Texts::tr("The margins leave nothing of the tape to print on: make the tape longer or the margin "
-                           "smaller.");
+        *error = {Problem::RefusedValue,
+                  Texts::tr("The margins leave nothing of the tape to print on: make the tape longer or the margin "
+                            "smaller.")};
         return std::nullopt;
     }
     LabelPlan plan = planLabels(documents.sizes, page, job.options, documents.drawn);
     if (plan.labels.empty()) {
-        *error = Texts::tr("None of the document's pages is chosen: change the page range.");
+        *error = {Problem::RefusedValue, Texts::tr("None of the document's pages is chosen: change the page range.")};
         return std::nullopt;
     }
     if (const QString problem = pageWithoutSize(plan, documents); !problem.isNull()) {
-        *error = problem;
+        *error = {Problem::BadDocument, problem};
         return std::nullopt;
     }
     if (!writeLaidOut(plan, documents.pdfs, job.shift, path, stop, error)) {

@@ -5,6 +5,7 @@
 
 #include "job/LabelPlan.h"
 #include "job/PrivateFile.h"
+#include "job/Problem.h"
 #include "job/SettledJob.h"
 
 #include <QString>
@@ -30,10 +31,10 @@ struct PdfDocuments {
 /// Makes PDFs of a job's documents, which are only read. With fit-length it also looks at what is drawn on them.
 /// \param error takes a sentence about the first document that cannot be used.
 std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
-                                        QString *error);
+                                        Problem *error);
 
 /// Looks at what is drawn on the pages of documents. \return false when it was stopped or a document cannot be read.
-bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, QString *error);
+bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, Problem *error);
 
 /// The page that text is set on for a job: what is laid out on, lying, so that lines run along the tape. With
 /// fit-length it is as long as the tape may become, so that no line is broken for want of tape.
@@ -47,6 +48,6 @@ QString lengthNotice(const TapePage &page);
 
 /// Lays a job's documents out on its page. \param path the PDF to write. \return the plan that was followed.
 std::optional<LabelPlan> layOutJob(const SettledJob &job, const PdfDocuments &documents, const QString &path,
-                                   const std::atomic<bool> &stop, QString *error);
+                                   const std::atomic<bool> &stop, Problem *error);
 
 } // namespace tapeprint::job

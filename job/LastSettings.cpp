@@ -44,7 +44,7 @@ JobOptions optionsFrom(const QStringList &lines)
 
 } // namespace
 
-bool keepLastSettings(const QString &queue, const QString &tape, const JobOptions &options, QString *error)
+bool keepLastSettings(const QString &queue, const QString &tape, const JobOptions &options, Problem *error)
 {
     QSettings settings(settingsPath(), QSettings::IniFormat);
     settings.beginGroup(queue);
@@ -54,8 +54,9 @@ bool keepLastSettings(const QString &queue, const QString &tape, const JobOption
     if (settings.status() == QSettings::NoError) {
         return true;
     }
-    *error = Texts::tr("The settings cannot be kept for the next time: %1 cannot be written.")
-                 .arg(harmless(settings.fileName()));
+    *error = {Problem::UnwritableOutput,
+              Texts::tr("The settings cannot be kept for the next time: %1 cannot be written.")
+                  .arg(harmless(settings.fileName()))};
     return false;
 }
 
@@ -65,9 +66,8 @@ std::optional<JobOptions> lastSettings(const QString &queue, const QString &tape
     settings.beginGroup(queue);
     const QString ofTape = tapeKey(tape);
     const QString key = settings.contains(ofTape) ? ofTape : settings.value(latestKey).toString();
-    return key.isEmpty() || !settings.contains(key)
-               ? std::nullopt
-               : std::optional(optionsFrom(settings.value(key).toStringList()));
+    return key.isEmpty() || !settings.contains(key) ? std::nullopt
+                                                    : std::optional(optionsFrom(settings.value(key).toStringList()));
 }
 
 } // namespace tapeprint::job

@@ -157,7 +157,7 @@ QByteArray optionWords(const JobOptions &options)
 
 } // namespace
 
-std::optional<LpOptionsFile> LpOptionsFile::read(const QString &path, QString *error)
+std::optional<LpOptionsFile> LpOptionsFile::read(const QString &path, Problem *error)
 {
     LpOptionsFile read(path);
     const QFileInfo info(path);
@@ -206,17 +206,17 @@ std::optional<LpOptionsFile::Entry> LpOptionsFile::find(const QString &queue, co
     return std::nullopt;
 }
 
-bool LpOptionsFile::set(const QString &queue, const QString &instance, const JobOptions &options, QString *error)
+bool LpOptionsFile::set(const QString &queue, const QString &instance, const JobOptions &options, Problem *error)
 {
     Line line{destKeyword, queue.toUtf8(), instance.toUtf8(), optionWords(options)};
     if (written(line).size() >= longestLine) {
-        *error = Texts::tr("These are more options than CUPS keeps in a preset.");
+        *error = {Problem::RefusedValue, Texts::tr("These are more options than CUPS keeps in a preset.")};
         return false;
     }
     // Asked of libcups' own parser: a value may hold what its line cannot.
     const Line readBack = parse(written(line));
     if (written(line).contains('\n') || !readBack.isAbout(queue, instance) || !areSame(optionsOf(readBack), options)) {
-        *error = Texts::tr("An option has a value that CUPS cannot keep in a preset.");
+        *error = {Problem::RefusedValue, Texts::tr("An option has a value that CUPS cannot keep in a preset.")};
         return false;
     }
     bool isThere = false;
@@ -275,7 +275,7 @@ void LpOptionsFile::makeDefault(const QString &queue, const QString &instance)
     }
 }
 
-bool LpOptionsFile::write(QString *error) const
+bool LpOptionsFile::write(Problem *error) const
 {
     constexpr mode_t forThePersonAlone = 0700; // as libcups makes it
     const QByteArray folder = QFile::encodeName(QFileInfo(mPath).path());
@@ -289,8 +289,9 @@ bool LpOptionsFile::write(QString *error) const
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit()) {
         return true;
     }
-    *error = Texts::tr("The file with your presets, %1, cannot be written (%2): it stays as it was.")
-                 .arg(harmless(mPath), file.errorString());
+    *error = {Problem::UnwritableOutput,
+              Texts::tr("The file with your presets, %1, cannot be written (%2): it stays as it was.")
+                  .arg(harmless(mPath), file.errorString())};
     return false;
 }
 

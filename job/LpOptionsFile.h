@@ -5,6 +5,7 @@
 #pragma once
 
 #include "job/JobOptions.h"
+#include "job/Problem.h"
 
 #include <QByteArray>
 #include <QByteArrayList>
@@ -30,7 +31,7 @@ public:
 
     /// Reads a file; one that is not there holds nothing. \param error takes a sentence when there is one that cannot
     /// be read.
-    static std::optional<LpOptionsFile> read(const QString &path, QString *error);
+    static std::optional<LpOptionsFile> read(const QString &path, Problem *error);
 
     /// What stands in the file, in its order. Where several lines are about one queue or instance the first counts, as
     /// it does with lp.
@@ -39,7 +40,7 @@ public:
 
     /// Sets the options of a queue or instance, in its line or in a new one. \return false, with a sentence, and
     /// nothing changed, when libcups could not read them back.
-    bool set(const QString &queue, const QString &instance, const JobOptions &options, QString *error);
+    bool set(const QString &queue, const QString &instance, const JobOptions &options, Problem *error);
     void remove(const QString &queue, const QString &instance);
     void rename(const QString &queue, const QString &instance, const QString &newInstance);
     /// Makes a queue or instance the one where the person prints who names none, and no other.
@@ -47,7 +48,7 @@ public:
 
     /// Writes the file, with the folder that it stands in. \return false, with a sentence, and the file as it was, when
     /// that cannot be done.
-    bool write(QString *error) const;
+    bool write(Problem *error) const;
 
 private:
     explicit LpOptionsFile(QString path) : mPath(std::move(path)) {}

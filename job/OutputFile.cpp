@@ -58,17 +58,20 @@ QString systemSays()
     return qt_error_string(errno);
 }
 
-bool sayUnwritable(const QString &path, QString *error, const QString &reason = systemSays())
+bool sayUnwritable(const QString &path, Problem *error, const QString &reason = systemSays())
 {
-    *error = Texts::tr("The file %1 cannot be written (%2): name another with --output.").arg(outputName(path), reason);
+    *error = {
+        Problem::UnwritableOutput,
+        Texts::tr("The file %1 cannot be written (%2): name another with --output.").arg(outputName(path), reason)};
     return false;
 }
 
-bool sayNoRoom(const QString &path, QString *error)
+bool sayNoRoom(const QString &path, Problem *error)
 {
-    *error = Texts::tr("The printer's bytes cannot be written to %1 (%2): make room there, or name another file "
-                       "with --output.")
-                 .arg(outputName(path), systemSays());
+    *error = {Problem::UnwritableOutput,
+              Texts::tr("The printer's bytes cannot be written to %1 (%2): make room there, or name another file "
+                        "with --output.")
+                  .arg(outputName(path), systemSays())};
     return false;
 }
 
@@ -120,11 +123,11 @@ class StreamOutput : public OutputFile
 public:
     StreamOutput(OutputTarget target, int descriptor) : mTarget(std::move(target)), mDescriptor(descriptor) {}
 
-    bool write(const QByteArray &bytes, QString *error) override
+    bool write(const QByteArray &bytes, Problem *error) override
     {
         for (qsizetype written = 0; written < bytes.size();) {
             if (mTarget.stop != nullptr && *mTarget.stop) {
-                *error = Texts::tr("Printing was stopped.");
+                *error = {Problem::Cancelled, Texts::tr("Printing was stopped.")};
                 return false;
             }
             pollfd wanted{mDescriptor.number(), POLLOUT, 0};
@@ -142,7 +145,7 @@ public:
         count(bytes.size());
         return true;
     }
-    bool commit(QString * /*error*/) override { return true; }
+    bool commit(Problem * /*error*/) override { return true; }
 
 private:
     OutputTarget mTarget;
@@ -150,7 +153,7 @@ private:
 };
 
 /// A pipe is opened when somebody reads from it; until then the stop flag is looked at.
-std::unique_ptr<OutputFile> openStream(const OutputTarget &target, QString *error)
+std::unique_ptr<OutputFile> openStream(const OutputTarget &target, Problem *error)
 {
     const int named = namedDescriptor(target.path);
     if (named >= 0) {
@@ -209,7 +212,7 @@ public:
 
     bool isOpen() const { return mDescriptor.isOpen(); }
 
-    bool write(const QByteArray &bytes, QString *error) override
+    bool write(const QByteArray &bytes, Problem *error) override
     {
         if (!writeWhole(mDescriptor.number(), bytes)) {
             return sayNoRoom(mShownAs, error);
@@ -218,7 +221,7 @@ public:
         return true;
     }
 
-    bool commit(QString *error) override
+    bool commit(Problem *error) override
     {
         // A disk may notice only now that it is full.
         if (fdatasync(mDescriptor.number()) != 0) {
@@ -307,7 +310,7 @@ private:
     Descriptor mDescriptor;
 };
 
-std::unique_ptr<OutputFile> openWhole(const OutputTarget &target, bool exists, QString *error)
+std::unique_ptr<OutputFile> openWhole(const OutputTarget &target, bool exists, Problem *error)
 {
     const QString place = followLinks(target.path);
     if (exists && !target.mayReplace) {
@@ -324,9 +327,10 @@ std::unique_ptr<OutputFile> openWhole(const OutputTarget &target, bool exists, Q
         return output;
     }
     if (exists) {
-        *error = Texts::tr("The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name "
-                           "another with --output.")
-                     .arg(outputName(target.path), systemSays());
+        *error = {Problem::UnwritableOutput,
+                  Texts::tr("The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name "
+                            "another with --output.")
+                      .arg(outputName(target.path), systemSays())};
     } else {
         sayUnwritable(target.path, error);
     }
@@ -345,22 +349,23 @@ QString outputName(const QString &path)
     return isStandardOutput(path) ? Texts::tr("standard output") : harmless(path);
 }
 
-bool mayWriteTo(const OutputTarget &target, QString *error)
+bool mayWriteTo(const OutputTarget &target, Problem *error)
 {
     const std::optional<FileStamp> there = stampOf(target.path);
     for (const FileStamp &file : target.onlyRead) {
         if (there && there->isSameFile(file)) {
-            *error =
+            *error = {
+                Problem::UnwritableOutput,
                 Texts::tr("The output (%1) is the same file as %2, which is only read: name another with --output.")
                     .arg(outputName(target.path),
-                         file.path.isNull() ? Texts::tr("standard input") : harmless(file.path));
+                         file.path.isNull() ? Texts::tr("standard input") : harmless(file.path))};
             return false;
         }
     }
     return true;
 }
 
-std::unique_ptr<OutputFile> OutputFile::open(const OutputTarget &target, QString *error)
+std::unique_ptr<OutputFile> OutputFile::open(const OutputTarget &target, Problem *error)
 {
     if (!mayWriteTo(target, error)) {
         return nullptr;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "job/FileStamp.h"
+#include "job/Problem.h"
 
 #include <QByteArray>
 #include <QString>
@@ -28,7 +29,7 @@ QString outputName(const QString &path);
 
 /// Whether the bytes may be written to a path at all. \param error takes a sentence when it leads to a file that is
 /// only read.
-bool mayWriteTo(const OutputTarget &target, QString *error);
+bool mayWriteTo(const OutputTarget &target, Problem *error);
 
 /// An output being written. Without commit() nothing has happened to a plain file, however this program ends. Pipes and
 /// devices get the bytes as they come; whoever writes to a pipe ignores SIGPIPE.
@@ -36,14 +37,14 @@ class OutputFile
 {
 public:
     /// \param error takes a sentence on failure, here and below.
-    static std::unique_ptr<OutputFile> open(const OutputTarget &target, QString *error);
+    static std::unique_ptr<OutputFile> open(const OutputTarget &target, Problem *error);
     virtual ~OutputFile() = default;
     OutputFile(const OutputFile &) = delete;
     OutputFile &operator=(const OutputFile &) = delete;
 
-    virtual bool write(const QByteArray &bytes, QString *error) = 0;
+    virtual bool write(const QByteArray &bytes, Problem *error) = 0;
     /// Lets the file appear under its name, in one step, with the permissions of the file that it replaces.
-    virtual bool commit(QString *error) = 0;
+    virtual bool commit(Problem *error) = 0;
     /// So many bytes were written.
     qint64 bytes() const { return mBytes; }
 

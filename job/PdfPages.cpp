@@ -195,28 +195,30 @@ PdfPages::PdfPages(std::unique_ptr<Document> document) : mDocument(std::move(doc
 
 PdfPages::~PdfPages() = default;
 
-std::unique_ptr<PdfPages> PdfPages::open(const QString &path, QString *error, const QString &shownAs)
+std::unique_ptr<PdfPages> PdfPages::open(const QString &path, Problem *error, const QString &shownAs)
 {
     const QString name = shownAs.isNull() ? path : shownAs;
     QString reason;
     if (!isFile(path, &reason)) {
-        *error = Texts::tr("%1 cannot be read: %2").arg(name, reason);
+        *error = {Problem::BadDocument, Texts::tr("%1 cannot be read: %2").arg(name, reason)};
         return nullptr;
     }
     silencePoppler();
     auto document = std::make_unique<Document>();
     document->pdf = Poppler::Document::load(path);
     if (document->pdf == nullptr) {
-        *error = looksLikePdf(path) ? Texts::tr("%1 is broken: no page of it can be read.").arg(name)
-                                    : Texts::tr("%1 is no PDF document.").arg(name);
+        *error = {Problem::BadDocument, looksLikePdf(path)
+                                            ? Texts::tr("%1 is broken: no page of it can be read.").arg(name)
+                                            : Texts::tr("%1 is no PDF document.").arg(name)};
         return nullptr;
     }
     if (document->pdf->isLocked()) {
-        *error = Texts::tr("%1 is protected by a password: save it without one, and print that.").arg(name);
+        *error = {Problem::BadDocument,
+                  Texts::tr("%1 is protected by a password: save it without one, and print that.").arg(name)};
         return nullptr;
     }
     if (document->pdf->numPages() < 1) {
-        *error = Texts::tr("%1 has no page.").arg(name);
+        *error = {Problem::BadDocument, Texts::tr("%1 has no page.").arg(name)};
         return nullptr;
     }
     document->boxes = readBoxes(path);

@@ -3,6 +3,8 @@
 // process (Poppler), for the preview and for the length that a document needs.
 #pragma once
 
+#include "job/Problem.h"
+
 #include <QImage>
 #include <QRectF>
 #include <QSizeF>
@@ -33,7 +35,7 @@ public:
 
     /// Opens a document, which is only read. \param error takes a sentence about one that is no PDF, is broken, wants a
     /// password, or has no page. \param shownAs how the sentence names it; null: by its path.
-    static std::unique_ptr<PdfPages> open(const QString &path, QString *error, const QString &shownAs = QString());
+    static std::unique_ptr<PdfPages> open(const QString &path, Problem *error, const QString &shownAs = QString());
 
     int count() const;
     /// The size of a page as it is read, /Rotate applied, in points; empty for a page that is broken. Which of its

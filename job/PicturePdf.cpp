@@ -113,20 +113,21 @@ void writePage(const QImage &picture, const QSizeF &sizePt, const QString &path)
 
 } // namespace
 
-bool pictureToPdf(const QString &picture, const QString &path, QString *error)
+bool pictureToPdf(const QString &picture, const QString &path, Problem *error)
 {
     QImageReader reader(picture);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     if (isTooLarge(reader.size())) {
-        *error = refusal(picture, reader.size(),
-                         Texts::tr("more than %1 MiB of memory would be needed").arg(pictureMemoryMiB));
+        *error = {Problem::BadDocument,
+                  refusal(picture, reader.size(),
+                          Texts::tr("more than %1 MiB of memory would be needed").arg(pictureMemoryMiB))};
         return false;
     }
     QImageReader::setAllocationLimit(pictureMemoryMiB); // for a format that does not tell its size beforehand
     const QImage image = reader.read();
     if (image.isNull()) {
-        *error = refusal(picture, reader.size(), reader.errorString());
+        *error = {Problem::BadDocument, refusal(picture, reader.size(), reader.errorString())};
         return false;
     }
     try {

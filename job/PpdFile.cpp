@@ -74,7 +74,7 @@ PpdFile parse(const QByteArray &bytes)
 
 } // namespace
 
-PpdFile openPpdFile(const QString &path, QString *error, const QString &shownAs)
+PpdFile openPpdFile(const QString &path, Problem *error, const QString &shownAs)
 {
     const QString name = harmless(shownAs.isNull() ? path : shownAs);
     const QFileInfo info(path);
@@ -84,17 +84,20 @@ PpdFile openPpdFile(const QString &path, QString *error, const QString &shownAs)
         const QString reason = info.isDir()                      ? Texts::tr("it is a folder")
                                : info.exists() && !info.isFile() ? Texts::tr("it is a pipe or a device")
                                                                  : file.errorString();
-        *error = Texts::tr("The PPD file %1 cannot be read (%2): name a readable PPD file.").arg(name, reason);
+        *error = {Problem::BadDescription,
+                  Texts::tr("The PPD file %1 cannot be read (%2): name a readable PPD file.").arg(name, reason)};
         return nullptr;
     }
     const QByteArray bytes = file.read(mostBytes + 1);
     if (bytes.size() > mostBytes) {
-        *error = Texts::tr("The PPD file %1 is too large for one: name a PPD file.").arg(name);
+        *error = {Problem::BadDescription,
+                  Texts::tr("The PPD file %1 is too large for one: name a PPD file.").arg(name)};
         return nullptr;
     }
     file.close();
     if (isCutOff(path)) {
-        *error = Texts::tr("The PPD file %1 is cut off: its end is missing. Copy it anew.").arg(name);
+        *error = {Problem::BadDescription,
+                  Texts::tr("The PPD file %1 is cut off: its end is missing. Copy it anew.").arg(name)};
         return nullptr;
     }
 
@@ -102,8 +105,9 @@ PpdFile openPpdFile(const QString &path, QString *error, const QString &shownAs)
     if (!ppd) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
-        *error = Texts::tr("The PPD file %1 is not valid, line %2: %3. Correct the file or name another.")
-                     .arg(name, QString::number(line), harmless(QString::fromUtf8(ppdErrorString(status))));
+        *error = {Problem::BadDescription,
+                  Texts::tr("The PPD file %1 is not valid, line %2: %3. Correct the file or name another.")
+                      .arg(name, QString::number(line), harmless(QString::fromUtf8(ppdErrorString(status))))};
     }
     return ppd;
 }

@@ -3,6 +3,8 @@
 // could not be opened.
 #pragma once
 
+#include "job/Problem.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -23,7 +25,7 @@ using PpdFile = std::unique_ptr<ppd_file_t, PpdCloser>;
 
 /// Opens a PPD file, with the defaults marked. \param error takes a sentence that names the file, and the line where
 /// the file is at fault. \param shownAs how the sentence names the file; null: by its path.
-PpdFile openPpdFile(const QString &path, QString *error, const QString &shownAs = QString());
+PpdFile openPpdFile(const QString &path, Problem *error, const QString &shownAs = QString());
 
 /// The same PPD as it was before anything was marked or changed in it, with the defaults marked. Null when its bytes
 /// are not known or the system has no memory for it.

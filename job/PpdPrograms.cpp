@@ -162,15 +162,16 @@ bool isSystemDescription(const QString &ppdPath)
            onlyRootChanges(path);
 }
 
-bool mayRunPrograms(const QString &ppdPath, ppd_file_t *ppd, bool isTrusted, QString *error)
+bool mayRunPrograms(const QString &ppdPath, ppd_file_t *ppd, bool isTrusted, Problem *error)
 {
     const std::vector<ForeignProgram> programs = foreignPrograms(ppd);
     if (programs.empty() || isTrusted || isSystemDescription(ppdPath)) {
         return true;
     }
-    *error = Texts::tr("The printer description %1 brings programs or commands of its own, which nobody vouches for: "
-                       "%2. Nothing was run. If you trust its author, repeat with --trust-ppd.")
-                 .arg(harmless(ppdPath), describe(programs));
+    *error = {Problem::BadDescription,
+              Texts::tr("The printer description %1 brings programs or commands of its own, which nobody vouches for: "
+                        "%2. Nothing was run. If you trust its author, repeat with --trust-ppd.")
+                  .arg(harmless(ppdPath), describe(programs))};
     return false;
 }
 

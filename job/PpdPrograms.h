@@ -3,6 +3,8 @@
 // that they were sent must not run its author's programs.
 #pragma once
 
+#include "job/Problem.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -42,6 +44,6 @@ bool isSystemDescription(const QString &ppdPath);
 
 /// Whether a description's filters may run: it brings nothing of its own, or it is the machine's, or it is trusted.
 /// \param error takes a sentence with everything that it would run.
-bool mayRunPrograms(const QString &ppdPath, ppd_file_t *ppd, bool isTrusted, QString *error);
+bool mayRunPrograms(const QString &ppdPath, ppd_file_t *ppd, bool isTrusted, Problem *error);
 
 } // namespace tapeprint::job

@@ -47,7 +47,7 @@ struct OwnedEntry {
 };
 
 /// What both files say of a queue and its instances.
-std::vector<OwnedEntry> entriesOf(const QString &queue, QString *error)
+std::vector<OwnedEntry> entriesOf(const QString &queue, Problem *error)
 {
     std::vector<OwnedEntry> entries;
     const Paths where = paths();
@@ -83,7 +83,7 @@ std::vector<OwnedEntry> entriesOf(const QString &queue, QString *error)
 }
 
 /// Changes the person's file. \param change \return false, with a sentence, when nothing is to be written.
-bool changeOwn(const std::function<bool(LpOptionsFile &file)> &change, QString *error)
+bool changeOwn(const std::function<bool(LpOptionsFile &file)> &change, Problem *error)
 {
     std::optional<LpOptionsFile> file = LpOptionsFile::read(paths().own, error);
     return file && change(*file) && file->write(error);
@@ -102,14 +102,14 @@ bool isGone(const QString &name, ppd_file_t *ppd)
     return ppd != nullptr && hasCapital && !isIppJobAttribute(name) && findOption(ppd, name) == nullptr;
 }
 
-QString notThere(const QString &queue, const QString &name)
+Problem notThere(const QString &queue, const QString &name)
 {
-    return Texts::tr("%1 has no preset %2 of yours.").arg(harmless(queue), harmless(name));
+    return {Problem::BadUsage, Texts::tr("%1 has no preset %2 of yours.").arg(harmless(queue), harmless(name))};
 }
 
 } // namespace
 
-std::vector<Preset> presetsOf(const QString &queue, QString *error)
+std::vector<Preset> presetsOf(const QString &queue, Problem *error)
 {
     std::vector<Preset> presets;
     for (const OwnedEntry &owned : entriesOf(queue, error)) {
@@ -123,7 +123,7 @@ std::vector<Preset> presetsOf(const QString &queue, QString *error)
     return presets;
 }
 
-JobOptions savedForQueue(const QString &queue, QString *error)
+JobOptions savedForQueue(const QString &queue, Problem *error)
 {
     for (const OwnedEntry &owned : entriesOf(queue, error)) {
         if (owned.entry.instance.isEmpty()) {
@@ -133,10 +133,10 @@ JobOptions savedForQueue(const QString &queue, QString *error)
     return {};
 }
 
-bool savePreset(const QString &queue, const QString &name, const JobOptions &options, QString *error)
+bool savePreset(const QString &queue, const QString &name, const JobOptions &options, Problem *error)
 {
     if (const QString problem = problemWithPresetName(name); !problem.isNull()) {
-        *error = problem;
+        *error = {Problem::BadUsage, problem};
         return false;
     }
     return changeOwn(
@@ -147,17 +147,17 @@ bool savePreset(const QString &queue, const QString &name, const JobOptions &opt
         error);
 }
 
-bool renamePreset(const QString &queue, const QString &name, const QString &newName, QString *error)
+bool renamePreset(const QString &queue, const QString &name, const QString &newName, Problem *error)
 {
     if (const QString problem = problemWithPresetName(newName); !problem.isNull()) {
-        *error = problem;
+        *error = {Problem::BadUsage, problem};
         return false;
     }
     return changeOwn(
         [&](LpOptionsFile &file) {
             const bool isOtherName = name.compare(newName, Qt::CaseInsensitive) != 0;
             if (isOtherName && file.find(queue, newName)) {
-                *error = Texts::tr("There is a preset %1 already.").arg(harmless(newName));
+                *error = {Problem::BadUsage, Texts::tr("There is a preset %1 already.").arg(harmless(newName))};
                 return false;
             }
             if (!file.find(queue, name)) {
@@ -170,7 +170,7 @@ bool renamePreset(const QString &queue, const QString &name, const QString &newN
         error);
 }
 
-bool deletePreset(const QString &queue, const QString &name, QString *error)
+bool deletePreset(const QString &queue, const QString &name, Problem *error)
 {
     return changeOwn(
         [&](LpOptionsFile &file) {
@@ -184,7 +184,7 @@ bool deletePreset(const QString &queue, const QString &name, QString *error)
         error);
 }
 
-bool makePresetDefault(const QString &queue, const QString &name, QString *error)
+bool makePresetDefault(const QString &queue, const QString &name, Problem *error)
 {
     return changeOwn(
         [&](LpOptionsFile &file) {

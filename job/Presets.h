@@ -4,6 +4,7 @@
 #pragma once
 
 #include "job/JobOptions.h"
+#include "job/Problem.h"
 
 #include <QString>
 #include <QStringList>
@@ -24,19 +25,19 @@ struct Preset {
 
 /// The presets of a queue, by name. Nobody is asked but two small files. \param error takes a sentence when one of them
 /// cannot be read.
-std::vector<Preset> presetsOf(const QString &queue, QString *error);
+std::vector<Preset> presetsOf(const QString &queue, Problem *error);
 
 /// What the person saved for the queue itself. \param error as above.
-JobOptions savedForQueue(const QString &queue, QString *error);
+JobOptions savedForQueue(const QString &queue, Problem *error);
 
 /// Saves a preset; one of that name is replaced. The name's letters stay as they were when they differ by case alone.
 /// This and the following \return false, with a sentence, and everything as it was, when it cannot be done.
-bool savePreset(const QString &queue, const QString &name, const JobOptions &options, QString *error);
+bool savePreset(const QString &queue, const QString &name, const JobOptions &options, Problem *error);
 /// \param newName no other preset has it.
-bool renamePreset(const QString &queue, const QString &name, const QString &newName, QString *error);
-bool deletePreset(const QString &queue, const QString &name, QString *error);
+bool renamePreset(const QString &queue, const QString &name, const QString &newName, Problem *error);
+bool deletePreset(const QString &queue, const QString &name, Problem *error);
 /// Makes the preset where the person prints who names no printer. \param name empty: the queue without a preset.
-bool makePresetDefault(const QString &queue, const QString &name, QString *error);
+bool makePresetDefault(const QString &queue, const QString &name, Problem *error);
 
 /// Why CUPS cannot keep a preset of this name, as a sentence; null when it can.
 QString problemWithPresetName(const QString &name);

@@ -4,6 +4,7 @@
 
 #include "job/PlainText.h"
 #include "job/PrivateFile.h"
+#include "job/SavedDestinations.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
@@ -136,16 +137,6 @@ int collectQueue(void *queues, unsigned flags, cups_dest_t *destination)
     return 1;
 }
 
-/// libcups answers any instance of a queue that exists: whether the person has one of that name is asked apart.
-bool instanceExists(const QString &name, const QString &instance)
-{
-    const std::vector<PrintQueue> queues = listQueues();
-    return std::any_of(queues.begin(), queues.end(), [&](const PrintQueue &queue) {
-        return queue.name.compare(name, Qt::CaseInsensitive) == 0 &&
-               queue.instance.compare(instance, Qt::CaseInsensitive) == 0;
-    });
-}
-
 } // namespace
 
 QueueName QueueName::parse(const QString &text)
@@ -154,16 +145,17 @@ QueueName QueueName::parse(const QString &text)
     return slash < 0 ? QueueName{text, {}} : QueueName{text.left(slash), text.mid(slash + 1)};
 }
 
-bool serverAnswers(QString *error)
+bool serverAnswers(Problem *error)
 {
     const Connection server(
         httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, connectTimeoutMs, nullptr));
     if (server && saysAnything(server.get())) {
         return true;
     }
-    *error = Texts::tr("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
-                       "without one with --ppd FILE.")
-                 .arg(harmless(QString::fromUtf8(cupsServer())));
+    *error = {Problem::Unreachable,
+              Texts::tr("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
+                        "without one with --ppd FILE.")
+                  .arg(harmless(QString::fromUtf8(cupsServer())))};
     return false;
 }
 
@@ -174,7 +166,7 @@ std::vector<PrintQueue> listQueues()
     return queues;
 }
 
-std::optional<PrintQueue> findQueue(const QString &name, const QString &instance, QString *error)
+std::optional<PrintQueue> findQueue(const QString &name, const QString &instance, Problem *error)
 {
     if (!serverAnswers(error)) {
         return std::nullopt;
@@ -184,22 +176,25 @@ std::optional<PrintQueue> findQueue(const QString &name, const QString &instance
     const DestinationPtr destination(cupsGetNamedDest(CUPS_HTTP_DEFAULT,
                                                       name.isEmpty() ? nullptr : nameBytes.constData(),
                                                       instance.isEmpty() ? nullptr : instanceBytes.constData()));
-    if (destination && (instance.isEmpty() || instanceExists(name, instance))) {
+    // libcups answers any instance of a queue that exists: whether the person has one of that name is asked apart.
+    if (destination && (instance.isEmpty() || SavedDestinations::read().hasInstance({name, instance}))) {
         PrintQueue queue = queueFrom(*destination);
         removeServerDefaults(queue);
         return queue;
     }
     if (name.isEmpty()) {
-        *error = Texts::tr("There is no default printer: name a print queue with -d QUEUE, or print without one "
-                           "with --ppd FILE.");
+        *error = {Problem::NoSuchPrinter,
+                  Texts::tr("There is no default printer: name a print queue with -d QUEUE, or print without one "
+                            "with --ppd FILE.")};
     } else {
-        *error = Texts::tr("The print server knows no queue %1: see lpstat -e for the queues there are.")
-                     .arg(harmless(QueueName({name, instance}).text()));
+        *error = {Problem::NoSuchPrinter,
+                  Texts::tr("The print server knows no queue %1: see lpstat -e for the queues there are.")
+                      .arg(harmless(QueueName({name, instance}).text()))};
     }
     return std::nullopt;
 }
 
-PpdFile openQueuePpd(const PrintQueue &queue, QString *error)
+PpdFile openQueuePpd(const PrintQueue &queue, Problem *error)
 {
     QString reason;
     const auto file = PrivateFile::create(QStringLiteral("queue.ppd"), &reason);
@@ -219,9 +214,10 @@ PpdFile openQueuePpd(const PrintQueue &queue, QString *error)
         return nullptr;
     }
     if (status != HTTP_STATUS_OK) {
-        *error = Texts::tr("The PPD of queue %1 cannot be had from the print server (%2): see that the queue is "
-                           "set up.")
-                     .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())));
+        *error = {Problem::Unreachable,
+                  Texts::tr("The PPD of queue %1 cannot be had from the print server (%2): see that the queue is "
+                            "set up.")
+                      .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())))};
         return nullptr;
     }
     return openPpdFile(QFile::decodeName(path.data()), error, Texts::tr("of queue %1").arg(queue.name));

@@ -4,6 +4,7 @@
 
 #include "job/JobOptions.h"
 #include "job/PpdFile.h"
+#include "job/Problem.h"
 
 #include <QString>
 
@@ -36,15 +37,15 @@ struct PrintQueue {
 };
 
 /// Whether the print server can be reached. \param error takes a sentence that names the server.
-bool serverAnswers(QString *error);
+bool serverAnswers(Problem *error);
 
 /// Every queue and instance.
 std::vector<PrintQueue> listQueues();
 
 /// The queue of a name; an empty name stands for the default printer.
-std::optional<PrintQueue> findQueue(const QString &name, const QString &instance, QString *error);
+std::optional<PrintQueue> findQueue(const QString &name, const QString &instance, Problem *error);
 
 /// The PPD of a queue, from the server. Null without an error when the queue has none.
-PpdFile openQueuePpd(const PrintQueue &queue, QString *error);
+PpdFile openQueuePpd(const PrintQueue &queue, Problem *error);
 
 } // namespace tapeprint::job

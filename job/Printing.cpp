@@ -31,7 +31,7 @@ namespace
 
 /// The documents as one of labels.
 std::unique_ptr<PrivateFile> layOut(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
-                                    QString *error)
+                                    Problem *error)
 {
     QString reason;
     std::unique_ptr<PrivateFile> labels = PrivateFile::create(QStringLiteral("labels.pdf"), &reason);
@@ -59,7 +59,7 @@ QString PrintedJob::sentence() const
 }
 
 std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
-                                   const std::atomic<bool> &stop, QString *error)
+                                   const std::atomic<bool> &stop, Problem *error)
 {
     QStringList printed = files;
     std::unique_ptr<PrivateFile> labels;

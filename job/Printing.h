@@ -4,6 +4,7 @@
 
 #include "job/FilterRun.h"
 #include "job/JobSubmission.h"
+#include "job/Problem.h"
 #include "job/SettledJob.h"
 
 #include <QString>
@@ -30,6 +31,6 @@ struct PrintedJob {
 /// documents, only read. \param stop when it becomes true, printing ends with nothing printed. \return what became of
 /// the job; std::nullopt, and a sentence in *error, on failure.
 std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
-                                   const std::atomic<bool> &stop, QString *error);
+                                   const std::atomic<bool> &stop, Problem *error);
 
 } // namespace tapeprint::job

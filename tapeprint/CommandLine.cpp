@@ -3,6 +3,7 @@
 #include "tapeprint/CommandLine.h"
 
 #include "job/CupsOptions.h"
+#include "tapeprint/ExitStatus.h"
 
 #include <QRegularExpression>
 
@@ -14,48 +15,51 @@ namespace tapeprint
 namespace
 {
 
-bool takeQueue(CommandLine &line, const QString &value, QString *error)
+bool takeQueue(CommandLine &line, const QString &value, job::Problem *error)
 {
     const job::QueueName name = job::QueueName::parse(value);
     line.request.queue = name.queue;
     line.request.instance = name.instance;
     if (name.queue.isEmpty()) {
-        *error = QStringLiteral("-d needs the name of a print queue: -d QUEUE or -d QUEUE/INSTANCE.");
+        *error = {job::Problem::BadUsage,
+                  QStringLiteral("-d needs the name of a print queue: -d QUEUE or -d QUEUE/INSTANCE.")};
         return false;
     }
     return true;
 }
 
-bool takeCopies(CommandLine &line, const QString &value, QString *error)
+bool takeCopies(CommandLine &line, const QString &value, job::Problem *error)
 {
     bool isNumber = false;
     const int copies = value.toInt(&isNumber);
     if (!isNumber || copies < 1) {
-        *error = QStringLiteral("\"%1\" is no number of copies: give -n a whole number from 1.").arg(value);
+        *error = {job::Problem::BadUsage,
+                  QStringLiteral("\"%1\" is no number of copies: give -n a whole number from 1.").arg(value)};
         return false;
     }
     line.request.options.set(job::OptionName::copies, QString::number(copies));
     return true;
 }
 
-bool takePages(CommandLine &line, const QString &value, QString *error)
+bool takePages(CommandLine &line, const QString &value, job::Problem *error)
 {
     static const QRegularExpression ranges(QStringLiteral(R"(\A[1-9]\d*(-([1-9]\d*)?)?(,[1-9]\d*(-([1-9]\d*)?)?)*\z)"));
     if (!ranges.match(value).hasMatch()) {
-        *error =
-            QStringLiteral("\"%1\" is no list of pages: give -P page numbers and ranges such as 1-4,7.").arg(value);
+        *error = {
+            job::Problem::BadUsage,
+            QStringLiteral("\"%1\" is no list of pages: give -P page numbers and ranges such as 1-4,7.").arg(value)};
         return false;
     }
     line.request.options.set(job::OptionName::pageRanges, value);
     return true;
 }
 
-bool takeOptions(CommandLine &line, const QString &value, QString *error)
+bool takeOptions(CommandLine &line, const QString &value, job::Problem *error)
 {
     job::CupsOptions parsed;
     parsed.parse(value.toUtf8());
     if (parsed.count() == 0) {
-        *error = QStringLiteral("\"%1\" is no option: give -o a NAME=VALUE.").arg(value);
+        *error = {job::Problem::BadUsage, QStringLiteral("\"%1\" is no option: give -o a NAME=VALUE.").arg(value)};
         return false;
     }
     for (const cups_option_t &option : parsed) {
@@ -63,9 +67,10 @@ bool takeOptions(CommandLine &line, const QString &value, QString *error)
         const QString text = QString::fromUtf8(option.value);
         // The print server drops collections without a word: the filter would never see them.
         if (text.startsWith(u'{')) {
-            *error = QStringLiteral("The value of option %1 is in braces, which the print server drops: "
-                                    "give %1 a plain value.")
-                         .arg(name);
+            *error = {job::Problem::BadUsage,
+                      QStringLiteral("The value of option %1 is in braces, which the print server drops: "
+                                     "give %1 a plain value.")
+                          .arg(name)};
             return false;
         }
         line.request.options.set(name, text);
@@ -73,33 +78,33 @@ bool takeOptions(CommandLine &line, const QString &value, QString *error)
     return true;
 }
 
-bool takeTitle(CommandLine &line, const QString &value, QString * /*error*/)
+bool takeTitle(CommandLine &line, const QString &value, job::Problem * /*error*/)
 {
     line.request.title = value;
     return true;
 }
 
-bool takePpd(CommandLine &line, const QString &value, QString *error)
+bool takePpd(CommandLine &line, const QString &value, job::Problem *error)
 {
     line.request.ppdPath = value;
     if (value.isEmpty()) {
-        *error = QStringLiteral("--ppd needs the name of a PPD file.");
+        *error = {job::Problem::BadUsage, QStringLiteral("--ppd needs the name of a PPD file.")};
     }
     return !value.isEmpty();
 }
 
-bool takeOutput(CommandLine &line, const QString &value, QString *error)
+bool takeOutput(CommandLine &line, const QString &value, job::Problem *error)
 {
     line.request.outputPath = value;
     if (value.isEmpty()) {
-        *error = QStringLiteral("--output needs the name of a file.");
+        *error = {job::Problem::BadUsage, QStringLiteral("--output needs the name of a file.")};
     }
     return !value.isEmpty();
 }
 
 struct ValueOption {
     QLatin1String name;
-    bool (*take)(CommandLine &line, const QString &value, QString *error);
+    bool (*take)(CommandLine &line, const QString &value, job::Problem *error);
 };
 
 struct Flag {
@@ -155,14 +160,16 @@ std::pair<const ValueOption *, QString> findValueOption(const QString &argument)
     return {nullptr, QString()};
 }
 
-bool fitsTogether(const CommandLine &line, QString *error)
+bool fitsTogether(const CommandLine &line, job::Problem *error)
 {
     if (!line.request.outputPath.isEmpty() && line.request.ppdPath.isEmpty()) {
-        *error = QStringLiteral("--output goes with --ppd: without a PPD file the job goes to a print queue.");
+        *error = {job::Problem::BadUsage,
+                  QStringLiteral("--output goes with --ppd: without a PPD file the job goes to a print queue.")};
         return false;
     }
     if (line.trustPpd && line.request.ppdPath.isEmpty()) {
-        *error = QStringLiteral("--trust-ppd goes with --ppd: it is about the programs of that PPD file.");
+        *error = {job::Problem::BadUsage,
+                  QStringLiteral("--trust-ppd goes with --ppd: it is about the programs of that PPD file.")};
         return false;
     }
     return true;
@@ -170,7 +177,7 @@ bool fitsTogether(const CommandLine &line, QString *error)
 
 } // namespace
 
-std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QString *error)
+std::optional<CommandLine> parseCommandLine(const QStringList &arguments, job::Problem *error)
 {
     CommandLine line;
     bool onlyFiles = false;
@@ -193,12 +200,14 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
         }
         auto [option, value] = findValueOption(argument);
         if (option == nullptr) {
-            *error = QStringLiteral("%1 is no option of tapeprint: see tapeprint --help.").arg(argument);
+            *error = {job::Problem::BadUsage,
+                      QStringLiteral("%1 is no option of tapeprint: see tapeprint --help.").arg(argument)};
             return std::nullopt;
         }
         if (value.isNull()) {
             if (++i == arguments.size()) {
-                *error = QStringLiteral("%1 needs a value: see tapeprint --help.").arg(argument);
+                *error = {job::Problem::BadUsage,
+                          QStringLiteral("%1 needs a value: see tapeprint --help.").arg(argument)};
                 return std::nullopt;
             }
             value = arguments.at(i);
@@ -218,32 +227,34 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QStrin
 QString commandLineHelp()
 {
     return QStringLiteral(
-        "Usage: tapeprint [-d QUEUE[/INSTANCE]] [-n COPIES] [-o NAME=VALUE]... [-P PAGES] [-t TITLE]\n"
-        "                 [--ppd FILE [--output FILE] [--trust-ppd]] [--fit-length] [--no-dialog]\n"
-        "                 [--show-options] [--summary] [FILE...]\n"
-        "\n"
-        "Opens the print dialog for tape and label printers. Without FILE, standard input is printed.\n"
-        "\n"
-        "  -d QUEUE[/INSTANCE]  the print queue; without it, the default printer\n"
-        "  -n COPIES            the number of copies\n"
-        "  -o NAME=VALUE        an option of the job; several may stand in one -o, separated by blanks\n"
-        "  -P PAGES             the pages to print, such as 1-4,7\n"
-        "  -t TITLE             the title of the job\n"
-        "  -s                   say nothing about a job that went well\n"
-        "  -c                   accepted for the sake of lp\n"
-        "  --ppd FILE           take the printer's description from a PPD file; without -d no print server is\n"
-        "                       needed: the document runs through the filters that the PPD names\n"
-        "  --output FILE        with --ppd: where the printer's bytes go, - for standard output; no print queue is\n"
-        "                       used\n"
-        "  --trust-ppd          with --ppd: run programs and commands of its own that the PPD file names\n"
-        "  --fit-length         make the tape as long as what is drawn on the document needs, with both margins\n"
-        "  --no-dialog          do the same job without a window\n"
-        "  --show-options       print the options that the job would carry, and submit nothing\n"
-        "  --summary            print the summary of the job as \"title: value\" lines, and submit nothing\n"
-        "  --help               print this text\n"
-        "  --version            print the version\n"
-        "\n"
-        "Exit status: 0, or 1 with a line on standard error that says what is wrong and what to do.\n");
+               "Usage: tapeprint [-d QUEUE[/INSTANCE]] [-n COPIES] [-o NAME=VALUE]... [-P PAGES] [-t TITLE]\n"
+               "                 [--ppd FILE [--output FILE] [--trust-ppd]] [--fit-length] [--no-dialog]\n"
+               "                 [--show-options] [--summary] [FILE...]\n"
+               "\n"
+               "Opens the print dialog for tape and label printers. Without FILE, standard input is printed.\n"
+               "\n"
+               "  -d QUEUE[/INSTANCE]  the print queue; without it, the default printer\n"
+               "  -n COPIES            the number of copies\n"
+               "  -o NAME=VALUE        an option of the job; several may stand in one -o, separated by blanks\n"
+               "  -P PAGES             the pages to print, such as 1-4,7\n"
+               "  -t TITLE             the title of the job\n"
+               "  -s                   say nothing about a job that went well\n"
+               "  -c                   accepted for the sake of lp\n"
+               "  --ppd FILE           take the printer's description from a PPD file; without -d no print server is\n"
+               "                       needed: the document runs through the filters that the PPD names\n"
+               "  --output FILE        with --ppd: where the printer's bytes go, - for standard output; no print queue "
+               "is\n"
+               "                       used\n"
+               "  --trust-ppd          with --ppd: run programs and commands of its own that the PPD file names\n"
+               "  --fit-length         make the tape as long as what is drawn on the document needs, with both "
+               "margins\n"
+               "  --no-dialog          do the same job without a window\n"
+               "  --show-options       print the options that the job would carry, and submit nothing\n"
+               "  --summary            print the summary of the job as \"title: value\" lines, and submit nothing\n"
+               "  --help               print this text\n"
+               "  --version            print the version\n"
+               "\n") +
+           exitStatusHelp();
 }
 
 } // namespace tapeprint

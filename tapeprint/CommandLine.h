@@ -3,6 +3,7 @@
 #pragma once
 
 #include "job/Destination.h"
+#include "job/Problem.h"
 
 #include <QString>
 #include <QStringList>
@@ -32,7 +33,7 @@ struct CommandLine {
 };
 
 /// Reads the arguments that follow the program's name. \param error takes a sentence about what is wrong.
-std::optional<CommandLine> parseCommandLine(const QStringList &arguments, QString *error);
+std::optional<CommandLine> parseCommandLine(const QStringList &arguments, job::Problem *error);
 
 /// What --help prints.
 QString commandLineHelp();

@@ -2,6 +2,8 @@
 // What a run of the program says when it is over.
 #pragma once
 
+#include "tapeprint/ExitStatus.h"
+
 #include <QStringList>
 
 namespace tapeprint
@@ -14,10 +16,10 @@ struct RunReport {
     int status = 0;
 };
 
-/// The report of a run that failed. \param sentence what is wrong and what to do.
-inline RunReport failedRun(const QString &sentence)
+/// The report of a run that failed.
+inline RunReport failedRun(const job::Problem &problem)
 {
-    return {{}, {sentence}, 1};
+    return {{}, {problem.sentence}, exitStatus(problem.kind)};
 }
 
 } // namespace tapeprint

@@ -33,33 +33,36 @@ QStringList summaryLines(const dialog::Panels &panels)
     return lines;
 }
 
-/// Shows the panels and lets them hand over their values. \return null, or the sentence that says why there is no job.
-QString settleJob(dialog::Panels &panels, const dialog::GatheredAlerts &alerts)
+/// Shows the panels and lets them hand over their values. \param error takes why there is no job.
+bool settleJob(dialog::Panels &panels, const dialog::GatheredAlerts &alerts, job::Problem *error)
 {
-    QString reason;
-    if (!panels.settle(&reason)) {
-        return reason;
+    if (!panels.settle(error)) {
+        return false;
     }
-    if (!panels.shouldPrint(&reason)) {
+    if (QString panel; !panels.shouldPrint(&panel)) {
         const QString said = alerts.lines().join(u' ');
-        return QStringLiteral("Nothing was printed, because the panel \"%1\" does not accept the values given. %2")
-            .arg(reason, said.isEmpty() ? QStringLiteral("Change them with -o.") : said);
+        *error = {job::Problem::RefusedValue,
+                  QStringLiteral("Nothing was printed, because the panel \"%1\" does not accept the values given. %2")
+                      .arg(panel, said.isEmpty() ? QStringLiteral("Change them with -o.") : said)};
+        return false;
     }
-    return {};
+    return true;
 }
 
 const std::atomic<bool> neverStopped{false};
 
 /// Makes the tape as long as the documents need. \param messages takes what the person should know of it.
-bool fitLength(job::Job &job, const QStringList &files, QStringList &messages, QString *error)
+bool fitLength(job::Job &job, const QStringList &files, QStringList &messages, job::Problem *error)
 {
     if (!job.page().isTape) {
-        *error = QStringLiteral("--fit-length is for tape, and this printer prints on paper: leave it out.");
+        *error = {job::Problem::BadUsage,
+                  QStringLiteral("--fit-length is for tape, and this printer prints on paper: leave it out.")};
         return false;
     }
     if (job.laidDown().contains(job.tape().lengthOption)) {
-        *error = QStringLiteral("--fit-length and -o %1 both say how long the tape is: give one of them.")
-                     .arg(job.tape().lengthOption);
+        *error = {job::Problem::BadUsage,
+                  QStringLiteral("--fit-length and -o %1 both say how long the tape is: give one of them.")
+                      .arg(job.tape().lengthOption)};
         return false;
     }
     if (job.page().hasFixedLength) {
@@ -88,7 +91,7 @@ bool fitLength(job::Job &job, const QStringList &files, QStringList &messages, Q
 
 RunReport runUnattended(const CommandLine &line)
 {
-    QString error;
+    job::Problem error;
     job::JobRequest request = line.request;
     const bool fitsLength = job::layoutChoicesOf(request.options).fitLength; // by --fit-length or by -o
     std::optional<job::DocumentSpool> documents;
@@ -117,9 +120,8 @@ RunReport runUnattended(const CommandLine &line)
     if (fitsLength && !fitLength(job, documents->files(), report.messages, &error)) {
         return failedRun(error);
     }
-    const QString refusal = settleJob(panels, alerts);
-    if (!refusal.isNull()) {
-        return failedRun(refusal);
+    if (!settleJob(panels, alerts, &error)) {
+        return failedRun(error);
     }
     if (line.showOptions) {
         report.output += job::settle(job).carried().lines();

@@ -17,7 +17,7 @@ namespace tapeprint
 
 RunReport runWindow(const CommandLine &line)
 {
-    QString error;
+    job::Problem error;
     std::optional<job::DocumentSpool> documents = job::DocumentSpool::collect(line.files, &error);
     if (!documents) {
         return failedRun(error);
@@ -40,7 +40,7 @@ RunReport runWindow(const CommandLine &line)
     panels.open(std::move(*destination), request.options);
     const QString title = documents->title(request.title);
     const auto print = [title, files = documents->files(), sources = documents->sources()](
-                           const job::SettledJob &settled, const std::atomic<bool> &stop, QString *reason) {
+                           const job::SettledJob &settled, const std::atomic<bool> &stop, job::Problem *reason) {
         // The window may have been open for hours, and the document another one by now.
         return job::areUnchanged(sources, reason) ? job::printJob(settled, title, files, stop, reason) : std::nullopt;
     };
@@ -52,7 +52,9 @@ RunReport runWindow(const CommandLine &line)
     translations.reset();
 
     RunReport report;
-    if (window.printed() && !line.silent) {
+    if (!window.printed()) {
+        report.status = exitStatus(job::Problem::Cancelled); // nobody has to be told what they did
+    } else if (!line.silent) {
         report.output.append(
             window.printed()->sentence()); // scripts read it: in English, now that the window is closed
     }

@@ -32,7 +32,7 @@ int report(const tapeprint::RunReport &run)
     QStringList messages = run.messages;
     if (!writeLines(run.output, stdout, "")) {
         messages = {QStringLiteral("Standard output cannot be written: send it elsewhere.")};
-        status = 1;
+        status = tapeprint::exitStatus(tapeprint::job::Problem::UnwritableOutput);
     }
     writeLines(messages, stderr, "tapeprint: ");
     return status;
@@ -62,10 +62,10 @@ QStringList argumentsOf(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    QString error;
+    tapeprint::job::Problem error;
     const std::optional<tapeprint::CommandLine> line = tapeprint::parseCommandLine(argumentsOf(argc, argv), &error);
     if (!line) {
-        return report({{}, {error}, 1});
+        return report(tapeprint::failedRun(error));
     }
     if (line->help) {
         return report({tapeprint::commandLineHelp().trimmed().split(u'\n'), {}, 0});

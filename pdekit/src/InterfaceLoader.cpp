@@ -6,6 +6,7 @@
 #include "pdekit/RadioMatrix.h"
 #include "pdekit/Slider.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 namespace pdekit
@@ -32,8 +33,22 @@ const QSet<QString> &toolkitClasses(const QUiLoader &loader)
 
 } // namespace
 
+WithoutEditorPlugins::WithoutEditorPlugins() : mPaths(QCoreApplication::libraryPaths())
+{
+    QCoreApplication::setLibraryPaths({});
+}
+
+void WithoutEditorPlugins::restore()
+{
+    if (!mPaths.isEmpty()) {
+        QCoreApplication::setLibraryPaths(mPaths);
+        mPaths.clear();
+    }
+}
+
 InterfaceLoader::InterfaceLoader(const WidgetFactories &factories) : mFactories(factories)
 {
+    WithoutEditorPlugins::restore(); // styles and image formats are plug-ins as well
     // Texts of the view come from the bundle's catalogue, never from the application's.
     setTranslationEnabled(false);
 }

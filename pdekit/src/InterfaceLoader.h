@@ -13,8 +13,25 @@
 namespace pdekit
 {
 
-/// A loader for one file.
-class InterfaceLoader : public QUiLoader
+/// While it lives, the toolkit finds no plug-ins to load. The toolkit's loader of interface files loads every plug-in
+/// of the interface editor that is installed on the machine as it is made: strangers' code and libraries, for classes
+/// that no file here may name.
+class WithoutEditorPlugins
+{
+public:
+    WithoutEditorPlugins();
+    ~WithoutEditorPlugins() { restore(); }
+    WithoutEditorPlugins(const WithoutEditorPlugins &) = delete;
+    WithoutEditorPlugins &operator=(const WithoutEditorPlugins &) = delete;
+
+    void restore();
+
+private:
+    QStringList mPaths; ///< empty when restored
+};
+
+/// A loader for one file. The first base is there while the second is made.
+class InterfaceLoader : private WithoutEditorPlugins, public QUiLoader
 {
 public:
     /// \param factories classes of the plug-in's own; outlives the loader.

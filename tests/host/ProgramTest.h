@@ -4,6 +4,7 @@
 
 #include "TestPrinter.h"
 
+#include "tests/support/ExitStatuses.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QFile>
@@ -70,11 +71,12 @@ protected:
         return outcome;
     }
 
-    /// Fails with one line on standard error that holds a text, and says nothing else.
-    void expectFailure(const QStringList &arguments, const char *part, const QByteArray &input = {}) const
+    /// Fails with a status and one line on standard error that holds a text, and says nothing else.
+    void expectFailure(testsupport::ExitStatus status, const QStringList &arguments, const char *part,
+                       const QByteArray &input = {}) const
     {
         const Outcome outcome = run(arguments, input);
-        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.status, status) << outcome.messages.toStdString();
         EXPECT_EQ(outcome.output, "");
         EXPECT_EQ(outcome.messages.count('\n'), 1) << outcome.messages.toStdString();
         EXPECT_TRUE(outcome.messages.startsWith("tapeprint: ")) << outcome.messages.toStdString();

@@ -79,10 +79,10 @@ tapeprint::job::Destination testDestination(const QTemporaryDir &folder, const Q
 {
     tapeprint::job::Destination destination;
     destination.ppdPath = writeFile(folder, QStringLiteral("test.ppd"), testPpd(more));
-    QString error;
+    tapeprint::job::Problem error;
     destination.ppd = tapeprint::job::openPpdFile(destination.ppdPath, &error);
     if (!destination.ppd) {
-        qFatal("%s", qPrintable(error));
+        qFatal("%s", qPrintable(error.sentence));
     }
     return destination;
 }

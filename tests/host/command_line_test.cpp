@@ -23,9 +23,9 @@ class CommandLineOptions : public testing::TestWithParam<OptionsCase>
 
 TEST_P(CommandLineOptions, AreLaidDownInTheOrderGiven)
 {
-    QString error;
+    tapeprint::job::Problem error;
     const std::optional<CommandLine> line = parseCommandLine(GetParam().arguments, &error);
-    ASSERT_TRUE(line.has_value()) << error.toStdString();
+    ASSERT_TRUE(line.has_value()) << error.sentence.toStdString();
     EXPECT_EQ(line->request.options.lines(), GetParam().lines);
 }
 
@@ -53,10 +53,10 @@ class CommandLineErrors : public testing::TestWithParam<ErrorCase>
 
 TEST_P(CommandLineErrors, SayWhatIsWrong)
 {
-    QString error;
+    tapeprint::job::Problem error;
     EXPECT_FALSE(parseCommandLine(GetParam().arguments, &error).has_value());
-    EXPECT_TRUE(error.contains(GetParam().part)) << error.toStdString();
-    EXPECT_FALSE(error.contains(u'\n'));
+    EXPECT_TRUE(error.sentence.contains(GetParam().part)) << error.sentence.toStdString();
+    EXPECT_FALSE(error.sentence.contains(u'\n'));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -74,7 +74,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CommandLineQueue, WithInstance_IsCutAtTheFirstSlash)
 {
-    QString error;
+    tapeprint::job::Problem error;
     const auto line = parseCommandLine({u"-dtape/fine"_qs}, &error);
     ASSERT_TRUE(line.has_value());
     EXPECT_EQ(line->request.queue, u"tape"_qs);
@@ -83,7 +83,7 @@ TEST(CommandLineQueue, WithInstance_IsCutAtTheFirstSlash)
 
 TEST(CommandLineFiles, AfterTwoDashes_MayLookLikeOptions)
 {
-    QString error;
+    tapeprint::job::Problem error;
     const auto line = parseCommandLine({u"a.pdf"_qs, u"-"_qs, u"--"_qs, u"-n"_qs, u"-"_qs}, &error);
     ASSERT_TRUE(line.has_value());
     EXPECT_EQ(line->files, (QStringList{u"a.pdf"_qs, u"-n"_qs, u"-"_qs}));
@@ -91,11 +91,11 @@ TEST(CommandLineFiles, AfterTwoDashes_MayLookLikeOptions)
 
 TEST(CommandLineFlags, OfTheDialog_AreTaken)
 {
-    QString error;
+    tapeprint::job::Problem error;
     const auto line = parseCommandLine({u"--no-dialog"_qs, u"--show-options"_qs, u"--summary"_qs, u"-s"_qs, u"-c"_qs,
                                         u"--ppd=a.ppd"_qs, u"--output"_qs, u"b.prn"_qs, u"-t"_qs, u"-n"_qs},
                                        &error);
-    ASSERT_TRUE(line.has_value()) << error.toStdString();
+    ASSERT_TRUE(line.has_value()) << error.sentence.toStdString();
     EXPECT_TRUE(line->noDialog && line->showOptions && line->summary && line->silent);
     EXPECT_FALSE(line->help || line->version);
     EXPECT_EQ(line->request.ppdPath, u"a.ppd"_qs);
@@ -108,10 +108,10 @@ TEST(CommandLineFlags, OfTheDialog_AreTaken)
 
 TEST(CommandLineOutput, MayBeADashWhichIsNoDocument)
 {
-    QString error;
+    tapeprint::job::Problem error;
     const auto line =
         parseCommandLine({u"--ppd"_qs, u"a.ppd"_qs, u"--trust-ppd"_qs, u"--output"_qs, u"-"_qs, u"a.pdf"_qs}, &error);
-    ASSERT_TRUE(line.has_value()) << error.toStdString();
+    ASSERT_TRUE(line.has_value()) << error.sentence.toStdString();
     EXPECT_EQ(line->request.outputPath, u"-"_qs);
     EXPECT_EQ(line->files, QStringList{u"a.pdf"_qs});
     EXPECT_TRUE(line->request.trustsPpd);

@@ -43,9 +43,9 @@ protected:
     /// What a description would run of its own.
     QStringList foreign(const QByteArray &lines) const
     {
-        QString error;
+        Problem error;
         const PpdFile sent = openPpdFile(ppdWith(lines), &error);
-        EXPECT_NE(sent, nullptr) << error.toStdString();
+        EXPECT_NE(sent, nullptr) << error.sentence.toStdString();
         QStringList texts;
         for (const ForeignProgram &found : foreignPrograms(sent.get())) {
             texts.append(found.keyword + u'=' + found.text);
@@ -59,12 +59,16 @@ protected:
 
 TEST_F(HostilePpd, FilterByPath_IsRefusedByNameAndNotRun)
 {
-    expectFailure(job(ppdWith("*cupsFilter: \"text/plain 0 " + intruder.toUtf8() + "\"\n")), qPrintable(intruder));
+    expectFailure(testsupport::badDescription,
+                  job(ppdWith("*cupsFilter: \"text/plain 0 " + intruder.toUtf8() + "\"\n")), qPrintable(intruder));
     const QString relative = QDir(cupsFilterFolder()).relativeFilePath(intruder);
-    expectFailure(job(ppdWith("*cupsFilter: \"text/plain 0 " + relative.toUtf8() + "\"\n")), qPrintable(relative));
-    expectFailure(job(ppdWith("*cupsFilter2: \"text/plain text/plain 0 " + intruder.toUtf8() + "\"\n")),
+    expectFailure(testsupport::badDescription,
+                  job(ppdWith("*cupsFilter: \"text/plain 0 " + relative.toUtf8() + "\"\n")), qPrintable(relative));
+    expectFailure(testsupport::badDescription,
+                  job(ppdWith("*cupsFilter2: \"text/plain text/plain 0 " + intruder.toUtf8() + "\"\n")),
                   "cupsFilter2: text/plain");
     expectFailure(
+        testsupport::badDescription,
         job(ppdWith("*cupsFilter: \"text/plain 0 -\"\n*cupsPreFilter: \"text/plain 0 " + intruder.toUtf8() + "\"\n")),
         "cupsPreFilter: text/plain");
     EXPECT_FALSE(QFileInfo::exists(trace));
@@ -74,7 +78,7 @@ TEST_F(HostilePpd, FilterByPath_IsRefusedByNameAndNotRun)
 TEST_F(HostilePpd, FilterByPath_IsRefusedForAQueuesJobIntoAFileAsWell)
 {
     QStringList arguments = job(ppdWith("*cupsFilter: \"text/plain 0 " + intruder.toUtf8() + "\"\n"));
-    expectFailure(arguments << u"-d"_qs << u"tape"_qs, "repeat with --trust-ppd");
+    expectFailure(testsupport::badDescription, arguments << u"-d"_qs << u"tape"_qs, "repeat with --trust-ppd");
     EXPECT_FALSE(QFileInfo::exists(trace));
 }
 
@@ -91,7 +95,8 @@ TEST_F(HostilePpd, CommandLine_IsRefusedAndShownWithoutItsControlCharacters)
     const QString sent = ppdWith("*cupsFilter: \"application/vnd.cups-postscript 0 foomatic-rip\"\n"
                                  "*FoomaticRIPCommandLine: \"cat; touch /tmp/x; echo \x1b[2J\"\n*End\n"
                                  "*FoomaticRIPPostPipe: \"| sh\"\n*End\n");
-    expectFailure(job(sent), "FoomaticRIPCommandLine: cat; touch /tmp/x; echo \\x1B[2J; FoomaticRIPPostPipe: | sh.");
+    expectFailure(testsupport::badDescription, job(sent),
+                  "FoomaticRIPCommandLine: cat; touch /tmp/x; echo \\x1B[2J; FoomaticRIPPostPipe: | sh.");
     EXPECT_FALSE(run(job(sent)).messages.contains('\x1b'));
 }
 

@@ -21,9 +21,9 @@ class LabelPictureTest : public testing::Test
 protected:
     void planPage(const QByteArray &document, const JobOptions &options = {})
     {
-        QString error;
+        Problem error;
         pages = PdfPages::open(writeFile(folder, u"label.pdf"_qs, document), &error);
-        ASSERT_NE(pages, nullptr) << error.toStdString();
+        ASSERT_NE(pages, nullptr) << error.sentence.toStdString();
         plan = planLabels({{pages->sizePt(0)}}, tape, options);
     }
 

@@ -94,9 +94,9 @@ protected:
     {
         job::Destination destination;
         destination.ppdPath = QStringLiteral(TAPEPRINT_PRINTER_DIR "/") + printer;
-        QString error;
+        job::Problem error;
         destination.ppd = job::openPpdFile(destination.ppdPath, &error);
-        ASSERT_NE(destination.ppd, nullptr) << error.toStdString();
+        ASSERT_NE(destination.ppd, nullptr) << error.sentence.toStdString();
         panels.open(std::move(destination), {});
         dialog = std::make_unique<PrintDialog>(job, panels, PrintDialog::Setup{{}, u"label"_qs, files, {}},
                                                PrintDialog::PrintAction());

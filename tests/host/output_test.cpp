@@ -85,11 +85,12 @@ TEST_F(Output, ThatIsTheDocument_IsRefusedUnderEveryNameOfIt)
     ASSERT_TRUE(QFile::link(u"label.txt"_qs, path(u"link.txt"_qs)));
     ASSERT_EQ(link(QFile::encodeName(document).constData(), QFile::encodeName(path(u"hard.txt"_qs)).constData()), 0);
     for (const char *name : {"label.txt", "link.txt", "hard.txt", "./tmp/../label.txt"}) {
-        expectFailure(job(QString::fromLatin1(name), document), "only read");
-        expectFailure(job(QString::fromLatin1(name), path(u"link.txt"_qs)), "only read");
+        expectFailure(testsupport::unwritableOutput, job(QString::fromLatin1(name), document), "only read");
+        expectFailure(testsupport::unwritableOutput, job(QString::fromLatin1(name), path(u"link.txt"_qs)), "only read");
     }
-    expectFailure(job(document, u"/etc/hostname"_qs) << document, "only read"); // not the first of two
-    expectFailure(job(filterPpd, document), "only read");
+    expectFailure(testsupport::unwritableOutput, job(document, u"/etc/hostname"_qs) << document,
+                  "only read"); // not the first of two
+    expectFailure(testsupport::unwritableOutput, job(filterPpd, document), "only read");
     EXPECT_EQ(contentsOf(document), "Hello\n");
     EXPECT_TRUE(contentsOf(filterPpd).endsWith("filter\"\n"));
 }
@@ -101,7 +102,7 @@ TEST_F(Output, ThatIsStandardInput_IsRefused)
     start(program, programPath(),
           {u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, document});
     ASSERT_TRUE(program.waitForFinished());
-    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_EQ(program.exitCode(), testsupport::unwritableOutput);
     EXPECT_EQ(contentsOf(document), "Hello\n");
 }
 
@@ -111,7 +112,7 @@ TEST_F(Output, ThatStandardOutputAppendsToTheDocument_IsRefused)
     program.setStandardOutputFile(document, QIODevice::Append);
     start(program, programPath(), job(u"-"_qs, document));
     ASSERT_TRUE(program.waitForFinished());
-    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_EQ(program.exitCode(), testsupport::unwritableOutput);
     EXPECT_EQ(contentsOf(document), "Hello\n");
 }
 
@@ -120,7 +121,7 @@ TEST_F(Output, OfAFailingJob_KeepsWhatStoodThere)
     const QString out = hosttest::writeFile(folder, u"out.prn"_qs, "mine");
     writeFilter("echo half\necho 'ERROR: no ink' >&2\nexit 3\n");
     const QStringList before = everything();
-    expectFailure(job(out, document), "no ink");
+    expectFailure(testsupport::failedJob, job(out, document), "no ink");
     EXPECT_EQ(contentsOf(out), "mine");
     EXPECT_EQ(everything(), before);
 }
@@ -209,7 +210,7 @@ TEST_F(Output, OnAFullDisk_IsSaidAndKeepsWhatStoodThere)
           QStringList{u"-rm"_qs, u"/bin/sh"_qs, script, path(u"out"_qs), programPath()} +
               job(u"out/out.prn"_qs, document));
     ASSERT_TRUE(shell.waitForFinished());
-    EXPECT_EQ(shell.exitCode(), 1);
+    EXPECT_EQ(shell.exitCode(), testsupport::unwritableOutput);
     EXPECT_EQ(shell.readAllStandardOutput(), "mineout.prn\n");
     EXPECT_TRUE(shell.readAllStandardError().contains("No space left on device"));
 }
@@ -248,7 +249,7 @@ TEST_F(Output, WhoseReaderGoesAway_IsSaid)
             pipe.read(10);
         }
     });
-    expectFailure(job(u"pipe"_qs, document), "Broken pipe");
+    expectFailure(testsupport::unwritableOutput, job(u"pipe"_qs, document), "Broken pipe");
     reader.join();
 }
 
@@ -278,7 +279,7 @@ TEST_F(Output, OfADocumentThatChangesMeanwhile_IsNotMade)
     ASSERT_TRUE(QTest::qWaitFor([&] { return isRunning(unique) || program.state() == QProcess::NotRunning; }, 30000));
     hosttest::writeFile(folder, u"label.txt"_qs, "Something else\n");
     ASSERT_TRUE(program.waitForFinished());
-    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_EQ(program.exitCode(), testsupport::badDocument);
     EXPECT_TRUE(program.readAllStandardError().contains("has changed since it was opened"));
     EXPECT_FALSE(QFileInfo::exists(path(u"out.prn"_qs)));
 }
@@ -286,19 +287,19 @@ TEST_F(Output, OfADocumentThatChangesMeanwhile_IsNotMade)
 TEST_F(Output, OfADocumentThatIsGone_IsRefused)
 {
     const FileStamps files{*FileStamp::ofPath(document)};
-    QString error;
+    Problem error;
     EXPECT_TRUE(areUnchanged(files, &error));
     ASSERT_TRUE(QFile::remove(document));
     EXPECT_FALSE(areUnchanged(files, &error));
-    EXPECT_TRUE(error.contains(u"label.txt is gone"_qs)) << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"label.txt is gone"_qs)) << error.sentence.toStdString();
 }
 
 TEST_F(Output, ThatNobodyNamed_TakesNoFilesPlace)
 {
-    QString error;
+    Problem error;
     const OutputTarget target{path(u"out.prn"_qs), false};
     auto output = OutputFile::open(target, &error);
-    ASSERT_NE(output, nullptr) << error.toStdString();
+    ASSERT_NE(output, nullptr) << error.sentence.toStdString();
     ASSERT_TRUE(output->write("bytes", &error));
     EXPECT_FALSE(QFileInfo::exists(target.path));
     // It came into being while the filters ran.

@@ -42,9 +42,9 @@ job::Destination samplePrinter(const QString &name)
 {
     job::Destination destination;
     destination.ppdPath = QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-%1.ppd").arg(name);
-    QString error;
+    job::Problem error;
     destination.ppd = job::openPpdFile(destination.ppdPath, &error);
-    EXPECT_NE(destination.ppd, nullptr) << error.toStdString();
+    EXPECT_NE(destination.ppd, nullptr) << error.sentence.toStdString();
     return destination;
 }
 
@@ -124,11 +124,11 @@ TEST_F(PageSettings, ResolutionAlone_IsNoneOfItsKeywords)
 {
     const QByteArray text = hosttest::testPpd(threeResolutions).replace("*KsM", "*M");
     job::Destination destination;
-    QString error;
+    job::Problem error;
     destination.ppd = job::openPpdFile(hosttest::writeFile(folder, u"other.ppd"_qs, text), &error);
     panels.open(std::move(destination), options({{u"Resolution"_qs, u"600x600dpi"_qs}}));
     EXPECT_TRUE(panels.entries().empty());
-    QString ignored;
+    job::Problem ignored;
     ASSERT_TRUE(panels.settle(&ignored));
     EXPECT_EQ(job.options().lines(), (QStringList{u"Resolution=600x600dpi"_qs, u"PageSize=W12"_qs}));
 }
@@ -227,7 +227,7 @@ TEST_F(PageSettings, RevertToTheTapeOpenedWith_ShowsItsState)
 {
     ASSERT_NO_FATAL_FAILURE(open(samplePrinter(u"mm"_qs)));
     pickTape(u"DC24x80"_qs);
-    QString error;
+    job::Problem error;
     ASSERT_TRUE(panels.revert(&error));
     EXPECT_TRUE(child<QLineEdit>(u"mTapeLengthTxFld"_qs)->isEnabled());
 }

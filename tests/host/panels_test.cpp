@@ -200,7 +200,7 @@ TEST_F(PanelsTest, Settling_ShowsSavesAndNotesWhatThePanelReplaced)
     open(options({{u"KsMargin"_qs, tooLong}, {u"CutMedia"_qs, u"Label"_qs}}));
     takeCalls();
     EXPECT_TRUE(panels.notices().isEmpty());
-    QString error;
+    Problem error;
     EXPECT_TRUE(panels.settle(&error));
     EXPECT_EQ(takeCalls(), (QStringList{u"willShow"_qs, u"save"_qs, u"changed KsMargin=2.0, tape W12"_qs}));
     EXPECT_EQ(panels.notices(), QStringList{u"The panel \"Test Panel\" holds KsMargin within its limits and steps: "
@@ -224,8 +224,9 @@ TEST_F(PanelsTest, ChangeOfAnotherOption_IsMarkedRecordedAndTold)
 TEST_F(PanelsTest, Revert_BringsJobMarksAndTapeBackAndTellsThePanelOfEachChange)
 {
     open();
-    QString error;
+    Problem error;
     ASSERT_TRUE(panels.settle(&error));
+    job.rememberAsOpened();
     const QStringList before = job.options().lines();
     job.changeOption(u"PageSize"_qs, u"W24"_qs);
     job.changeOption(u"CutMedia"_qs, u"Label"_qs);
@@ -253,7 +254,7 @@ TEST_F(PanelsTest, Revert_UnmarksWhatWasNotMarkedWhenOpened)
     ASSERT_TRUE(markedChoice(job.ppd(), u"Coating"_qs).isNull());
     job.changeOption(u"Coating"_qs, u"Gloss"_qs);
     ASSERT_EQ(markedChoice(job.ppd(), u"Coating"_qs), u"Gloss"_qs);
-    QString error;
+    Problem error;
     EXPECT_TRUE(panels.revert(&error));
     EXPECT_TRUE(markedChoice(job.ppd(), u"Coating"_qs).isNull());
     EXPECT_FALSE(job.options().contains(u"Coating"_qs));
@@ -274,7 +275,7 @@ TEST_F(PanelsTest, RevertOfACustomSize_BringsItsMeasuresBack)
     ASSERT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 500.0);
     job.changeOption(u"PageSize"_qs, u"Custom.60x700"_qs);
     ASSERT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 700.0);
-    QString error;
+    Problem error;
     EXPECT_TRUE(panels.revert(&error));
     EXPECT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 500.0);
     const ppd_size_t *size = ppdPageSize(job.ppd(), nullptr);
@@ -323,11 +324,11 @@ TEST_F(PanelsTest, RevertAfterReopening_GoesBackToWhatTheDialogWasOpenedWith)
     panels.open(queueDestination(folder), options({{u"KsMargin"_qs, u"5.0"_qs}}));
     const QStringList before = job.options().lines();
     panels.reopen(u"large"_qs, options({{u"PageSize"_qs, u"W24"_qs}, {u"CutMedia"_qs, u"Label"_qs}}), {});
-    QString error;
+    Problem error;
     EXPECT_TRUE(panels.revert(&error));
     takeCalls();
     panels.remake();
-    EXPECT_EQ(takeCalls().value(0), u"made, margin 5.0"_qs);
+    EXPECT_EQ(takeCalls().filter(u"made"_qs), QStringList{u"made, margin 5.0"_qs});
     EXPECT_EQ(job.options().lines(), before);
     EXPECT_EQ(job.laidDown().lines(), QStringList{u"KsMargin=5.0"_qs});
     EXPECT_EQ(job.printer().instance, QString());
@@ -348,10 +349,11 @@ TEST_F(PanelsTest, FailureToSave_NamesThePanelAndItsReason)
 {
     open();
     qApp->setProperty("hostTestFailSaving", true);
-    QString error;
+    Problem error;
     EXPECT_FALSE(panels.saveValues(&error));
     qApp->setProperty("hostTestFailSaving", QVariant());
-    EXPECT_TRUE(error.contains(u"Test Panel"_qs) && error.contains(u"no margin"_qs)) << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"Test Panel"_qs) && error.sentence.contains(u"no margin"_qs))
+        << error.sentence.toStdString();
     EXPECT_TRUE(panels.saveValues(&error));
 }
 

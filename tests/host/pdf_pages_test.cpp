@@ -39,7 +39,7 @@ protected:
     std::unique_ptr<PdfPages> openPage(const QByteArray &entries, const QByteArray &content)
     {
         auto pages = open(pdf({PdfPage{entries, content}}));
-        EXPECT_NE(pages, nullptr) << error.toStdString();
+        EXPECT_NE(pages, nullptr) << error.sentence.toStdString();
         return pages;
     }
 
@@ -66,7 +66,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    QString error;
+    Problem error;
     std::atomic<bool> goOn = false;
     std::atomic<bool> stop = true;
 };
@@ -74,7 +74,7 @@ protected:
 TEST_F(PdfPagesTest, Pages_AreCountedAndHaveTheirOwnSizes)
 {
     const auto pages = open(pdf({{"/MediaBox[0 0 144 36]", {}}, {"/MediaBox[10 20 60 220]", {}}}));
-    ASSERT_NE(pages, nullptr) << error.toStdString();
+    ASSERT_NE(pages, nullptr) << error.sentence.toStdString();
     EXPECT_EQ(pages->count(), 2);
     EXPECT_EQ(pages->sizePt(0), QSizeF(144, 36));
     EXPECT_EQ(pages->sizePt(1), QSizeF(50, 200));
@@ -255,13 +255,13 @@ TEST_F(PdfPagesTest, DrawnRect_OfTenMetresIsAsExact)
 TEST_F(PdfPagesTest, DocumentsThatCannotBeShown_AreSaidInWords)
 {
     EXPECT_EQ(open("Hello\n"), nullptr);
-    EXPECT_EQ(error, u"label.pdf is no PDF document."_qs);
+    EXPECT_EQ(error.sentence, u"label.pdf is no PDF document."_qs);
     EXPECT_EQ(open("%PDF-1.4\nno document\n"), nullptr);
-    EXPECT_EQ(error, u"label.pdf is broken: no page of it can be read."_qs);
+    EXPECT_EQ(error.sentence, u"label.pdf is broken: no page of it can be read."_qs);
     EXPECT_EQ(open(pdf(QList<PdfPage>())), nullptr);
-    EXPECT_EQ(error, u"label.pdf has no page."_qs);
+    EXPECT_EQ(error.sentence, u"label.pdf has no page."_qs);
     EXPECT_EQ(open(hosttest::lockedPdf()), nullptr);
-    EXPECT_EQ(error, u"label.pdf is protected by a password: save it without one, and print that."_qs);
+    EXPECT_EQ(error.sentence, u"label.pdf is protected by a password: save it without one, and print that."_qs);
 }
 
 TEST_F(PdfPagesTest, FilesThatCannotBeRead_AreNotWaitedFor)
@@ -269,10 +269,10 @@ TEST_F(PdfPagesTest, FilesThatCannotBeRead_AreNotWaitedFor)
     const QString pipe = folder.filePath(u"pipe"_qs);
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     EXPECT_EQ(PdfPages::open(pipe, &error), nullptr);
-    EXPECT_EQ(error, pipe + u" cannot be read: It is no plain file."_qs);
+    EXPECT_EQ(error.sentence, pipe + u" cannot be read: It is no plain file."_qs);
     const QString missing = folder.filePath(u"missing.pdf"_qs);
     EXPECT_EQ(PdfPages::open(missing, &error), nullptr);
-    EXPECT_TRUE(error.startsWith(missing + u" cannot be read: "_qs)) << error.toStdString();
+    EXPECT_TRUE(error.sentence.startsWith(missing + u" cannot be read: "_qs)) << error.sentence.toStdString();
 }
 
 } // namespace

@@ -83,7 +83,7 @@ protected:
         panels.open(hosttest::testDestination(folder, hostileOption), {});
         dialog = std::make_unique<PrintDialog>(job, panels, PrintDialog::Setup{{}, u"<b>x</b>[*]"_qs, {}, {}},
                                                [](const job::SettledJob & /*job*/, const std::atomic<bool> & /*stop*/,
-                                                  QString *error) -> std::optional<job::PrintedJob> {
+                                                  job::Problem *error) -> std::optional<job::PrintedJob> {
                                                    *error = u"<b>no</b> &amp; never"_qs;
                                                    return std::nullopt;
                                                });

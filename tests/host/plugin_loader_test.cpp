@@ -35,7 +35,7 @@ LoadedBundles loadedForAnother(const QStringList &folders, const QByteArray &mor
     const QTemporaryDir folder;
     const QString path =
         hosttest::writeFile(folder, u"other.ppd"_qs, hosttest::testPpd(more).replace("KsMargin", "Margin"));
-    QString error;
+    Problem error;
     return loadBundles(folders, openPpdFile(path, &error).get());
 }
 

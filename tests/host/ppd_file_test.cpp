@@ -22,34 +22,35 @@ TEST(PpdFile_Broken, IsNamedWithTheLineThatIsAtFault)
     // The third line lacks its asterisk.
     const QString path = hosttest::writeFile(folder, u"broken.ppd"_qs,
                                              "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\nFileVersion: \"1.0\"\n");
-    QString error;
+    Problem error;
     EXPECT_EQ(openPpdFile(path, &error), nullptr);
-    EXPECT_TRUE(error.contains(path)) << error.toStdString();
-    EXPECT_TRUE(error.contains(u"line 3:"_qs)) << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(path)) << error.sentence.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"line 3:"_qs)) << error.sentence.toStdString();
 }
 
 TEST(PpdFile_Broken, GoesByTheNameThatThePersonKnows)
 {
     const QTemporaryDir folder;
     const QString path = hosttest::writeFile(folder, u"broken.ppd"_qs, "no PPD\n");
-    QString error;
+    Problem error;
     EXPECT_EQ(openPpdFile(path, &error, u"of queue tape"_qs), nullptr);
-    EXPECT_TRUE(error.startsWith(u"The PPD file of queue tape is not valid, line 1:"_qs)) << error.toStdString();
+    EXPECT_TRUE(error.sentence.startsWith(u"The PPD file of queue tape is not valid, line 1:"_qs))
+        << error.sentence.toStdString();
 }
 
 TEST(PpdFile_Missing, IsNamed)
 {
-    QString error;
+    Problem error;
     EXPECT_EQ(openPpdFile(u"/nowhere/at.ppd"_qs, &error), nullptr);
-    EXPECT_TRUE(error.contains(u"/nowhere/at.ppd cannot be read"_qs)) << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"/nowhere/at.ppd cannot be read"_qs)) << error.sentence.toStdString();
 }
 
 TEST(PpdFile_Folder, IsNoPpd)
 {
     const QTemporaryDir folder;
-    QString error;
+    Problem error;
     EXPECT_EQ(openPpdFile(folder.path(), &error), nullptr);
-    EXPECT_TRUE(error.contains(u"folder"_qs)) << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"folder"_qs)) << error.sentence.toStdString();
 }
 
 TEST(PpdMarks, OfAnUnlistedChoice_StayAsTheyWere)
@@ -97,12 +98,12 @@ TEST(PpdFile_Compressed, ThatIsCutOff_IsNamed)
     QFile whole(path + u".gz"_qs);
     ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
     const QByteArray bytes = whole.readAll();
-    QString error;
-    EXPECT_NE(openPpdFile(whole.fileName(), &error), nullptr) << error.toStdString();
+    Problem error;
+    EXPECT_NE(openPpdFile(whole.fileName(), &error), nullptr) << error.sentence.toStdString();
     for (const qsizetype left : {bytes.size() - 1, bytes.size() - 8, bytes.size() / 2, qsizetype{30}}) {
         const QString cut = hosttest::writeFile(folder, u"cut.ppd.gz"_qs, bytes.left(left));
         EXPECT_EQ(openPpdFile(cut, &error), nullptr) << left;
-        EXPECT_TRUE(error.contains(u"cut off"_qs)) << error.toStdString();
+        EXPECT_TRUE(error.sentence.contains(u"cut off"_qs)) << error.sentence.toStdString();
     }
 }
 

@@ -45,7 +45,7 @@ protected:
         panels.open(std::move(destination), {});
         dialog = std::make_unique<PrintDialog>(
             printJob, panels, PrintDialog::Setup{{}, u"label.txt"_qs, files, {}},
-            [this](const job::SettledJob &job, const std::atomic<bool> &stop, QString *error) {
+            [this](const job::SettledJob &job, const std::atomic<bool> &stop, job::Problem *error) {
                 return job::printJob(job, u"label.txt"_qs, files, stop, error);
             });
         dialog->show();
@@ -291,7 +291,7 @@ protected:
         dialog.reset();
         const QString path =
             hosttest::writeFile(folder, u"plain.ppd"_qs, hosttest::testPpd().replace("KsMargin", "Margin"));
-        QString error;
+        job::Problem error;
         job::Destination destination;
         destination.ppd = job::openPpdFile(path, &error);
         panels.open(std::move(destination), {});

@@ -69,6 +69,7 @@ TEST_F(Program, FailingFilter_LeavesNoOutputBehind)
 {
     hosttest::writeFile(folder, u"filter"_qs, "#!/bin/sh\necho half\necho 'ERROR: no ink' >&2\nexit 3\n");
     expectFailure(
+        testsupport::failedJob,
         {u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, document},
         "no ink");
     EXPECT_FALSE(QFileInfo::exists(folder.filePath(u"out.prn"_qs)));
@@ -77,6 +78,7 @@ TEST_F(Program, FailingFilter_LeavesNoOutputBehind)
 TEST_F(Program, FullDisk_IsNamed)
 {
     expectFailure(
+        testsupport::unwritableOutput,
         {u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"/dev/full"_qs, document},
         "No space left on device");
 }
@@ -85,6 +87,7 @@ TEST_F(Program, RefusingPanel_PrintsNothingAndPassesItsWordsOn)
 {
     variables.emplace_back(u"HOST_TEST_REFUSE"_qs, u"1"_qs);
     expectFailure(
+        testsupport::refusedValue,
         {u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, document},
         "The margin is too wide.");
     EXPECT_FALSE(QFileInfo::exists(folder.filePath(u"out.prn"_qs)));
@@ -125,19 +128,21 @@ TEST_F(Program, ResolutionThatThePanelCannotShow_IsSaidAndTheRestDone)
                                 "has: the job carries Resolution=A.\n");
 }
 
-TEST_F(Program, BadInput_IsOneLineAndStatusOne)
+TEST_F(Program, BadInput_IsOneLineAndTheStatusOfItsKind)
 {
     const QString broken = hosttest::writeFile(folder, u"broken.ppd"_qs, "*PPD-Adobe: \"4.3\"\nbroken\n");
     const QString empty = hosttest::writeFile(folder, u"empty.txt"_qs, {});
-    expectFailure({u"--ppd"_qs, broken, document}, "broken.ppd is not valid, line 2");
-    expectFailure({u"--ppd"_qs, folder.filePath(u"none.ppd"_qs), document}, "none.ppd cannot be read");
-    expectFailure({u"--ppd"_qs, ppd, folder.filePath(u"none.pdf"_qs)}, "none.pdf cannot be read");
-    expectFailure({u"--ppd"_qs, ppd, empty}, "is empty");
-    expectFailure({u"--ppd"_qs, ppd}, "Standard input is empty");
-    expectFailure({u"-d"_qs, u"tape"_qs, document}, "does not answer");
-    expectFailure({document}, "does not answer");
-    expectFailure({u"-o"_qs, u"a={b=c}"_qs, document}, "braces");
-    expectFailure({u"--unknown"_qs}, "--unknown is no option");
+    expectFailure(testsupport::badDescription, {u"--ppd"_qs, broken, document}, "broken.ppd is not valid, line 2");
+    expectFailure(testsupport::badDescription, {u"--ppd"_qs, folder.filePath(u"none.ppd"_qs), document},
+                  "none.ppd cannot be read");
+    expectFailure(testsupport::badDocument, {u"--ppd"_qs, ppd, folder.filePath(u"none.pdf"_qs)},
+                  "none.pdf cannot be read");
+    expectFailure(testsupport::badDocument, {u"--ppd"_qs, ppd, empty}, "is empty");
+    expectFailure(testsupport::badDocument, {u"--ppd"_qs, ppd}, "Standard input is empty");
+    expectFailure(testsupport::unreachable, {u"-d"_qs, u"tape"_qs, document}, "does not answer");
+    expectFailure(testsupport::unreachable, {document}, "does not answer");
+    expectFailure(testsupport::badUsage, {u"-o"_qs, u"a={b=c}"_qs, document}, "braces");
+    expectFailure(testsupport::badUsage, {u"--unknown"_qs}, "--unknown is no option");
 }
 
 TEST_F(Program, HelpAndVersion_NeedNothing)

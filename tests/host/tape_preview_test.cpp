@@ -730,11 +730,11 @@ class PreviewOfPageSettings : public testing::Test
 protected:
     void SetUp() override
     {
-        QString error;
+        Problem error;
         Destination destination;
         destination.ppdPath = QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd");
         destination.ppd = openPpdFile(destination.ppdPath, &error);
-        ASSERT_NE(destination.ppd, nullptr) << error.toStdString();
+        ASSERT_NE(destination.ppd, nullptr) << error.sentence.toStdString();
         panels.open(std::move(destination), {});
         const QByteArray label = pdf("0 0 100 30", "0 0 50 30 re f");
         dialog = std::make_unique<PrintDialog>(

@@ -76,9 +76,9 @@ protected:
     {
         job::Destination destination;
         destination.ppdPath = QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd");
-        QString error;
+        job::Problem error;
         destination.ppd = job::openPpdFile(destination.ppdPath, &error);
-        ASSERT_NE(destination.ppd, nullptr) << error.toStdString();
+        ASSERT_NE(destination.ppd, nullptr) << error.sentence.toStdString();
         panels.open(std::move(destination), asked);
         const QStringList files{hosttest::writeFile(folder, u"label.pdf"_qs, document)};
         dialog = std::make_unique<PrintDialog>(printJob, panels, PrintDialog::Setup{{}, u"label"_qs, files, {}},
@@ -385,7 +385,7 @@ TEST_F(WindowFitting, Print_Cancelled_StaysOpenAndMayBePrintedAgain)
 {
     std::atomic<int> calls = 0;
     ASSERT_NO_FATAL_FAILURE(
-        open(boxOfHundredPoints, [&calls](const job::SettledJob &, const std::atomic<bool> &stop, QString *) {
+        open(boxOfHundredPoints, [&calls](const job::SettledJob &, const std::atomic<bool> &stop, job::Problem *) {
             if (calls.fetch_add(1) > 0) {
                 return std::optional(job::PrintedJob{u"tape"_qs, {}, {}});
             }
@@ -433,7 +433,7 @@ TEST_F(WindowFitting, ClosingTheDialog_WhileItPrints_WaitsForNothingAndTellsTheA
     };
     const auto shared = std::make_shared<Shared>();
     ASSERT_NO_FATAL_FAILURE(
-        open(boxOfHundredPoints, [shared](const job::SettledJob &job, const std::atomic<bool> &stop, QString *) {
+        open(boxOfHundredPoints, [shared](const job::SettledJob &job, const std::atomic<bool> &stop, job::Problem *) {
             shared->isRunning = true;
             while (!shared->mayEnd) {
                 QThread::msleep(1);

@@ -34,10 +34,10 @@ QRectF inkOf(const QString &pdf, int page, const QRectF &partPt)
     constexpr double dotsPerPoint = 10.0;
     constexpr int half = 128;
     const std::atomic<bool> goOn = false;
-    QString error;
+    tapeprint::job::Problem error;
     const auto pages = tapeprint::job::PdfPages::open(pdf, &error);
     if (!pages) {
-        ADD_FAILURE() << error.toStdString();
+        ADD_FAILURE() << error.sentence.toStdString();
         return {};
     }
     const tapeprint::job::RenderedPage rendered = pages->render(page, dotsPerPoint, goOn, partPt);

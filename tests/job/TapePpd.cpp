@@ -74,10 +74,10 @@ tapeprint::job::PpdFile ppdOf(const QByteArray &text)
         qFatal("cannot write %s", qPrintable(file.fileName()));
     }
     file.close();
-    QString error;
+    tapeprint::job::Problem error;
     tapeprint::job::PpdFile ppd = tapeprint::job::openPpdFile(file.fileName(), &error);
     if (!ppd) {
-        qFatal("%s", qPrintable(error));
+        qFatal("%s", qPrintable(error.sentence));
     }
     return ppd;
 }

@@ -36,9 +36,9 @@ protected:
     {
         const QByteArray before = contentsOf(document);
         const QString pdf = folder.path(u"converted.pdf"_qs);
-        QString error;
+        Problem error;
         const bool done = convertToPdf(document, page, pdf, goOn, &error);
-        EXPECT_TRUE(done) << error.toStdString();
+        EXPECT_TRUE(done) << error.sentence.toStdString();
         EXPECT_EQ(contentsOf(document), before);
         return done ? pdf : QString();
     }
@@ -46,16 +46,16 @@ protected:
     /// The sentence of a document that cannot be converted.
     QString refusal(const QString &document) const
     {
-        QString error;
+        Problem error;
         EXPECT_FALSE(convertToPdf(document, textPage, folder.path(u"refused.pdf"_qs), goOn, &error));
-        return error;
+        return error.sentence;
     }
 
     static PageSizes sizesOf(const QString &pdf)
     {
-        QString error;
+        Problem error;
         const std::optional<PageSizes> sizes = pageSizesOf(pdf, &error);
-        EXPECT_TRUE(sizes) << error.toStdString();
+        EXPECT_TRUE(sizes) << error.sentence.toStdString();
         return sizes.value_or(PageSizes());
     }
 
@@ -291,10 +291,10 @@ TEST_F(DocumentConversion, BrokenPostScript_IsRefusedInWords)
 TEST_F(DocumentConversion, Stopped_EndsWithoutASentence)
 {
     const std::atomic<bool> stop = true;
-    QString error;
+    Problem error;
     EXPECT_FALSE(
         convertToPdf(folder.write(u"a.txt"_qs, "Hello\n"), textPage, folder.path(u"out.pdf"_qs), stop, &error));
-    EXPECT_TRUE(error.isNull()) << error.toStdString();
+    EXPECT_TRUE(error.isNull()) << error.sentence.toStdString();
 }
 
 } // namespace

@@ -54,12 +54,12 @@ protected:
                     RasterShift shift = {}) const
     {
         const QString source = folder.write(u"source.pdf"_qs, pdf);
-        QString error;
+        Problem error;
         const std::optional<PageSizes> sizes = pageSizesOf(source, &error);
         const QString labels = folder.path(u"labels.pdf"_qs);
         const bool done =
             sizes && writeLaidOut(planLabels({*sizes}, page, options), {source}, shift, labels, goOn, &error);
-        EXPECT_TRUE(done) << error.toStdString();
+        EXPECT_TRUE(done) << error.sentence.toStdString();
         return done ? labels : QString();
     }
 
@@ -209,11 +209,11 @@ TEST_F(LaidOutDocument, SeveralDocumentsOnOneLabel_AreEachItsOwn)
 {
     const QString first = folder.write(u"1.pdf"_qs, pdfOf({blockPage(40, 40, block(0, 0, 10, 10))}));
     const QString second = folder.write(u"2.pdf"_qs, pdfOf({blockPage(40, 40, block(30, 30, 10, 10))}));
-    QString error;
+    Problem error;
     const LabelPlan plan =
         planLabels({{{40, 40}}, {{40, 40}}}, tapeOf({40, 83}), jobtest::options({{u"number-up"_qs, u"2"_qs}}));
     const QString labels = folder.path(u"labels.pdf"_qs);
-    ASSERT_TRUE(writeLaidOut(plan, {first, second}, {}, labels, goOn, &error)) << error.toStdString();
+    ASSERT_TRUE(writeLaidOut(plan, {first, second}, {}, labels, goOn, &error)) << error.sentence.toStdString();
     EXPECT_EQ(pageSizesOf(labels, &error)->size(), 1U);
     expectInk(inkOf(labels, 0, {0, 0, 40, 40}), {0, 30, 10, 10});
     expectInk(inkOf(labels, 0, {0, 43, 40, 40}), {30, 43, 10, 10});
@@ -237,7 +237,7 @@ TEST_F(LaidOutDocument, TwoThousandPagesOfOnePicture_KeepThePictureOnce)
     EXPECT_LT(timer.elapsed(), 20000); // a second of an idle machine
     // 2,000 pages of a kilobyte or so, and one picture.
     EXPECT_LT(QFileInfo(labels).size(), 120000 + 2000 * 1500);
-    QString error;
+    Problem error;
     EXPECT_EQ(pageSizesOf(labels, &error)->size(), 2000U);
 }
 
@@ -284,57 +284,58 @@ protected:
 
 TEST_F(LockedDocument, WithAPasswordToOpenIt_IsRefusedInWords)
 {
-    QString error;
+    Problem error;
     EXPECT_FALSE(pageSizesOf(encrypted("user"), &error, u"shown.pdf"_qs));
-    EXPECT_TRUE(error.contains(u"shown.pdf is locked with a password")) << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"shown.pdf is locked with a password")) << error.sentence.toStdString();
     const LabelPlan plan = planLabels({{{100, 100}}}, tapeOf({100, 100}), {});
-    error.clear();
+    error = {};
     EXPECT_FALSE(writeLaidOut(plan, {folder.path(u"locked.pdf"_qs)}, {}, folder.path(u"labels.pdf"_qs), goOn, &error));
-    EXPECT_TRUE(error.contains(u"locked with a password")) << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"locked with a password")) << error.sentence.toStdString();
 }
 
 TEST_F(LockedDocument, WithAPasswordOfTheOwnerAlone_IsLaidOut)
 {
-    QString error;
+    Problem error;
     const QString locked = encrypted("");
     const LabelPlan plan = planLabels({{{100, 100}}}, tapeOf({100, 100}), {});
-    ASSERT_TRUE(writeLaidOut(plan, {locked}, {}, folder.path(u"labels.pdf"_qs), goOn, &error)) << error.toStdString();
+    ASSERT_TRUE(writeLaidOut(plan, {locked}, {}, folder.path(u"labels.pdf"_qs), goOn, &error))
+        << error.sentence.toStdString();
     expectInk(inkOf(folder.path(u"labels.pdf"_qs)), {10, 70, 30, 20});
 }
 
 TEST_F(LaidOutDocument, BrokenDocument_IsRefusedInWords)
 {
     for (const QByteArray &bytes : {QByteArray("%PDF-1.4\nand no more\n"), QByteArray("noise")}) {
-        QString error;
+        Problem error;
         EXPECT_FALSE(pageSizesOf(folder.write(u"bad.pdf"_qs, bytes), &error, u"bad.pdf"_qs));
-        EXPECT_TRUE(error.startsWith(u"The document bad.pdf is damaged (")) << error.toStdString();
+        EXPECT_TRUE(error.sentence.startsWith(u"The document bad.pdf is damaged (")) << error.sentence.toStdString();
     }
 }
 
 TEST_F(LaidOutDocument, DocumentWithoutAPage_IsRefusedInWords)
 {
-    QString error;
+    Problem error;
     EXPECT_FALSE(pageSizesOf(folder.write(u"empty.pdf"_qs, pdfOf({})), &error, u"empty.pdf"_qs));
-    EXPECT_TRUE(error.contains(u"empty.pdf has no page")) << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"empty.pdf has no page")) << error.sentence.toStdString();
 }
 
 TEST_F(LaidOutDocument, PathThatCannotBeWritten_IsRefusedInWords)
 {
     const QString source = folder.write(u"1.pdf"_qs, pdfOf({blockPage(40, 40, block(0, 0, 10, 10))}));
-    QString error;
+    Problem error;
     EXPECT_FALSE(writeLaidOut(planLabels({{{40, 40}}}, tapeOf({40, 40}), {}), {source}, {},
                               folder.path(u"none/labels.pdf"_qs), goOn, &error));
-    EXPECT_TRUE(error.startsWith(u"The labels cannot be laid out (")) << error.toStdString();
+    EXPECT_TRUE(error.sentence.startsWith(u"The labels cannot be laid out (")) << error.sentence.toStdString();
 }
 
 TEST_F(LaidOutDocument, Stopped_EndsWithoutASentence)
 {
     const QString source = folder.write(u"1.pdf"_qs, pdfOf({blockPage(40, 40, block(0, 0, 10, 10))}));
     const std::atomic<bool> stop = true;
-    QString error;
+    Problem error;
     EXPECT_FALSE(writeLaidOut(planLabels({{{40, 40}}}, tapeOf({40, 40}), {}), {source}, {},
                               folder.path(u"labels.pdf"_qs), stop, &error));
-    EXPECT_TRUE(error.isNull()) << error.toStdString();
+    EXPECT_TRUE(error.isNull()) << error.sentence.toStdString();
     EXPECT_FALSE(QFileInfo::exists(folder.path(u"labels.pdf"_qs)));
 }
 

@@ -42,10 +42,10 @@ protected:
     /// Lays documents out. \return the labels' path, or the sentence after "! ".
     QString laidOut(const SettledJob &job, const QStringList &files) const
     {
-        QString error;
+        Problem error;
         const std::optional<PdfDocuments> documents = collectPdfs(job, files, goOn, &error);
         const QString labels = folder.path(u"labels.pdf"_qs);
-        return documents && layOutJob(job, *documents, labels, goOn, &error) ? labels : u"! "_qs + error;
+        return documents && layOutJob(job, *documents, labels, goOn, &error) ? labels : u"! "_qs + error.sentence;
     }
 
     jobtest::Folder folder;
@@ -56,7 +56,7 @@ protected:
 
 TEST_F(LaidOutJob, SeveralDocuments_BecomeOneOfLabels)
 {
-    QString error;
+    Problem error;
     const QString labels = laidOut(tapeJob(), {document, document});
     const std::optional<PageSizes> sizes = pageSizesOf(labels, &error);
     ASSERT_TRUE(sizes) << labels.toStdString();
@@ -102,10 +102,10 @@ TEST_F(LaidOutJob, PageWithoutASize_IsSaid)
 
 TEST_F(LaidOutJob, FitLength_MeasuresEveryPage)
 {
-    QString error;
+    Problem error;
     const SettledJob job = tapeJob(jobtest::options({{u"fit-length"_qs, u"true"_qs}}));
     const std::optional<PdfDocuments> documents = collectPdfs(job, {document}, goOn, &error);
-    ASSERT_TRUE(documents) << error.toStdString();
+    ASSERT_TRUE(documents) << error.sentence.toStdString();
     ASSERT_EQ(documents->drawn.size(), 1U);
     ASSERT_EQ(documents->drawn[0].size(), 3U);
     EXPECT_NEAR(documents->drawn[0][0].height(), 100, 0.3);
@@ -119,7 +119,7 @@ TEST_F(LaidOutJob, FitLength_MeasuresEveryPage)
 
 TEST_F(LaidOutJob, WithoutFitLength_NothingIsMeasured)
 {
-    QString error;
+    Problem error;
     EXPECT_TRUE(collectPdfs(tapeJob(), {document}, goOn, &error)->drawn.empty());
 }
 
@@ -153,10 +153,10 @@ TEST_F(LaidOutJob, Notice_IsAboutALengthThatIsNotTheChosenOne)
 TEST_F(LaidOutJob, Stopped_EndsWithoutASentence)
 {
     const std::atomic<bool> stop = true;
-    QString error;
+    Problem error;
     PdfDocuments documents{{document}, {document}, {}, {}, {}};
     EXPECT_FALSE(findDrawnRects(documents, stop, &error));
-    EXPECT_TRUE(error.isNull()) << error.toStdString();
+    EXPECT_TRUE(error.isNull()) << error.sentence.toStdString();
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 // Presets in a file of the test's own, as libcups and other programs know them.
 #include "TapePpd.h"
 
-#include "job/KeptOptions.h"
 #include "job/LpOptionsFile.h"
+#include "job/PresetOptions.h"
 #include "job/Presets.h"
 #include "tests/support/TextPrinting.h"
 
@@ -26,7 +26,6 @@ namespace
 
 using namespace tapeprint::job;
 using jobtest::options;
-
 
 /// A home and a machine's folder of their own, and the variables as they were afterwards.
 class Presets : public testing::Test
@@ -80,7 +79,7 @@ protected:
 
     QTemporaryDir folder;
     std::vector<std::pair<const char *, QByteArray>> before;
-    QString error;
+    Problem error;
 };
 
 TEST_F(Presets, Saving_KeepsEveryOtherLineAsItWas)
@@ -95,21 +94,22 @@ TEST_F(Presets, Saving_KeepsEveryOtherLineAsItWas)
     write(ownPath(), others);
     ASSERT_TRUE(
         savePreset(u"tape"_qs, u"red"_qs, options({{u"PageSize"_qs, u"W12"_qs}, {u"Ink"_qs, u"Red"_qs}}), &error))
-        << error.toStdString();
+        << error.sentence.toStdString();
     EXPECT_EQ(written(), others + "Dest tape/red PageSize=W12 Ink=Red\n");
 }
 
 TEST_F(Presets, SavingOver_ReplacesTheLineWhereItStands)
 {
     write(ownPath(), "Default tape/Red Ink=Red KsMargin=5.0\nDest office A=1\nDest tape/red Ink=Blue\n");
-    ASSERT_TRUE(savePreset(u"tape"_qs, u"red"_qs, options({{u"Ink"_qs, u"Dark"_qs}}), &error)) << error.toStdString();
+    ASSERT_TRUE(savePreset(u"tape"_qs, u"red"_qs, options({{u"Ink"_qs, u"Dark"_qs}}), &error))
+        << error.sentence.toStdString();
     EXPECT_EQ(written(), "Default tape/Red Ink=Dark\nDest office A=1\n");
 }
 
 TEST_F(Presets, OfAPersonWithoutAny_AreNone)
 {
     EXPECT_EQ(names(u"tape"_qs), QStringList());
-    EXPECT_TRUE(error.isNull()) << error.toStdString();
+    EXPECT_TRUE(error.isNull()) << error.sentence.toStdString();
 }
 
 TEST_F(Presets, AreListedByNameWithThoseForEverybody)
@@ -145,7 +145,7 @@ TEST_F(Presets, Name_ThatCupsCannotKeep_IsRefusedAndABetterOneOffered)
          {u""_qs, u"two words"_qs, u"a/b"_qs, u"a\\b"_qs, u"\"a\""_qs, u"a'b"_qs, u"a#b"_qs, u"a\tb"_qs, u"a\u0007"_qs,
           u"a\u2028b"_qs, u"a\u202Eb"_qs, u"a\u00A0b"_qs, QString(128, u'a'), QString(64, QChar(0x00e4))}) {
         EXPECT_FALSE(problemWithPresetName(name).isNull()) << name.toStdString();
-        error.clear();
+        error = {};
         EXPECT_FALSE(savePreset(u"tape"_qs, name, options({{u"A"_qs, u"1"_qs}}), &error)) << name.toStdString();
         EXPECT_FALSE(error.isNull());
         EXPECT_TRUE(name.isEmpty() || problemWithPresetName(suitablePresetName(name)).isNull()) << name.toStdString();
@@ -170,7 +170,7 @@ TEST_F(Presets, ValuesOfEveryKind_AreReadByCupsAsTheyWereSaved)
                                       {u"Braces"_qs, u"{Width=1 Height=2}"_qs},
                                       {u"Umlaut"_qs, u"größe"_qs},
                                       {u"Custom"_qs, u"Custom.10x20mm"_qs}});
-    ASSERT_TRUE(savePreset(u"tape"_qs, u"odd"_qs, saved, &error)) << error.toStdString();
+    ASSERT_TRUE(savePreset(u"tape"_qs, u"odd"_qs, saved, &error)) << error.sentence.toStdString();
     // The line goes through libcups' own reader of such files and its own parser of options.
     const std::unique_ptr<cups_file_t, int (*)(cups_file_t *)> file(
         cupsFileOpen(QFile::encodeName(ownPath()).constData(), "r"), cupsFileClose);
@@ -199,33 +199,33 @@ TEST_F(Presets, MoreThanCupsReadsOfALine_IsRefusedAndNothingWritten)
         many.set(u"Option%1"_qs.arg(i), u"Value"_qs);
     }
     EXPECT_FALSE(savePreset(u"tape"_qs, u"many"_qs, many, &error));
-    EXPECT_EQ(error, u"These are more options than CUPS keeps in a preset."_qs);
-    error.clear();
+    EXPECT_EQ(error.sentence, u"These are more options than CUPS keeps in a preset."_qs);
+    error = {};
     EXPECT_FALSE(savePreset(u"tape"_qs, u"lines"_qs, options({{u"A"_qs, u"1\nDefault evil"_qs}}), &error));
-    EXPECT_EQ(error, u"An option has a value that CUPS cannot keep in a preset."_qs);
+    EXPECT_EQ(error.sentence, u"An option has a value that CUPS cannot keep in a preset."_qs);
     EXPECT_EQ(written(), "Dest tape/old A=1\n");
 }
 
 TEST_F(Presets, Renaming_ChangesTheNameAlone)
 {
     write(ownPath(), "Dest tape/red Ink=\"Dark \\#2\"\nDest other/red A=1\nDest tape/blue Ink=Blue\n");
-    ASSERT_TRUE(renamePreset(u"tape"_qs, u"red"_qs, u"dark"_qs, &error)) << error.toStdString();
+    ASSERT_TRUE(renamePreset(u"tape"_qs, u"red"_qs, u"dark"_qs, &error)) << error.sentence.toStdString();
     EXPECT_EQ(written(), "Dest tape/dark Ink=\"Dark \\#2\"\nDest other/red A=1\nDest tape/blue Ink=Blue\n");
     EXPECT_FALSE(renamePreset(u"tape"_qs, u"dark"_qs, u"Blue"_qs, &error));
-    EXPECT_EQ(error, u"There is a preset Blue already."_qs);
+    EXPECT_EQ(error.sentence, u"There is a preset Blue already."_qs);
     EXPECT_FALSE(renamePreset(u"tape"_qs, u"red"_qs, u"green"_qs, &error));
     EXPECT_EQ(names(u"tape"_qs), (QStringList{u"blue"_qs, u"dark"_qs}));
-    EXPECT_TRUE(renamePreset(u"tape"_qs, u"dark"_qs, u"DARK"_qs, &error)) << error.toStdString();
+    EXPECT_TRUE(renamePreset(u"tape"_qs, u"dark"_qs, u"DARK"_qs, &error)) << error.sentence.toStdString();
     EXPECT_EQ(names(u"tape"_qs), (QStringList{u"blue"_qs, u"DARK"_qs}));
 }
 
 TEST_F(Presets, OneIsTheDefaultAtMost)
 {
     write(ownPath(), "Default office A=1\nDest tape/red Ink=Red\n");
-    ASSERT_TRUE(makePresetDefault(u"tape"_qs, u"red"_qs, &error)) << error.toStdString();
+    ASSERT_TRUE(makePresetDefault(u"tape"_qs, u"red"_qs, &error)) << error.sentence.toStdString();
     EXPECT_EQ(written(), "Dest office A=1\nDefault tape/red Ink=Red\n");
     EXPECT_TRUE(presetsOf(u"tape"_qs, &error).at(0).isDefault);
-    ASSERT_TRUE(makePresetDefault(u"tape"_qs, {}, &error)) << error.toStdString();
+    ASSERT_TRUE(makePresetDefault(u"tape"_qs, {}, &error)) << error.sentence.toStdString();
     EXPECT_EQ(written(), "Dest office A=1\nDest tape/red Ink=Red\nDefault tape\n");
 }
 
@@ -234,7 +234,7 @@ TEST_F(Presets, Deleting_AMissingOne_IsSaid)
     write(ownPath(), "Dest tape/red Ink=Red\n");
     write(otherPath(), "Dest tape/house Ink=Black\n");
     EXPECT_FALSE(deletePreset(u"tape"_qs, u"house"_qs, &error));
-    EXPECT_EQ(error, u"tape has no preset house of yours."_qs);
+    EXPECT_EQ(error.sentence, u"tape has no preset house of yours."_qs);
     EXPECT_TRUE(deletePreset(u"tape"_qs, u"red"_qs, &error));
     EXPECT_EQ(names(u"tape"_qs), QStringList{u"house"_qs});
 }
@@ -252,7 +252,7 @@ TEST_F(Presets, OnAFullDisk_StayAsTheyWereAndThatIsSaid)
     setrlimit(RLIMIT_FSIZE, &limit);
     std::signal(SIGXFSZ, handler);
     EXPECT_FALSE(saved);
-    EXPECT_TRUE(error.contains(u"cannot be written"_qs)) << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"cannot be written"_qs)) << error.sentence.toStdString();
     EXPECT_EQ(written(), others);
     EXPECT_EQ(QDir(QFileInfo(ownPath()).path()).entryList(QDir::Files),
               QStringList{u"lpoptions"_qs}); // nothing is left
@@ -263,15 +263,15 @@ TEST_F(Presets, WhereNothingCanBeWritten_ThatIsSaid)
     qputenv("CUPS_SERVERROOT", "/proc/self/nowhere");
     qputenv("HOME", "/proc/self/nowhere");
     EXPECT_FALSE(savePreset(u"tape"_qs, u"red"_qs, options({{u"Ink"_qs, u"Red"_qs}}), &error));
-    EXPECT_TRUE(error.contains(u"/proc/self/nowhere"_qs) && error.contains(u"cannot be written"_qs))
-        << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"/proc/self/nowhere"_qs) && error.sentence.contains(u"cannot be written"_qs))
+        << error.sentence.toStdString();
 }
 
 TEST_F(Presets, AFileThatCannotBeRead_IsNotWrittenOver)
 {
     QDir().mkpath(ownPath()); // a folder in the file's place
     EXPECT_FALSE(savePreset(u"tape"_qs, u"red"_qs, options({{u"Ink"_qs, u"Red"_qs}}), &error));
-    EXPECT_TRUE(error.contains(u"cannot be read (it is no file)"_qs)) << error.toStdString();
+    EXPECT_TRUE(error.sentence.contains(u"cannot be read (it is no file)"_qs)) << error.sentence.toStdString();
     EXPECT_TRUE(QFileInfo(ownPath()).isDir());
 }
 

@@ -3,6 +3,7 @@
 #include "tests/printers/LabelDocuments.h"
 #include "tests/printers/PrintedTape.h"
 #include "tests/printers/SamplePrinter.h"
+#include "tests/support/ExitStatuses.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QImage>
@@ -128,7 +129,7 @@ TEST_F(FitLength, LengthThatWasAskedFor_IsNotOverwritten)
 {
     const PrintedTape printed =
         fitted(u"mm"_qs, {u"KsTapeLength=60"_qs}, {written(pdfWith({{20, 120, {{2, 10, 5, 8}}}}))});
-    EXPECT_EQ(printed.outcome.status, 1);
+    EXPECT_EQ(printed.outcome.status, testsupport::badUsage);
     EXPECT_TRUE(printed.outcome.messages.contains("--fit-length and -o KsTapeLength"))
         << printed.outcome.messages.toStdString();
 }

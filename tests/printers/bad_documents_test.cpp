@@ -4,6 +4,7 @@
 #include "tests/printers/LabelDocuments.h"
 #include "tests/printers/PrintedTape.h"
 #include "tests/printers/SamplePrinter.h"
+#include "tests/support/ExitStatuses.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QElapsedTimer>
@@ -26,11 +27,11 @@ protected:
     }
 
     /// Nothing is printed, and one line says why.
-    void expectRefused(const QStringList &options, const QString &file, const char *part,
-                       const QStringList &more = {}) const
+    void expectRefused(const QStringList &options, const QString &file, const char *part, const QStringList &more = {},
+                       testsupport::ExitStatus status = testsupport::badDocument) const
     {
         const PrintedTape printed = printTape(folder, u"mm"_qs, options, more + QStringList{file});
-        EXPECT_EQ(printed.outcome.status, 1) << part;
+        EXPECT_EQ(printed.outcome.status, status) << part;
         EXPECT_EQ(printed.outcome.output, "");
         EXPECT_TRUE(printed.outcome.messages.startsWith("tapeprint: ")) << printed.outcome.messages.toStdString();
         EXPECT_EQ(printed.outcome.messages.count('\n'), 1) << printed.outcome.messages.toStdString();
@@ -60,13 +61,14 @@ TEST_F(BadDocument, PageWithoutASize_IsNamed)
 
 TEST_F(BadDocument, NoSuchPage_IsSaid)
 {
-    expectRefused({}, good, "None of the document's pages is chosen", {u"-P"_qs, u"7"_qs});
+    expectRefused({}, good, "None of the document's pages is chosen", {u"-P"_qs, u"7"_qs}, testsupport::refusedValue);
 }
 
 TEST_F(BadDocument, MarginsThatLeaveNothing_AreSaid)
 {
     // The panel holds the margin within its own limits; on 12 mm of tape two margins of 6 leave nothing.
-    expectRefused({u"KsTapeLength=12"_qs, u"KsMargin=6"_qs}, good, "leave nothing of the tape");
+    expectRefused({u"KsTapeLength=12"_qs, u"KsMargin=6"_qs}, good, "leave nothing of the tape", {},
+                  testsupport::refusedValue);
 }
 
 TEST_F(BadDocument, Unknown_IsNamed)

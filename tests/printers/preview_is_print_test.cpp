@@ -57,20 +57,20 @@ std::optional<Previewed> previewed(const QString &ppdPath, const QStringList &op
     for (const QString &option : options) {
         request.options.set(option.section(u'=', 0, 0), option.section(u'=', 1));
     }
-    QString error;
+    job::Problem error;
     std::optional<job::Destination> destination = job::openDestination(request, &error);
     if (!destination) {
-        ADD_FAILURE() << error.toStdString();
+        ADD_FAILURE() << error.sentence.toStdString();
         return std::nullopt;
     }
     job::Job settings;
     dialog::Panels panels(settings, {QStringLiteral(TAPEPRINT_BUNDLE_DIR)});
     panels.open(std::move(*destination), request.options);
-    EXPECT_TRUE(panels.settle(&error)) << error.toStdString();
+    EXPECT_TRUE(panels.settle(&error)) << error.sentence.toStdString();
     const job::SettledJob settled = job::settle(settings);
     std::optional<job::PdfDocuments> documents = job::collectPdfs(settled, files, goOn, &error);
     if (!documents) {
-        ADD_FAILURE() << error.toStdString();
+        ADD_FAILURE() << error.sentence.toStdString();
         return std::nullopt;
     }
     return Previewed{job::planLabels(documents->sizes, settled.page, settled.options, documents->drawn), *documents};
@@ -85,10 +85,10 @@ QImage drawn(const Previewed &preview, std::size_t label, const QSize &dotsPerIn
     std::vector<std::unique_ptr<job::PdfPages>> documents;
     std::vector<const job::PdfPages *> borrowed;
     for (const QString &pdf : preview.documents.pdfs) {
-        QString error;
+        job::Problem error;
         documents.push_back(job::PdfPages::open(pdf, &error));
         borrowed.push_back(documents.back().get());
-        EXPECT_TRUE(documents.back()) << error.toStdString();
+        EXPECT_TRUE(documents.back()) << error.sentence.toStdString();
     }
     constexpr double pointsPerInch = 72.0;
     const QSizeF dotsPerPoint = QSizeF(dotsPerInch) * finer / pointsPerInch;

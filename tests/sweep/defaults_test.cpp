@@ -85,7 +85,7 @@ public:
     Opened(const QString &path, const JobOptions &asked) : mPanels(mJob, {QStringLiteral(TAPEPRINT_BUNDLE_DIR)})
     {
         Destination destination;
-        QString error;
+        Problem error;
         destination.ppdPath = path;
         destination.ppd = openPpdFile(path, &error);
         mPanels.open(std::move(destination), asked);
@@ -96,12 +96,12 @@ public:
     /// What is wrong with the job. \param reference libcups' view with the same set; \param expected the job's options.
     QString difference(ppd_file_t *reference, JobOptions expected)
     {
-        QString error;
+        Problem error;
         if (!mPanels.entries().empty()) {
             return u"a panel is loaded: "_qs + mPanels.entries().front().name;
         }
-        if (!mPanels.settle(&error) || !mPanels.saveValues(&error) || !mPanels.shouldPrint(&error)) {
-            return u"nothing would be printed: "_qs + error;
+        if (!mPanels.settle(&error) || !mPanels.saveValues(&error) || !mPanels.shouldPrint(&error.sentence)) {
+            return u"nothing would be printed: "_qs + error.sentence;
         }
         const QString paper = markedChoice(reference, OptionName::pageSize);
         if (!paper.isNull() && !expected.contains(OptionName::pageSize)) {

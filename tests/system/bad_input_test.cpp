@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// What goes wrong is said in one line on standard error, with exit status 1, and leaves neither a job nor a file.
+// What goes wrong is said in one line on standard error, with a status of its kind, and leaves neither a job nor a
+// file.
+#include "tests/support/ExitStatuses.h"
 #include "tests/system/SystemTest.h"
 
 #include <QDirIterator>
@@ -30,11 +32,12 @@ class BadInput : public SystemTest
 {
 protected:
     /// \param part what the one line must hold.
-    void expectFailure(const QStringList &arguments, const char *part, const QByteArray &input = {}) const
+    void expectFailure(testsupport::ExitStatus status, const QStringList &arguments, const char *part,
+                       const QByteArray &input = {}) const
     {
         const QStringList before = files();
         const Outcome outcome = tapeprint(arguments, input);
-        EXPECT_EQ(outcome.status, 1) << part;
+        EXPECT_EQ(outcome.status, status) << part;
         EXPECT_EQ(outcome.output, "") << part;
         EXPECT_TRUE(outcome.messages.startsWith("tapeprint: ")) << outcome.messages.toStdString();
         EXPECT_EQ(outcome.messages.count('\n'), 1) << outcome.messages.toStdString();
@@ -70,15 +73,18 @@ private:
 
 TEST_F(BadInput, UnknownQueueOrInstance_IsNamed)
 {
-    expectFailure({u"-d"_qs, u"nosuch"_qs, u"--no-dialog"_qs, document}, "knows no queue nosuch");
-    expectFailure({u"-d"_qs, u"tape/nosuch"_qs, u"--no-dialog"_qs, document}, "knows no queue tape/nosuch");
-    expectFailure({u"--no-dialog"_qs, document}, "no default printer");
+    expectFailure(testsupport::noSuchPrinter, {u"-d"_qs, u"nosuch"_qs, u"--no-dialog"_qs, document},
+                  "knows no queue nosuch");
+    expectFailure(testsupport::noSuchPrinter, {u"-d"_qs, u"tape/nosuch"_qs, u"--no-dialog"_qs, document},
+                  "knows no queue tape/nosuch");
+    expectFailure(testsupport::noSuchPrinter, {u"--no-dialog"_qs, document}, "no default printer");
 }
 
 TEST_F(BadInput, ServerThatIsNotThere_IsNamed)
 {
     moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"nobody.sock"_qs)}};
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document}, "nobody.sock does not answer");
+    expectFailure(testsupport::unreachable, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document},
+                  "nobody.sock does not answer");
 }
 
 TEST_F(BadInput, ServerThatDied_IsNamed)
@@ -86,7 +92,8 @@ TEST_F(BadInput, ServerThatDied_IsNamed)
     // It leaves its socket behind.
     close(boundSocket(folder.path(u"dead.sock"_qs)));
     moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"dead.sock"_qs)}};
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document}, "dead.sock does not answer");
+    expectFailure(testsupport::unreachable, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document},
+                  "dead.sock does not answer");
 }
 
 TEST_F(BadInput, ServerThatHangs_IsNamed)
@@ -95,7 +102,8 @@ TEST_F(BadInput, ServerThatHangs_IsNamed)
     const int server = boundSocket(folder.path(u"hung.sock"_qs));
     ASSERT_EQ(listen(server, 5), 0);
     moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"hung.sock"_qs)}};
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document}, "hung.sock does not answer");
+    expectFailure(testsupport::unreachable, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document},
+                  "hung.sock does not answer");
     close(server);
 }
 
@@ -103,42 +111,55 @@ TEST_F(BadInput, PpdThatDoesNotParse_IsNamedWithItsLine)
 {
     const QString broken =
         systemtest::writeFile(workFolder + u"/broken.ppd"_qs, "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\nbroken\n");
-    expectFailure({u"--ppd"_qs, broken, u"--no-dialog"_qs, document}, "broken.ppd is not valid, line 3: ");
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--ppd"_qs, broken, u"--no-dialog"_qs, document}, "line 3: ");
-    expectFailure({u"--ppd"_qs, workFolder + u"/none.ppd"_qs, u"--no-dialog"_qs, document}, "none.ppd cannot be read");
+    expectFailure(testsupport::badDescription, {u"--ppd"_qs, broken, u"--no-dialog"_qs, document},
+                  "broken.ppd is not valid, line 3: ");
+    expectFailure(testsupport::badDescription, {u"-d"_qs, u"tape"_qs, u"--ppd"_qs, broken, u"--no-dialog"_qs, document},
+                  "line 3: ");
+    expectFailure(testsupport::badDescription, {u"--ppd"_qs, workFolder + u"/none.ppd"_qs, u"--no-dialog"_qs, document},
+                  "none.ppd cannot be read");
 }
 
 TEST_F(BadInput, DocumentThatIsMissingOrEmpty_IsNamed)
 {
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"none.pdf"_qs}, "none.pdf cannot be read");
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document, u"none.pdf"_qs}, "none.pdf cannot be read");
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, workFolder}, "it is a folder");
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs}, "Standard input is empty");
+    expectFailure(testsupport::badDocument, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"none.pdf"_qs},
+                  "none.pdf cannot be read");
+    expectFailure(testsupport::badDocument, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document, u"none.pdf"_qs},
+                  "none.pdf cannot be read");
+    expectFailure(testsupport::badDocument, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, workFolder}, "it is a folder");
+    expectFailure(testsupport::badDocument, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs}, "Standard input is empty");
     systemtest::writeFile(workFolder + u"/empty.pdf"_qs, "");
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"empty.pdf"_qs}, "empty.pdf is empty");
+    expectFailure(testsupport::badDocument, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"empty.pdf"_qs},
+                  "empty.pdf is empty");
 }
 
 TEST_F(BadInput, OutputThatCannotBeWritten_IsNamed)
 {
     const QStringList start{u"--ppd"_qs, ppd, u"--no-dialog"_qs, u"--output"_qs};
-    expectFailure(start + QStringList{u"/dev/full"_qs, document}, "No space left on device");
-    expectFailure(start + QStringList{workFolder + u"/none/out.prn"_qs, document}, "/none/out.prn cannot be written");
+    expectFailure(testsupport::unwritableOutput, start + QStringList{u"/dev/full"_qs, document},
+                  "No space left on device");
+    expectFailure(testsupport::unwritableOutput, start + QStringList{workFolder + u"/none/out.prn"_qs, document},
+                  "/none/out.prn cannot be written");
     // Not even root makes a file there.
-    expectFailure(start + QStringList{u"/proc/out.prn"_qs, document}, "/proc/out.prn cannot be written");
-    expectFailure(start + QStringList{workFolder, document}, "cannot be written");
+    expectFailure(testsupport::unwritableOutput, start + QStringList{u"/proc/out.prn"_qs, document},
+                  "/proc/out.prn cannot be written");
+    expectFailure(testsupport::unwritableOutput, start + QStringList{workFolder, document}, "cannot be written");
 }
 
 TEST_F(BadInput, DocumentThatNoFilterTakes_LeavesNoOutputBehind)
 {
     const QString noise = systemtest::writeFile(workFolder + u"/noise.pdf"_qs, "%PDF-1.4\nand no more\n");
-    expectFailure({u"--ppd"_qs, ppd, u"--no-dialog"_qs, u"--output"_qs, u"out.prn"_qs, noise}, "noise.pdf");
+    expectFailure(testsupport::badDocument, {u"--ppd"_qs, ppd, u"--no-dialog"_qs, u"--output"_qs, u"out.prn"_qs, noise},
+                  "noise.pdf");
 }
 
 TEST_F(BadInput, OptionsThatAreNone_AreNamed)
 {
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-n"_qs, u"0"_qs, document}, "copies");
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-P"_qs, u"x"_qs, document}, "pages");
-    expectFailure({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-o"_qs, u"KsMargin={a=1}"_qs, document}, "braces");
+    expectFailure(testsupport::badUsage, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-n"_qs, u"0"_qs, document},
+                  "copies");
+    expectFailure(testsupport::badUsage, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-P"_qs, u"x"_qs, document},
+                  "pages");
+    expectFailure(testsupport::badUsage,
+                  {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-o"_qs, u"KsMargin={a=1}"_qs, document}, "braces");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // lp's letters on a real queue: default printer, instances, copies, title, pages, several files, standard input.
+#include "tests/support/ExitStatuses.h"
 #include "tests/system/SystemTest.h"
 
 #include <QDir>
@@ -139,7 +140,7 @@ TEST_F(QueueJob, DescriptionThatBringsAFilter_PrintsOnTheQueueButNotIntoAFile)
     EXPECT_EQ(printed({u"--ppd"_qs, sent, document}).size(), 1U);
     const Outcome outcome = tapeprint(
         {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"--ppd"_qs, sent, u"--output"_qs, u"out.prn"_qs, document});
-    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.status, testsupport::badDescription);
     EXPECT_TRUE(outcome.messages.contains("50 /tmp/no-such-filter")) << outcome.messages.toStdString();
     EXPECT_FALSE(QFileInfo::exists(workFolder + u"/out.prn"_qs));
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The main job through the real window, on a display of the test's own, by real keys and clicks.
+#include "tests/support/ExitStatuses.h"
 #include "tests/system/SystemTest.h"
 #include "tests/system/WindowUnderTest.h"
 
@@ -221,7 +222,7 @@ TEST_F(WindowJob, Cancel_PrintsNothing)
     dialog.type(u"75"_qs);
     dialog.press({u"Escape"_qs});
     const Outcome outcome = dialog.waitForEnd();
-    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    EXPECT_EQ(outcome.status, testsupport::cancelled) << outcome.messages.toStdString();
     EXPECT_EQ(outcome.output, "");
     EXPECT_TRUE(cups.jobs().empty());
 }

@@ -6,6 +6,7 @@
 #include "pdekit/Slider.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -220,6 +221,19 @@ class OwnField : public QLineEdit
 public:
     using QLineEdit::QLineEdit;
 };
+
+TEST_F(BundleTest, Interface_LoadsNoPlugInOfTheInterfaceEditor_AndLeavesTheToolkitItsOwn)
+{
+    // Strangers' code, and libraries that cost more than the view. Where none is installed there is none to load.
+    const QStringList paths = QCoreApplication::libraryPaths();
+    addInterface(R"(<widget class="QLineEdit" name="field"/>)");
+    ASSERT_NE(Bundle::bundleWithPath(bundlePath())->loadInterface(u"View"_qs, {}, nullptr), nullptr);
+    QFile maps(u"/proc/self/maps"_qs);
+    ASSERT_TRUE(maps.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(maps.readAll().contains("/plugins/designer/"));
+    EXPECT_EQ(QCoreApplication::libraryPaths(), paths);
+    EXPECT_FALSE(paths.isEmpty());
+}
 
 TEST_F(BundleTest, Interface_MakesThePlugInsOwnClasses)
 {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The options of one document as a table, and passwords by what the PPD says of a custom option's parameters.
-#include "job/KeptOptions.h"
+#include "job/PresetOptions.h"
 
 #include "job/PpdMarks.h"
 #include "job/ReplacedOptions.h"
