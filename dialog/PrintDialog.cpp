@@ -94,6 +94,8 @@ QWidget *PrintDialog::makeDestinationControls()
     mCopiesField->setObjectName(QStringLiteral("copies"));
     mCopiesField->setRange(1, mostCopies);
     form->addRow(tr("P&rinter:"), mPrinterPopUp);
+    mPresetRow = makePresetRow();
+    form->addRow(tr("Pre&set:"), mPresetRow);
     mTapeLabel = new QLabel(controls);
     mTapeLabel->setBuddy(mTapePopUp);
     form->addRow(mTapeLabel, mTapePopUp);
@@ -229,12 +231,13 @@ void PrintDialog::showDestination()
     showPages(0);
     mJob.rememberAsOpened();
     mKeepFitting->setChecked(job::layoutChoicesOf(mJob.options()).fitLength); // asked for beforehand
+    showPresets();
     follow();
 }
 
 void PrintDialog::showNotices()
 {
-    const QString notices = (mJob.notices() + mPanels.notices() + mAlerts).join(u'\n');
+    const QString notices = (mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts).join(u'\n');
     if (notices != mNotices->text()) {
         mNotices->setText(notices);
     }

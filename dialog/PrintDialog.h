@@ -3,6 +3,7 @@
 //
 //   PrintDialog
 //     ├─ printer, tape, copies      pop-ups and a field of its own
+//     ├─ PresetRow                  what is saved for the printer
 //     ├─ notices                    skipped bundles, options that get lost
 //     ├─ panel chooser
 //     ├─ panel area (scrolls)       the panels' views, and the page of other options
@@ -14,6 +15,7 @@
 #include "dialog/DocumentDesk.h"
 #include "dialog/MeasureUnit.h"
 #include "dialog/Panels.h"
+#include "dialog/PresetRow.h"
 #include "job/Destination.h"
 #include "job/Job.h"
 #include "job/Printing.h"
@@ -110,6 +112,12 @@ private:
     void followInThePreview();
     void revert();
     void remakePanels();
+    PresetRow *makePresetRow();
+    void showPresets();
+    QStringList presetNotices() const;
+    void pickPreset(const PresetRow::Settings &settings);
+    void followInThePresets();
+    std::optional<job::JobOptions> optionsToSave();
     void print();
     void setPrinting(bool isPrinting);
     void finishPrinting(std::optional<job::PrintedJob> printed, const job::Problem &error);
@@ -144,6 +152,7 @@ private:
     QTimer mRestTimer;            ///< a change of the views' areas has come to rest when nothing else waits to be done
 
     QComboBox *mPrinterPopUp = nullptr;
+    PresetRow *mPresetRow = nullptr;
     QComboBox *mTapePopUp = nullptr;
     QSpinBox *mCopiesField = nullptr;
     QLabel *mTapeLabel = nullptr;
