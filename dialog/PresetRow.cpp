@@ -3,13 +3,15 @@
 // thread.
 #include "dialog/PresetRow.h"
 
+#include "dialog/PopUp.h"
 #include "dialog/PresetNameDialog.h"
 #include "job/LastSettings.h"
 #include "job/PresetOptions.h"
 
 #include <QAction>
-#include <QComboBox>
+#include <QFontMetrics>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -23,6 +25,8 @@ namespace tapeprint::dialog
 
 namespace
 {
+
+constexpr int shownLetters = 18;
 
 using Kind = PresetRow::Choice::Kind;
 
@@ -51,11 +55,11 @@ PresetRow::PresetRow(OptionsToSave optionsToSave, QWidget *parent)
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
-    mPopUp = new QComboBox(this);
+    mPopUp = new PopUp(this);
     mPopUp->setObjectName(QStringLiteral("preset"));
-    mPopUp->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    mPopUp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    mPopUp->setAccessibleName(tr("Preset"));
+    mPopUp->setMinimumWidth(QFontMetrics(mPopUp->font()).averageCharWidth() * shownLetters);
+    auto *label = new QLabel(tr("Pre&set:"), this);
+    label->setBuddy(mPopUp);
     mMenuButton = new QToolButton(this);
     mMenuButton->setObjectName(QStringLiteral("presetMenu"));
     mMenuButton->setText(QStringLiteral("…"));
@@ -63,9 +67,9 @@ PresetRow::PresetRow(OptionsToSave optionsToSave, QWidget *parent)
     mMenuButton->setAccessibleName(mMenuButton->toolTip());
     mMenuButton->setPopupMode(QToolButton::InstantPopup);
     mMenuButton->setFocusPolicy(Qt::StrongFocus);
+    layout->addWidget(label);
     layout->addWidget(mPopUp, 1);
     layout->addWidget(mMenuButton);
-    setFocusProxy(mPopUp);
     makeMenu();
     connect(mPopUp, &QComboBox::activated, this, &PresetRow::pick);
 }

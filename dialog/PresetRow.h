@@ -16,11 +16,12 @@
 #include <vector>
 
 class QAction;
-class QComboBox;
 class QToolButton;
 
 namespace tapeprint::dialog
 {
+
+class PopUp;
 
 class PresetRow : public QWidget
 {
@@ -101,7 +102,7 @@ private:
     job::JobOptions mCurrent;
     QStringList mNotices;
 
-    QComboBox *mPopUp = nullptr;
+    PopUp *mPopUp = nullptr;
     QToolButton *mMenuButton = nullptr;
     QAction *mSaveAs = nullptr;
     QAction *mSaveOver = nullptr;

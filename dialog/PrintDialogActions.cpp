@@ -232,10 +232,13 @@ void PrintDialog::print()
         return;
     }
     setPrinting(true);
-    mPrinting.start([this, action = mPrintAction,
+    mPrinting.start([this, action = mPrintAction, keep = keepingForNextTime(),
                      job = job::settle(mJob)](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
         job::Problem problem;
         std::optional<job::PrintedJob> printed = action(job, stop, &problem);
+        if (printed) {
+            keep();
+        }
         return [this, printed = std::move(printed), problem] { finishPrinting(printed, problem); };
     });
 }

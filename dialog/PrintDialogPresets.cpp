@@ -5,6 +5,7 @@
 #include "dialog/OptionsPage.h"
 #include "dialog/PresetRow.h"
 #include "dialog/PrintDialog.h"
+#include "job/LastSettings.h"
 #include "job/PageLayout.h"
 #include "job/PresetOptions.h"
 #include "job/Presets.h"
@@ -80,6 +81,20 @@ std::optional<job::JobOptions> PrintDialog::optionsToSave()
         return std::nullopt;
     }
     return job::withoutGone(job::optionsForPreset(mJob.options(), mJob.ppd()), mJob.ppd());
+}
+
+/// Done away from the window's thread, when the job was printed.
+std::function<void()> PrintDialog::keepingForNextTime() const
+{
+    if (!mJob.destination().queue) {
+        return [] {};
+    }
+    return [queue = mJob.destination().queue->name, tape = mJob.options().value(job::OptionName::pageSize),
+            options = job::optionsForNextTime(mJob.options(), mJob.ppd())] {
+        // The label is printed; that the next time begins elsewhere is no problem to put before the person.
+        job::Problem ignored;
+        job::keepLastSettings(queue, tape, options, &ignored);
+    };
 }
 
 } // namespace tapeprint::dialog
