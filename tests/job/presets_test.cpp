@@ -2,9 +2,10 @@
 // Presets in a file of the test's own, as libcups and other programs know them.
 #include "TapePpd.h"
 
-#include "job/LpOptionsFile.h"
+#include "job/LastSettings.h"
 #include "job/PresetOptions.h"
 #include "job/Presets.h"
+#include "tests/support/CupsHome.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QDir>
@@ -19,7 +20,6 @@
 #include <cups/file.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <unistd.h>
 
 namespace
 {
@@ -27,47 +27,13 @@ namespace
 using namespace tapeprint::job;
 using jobtest::options;
 
-/// A home and a machine's folder of their own, and the variables as they were afterwards.
 class Presets : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        for (const char *name : {"HOME", "CUPS_SERVERROOT"}) {
-            before.emplace_back(name, qgetenv(name));
-        }
-        QDir(folder.path()).mkdir(u"root"_qs);
-        QDir(folder.path()).mkdir(u"home"_qs);
-        qputenv("HOME", folder.filePath(u"home"_qs).toUtf8());
-        qputenv("CUPS_SERVERROOT", folder.filePath(u"root"_qs).toUtf8());
-    }
-    void TearDown() override
-    {
-        for (const auto &[name, value] : before) {
-            value.isNull() ? qunsetenv(name) : qputenv(name, value);
-        }
-    }
-
-    /// libcups takes root's changes as the machine's.
-    QString ownPath() const
-    {
-        return folder.filePath(getuid() == 0 ? u"root/lpoptions"_qs : u"home/.cups/lpoptions"_qs);
-    }
-    QString otherPath() const
-    {
-        return folder.filePath(getuid() == 0 ? u"home/.cups/lpoptions"_qs : u"root/lpoptions"_qs);
-    }
-    void write(const QString &path, const QByteArray &bytes)
-    {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-    QByteArray written() const
-    {
-        QFile file(ownPath());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QString ownPath() const { return home.ownPath(); }
+    QString otherPath() const { return home.otherPath(); }
+    QByteArray written() const { return home.written(); }
+    static void write(const QString &path, const QByteArray &bytes) { CupsHome::write(path, bytes); }
     QStringList names(const QString &queue)
     {
         QStringList names;
@@ -77,8 +43,7 @@ protected:
         return names;
     }
 
-    QTemporaryDir folder;
-    std::vector<std::pair<const char *, QByteArray>> before;
+    CupsHome home;
     Problem error;
 };
 
@@ -301,6 +266,79 @@ TEST(PresetOptions, AreTheSame_InWhateverOrderAndSpelling)
     EXPECT_FALSE(meanTheSame(job, options({{u"A"_qs, u"62"_qs}})));
     EXPECT_FALSE(meanTheSame(options({{u"A"_qs, u"62"_qs}}), job));
     EXPECT_FALSE(meanTheSame(job, options({{u"A"_qs, u"62"_qs}, {u"C"_qs, u"Red"_qs}})));
+}
+
+TEST(PresetOptions, ThatAreGone_AreSaidAndLeftOutWhenSavedOver)
+{
+    const PpdFile ppd = jobtest::ppdOf(jobtest::tapePpdText());
+    const JobOptions preset = options({{u"PageSize"_qs, u"S72"_qs},
+                                       {u"Perforator"_qs, u"Fine"_qs},
+                                       {u"number-up"_qs, u"2"_qs},
+                                       {u"fit-to-page"_qs, u"true"_qs}});
+    EXPECT_EQ(
+        optionsThatAreGone(preset, ppd.get()),
+        QStringList{u"The preset's option Perforator=Fine is none of this printer's any more. The preset keeps it "
+                    "until you save over it."_qs});
+    EXPECT_EQ(withoutGone(preset, ppd.get()).lines(),
+              (QStringList{u"PageSize=S72"_qs, u"number-up=2"_qs, u"fit-to-page=true"_qs}));
+    // Of a queue without a description nothing is known.
+    EXPECT_EQ(optionsThatAreGone(preset, nullptr), QStringList());
+}
+
+TEST(PresetOptions, NeverHoldAPasswordThatWasTyped)
+{
+    const PpdFile ppd = jobtest::ppdOf(jobtest::tapePpdText("*OpenUI *Lock/Lock: PickOne\n"
+                                                            "*OrderDependency: 20 AnySetup *Lock\n"
+                                                            "*DefaultLock: None\n"
+                                                            "*Lock None/None: \"\"\n"
+                                                            "*CloseUI: *Lock\n"
+                                                            "*CustomLock True: \"\"\n"
+                                                            "*ParamCustomLock Code: 1 password 1 8\n"));
+    EXPECT_EQ(optionsForPreset(options({{u"Lock"_qs, u"Custom.secret"_qs}, {u"A"_qs, u"1"_qs}}), ppd.get()).lines(),
+              QStringList{u"A=1"_qs});
+    EXPECT_EQ(optionsForNextTime(options({{u"Lock"_qs, u"{Code=secret}"_qs}}), ppd.get()).lines(), QStringList());
+    EXPECT_EQ(optionsForPreset(options({{u"Lock"_qs, u"None"_qs}}), ppd.get()).lines(), QStringList{u"Lock=None"_qs});
+}
+
+/// Settings of the last time, in a folder of the test's own.
+class LastSettings : public testing::Test
+{
+protected:
+    void SetUp() override { qputenv("XDG_CONFIG_HOME", folder.path().toUtf8()); }
+    void TearDown() override { qputenv("XDG_CONFIG_HOME", before); }
+
+    QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    QTemporaryDir folder;
+    Problem error;
+};
+
+TEST_F(LastSettings, AreKeptForEachTapeOfAQueue)
+{
+    EXPECT_FALSE(lastSettings(u"tape"_qs, u"W12"_qs).has_value());
+    ASSERT_TRUE(keepLastSettings(u"tape"_qs, u"W12"_qs,
+                                 options({{u"PageSize"_qs, u"W12"_qs}, {u"A"_qs, u"a, \"b\"=ü"_qs}}), &error));
+    ASSERT_TRUE(keepLastSettings(u"tape"_qs, u"W24"_qs, options({{u"PageSize"_qs, u"W24"_qs}}), &error));
+    EXPECT_EQ(lastSettings(u"tape"_qs, u"W12"_qs).value().lines(),
+              (QStringList{u"PageSize=W12"_qs, u"A=a, \"b\"=ü"_qs}));
+    EXPECT_EQ(lastSettings(u"tape"_qs, u"W24"_qs).value().lines(), QStringList{u"PageSize=W24"_qs});
+    // A tape that was never printed on begins with the one that was last.
+    EXPECT_EQ(lastSettings(u"tape"_qs, u"W36"_qs).value().lines(), QStringList{u"PageSize=W24"_qs});
+    EXPECT_FALSE(lastSettings(u"other"_qs, u"W12"_qs).has_value());
+}
+
+TEST_F(LastSettings, OfCustomSizes_AreThoseOfOneTape)
+{
+    const JobOptions longLabel = options({{u"PageSize"_qs, u"Custom.12x80mm"_qs}});
+    ASSERT_TRUE(keepLastSettings(u"tape"_qs, u"Custom.12x80mm"_qs, longLabel, &error));
+    ASSERT_TRUE(keepLastSettings(u"tape"_qs, u"W12"_qs, options({{u"PageSize"_qs, u"W12"_qs}}), &error));
+    EXPECT_EQ(lastSettings(u"tape"_qs, u"Custom.30x40mm"_qs).value(), longLabel);
+}
+
+TEST_F(LastSettings, ThatCannotBeWritten_AreSaid)
+{
+    qputenv("XDG_CONFIG_HOME", "/proc/self/nowhere");
+    EXPECT_FALSE(keepLastSettings(u"tape"_qs, u"W12"_qs, options({{u"A"_qs, u"1"_qs}}), &error));
+    EXPECT_TRUE(error.sentence.contains(u"/proc/self/nowhere"_qs)) << error.sentence.toStdString();
 }
 
 } // namespace
