@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -50,11 +51,12 @@ protected:
         }
         panels.open(std::move(destination), asked);
         const QStringList files{hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n")};
-        dialog = std::make_unique<PrintDialog>(
-            printJob, panels, PrintDialog::Setup{{.options = asked}, u"label"_qs, files, {}},
-            [](const job::SettledJob & /*job*/, const std::atomic<bool> & /*stop*/, job::Problem * /*error*/) {
-                return std::optional(job::PrintedJob());
-            });
+        job::JobRequest request;
+        request.options = asked;
+        dialog =
+            std::make_unique<PrintDialog>(printJob, panels, PrintDialog::Setup{request, u"label"_qs, files, {}},
+                                          [](const job::SettledJob & /*job*/, const std::atomic<bool> & /*stop*/,
+                                             job::Problem * /*error*/) { return std::optional(job::PrintedJob()); });
         dialog->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
         rest();
@@ -86,7 +88,7 @@ protected:
         return items;
     }
     QString shown() { return child<QComboBox>(u"preset"_qs)->currentText(); }
-    QString length() { return child<QLineEdit>(u"mTapeLengthTxFld"_qs)->text(); }
+    QString length() { return child<QLineEdit>(u"mLengthTxFld"_qs)->text(); }
     /// Types a name into the dialog that an action opens.
     void name(const QString &action, const QString &typed)
     {
@@ -212,7 +214,7 @@ TEST_F(PresetWindow, AnOptionThatIsGone_IsSaidAndKeptUntilSavedOver)
 TEST_F(PresetWindow, SavingRenamingAndDeleting_AreFoundInTheFile)
 {
     ASSERT_NO_FATAL_FAILURE(open("Dest office A=1\n"));
-    auto *field = child<QLineEdit>(u"mTapeLengthTxFld"_qs);
+    auto *field = child<QLineEdit>(u"mLengthTxFld"_qs);
     field->setFocus();
     field->selectAll();
     QTest::keyClicks(field, u"55"_qs);
