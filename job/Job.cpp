@@ -3,8 +3,8 @@
 #include "job/Job.h"
 
 #include "job/FilterRun.h"
-#include "job/IppAttributeNames.h"
 #include "job/LaidDownOptions.h"
+#include "job/PpdTexts.h"
 
 #include <utility>
 
@@ -17,6 +17,7 @@ void Job::open(Destination destination, const JobOptions &asked)
 {
     close();
     mDestination = std::move(destination);
+    translateTexts(ppd(), mLanguages);
     describePrinter();
     layDownOptions(asked);
     rememberAsOpened();
@@ -28,15 +29,21 @@ void Job::reopen(const QString &instance, const JobOptions &saved, const JobOpti
     if (!mDestination.queue) {
         return;
     }
-    if (PpdFile fresh = freshCopy(mDestination.ppd)) {
-        mDestination.ppd = std::move(fresh);
-    }
+    takeFreshPpd();
     mDestination.queue->instance = instance;
     mDestination.queue->options = saved;
     clearOptions();
     describePrinter();
     layDownOptions(asked);
     Q_EMIT changed();
+}
+
+void Job::takeFreshPpd()
+{
+    if (PpdFile fresh = freshCopy(mDestination.ppd)) {
+        mDestination.ppd = std::move(fresh);
+        translateTexts(ppd(), mLanguages);
+    }
 }
 
 void Job::close()
@@ -165,9 +172,7 @@ void Job::changePaperLength(double lengthMm)
 
 void Job::renewPpd()
 {
-    if (PpdFile fresh = freshCopy(mDestination.ppd)) {
-        mDestination.ppd = std::move(fresh);
-    }
+    takeFreshPpd();
     JobOptions already = mOptions;
     layDown(mOptions, ppd(), &already);
 }
@@ -210,12 +215,6 @@ void Job::revert()
 {
     const JobOptions left = std::exchange(mOptions, mOpenedWith.options);
     putMarks(ppd(), mOpenedWith.marks);
-    // A mark is the choice alone: the values of a custom one stand in the option.
-    for (const auto &[key, value] : mOptions.entries()) {
-        if (!isIppJobAttribute(key)) {
-            markChoice(ppd(), key, value);
-        }
-    }
     putDefaults(ppd(), mOpenedWith.defaults);
     mChosen = mLaidDown = mOpenedWith.laidDown;
     if (mDestination.queue) {
@@ -232,7 +231,7 @@ void Job::revert()
         }
     }
     for (const auto &[key, choice] : left.entries()) {
-        const QString marked = markedChoice(ppd(), key);
+        const QString marked = markedValue(ppd(), key);
         if (!mOptions.contains(key) && !marked.isNull()) {
             Q_EMIT optionChanged(key, marked);
         }

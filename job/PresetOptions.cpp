@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-// The options of one document as a table, and passwords by what the PPD says of a custom option's parameters.
+// The options of one document as a table, and passwords by what the PPD says of the parameters of own values.
 #include "job/PresetOptions.h"
 
+#include "job/CustomValues.h"
 #include "job/PpdMarks.h"
 #include "job/ReplacedOptions.h"
 
@@ -38,23 +39,13 @@ bool isAmong(const Names &names, const QString &name)
                        [&name](QLatin1String one) { return name.compare(one, Qt::CaseInsensitive) == 0; });
 }
 
-/// Whether a PPD's custom option takes a password. Its listed choices are no secret.
-bool takesPassword(ppd_file_t *ppd, const JobOptions::Entry &entry)
+/// Whether a value holds a password. A choice that the PPD lists is no secret.
+bool holdsSecret(ppd_file_t *ppd, const JobOptions::Entry &entry)
 {
-    ppd_coption_t *custom = ppd == nullptr ? nullptr : ppdFindCustomOption(ppd, entry.first.toUtf8().constData());
-    if (custom == nullptr) {
-        return false;
-    }
-    const ppd_option_t *option = findOption(ppd, entry.first);
-    const bool isListed = option != nullptr && !listedChoice(ppd, entry.first, entry.second).isNull() &&
-                          !entry.second.startsWith(QLatin1String("Custom."), Qt::CaseInsensitive);
-    for (const ppd_cparam_t *parameter = ppdFirstCustomParam(custom); parameter != nullptr;
-         parameter = ppdNextCustomParam(custom)) {
-        if (parameter->type == PPD_CUSTOM_PASSWORD || parameter->type == PPD_CUSTOM_PASSCODE) {
-            return !isListed;
-        }
-    }
-    return false;
+    const auto &[key, value] = entry;
+    const std::vector<CustomParameter> parameters = customParameters(ppd, key);
+    return std::any_of(parameters.begin(), parameters.end(), [](const auto &one) { return one.isSecret(); }) &&
+           (isCustomValue(value) || listedChoice(ppd, key, value).isNull());
 }
 
 } // namespace
@@ -68,7 +59,7 @@ JobOptions optionsForPreset(const JobOptions &options, ppd_file_t *ppd)
         const bool saysNothing = value.isEmpty() || (name == OptionName::copies && value == u"1") ||
                                  (name == OptionName::fitLength && value != u"true");
         if (!saysNothing && !isAmong(documentOptions, name) && !isAmong(secretOptions, name) &&
-            !takesPassword(ppd, entry)) {
+            !holdsSecret(ppd, entry)) {
             kept.set(name, value);
         }
     }
