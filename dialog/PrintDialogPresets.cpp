@@ -3,6 +3,7 @@
 // saved.
 #include "dialog/LayoutPage.h"
 #include "dialog/OptionsPage.h"
+#include "dialog/PaperMenu.h"
 #include "dialog/PresetRow.h"
 #include "dialog/PrintDialog.h"
 #include "job/LastSettings.h"
@@ -54,7 +55,7 @@ void PrintDialog::pickPreset(const PresetRow::Settings &settings)
     delete mOptionsPage;
     mPanels.reopen(settings.instance, settings.saved, asked);
     showWhetherTape();
-    showTapes();
+    mPapers->fill();
     makePages();
     settlePanels();
     showPages(shown);

@@ -2,6 +2,7 @@
 // The objects of one job are changed here and nowhere else, so that they always agree.
 #include "job/Job.h"
 
+#include "job/CustomValues.h"
 #include "job/FilterRun.h"
 #include "job/LaidDownOptions.h"
 #include "job/PpdTexts.h"
@@ -120,7 +121,8 @@ void Job::layDownPages()
 
 QStringList Job::notices() const
 {
-    QStringList notices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen);
+    QStringList notices =
+        unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen) + bracedForNobody(ppd(), mOptions);
     if (mDestination.isFile() && ppd() != nullptr) {
         notices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
     }

@@ -63,17 +63,7 @@ bool takeOptions(CommandLine &line, const QString &value, job::Problem *error)
         return false;
     }
     for (const cups_option_t &option : parsed) {
-        const QString name = QString::fromUtf8(option.name);
-        const QString text = QString::fromUtf8(option.value);
-        // The print server drops collections without a word: the filter would never see them.
-        if (text.startsWith(u'{')) {
-            *error = {job::Problem::BadUsage,
-                      QStringLiteral("The value of option %1 is in braces, which the print server drops: "
-                                     "give %1 a plain value.")
-                          .arg(name)};
-            return false;
-        }
-        line.request.options.set(name, text);
+        line.request.options.set(QString::fromUtf8(option.name), QString::fromUtf8(option.value));
     }
     return true;
 }

@@ -151,6 +151,9 @@ RunReport runUnattended(const CommandLine &line)
     bool printed = false;
     const auto close = qScopeGuard([&panels, &printed] { panels.windowWillClose(printed); });
 
+    if (const QStringList dropped = job::bracedForNobody(job.ppd(), job.options()); !dropped.isEmpty()) {
+        return failedRun({job::Problem::BadUsage, dropped.join(u' ')});
+    }
     RunReport report;
     if (fitsLength && !fitLength(job, documents->files(), report.messages, &error)) {
         return failedRun(error);

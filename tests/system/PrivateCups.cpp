@@ -171,7 +171,7 @@ QString PrivateCups::recordingFilter()
                      filled(recordingScript, mFolder.path(QStringLiteral("record")), labelFilter), 0755);
 }
 
-QString PrivateCups::addRecordedQueue(const QString &name, const QString &description)
+QString PrivateCups::addRecordedQueue(const QString &name, const QString &description, const QByteArray &more)
 {
     QByteArray ppd = contentsOf(describedBy(description));
     const QByteArray shipped = " rastertolabel\"";
@@ -179,7 +179,7 @@ QString PrivateCups::addRecordedQueue(const QString &name, const QString &descri
         return QStringLiteral("The description %1 does not name the filter rastertolabel once.").arg(description);
     }
     ppd.replace(shipped, " " + QFile::encodeName(recordingFilter()) + '"');
-    return addQueue(name, writeFile(mFolder.path(name + QLatin1String(".ppd")), ppd));
+    return addQueue(name, writeFile(mFolder.path(name + QLatin1String(".ppd")), ppd + more));
 }
 
 QString PrivateCups::addPlainQueue(const QString &name, const QString &description)

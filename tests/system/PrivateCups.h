@@ -54,7 +54,8 @@ public:
 
     /// A queue of one of our descriptions, "mm" for tapeprint-mm.ppd, whose filter is recorded and then run.
     /// \return null, or what lpadmin says.
-    QString addRecordedQueue(const QString &name, const QString &description);
+    /// \param more lines added to the description.
+    QString addRecordedQueue(const QString &name, const QString &description, const QByteArray &more = {});
     /// A queue of the description as it is shipped.
     QString addPlainQueue(const QString &name, const QString &description);
     /// What the queue's printer got of its last job.
