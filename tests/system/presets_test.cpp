@@ -13,7 +13,6 @@ namespace
 
 using systemtest::FilterCall;
 using systemtest::Outcome;
-using systemtest::PanelControl;
 using systemtest::panelOptionsMm;
 using systemtest::tapeOptions;
 
@@ -37,6 +36,7 @@ protected:
     {
         const Outcome outcome = systemtest::runClient({program, arguments, variables()});
         EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+        EXPECT_EQ(outcome.messages, "");
         return outcome.output;
     }
     /// The file that libcups reads and writes for root.
@@ -54,10 +54,12 @@ protected:
         QFile file(optionsPath());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    /// Prints with lp and waits. \return what the filter got.
+    /// Prints with lp and waits. \param destination empty: where lp prints that is told nothing. \return what the
+    /// filter got.
     std::vector<FilterCall> printedByLp(const QString &destination) const
     {
-        const QByteArray said = run(u"/usr/bin/lp"_qs, {u"-d"_qs, destination, document});
+        const QStringList named = destination.isEmpty() ? QStringList() : QStringList{u"-d"_qs, destination};
+        const QByteArray said = run(u"/usr/bin/lp"_qs, named + QStringList{document});
         const auto match = QRegularExpression(u"tape-(\\d+)"_qs).match(QString::fromUtf8(said));
         EXPECT_TRUE(match.hasMatch()) << said.toStdString();
         const int id = match.captured(1).toInt();
@@ -81,12 +83,13 @@ TEST_F(PresetJob, SavedInTheWindow_IsUsedByLpAndKeptByLpoptions)
     ASSERT_TRUE(file.open(QIODevice::Append) && file.write("# of a queue elsewhere\nDest away/thin A=1\n") > 0);
     file.close();
 
-    const QString problem = dialog.open(
-        {QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), {u"-d"_qs, u"tape"_qs, document}, variables(), workFolder});
+    const QString problem = dialog.open({QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"),
+                                         {u"-d"_qs, u"tape"_qs, u"-o"_qs, u"KsTapeLength=75.5"_qs, document},
+                                         variables(),
+                                         workFolder});
     ASSERT_TRUE(problem.isNull()) << problem.toStdString();
-    dialog.goTo(PanelControl::tapeLength);
-    dialog.type(u"75.5"_qs);
-    dialog.press({u"Tab"_qs});
+    dialog.press({u"alt+c"_qs, u"ctrl+a"_qs});
+    dialog.type(u"3"_qs);
     // The menu stands beside the presets.
     dialog.press({u"alt+s"_qs, u"Tab"_qs, u"space"_qs, u"s"_qs});
     ASSERT_FALSE(dialog.waitForFurtherWindow().isNull()) << "nobody asks for a name";
@@ -103,11 +106,13 @@ TEST_F(PresetJob, SavedInTheWindow_IsUsedByLpAndKeptByLpoptions)
     const std::vector<FilterCall> calls = printedByLp(u"tape/long"_qs);
     ASSERT_EQ(calls.size(), 1U);
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=75.5"}));
-    EXPECT_TRUE(run(u"/usr/bin/lpoptions"_qs, {u"-d"_qs, u"tape/long"_qs, u"-l"_qs}).contains("KsTapeColor"));
+    EXPECT_EQ(calls[0].copies(), "3");
+    const QByteArray listed = run(u"/usr/bin/lpoptions"_qs, {u"-d"_qs, u"tape/long"_qs}).prepend(' ');
+    EXPECT_TRUE(listed.contains(" KsTapeLength=75.5") && listed.contains(" copies=3")) << listed.toStdString();
 
-    // Another program writes the file anew: the preset is among what it knows.
+    // Another program has written the file anew, and made the preset the default: it is among what it knows.
     run(u"/usr/bin/lpoptions"_qs, {u"-p"_qs, u"tape/blue"_qs, u"-o"_qs, u"KsInkColor=KsInkColorGold"_qs});
-    const std::vector<FilterCall> again = printedByLp(u"tape/long"_qs);
+    const std::vector<FilterCall> again = printedByLp({});
     ASSERT_EQ(again.size(), 1U);
     EXPECT_EQ(tapeOptions(again[0]), panelOptionsMm({"KsTapeLength=75.5"}));
     const std::vector<FilterCall> blue = printedByLp(u"tape/blue"_qs);
