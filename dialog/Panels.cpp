@@ -155,14 +155,19 @@ bool Panels::settle(job::Problem *error)
 
 QStringList Panels::notices() const
 {
-    QStringList notices = mNotices;
+    return mNotices + replacements(mJob.laidDown());
+}
+
+QStringList Panels::replacements(const job::JobOptions &asked) const
+{
+    QStringList sentences;
     for (const job::ReplacedOption &replaced : mReplaced) {
         const auto &[name, value] = replaced.carried;
-        if (mJob.options().value(name) == value) {
-            notices.append(replaced.sentence(mJob.ppd(), panelOf(name)));
+        if (asked.contains(replaced.laidDown.first) && mJob.options().value(name) == value) {
+            sentences.append(replaced.sentence(mJob.ppd(), panelOf(name)));
         }
     }
-    return notices;
+    return sentences;
 }
 
 QString Panels::panelOf(const QString &key) const

@@ -56,6 +56,9 @@ public:
     /// Sentences about bundles and panels that are not used, and about what was laid down and a panel replaced, as long
     /// as the job carries what the panel put there.
     QStringList notices() const;
+    /// Of these, the sentences about what was laid down and a panel replaced. \param asked the options they are to be
+    /// about.
+    QStringList replacements(const job::JobOptions &asked) const;
     const std::vector<PanelEntry> &entries() const { return mPanels; }
     /// Whether a panel announced an option as its own.
     bool announced(const QString &key) const;

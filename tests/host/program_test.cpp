@@ -108,8 +108,36 @@ TEST_F(Program, OptionThatThePanelReplaces_IsNamed)
     // The test panel sends what the PPD's default says, which holds 40 bytes: this value does not fit.
     const QString tooLong(41, u'9');
     const Outcome outcome = run({u"--ppd"_qs, ppd, u"--show-options"_qs, u"-o"_qs, u"KsMargin="_qs + tooLong});
-    EXPECT_EQ(outcome.status, 0);
+    // It is shown what would become of it, but whoever asked for it does not get it.
+    EXPECT_EQ(outcome.status, testsupport::refusedValue);
     EXPECT_TRUE(outcome.messages.contains("the job carries 2.0.")) << outcome.messages.toStdString();
+    EXPECT_EQ(run({u"--adjust"_qs, u"--ppd"_qs, ppd, u"--show-options"_qs, u"-o"_qs, u"KsMargin="_qs + tooLong}).status,
+              testsupport::done);
+}
+
+TEST_F(Program, ValueThatIsNotTakenAsItIs_IsRefusedBeforeAnythingIsPrinted)
+{
+    const QStringList job{u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs};
+    const std::vector<std::pair<QString, const char *>> values{
+        {u"KsMargin="_qs + QString(41, u'9'), "the job carries 2.0."},
+        {u"CutMedia=Twice"_qs, "CutMedia=Twice is none of the choices"},
+        {u"CutMedia=3"_qs, "CutMedia=3 is none of the choices"}, // no panel answers for it
+        {u"PageSize=Custom.24x"_qs, "PageSize=Custom.24x is no size"},
+        {u"media=Custom.twelve"_qs, "media=Custom.twelve is no size"},
+        {u"media=W99"_qs, "media=W99 is none of the choices"},
+        {u"number-up=many"_qs, "number-up=many is no value"},
+    };
+    for (const auto &[value, part] : values) {
+        const Outcome outcome = run(job + QStringList{u"-o"_qs, value, document});
+        EXPECT_EQ(outcome.status, testsupport::refusedValue) << part;
+        EXPECT_EQ(outcome.messages.count('\n'), 1) << outcome.messages.toStdString();
+        EXPECT_TRUE(outcome.messages.contains(part)) << outcome.messages.toStdString();
+        EXPECT_TRUE(outcome.messages.contains("--adjust")) << outcome.messages.toStdString();
+        EXPECT_FALSE(QFileInfo::exists(folder.filePath(u"out.prn"_qs))) << part;
+    }
+    EXPECT_EQ(run(job + QStringList{u"--adjust"_qs, u"-o"_qs, u"CutMedia=Twice"_qs, document}).status,
+              testsupport::done);
+    EXPECT_TRUE(contentsOf(folder.filePath(u"out.prn"_qs)).contains("CutMedia=Twice"));
 }
 
 TEST_F(Program, ResolutionThatThePanelCannotShow_IsSaidAndTheRestDone)
@@ -122,7 +150,7 @@ TEST_F(Program, ResolutionThatThePanelCannotShow_IsSaidAndTheRestDone)
                                               "*Resolution C/C: \"\"\n*CloseUI: *Resolution\n"
                                               "*KsMaxTapeLength: \"500\"\n*KsMaxMargin: \"20\"\n"));
     const Outcome outcome = run({u"--ppd"_qs, three, u"--show-options"_qs, u"-o"_qs, u"Resolution=C"_qs});
-    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.status, testsupport::refusedValue);
     EXPECT_TRUE(outcome.output.contains("Resolution=A\n")) << outcome.output.toStdString();
     EXPECT_EQ(outcome.messages, "tapeprint: The panel \"Page Settings\" does not offer Resolution=C, which the printer "
                                 "has: the job carries Resolution=A.\n");
