@@ -48,7 +48,7 @@ PreviewArea::PreviewArea(QWidget *parent) : QWidget(parent)
     mPreview = new TapePreview(this);
     mMessages = makeWords(QStringLiteral("previewMessages"), this);
     mTapeUsed = makeWords(QStringLiteral("tapeUsed"), this);
-    layout->addWidget(mPreview);
+    layout->addWidget(mPreview, 1);
     layout->addWidget(mMessages);
     mWordsRow = new QHBoxLayout;
     mWordsRow->addWidget(mTapeUsed, 1);

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
-// The window's construction and its pages. Values live in the dialog's objects; the controls only show them.
+// The window's printers and pages. Values live in the dialog's objects; the controls only show them.
 #include "dialog/PrintDialog.h"
 
 #include "dialog/ChoicePopUp.h"
 #include "dialog/GatheredAlerts.h"
 #include "dialog/LayoutPage.h"
+#include "dialog/NoticesArea.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
 #include "dialog/PlainText.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/SummaryView.h"
 #include "dialog/TapeLook.h"
-#include "dialog/UnitButton.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -31,15 +31,6 @@
 namespace tapeprint::dialog
 {
 
-namespace
-{
-
-constexpr int mostCopies = 9999;
-constexpr QSize smallestPanelArea(320, 200);
-constexpr int summaryWidth = 280;
-
-} // namespace
-
 PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction)
     : mJob(job), mPanels(panels), mSetup(std::move(setup)), mPrintAction(std::move(printAction)), mDesk(mSetup.files)
 {
@@ -58,140 +49,6 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
 }
 
 PrintDialog::~PrintDialog() = default;
-
-void PrintDialog::buildControls()
-{
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(makeDestinationControls());
-    mNotices = new QLabel(this);
-    mNotices->setObjectName(QStringLiteral("notices"));
-    mNotices->setWordWrap(true);
-    mNotices->setTextFormat(Qt::PlainText);
-    mNotices->setFrameShape(QFrame::StyledPanel);
-    mNotices->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    layout->addWidget(mNotices);
-
-    auto *middle = new QHBoxLayout;
-    middle->addWidget(makePanelArea(), 1);
-    middle->addWidget(makeSummaryArea());
-    layout->addLayout(middle, 1);
-    layout->addWidget(makeButtons());
-}
-
-QWidget *PrintDialog::makeDestinationControls()
-{
-    auto *controls = new QWidget(this);
-    auto *form = new QFormLayout(controls);
-    form->setContentsMargins({});
-    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    mPrinterPopUp = new QComboBox(controls);
-    mPrinterPopUp->setObjectName(QStringLiteral("printer"));
-    mTapePopUp = new QComboBox(controls);
-    mTapePopUp->setObjectName(QStringLiteral("tape"));
-    mTapePopUp->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    mPrinterPopUp->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    mCopiesField = new QSpinBox(controls);
-    mCopiesField->setObjectName(QStringLiteral("copies"));
-    mCopiesField->setRange(1, mostCopies);
-    form->addRow(tr("P&rinter:"), mPrinterPopUp);
-    mTapeLabel = new QLabel(controls);
-    mTapeLabel->setBuddy(mTapePopUp);
-    form->addRow(mTapeLabel, mTapePopUp);
-    form->addRow(tr("&Copies:"), mCopiesField);
-    return controls;
-}
-
-QWidget *PrintDialog::makePanelArea()
-{
-    auto *area = new QWidget(this);
-    auto *layout = new QVBoxLayout(area);
-    layout->setContentsMargins({});
-    mPageChooser = new QComboBox(area);
-    mPageChooser->setObjectName(QStringLiteral("pageChooser"));
-    mChooserRow = new QWidget(area);
-    auto *label = new QLabel(tr("Pa&nel:"), mChooserRow);
-    label->setBuddy(mPageChooser);
-    auto *chooserLayout = new QHBoxLayout(mChooserRow);
-    chooserLayout->setContentsMargins({});
-    chooserLayout->addWidget(label);
-    chooserLayout->addWidget(mPageChooser, 1);
-    layout->addWidget(mChooserRow);
-    mPanelArea = new PanelArea(area);
-    mPanelArea->setWidgetResizable(true);
-    mPanelArea->setMinimumSize(smallestPanelArea);
-    mPages = new QStackedWidget;
-    mPanelArea->setWidget(mPages);
-    layout->addWidget(mPanelArea, 1);
-    return area;
-}
-
-QWidget *PrintDialog::makeSummaryArea()
-{
-    auto *area = new QWidget(this);
-    auto *layout = new QVBoxLayout(area);
-    layout->setContentsMargins({});
-    auto *summaryBox = new QGroupBox(tr("Summary"), area);
-    mSummary = new SummaryView(summaryBox);
-    auto *summaryLayout = new QVBoxLayout(summaryBox);
-    summaryLayout->addWidget(mSummary);
-    summaryBox->setMinimumWidth(summaryWidth);
-    layout->addWidget(summaryBox, 1);
-    mPreview = new PreviewArea(area);
-    mPreview->addBesideWords(new UnitButton(mUnit, mPreview));
-    layout->addWidget(mPreview);
-    layout->addWidget(makeFitControls());
-    return area;
-}
-
-QWidget *PrintDialog::makeFitControls()
-{
-    mFitControls = new QWidget(this);
-    auto *layout = new QHBoxLayout(mFitControls);
-    layout->setContentsMargins({});
-    mFitButton = new QPushButton(tr("&Fit Length"), mFitControls);
-    mFitButton->setObjectName(QStringLiteral("fitLength"));
-    mFitButton->setAutoDefault(false);
-    mFitButton->setToolTip(tr("Make the tape as long as what is drawn needs, with both margins"));
-    mKeepFitting = new QCheckBox(tr("&Keep it fitted"), mFitControls);
-    mKeepFitting->setObjectName(QStringLiteral("keepFitting"));
-    layout->addWidget(mFitButton);
-    layout->addWidget(mKeepFitting);
-    layout->addStretch();
-    return mFitControls;
-}
-
-QWidget *PrintDialog::makeButtons()
-{
-    auto *buttons = new QWidget(this);
-    auto *layout = new QHBoxLayout(buttons);
-    layout->setContentsMargins({});
-    mRevertButton = new QPushButton(tr("Re&vert"), buttons);
-    mRevertButton->setObjectName(QStringLiteral("revert"));
-    mRevertButton->setToolTip(tr("Go back to the values that the dialog was opened with"));
-    mCancelButton = new QPushButton(tr("Cancel"), buttons);
-    mCancelButton->setObjectName(QStringLiteral("cancel"));
-    mPrintButton = new QPushButton(tr("&Print"), buttons);
-    mPrintButton->setObjectName(QStringLiteral("print"));
-    mPrintButton->setDefault(true);
-    mRevertButton->setAutoDefault(false);
-    auto *progress = new QWidget(buttons);
-    auto *progressLayout = new QHBoxLayout(progress);
-    progressLayout->setContentsMargins({});
-    auto *bar = new QProgressBar(progress);
-    bar->setRange(0, 0); // how long filters and servers take is not known
-    bar->setTextVisible(false);
-    bar->setAccessibleName(tr("Printing"));
-    progressLayout->addWidget(new QLabel(tr("Printing…"), progress));
-    progressLayout->addWidget(bar);
-    mProgress = progress;
-    mProgress->hide();
-    layout->addWidget(mRevertButton);
-    layout->addStretch();
-    layout->addWidget(mProgress);
-    layout->addWidget(mCancelButton);
-    layout->addWidget(mPrintButton);
-    return buttons;
-}
 
 void PrintDialog::fillPrinters()
 {
@@ -234,11 +91,7 @@ void PrintDialog::showDestination()
 
 void PrintDialog::showNotices()
 {
-    const QString notices = (mJob.notices() + mPanels.notices() + mAlerts).join(u'\n');
-    if (notices != mNotices->text()) {
-        mNotices->setText(notices);
-    }
-    mNotices->setVisible(!notices.isEmpty());
+    mNotices->setSentences((mJob.notices() + mPanels.notices() + mAlerts).join(u'\n'));
 }
 
 void PrintDialog::showWhetherTape()
@@ -291,6 +144,7 @@ void PrintDialog::makePages()
 void PrintDialog::showPages(int first)
 {
     orderByTab();
+    assignKeys();
     turnToPage(std::clamp(first, 0, static_cast<int>(mPageList.size()) - 1));
     mPanelArea->updateGeometry();
 }

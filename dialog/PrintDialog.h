@@ -2,12 +2,11 @@
 // The print dialog's window: a view on a job and its panels.
 //
 //   PrintDialog
-//     ├─ printer, tape, copies      pop-ups and a field of its own
-//     ├─ notices                    skipped bundles, options that get lost
-//     ├─ panel chooser
-//     ├─ panel area (scrolls)       the panels' views, and the page of other options
-//     ├─ SummaryView, PreviewArea
-//     └─ Revert, Cancel, Print
+//     ├─ printer, tape, copies      two rows of pop-ups and a field of its own
+//     ├─ NoticesArea                skipped bundles, options that get lost
+//     ├─ page chooser, PanelArea    the panels' views and the dialog's own pages; scrolls
+//     ├─ SummaryView, PreviewArea   beside it; the preview grows with the window
+//     └─ Revert ... Cancel, Print
 #pragma once
 
 #include "dialog/BackgroundWork.h"
@@ -29,6 +28,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QSpinBox;
@@ -38,6 +38,7 @@ namespace tapeprint::dialog
 {
 
 class LayoutPage;
+class NoticesArea;
 class OptionsPage;
 class PanelArea;
 class PreviewArea;
@@ -84,10 +85,13 @@ private:
     };
 
     void buildControls();
-    QWidget *makeDestinationControls();
-    QWidget *makePanelArea();
-    QWidget *makeSummaryArea();
+    QWidget *makeDestinationRows();
+    QWidget *makePagesArea();
+    QWidget *makeResultArea();
+    QWidget *makeSummary(QWidget *parent);
+    QWidget *makeFitControls(QWidget *parent);
     QWidget *makeButtons();
+    QWidget *makeProgress(QWidget *parent);
     void connectControls();
 
     void fillPrinters();
@@ -96,6 +100,7 @@ private:
     void makePages();
     void showPages(int first);
     void orderByTab();
+    void assignKeys();
     void settlePanels();
     void removePages();
     void turnToPage(int index);
@@ -114,7 +119,6 @@ private:
     void setPrinting(bool isPrinting);
     void finishPrinting(std::optional<job::PrintedJob> printed, const job::Problem &error);
 
-    QWidget *makeFitControls();
     job::SettledJob currentJob() const;
     void takeDocuments();
     void fitOnce();
@@ -147,7 +151,7 @@ private:
     QComboBox *mTapePopUp = nullptr;
     QSpinBox *mCopiesField = nullptr;
     QLabel *mTapeLabel = nullptr;
-    QLabel *mNotices = nullptr;
+    NoticesArea *mNotices = nullptr;
     QWidget *mChooserRow = nullptr; ///< hidden while there is one page alone
     QComboBox *mPageChooser = nullptr;
     PanelArea *mPanelArea = nullptr;
@@ -157,7 +161,11 @@ private:
     QWidget *mFitControls = nullptr; ///< for tape alone
     QPushButton *mFitButton = nullptr;
     QCheckBox *mKeepFitting = nullptr;
-    QWidget *mProgress = nullptr; ///< shown while it prints
+    QHBoxLayout *mPrinterPlace = nullptr;     ///< the printer's pop-up, and what stands right beside it
+    QHBoxLayout *mPresetPlace = nullptr;      ///< right of the printer, for what goes with the whole of a queue
+    QHBoxLayout *mMoreButtonsPlace = nullptr; ///< lower left, from Revert on
+    QHBoxLayout *mAmountPlace = nullptr;      ///< before Cancel, for what is said beside Print; it gives way first
+    QWidget *mProgress = nullptr;             ///< shown while it prints
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;

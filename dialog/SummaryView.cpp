@@ -6,6 +6,8 @@
 
 #include <QHeaderView>
 
+#include <algorithm>
+
 namespace tapeprint::dialog
 {
 
@@ -14,6 +16,7 @@ SummaryView::SummaryView(QWidget *parent) : QTreeWidget(parent)
     setObjectName(QStringLiteral("summary"));
     setAccessibleName(tr("Summary"));
     setColumnCount(2);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     setHeaderHidden(true);
     setRootIsDecorated(false);
     setSelectionMode(QAbstractItemView::NoSelection);
@@ -44,6 +47,20 @@ void SummaryView::showSummary(const std::vector<PanelSummary> &summary)
     }
     clear();
     addTopLevelItems(items);
+    updateGeometry();
+}
+
+QSize SummaryView::sizeHint() const
+{
+    constexpr int usualWidth = 260;
+    return {usualWidth, std::max(viewportSizeHint().height() + 2 * frameWidth(), minimumSizeHint().height())};
+}
+
+QSize SummaryView::minimumSizeHint() const
+{
+    constexpr int leastWidth = 200;
+    constexpr int leastLines = 3;
+    return {leastWidth, leastLines * fontMetrics().lineSpacing() + 2 * frameWidth()};
 }
 
 } // namespace tapeprint::dialog

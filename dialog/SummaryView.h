@@ -20,6 +20,10 @@ public:
 
     /// Shows a summary. The lines keep their place on the screen while the person looks at them.
     void showSummary(const std::vector<PanelSummary> &summary);
+
+    /// As high as its lines.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 };
 
 } // namespace tapeprint::dialog

@@ -73,7 +73,7 @@ TapePreview::TapePreview(QWidget *parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("tapePreview"));
     setAccessibleName(tr("Tape preview"));
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 QSize TapePreview::sizeHint() const
@@ -83,7 +83,7 @@ QSize TapePreview::sizeHint() const
 
 QSize TapePreview::minimumSizeHint() const
 {
-    return {leastWidth, sizeHint().height()};
+    return {leastWidth, tapeHeight + 2 * fontMetrics().height()};
 }
 
 void TapePreview::showLabel(ShownLabel label)
@@ -200,7 +200,9 @@ void TapePreview::paintEvent(QPaintEvent * /*event*/)
     const QRectF area = room();
     const QSizeF whole = drawnSizePt() * size;
     QRectF strip({}, whole.boundedTo(area.size()).expandedTo({1.0, 1.0}));
-    strip.moveCenter(area.center());
+    // At the top, so that it stays where it is when words come below.
+    strip.moveLeft(area.center().x() - strip.width() / 2.0);
+    strip.moveTop(area.top());
     strip.moveTopLeft(QPointF(std::round(strip.left()), std::round(strip.top())));
 
     QPainter painter(this);

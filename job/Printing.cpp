@@ -65,7 +65,7 @@ bool isPrintable(const SettledJob &job, const QStringList &files, const std::ato
 }
 
 std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
-                                   const std::atomic<bool> &stop, Problem *error)
+                                   const std::atomic<bool> &stop, Problem *error, const SendReport &report)
 {
     QStringList printed = files;
     std::unique_ptr<PrivateFile> labels;
@@ -85,7 +85,8 @@ std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, 
                        error);
         return output ? std::optional(PrintedJob{{}, {}, *output}) : std::nullopt;
     }
-    const std::optional<SubmittedJob> submitted = submitJob(*job.queue, title, job.carried(), printed, error);
+    const std::optional<SubmittedJob> submitted =
+        submitJob({*job.queue, title, job.carried(), printed}, stop, report, error);
     return submitted ? std::optional(PrintedJob{job.queue->name, *submitted, {}}) : std::nullopt;
 }
 

@@ -491,6 +491,7 @@ TEST_F(TapePreviewTest, TapeUsed_CountsLabelsAndCopies)
 
 TEST_F(TapePreviewTest, DocumentsThatCannotBeShown_AreSaidInWordsOnAnEmptyTape)
 {
+    preview->setFixedHeight(120); // or the words below would make the drawing lower
     showTape(36.0, 144.0);
     const QImage empty = drawn();
     const auto expectSaid = [&](const QByteArray &bytes, const QString &sentence) {

@@ -105,7 +105,7 @@ void WindowUnderTest::click(const QString &window, QPoint place) const
 
 void WindowUnderTest::goTo(PanelControl control) const
 {
-    QStringList keys{mChooserKeys};
+    QStringList keys{QStringLiteral("alt+n")}; // "Settings", "Einstellungen"
     for (int i = 0; i < static_cast<int>(control); ++i) {
         keys.append(QStringLiteral("Tab"));
     }

@@ -13,7 +13,7 @@ namespace systemtest
 {
 
 /// The controls of the Page Settings panel for the millimetre printer, by the number of times that a person presses
-/// Tab from the panel chooser: past the panel area, then as they are read. What is disabled is passed over.
+/// Tab from the chooser of settings: past the panel area, then as they are read. What is disabled is passed over.
 enum class PanelControl {
     tapeLength = 2,
     tapeLengthSlider = 3,
@@ -48,10 +48,8 @@ public:
     void type(const QString &text) const;
     void click(const QString &window, QPoint place) const;
 
-    /// Gives a control of the panel the keys, by keys from the panel chooser on.
+    /// Gives a control of the panel the keys, by keys from the chooser of settings on.
     void goTo(PanelControl control) const;
-    /// The keys that go to the panel chooser in the session's language.
-    void setChooserKeys(const QString &keys) { mChooserKeys = keys; }
     /// Opens the pop-up that has the keys and clicks on one of its items, all of which show. \return whether it opened.
     bool pickFromPopUp(int item, int items);
     /// Clicks on Print, the button in the lower right corner.
@@ -71,7 +69,6 @@ private:
     const PrivateDisplay &mDisplay;
     QProcess mProgram;
     QString mWindow;
-    QString mChooserKeys = QStringLiteral("alt+n"); ///< "Panel" in English
 };
 
 } // namespace systemtest

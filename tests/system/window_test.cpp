@@ -177,7 +177,6 @@ TEST_F(WindowJob, GermanSession_SendsPoints)
 {
     moreVariables = {{u"LC_ALL"_qs, u"de_DE.UTF-8"_qs}, {u"LANG"_qs, u"de_DE.UTF-8"_qs}, {u"LANGUAGE"_qs, u"de"_qs}};
     ASSERT_NO_FATAL_FAILURE(open());
-    dialog.setChooserKeys(u"alt+r"_qs); // "Bereich": no other session has these keys
     dialog.goTo(PanelControl::tapeLength);
     dialog.type(u"75.5"_qs);
     dialog.goTo(PanelControl::margin);

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: Apache-2.0
+// The height follows from the width at which the sentences are wrapped.
+#include "dialog/NoticesArea.h"
+
+#include <QLabel>
+#include <QResizeEvent>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+constexpr int mostLines = 4;
+constexpr int margin = 4;
+
+} // namespace
+
+NoticesArea::NoticesArea(QWidget *parent) : QScrollArea(parent)
+{
+    setObjectName(QStringLiteral("noticesArea"));
+    setAccessibleName(tr("Notices"));
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFrameShape(QFrame::StyledPanel);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    auto *content = new QWidget;
+    mColumn = new QVBoxLayout(content);
+    mColumn->setContentsMargins(margin, margin, margin, margin);
+    mSentences = new QLabel(content);
+    mSentences->setObjectName(QStringLiteral("notices"));
+    mSentences->setWordWrap(true);
+    mSentences->setTextFormat(Qt::PlainText);
+    mSentences->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    mColumn->addWidget(mSentences);
+    setWidget(content);
+    hide();
+}
+
+void NoticesArea::setSentences(const QString &sentences)
+{
+    if (sentences != mSentences->text()) {
+        mSentences->setText(sentences);
+    }
+    mSentences->setVisible(!sentences.isEmpty());
+    notice();
+}
+
+void NoticesArea::addNotice(QWidget *notice)
+{
+    mColumn->addWidget(notice);
+}
+
+void NoticesArea::notice()
+{
+    bool isAny = false;
+    for (int i = 0; i < mColumn->count(); ++i) {
+        isAny = isAny || !mColumn->itemAt(i)->isEmpty();
+    }
+    setVisible(isAny);
+    // A bar that never moves needs no key of its own.
+    updateGeometry();
+}
+
+int NoticesArea::heightFor(int width) const
+{
+    const int frame = 2 * frameWidth();
+    const int most = mostLines * fontMetrics().lineSpacing() + 2 * margin;
+    const int inner = std::max(width - frame, 1);
+    const int whole =
+        mColumn->hasHeightForWidth() ? mColumn->totalHeightForWidth(inner) : mColumn->totalSizeHint().height();
+    return std::min(whole, most) + frame;
+}
+
+QSize NoticesArea::sizeHint() const
+{
+    constexpr int usualWidth = 400;
+    return {usualWidth, heightFor(width())};
+}
+
+QSize NoticesArea::minimumSizeHint() const
+{
+    return {1, heightFor(width())};
+}
+
+void NoticesArea::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width()) {
+        updateGeometry();
+    }
+}
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: Apache-2.0
+// The toolkit cuts a text that is too long in the middle of a letter; here it ends in dots.
+#include "dialog/PopUp.h"
+
+#include "dialog/PlainText.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+constexpr int leastLetters = 12;
+
+} // namespace
+
+PopUp::PopUp(QWidget *parent) : QComboBox(parent)
+{
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(leastLetters);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    view()->setTextElideMode(Qt::ElideMiddle);
+}
+
+int PopUp::textWidth() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const int room =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width() - 2;
+    return option.currentIcon.isNull() ? room : room - option.iconSize.width() - 4;
+}
+
+bool PopUp::isCut() const
+{
+    return fontMetrics().horizontalAdvance(currentText()) > textWidth();
+}
+
+void PopUp::showPopup()
+{
+    const int bar = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
+    const int most = screen()->availableSize().width() * 2 / 3;
+    view()->setMinimumWidth(std::min(view()->sizeHintForColumn(modelColumn()) + bar, most));
+    QComboBox::showPopup();
+}
+
+bool PopUp::event(QEvent *event)
+{
+    // A tooltip that was set, such as a reason, goes first.
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && isCut()) {
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), plainToolTip(currentText()), this);
+        return true;
+    }
+    return QComboBox::event(event);
+}
+
+void PopUp::paintEvent(QPaintEvent * /*event*/)
+{
+    QStylePainter painter(this);
+    painter.setPen(palette().color(QPalette::Text));
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideMiddle, textWidth());
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+// A pop-up that strangers' texts cannot make wide: a printer's name may be as long as a sentence.
+#pragma once
+
+#include <QComboBox>
+
+namespace tapeprint::dialog
+{
+
+/// As wide as its place, whatever its items hold. A text that does not fit is shortened, and the whole of it is the
+/// tooltip. The list that opens is as wide as its texts, up to two thirds of the screen.
+class PopUp : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit PopUp(QWidget *parent = nullptr);
+
+    /// Whether the text of the current item is shortened.
+    bool isCut() const;
+    void showPopup() override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    int textWidth() const;
+};
+
+} // namespace tapeprint::dialog

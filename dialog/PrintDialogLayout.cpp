@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: Apache-2.0
+// Where everything stands in the window. Every area can be made small: the rows by shortening their texts, the middle
+// by scrolling, so that the buttons are never pushed off a small screen.
+//
+//   Printer [              ]          mPresetPlace
+//   Tape    [              ]          Copies [  ]
+//   notices
+//   Settings [     ]                | Summary
+//   page of the chooser             | Preview, Fit Length
+//   mMoreButtonsPlace     mAmountPlace, progress     Cancel, Print
+#include "dialog/Mnemonics.h"
+#include "dialog/NoticesArea.h"
+#include "dialog/PanelArea.h"
+#include "dialog/PopUp.h"
+#include "dialog/PreviewArea.h"
+#include "dialog/PrintDialog.h"
+#include "dialog/ScrollingColumn.h"
+#include "dialog/SummaryView.h"
+#include "dialog/UnitButton.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+constexpr int mostCopies = 9999;
+/// On half of a screen of 1366 by 768, which is what is left of it at 200 %, the window is still whole.
+constexpr QSize smallestPagesArea(280, 64);
+constexpr QSize smallestResultArea(250, 64);
+
+constexpr int summaryMargin = 4;
+
+QLabel *makeLabel(const QString &text, QWidget *buddy)
+{
+    auto *label = new QLabel(text, buddy->parentWidget());
+    label->setBuddy(buddy);
+    return label;
+}
+
+} // namespace
+
+void PrintDialog::buildControls()
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(makeDestinationRows());
+    mNotices = new NoticesArea(this);
+    layout->addWidget(mNotices);
+    auto *middle = new QHBoxLayout;
+    middle->addWidget(makePagesArea());
+    middle->addWidget(makeResultArea());
+    layout->addLayout(middle, 1);
+    layout->addWidget(makeButtons());
+}
+
+QWidget *PrintDialog::makeDestinationRows()
+{
+    auto *rows = new QWidget(this);
+    auto *grid = new QGridLayout(rows);
+    grid->setContentsMargins({});
+    mPrinterPopUp = new PopUp(rows);
+    mPrinterPopUp->setObjectName(QStringLiteral("printer"));
+    mPrinterPlace = new QHBoxLayout;
+    mPrinterPlace->addWidget(mPrinterPopUp, 1);
+    mPresetPlace = new QHBoxLayout;
+    grid->addWidget(makeLabel(tr("P&rinter:"), mPrinterPopUp), 0, 0);
+    grid->addLayout(mPrinterPlace, 0, 1);
+    grid->addLayout(mPresetPlace, 0, 2, 1, 2);
+
+    mTapePopUp = new PopUp(rows);
+    mTapePopUp->setObjectName(QStringLiteral("tape"));
+    mTapeLabel = makeLabel({}, mTapePopUp);
+    mCopiesField = new QSpinBox(rows);
+    mCopiesField->setObjectName(QStringLiteral("copies"));
+    mCopiesField->setRange(1, mostCopies);
+    grid->addWidget(mTapeLabel, 1, 0);
+    grid->addWidget(mTapePopUp, 1, 1);
+    grid->addWidget(makeLabel(tr("&Copies:"), mCopiesField), 1, 2);
+    grid->addWidget(mCopiesField, 1, 3);
+    grid->setColumnStretch(1, 1);
+    return rows;
+}
+
+QWidget *PrintDialog::makePagesArea()
+{
+    auto *area = new QWidget(this);
+    auto *layout = new QVBoxLayout(area);
+    layout->setContentsMargins({});
+    mChooserRow = new QWidget(area);
+    mPageChooser = new PopUp(mChooserRow);
+    mPageChooser->setObjectName(QStringLiteral("pageChooser"));
+    auto *chooserLayout = new QHBoxLayout(mChooserRow);
+    chooserLayout->setContentsMargins({});
+    chooserLayout->addWidget(makeLabel(tr("Setti&ngs:", "which page of them"), mPageChooser));
+    chooserLayout->addWidget(mPageChooser, 1);
+    layout->addWidget(mChooserRow);
+    mPanelArea = new PanelArea(area);
+    mPanelArea->setWidgetResizable(true);
+    mPanelArea->setMinimumSize(smallestPagesArea);
+    mPanelArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    mPages = new QStackedWidget;
+    mPanelArea->setWidget(mPages);
+    layout->addWidget(mPanelArea, 1);
+    return area;
+}
+
+QWidget *PrintDialog::makeResultArea()
+{
+    auto *area = new ScrollingColumn(this);
+    // What the pages do not need makes the preview larger.
+    area->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    area->setMinimumSize(smallestResultArea);
+    area->column()->addWidget(makeSummary(area));
+    mPreview = new PreviewArea(area);
+    mPreview->addBesideWords(new UnitButton(mUnit, mPreview));
+    area->column()->addWidget(mPreview, 1);
+    area->column()->addWidget(makeFitControls(area));
+    area->column()->addStretch(); // where nothing is previewed
+    return area;
+}
+
+QWidget *PrintDialog::makeSummary(QWidget *parent)
+{
+    auto *box = new QGroupBox(tr("Summary"), parent);
+    mSummary = new SummaryView(box);
+    auto *layout = new QVBoxLayout(box);
+    layout->setContentsMargins(summaryMargin, summaryMargin, summaryMargin, summaryMargin);
+    layout->addWidget(mSummary);
+    return box;
+}
+
+QWidget *PrintDialog::makeFitControls(QWidget *parent)
+{
+    mFitControls = new QWidget(parent);
+    auto *layout = new QHBoxLayout(mFitControls);
+    layout->setContentsMargins({});
+    mFitButton = new QPushButton(tr("&Fit Length"), mFitControls);
+    mFitButton->setObjectName(QStringLiteral("fitLength"));
+    mFitButton->setAutoDefault(false);
+    mFitButton->setToolTip(tr("Make the tape as long as what is drawn needs, with both margins"));
+    mKeepFitting = new QCheckBox(tr("&Keep it fitted"), mFitControls);
+    mKeepFitting->setObjectName(QStringLiteral("keepFitting"));
+    layout->addWidget(mFitButton);
+    layout->addWidget(mKeepFitting);
+    layout->addStretch();
+    return mFitControls;
+}
+
+QWidget *PrintDialog::makeButtons()
+{
+    auto *buttons = new QWidget(this);
+    auto *layout = new QHBoxLayout(buttons);
+    layout->setContentsMargins({});
+    mRevertButton = new QPushButton(tr("Re&vert"), buttons);
+    mRevertButton->setObjectName(QStringLiteral("revert"));
+    mRevertButton->setToolTip(tr("Go back to the values that the dialog was opened with"));
+    mRevertButton->setAutoDefault(false);
+    mMoreButtonsPlace = new QHBoxLayout;
+    mMoreButtonsPlace->addWidget(mRevertButton);
+    mAmountPlace = new QHBoxLayout;
+    mProgress = makeProgress(buttons);
+    mCancelButton = new QPushButton(tr("Cancel"), buttons);
+    mCancelButton->setObjectName(QStringLiteral("cancel"));
+    mCancelButton->setAutoDefault(false);
+    mPrintButton = new QPushButton(tr("&Print"), buttons);
+    mPrintButton->setObjectName(QStringLiteral("print"));
+    mPrintButton->setDefault(true);
+    layout->addLayout(mMoreButtonsPlace);
+    layout->addStretch();
+    layout->addLayout(mAmountPlace);
+    layout->addWidget(mProgress);
+    layout->addWidget(mCancelButton);
+    layout->addWidget(mPrintButton);
+    return buttons;
+}
+
+QWidget *PrintDialog::makeProgress(QWidget *parent)
+{
+    constexpr int barWidth = 100;
+    auto *progress = new QWidget(parent);
+    auto *layout = new QHBoxLayout(progress);
+    layout->setContentsMargins({});
+    auto *bar = new QProgressBar(progress);
+    bar->setRange(0, 0); // how long filters and servers take is not known
+    bar->setTextVisible(false);
+    bar->setFixedWidth(barWidth);
+    bar->setAccessibleName(tr("Printing"));
+    layout->addWidget(new QLabel(tr("Printing…"), progress));
+    layout->addWidget(bar);
+    progress->hide();
+    return progress;
+}
+
+void PrintDialog::assignKeys()
+{
+    QList<const QWidget *> views;
+    for (const PanelEntry &entry : mPanels.entries()) {
+        if (entry.view != nullptr) {
+            views.append(entry.view);
+        }
+    }
+    assignMnemonics(*this, views);
+}
+
+} // namespace tapeprint::dialog
