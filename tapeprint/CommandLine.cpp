@@ -167,7 +167,7 @@ QString commandLineHelp()
                        "Opens the print dialog for tape and label printers. Without FILE, standard input is printed.\n"
                        "\n");
     for (const ProgramOption &option : programOptions()) {
-        text += helpOf(option);
+        text += option.help == nullptr ? QString() : helpOf(option);
     }
     return text + u'\n' + exitStatusHelp();
 }

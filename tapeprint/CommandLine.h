@@ -34,6 +34,7 @@ struct CommandLine {
 
     bool check = false; ///< see whether the job would be printed
     bool json = false;  ///< everything that is said is one JSON object
+    QString complete;   ///< what a shell asks for to complete a line; null: nothing
 
     /// Whether the options are only shown.
     bool onlyShows() const { return (showOptions || summary) && !check; }

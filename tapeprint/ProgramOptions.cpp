@@ -146,6 +146,12 @@ bool takeOutput(CommandLine &line, const QString &value, Problem *error)
     return takeText(&line.request.outputPath, value, "--output needs the name of a file.", error);
 }
 
+/// For the shells' completions: arguments, queues, options, or choices:OPTION.
+bool takeCompletion(CommandLine &line, const QString &value, Problem *error)
+{
+    return takeText(&line.complete, value, "--complete needs to be told what.", error);
+}
+
 bool takeNothing(CommandLine & /*line*/, const QString & /*value*/, Problem * /*error*/)
 {
     return true;
@@ -199,6 +205,7 @@ constexpr std::array options{
                   "see whether documents, options, printer and server are all right, and submit nothing"},
     ProgramOption{"--json", nullptr, ValueKind::None, raise<&CommandLine::json>,
                   "say everything as one JSON object on standard output, problems too"},
+    ProgramOption{"--complete", "WHAT", ValueKind::Text, takeCompletion, nullptr},
     ProgramOption{"--help", nullptr, ValueKind::None, raise<&CommandLine::help>, "print this text"},
     ProgramOption{"--version", nullptr, ValueKind::None, raise<&CommandLine::version>, "print the version"},
 };

@@ -2,6 +2,7 @@
 // The program tapeprint: reads its command line, and runs the dialog with or without a window.
 #include "job/OutputFile.h"
 #include "tapeprint/CommandLine.h"
+#include "tapeprint/Completion.h"
 #include "tapeprint/Display.h"
 #include "tapeprint/RunReport.h"
 #include "tapeprint/ServerChoice.h"
@@ -12,6 +13,7 @@
 #include <QFile>
 
 #include <csignal>
+#include <optional>
 
 namespace
 {
@@ -54,24 +56,29 @@ int main(int argc, char **argv)
     }
 
     tapeprint::chooseServer(*line);
+    if (!line->complete.isNull()) {
+        return tapeprint::writeCompletions(*line);
+    }
     // A reader that goes away is said, as a full disk is.
     std::signal(SIGPIPE, SIG_IGN);
     nextMessageHandler = qInstallMessageHandler(passMessage);
     // Panels are real widgets with or without a window.
     const bool wantsWindow = !line->noDialog && line->submits();
-    const bool showsWindow = wantsWindow && tapeprint::hasDisplay();
-    if (!showsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    if (const tapeprint::job::Problem problem = wantsWindow ? tapeprint::displayProblem() : tapeprint::job::Problem();
+        !problem.isNull()) {
+        return tapeprint::writeReport(tapeprint::failedRun(problem), line->json);
+    }
+    if (!wantsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     // The toolkit gets no arguments: its own options would take lp's letters away.
     int toolkitArgc = 1;
+    auto start = std::make_optional<tapeprint::ToolkitStart>(wantsWindow, line->json);
     const QApplication application(toolkitArgc, argv);
+    start.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
 
-    tapeprint::RunReport run = showsWindow ? tapeprint::runWindow(*line) : tapeprint::runUnattended(*line);
-    if (wantsWindow && !showsWindow && run.status == 0) {
-        run.output.prepend(QStringLiteral("There is no display: the job was done without a window."));
-    }
+    tapeprint::RunReport run = wantsWindow ? tapeprint::runWindow(*line) : tapeprint::runUnattended(*line);
     // Standard output is the printer's.
     if (line->submits() && tapeprint::job::isStandardOutput(line->request.outputPath)) {
         run.messages = run.output + run.messages;

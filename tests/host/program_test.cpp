@@ -3,6 +3,9 @@
 #include "ProgramTest.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace
 {
@@ -49,11 +52,9 @@ TEST_F(Program, FilterRun_GivesTheFilterEveryOptionAndNamesTheOutput)
     EXPECT_TRUE(bytes.endsWith("Hello\n")) << bytes.toStdString();
 }
 
-TEST_F(Program, WithoutADisplay_SaysSoAndDoesTheJob)
+TEST_F(Program, OfAPipe_NamesItsOutputItself)
 {
-    const Outcome outcome = run({u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd}, "From a pipe\n");
-    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
-    EXPECT_TRUE(outcome.output.startsWith("There is no display")) << outcome.output.toStdString();
+    EXPECT_EQ(run({u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd}, "From a pipe\n").status, 0);
     EXPECT_TRUE(contentsOf(folder.filePath(u"tapeprint.prn"_qs)).endsWith("From a pipe\n"));
 }
 
@@ -160,17 +161,79 @@ TEST_F(Program, BadInput_IsOneLineAndTheStatusOfItsKind)
 {
     const QString broken = hosttest::writeFile(folder, u"broken.ppd"_qs, "*PPD-Adobe: \"4.3\"\nbroken\n");
     const QString empty = hosttest::writeFile(folder, u"empty.txt"_qs, {});
-    expectFailure(testsupport::badDescription, {u"--ppd"_qs, broken, document}, "broken.ppd is not valid, line 2");
-    expectFailure(testsupport::badDescription, {u"--ppd"_qs, folder.filePath(u"none.ppd"_qs), document},
+    expectFailure(testsupport::badDescription, {u"--no-dialog"_qs, u"--ppd"_qs, broken, document},
+                  "broken.ppd is not valid, line 2");
+    expectFailure(testsupport::badDescription,
+                  {u"--no-dialog"_qs, u"--ppd"_qs, folder.filePath(u"none.ppd"_qs), document},
                   "none.ppd cannot be read");
-    expectFailure(testsupport::badDocument, {u"--ppd"_qs, ppd, folder.filePath(u"none.pdf"_qs)},
+    expectFailure(testsupport::badDocument, {u"--no-dialog"_qs, u"--ppd"_qs, ppd, folder.filePath(u"none.pdf"_qs)},
                   "none.pdf cannot be read");
-    expectFailure(testsupport::badDocument, {u"--ppd"_qs, ppd, empty}, "is empty");
-    expectFailure(testsupport::badDocument, {u"--ppd"_qs, ppd}, "Standard input is empty");
-    expectFailure(testsupport::unreachable, {u"-d"_qs, u"tape"_qs, document}, "does not answer");
-    expectFailure(testsupport::unreachable, {document}, "does not answer");
+    expectFailure(testsupport::badDocument, {u"--no-dialog"_qs, u"--ppd"_qs, ppd, empty}, "is empty");
+    expectFailure(testsupport::badDocument, {u"--no-dialog"_qs, u"--ppd"_qs, ppd}, "Standard input is empty");
+    expectFailure(testsupport::unreachable, {u"--no-dialog"_qs, u"-d"_qs, u"tape"_qs, document}, "does not answer");
+    expectFailure(testsupport::unreachable, {u"--no-dialog"_qs, document}, "does not answer");
     expectFailure(testsupport::badUsage, {u"-o"_qs, u"a={b=c}"_qs, document}, "braces");
     expectFailure(testsupport::badUsage, {u"--unknown"_qs}, "--unknown is no option");
+}
+
+TEST_F(Program, Check_SaysWhetherItWouldPrintAndPrintsNothing)
+{
+    const QStringList check{u"--check"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs};
+    const Outcome good = run(check + QStringList{u"out.prn"_qs, document});
+    EXPECT_EQ(good.status, testsupport::done) << good.messages.toStdString();
+    EXPECT_TRUE(good.output.contains("nothing was printed")) << good.output.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(folder.filePath(u"out.prn"_qs)));
+    expectFailure(testsupport::refusedValue, check + QStringList{u"out.prn"_qs, u"-oCutMedia=Twice"_qs, document},
+                  "none of the choices");
+    expectFailure(testsupport::unwritableOutput, check + QStringList{document, document}, "only read");
+    expectFailure(testsupport::badDescription, {u"--check"_qs, u"--ppd"_qs, filterPpd, document}, "--trust-ppd");
+    expectFailure(testsupport::unreachable, {u"--check"_qs, u"-d"_qs, u"tape"_qs, document}, "does not answer");
+    expectFailure(testsupport::badDocument, check + QStringList{u"out.prn"_qs, u"none.pdf"_qs}, "cannot be read");
+}
+
+TEST_F(Program, PdfThatIsBrokenOrLocked_IsNotSentToPaperEither)
+{
+    const QString broken = hosttest::writeFile(folder, u"broken.pdf"_qs, "%PDF-1.4\nand no more\n");
+    for (const QString &mode : {u"--check"_qs, u"--no-dialog"_qs}) {
+        expectFailure(testsupport::badDocument, {mode, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, document, broken},
+                      "broken.pdf is damaged");
+    }
+}
+
+TEST_F(Program, Json_IsOneObjectWithNumbersAsNumbers)
+{
+    const Outcome outcome = run({u"--json"_qs, u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"-n2"_qs,
+                                 u"-oKsMargin=5.0"_qs, u"--output"_qs, u"out.prn"_qs, document});
+    EXPECT_EQ(outcome.status, testsupport::done);
+    EXPECT_EQ(outcome.messages, "");
+    const QJsonObject object = QJsonDocument::fromJson(outcome.output).object();
+    EXPECT_EQ(object[u"status"].toInt(-1), 0);
+    EXPECT_EQ(object[u"kind"].toString(), u"done"_qs);
+    EXPECT_EQ(object[u"printer"][u"ppd"].toString(), filterPpd);
+    EXPECT_EQ(object[u"options"][u"copies"].toInt(), 2);
+    EXPECT_EQ(object[u"options"][u"KsMargin"].toDouble(), 5.0);
+    EXPECT_EQ(object[u"options"][u"PageSize"].toString(), u"W12"_qs);
+    EXPECT_EQ(object[u"summary"][0][u"lines"][0][u"title"].toString(), u"Tape"_qs);
+    EXPECT_EQ(object[u"job"][u"output"].toString(), u"out.prn"_qs);
+    EXPECT_EQ(object[u"job"][u"bytes"].toInteger(), contentsOf(folder.filePath(u"out.prn"_qs)).size());
+    EXPECT_TRUE(object[u"warnings"].isArray());
+}
+
+TEST_F(Program, Json_HoldsProblemsWithTheSameStatus)
+{
+    const std::vector<std::pair<QStringList, testsupport::ExitStatus>> runs{
+        {{u"--json"_qs, u"--no-such"_qs}, testsupport::badUsage},
+        {{u"--json"_qs, u"--check"_qs, u"--ppd"_qs, ppd, u"none.pdf"_qs}, testsupport::badDocument},
+        {{u"--json"_qs, u"--ppd"_qs, ppd, u"--show-options"_qs, u"-oCutMedia=Twice"_qs}, testsupport::refusedValue},
+    };
+    for (const auto &[arguments, status] : runs) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, status);
+        EXPECT_EQ(outcome.messages, "");
+        const QJsonObject object = QJsonDocument::fromJson(outcome.output).object();
+        EXPECT_EQ(object[u"status"].toInt(), status);
+        EXPECT_FALSE(object[u"message"].toString().isEmpty());
+    }
 }
 
 TEST_F(Program, HelpAndVersion_NeedNothing)
