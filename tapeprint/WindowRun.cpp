@@ -10,6 +10,7 @@
 #include "tapeprint/OutputPath.h"
 
 #include <QEventLoop>
+#include <QLocale>
 
 #include <atomic>
 
@@ -37,6 +38,7 @@ RunReport runWindow(const CommandLine &line)
     // scripts read it.
     auto translations = std::make_optional<dialog::Translations>();
     job::Job job;
+    job.setLanguages(QLocale().uiLanguages());
     dialog::Panels panels(job, dialog::bundleSearchPath());
     panels.open(std::move(*destination), request.options);
     const QString title = documents->title(request.title);
