@@ -95,6 +95,8 @@ private:
     QWidget *makeButtons();
     QWidget *makeProgress(QWidget *parent);
     void connectControls();
+    void addCommandButton();
+    void showCommand();
 
     void fillPrinters();
     void showDestination();
