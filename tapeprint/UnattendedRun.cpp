@@ -8,6 +8,8 @@
 #include "job/LaidDownOptions.h"
 #include "job/LaidOutJob.h"
 #include "job/PageLayout.h"
+#include "job/PresetOptions.h"
+#include "job/Presets.h"
 #include "job/Printing.h"
 #include "job/QueueCheck.h"
 #include "job/RefusedValues.h"
@@ -107,7 +109,8 @@ public:
 
     RunReport run()
     {
-        const bool isDone = open() && settle() && show() && (!mLine.check || check()) && (!mLine.submits() || print());
+        const bool isDone = open() && settle() && show() && (mLine.savePreset.isEmpty() || save()) &&
+                            (!mLine.check || check()) && (!mLine.submits() || print());
         if (mIsOpen) { // however it ends, the panels hear of it
             addNotices();
             mPanels.windowWillClose(mIsPrinted);
@@ -129,7 +132,8 @@ private:
     bool open()
     {
         job::JobRequest request = mLine.request;
-        const bool fitsLength = job::layoutChoicesOf(request.options).fitLength; // by --fit-length or by -o
+        const bool fitsLength = job::layoutChoicesOf(request.options).fitLength && // by --fit-length or by -o
+                                mLine.savePreset.isEmpty();                        // which keeps the wish
         if (mLine.readsDocuments() || fitsLength) {
             mDocuments = job::DocumentSpool::collect(mLine.files, &mProblem);
             if (!mDocuments) {
@@ -172,6 +176,29 @@ private:
         }
         mReport.data.insert(QStringLiteral("options"), jsonOptions(carried));
         mReport.data.insert(QStringLiteral("summary"), jsonSummary(mPanels));
+        return true;
+    }
+
+    /// Saves the settings as a preset. Values that are not taken as they were given are not saved without a word.
+    bool save()
+    {
+        if (!mJob.destination().queue) {
+            mProblem = {job::Problem::BadUsage,
+                        QStringLiteral("--save-preset goes with a print queue: name one with -d.")};
+            return false;
+        }
+        if (!mRefusals.isEmpty() && !mLine.adjusts) {
+            mProblem = refusal();
+            return false;
+        }
+        const QString queue = mJob.destination().queue->name;
+        const job::JobOptions options = job::optionsForPreset(mJob.options(), mJob.ppd());
+        if (!job::savePreset(queue, mLine.savePreset, job::withoutGone(options, mJob.ppd()), &mProblem)) {
+            return false;
+        }
+        if (!mLine.silent) {
+            mReport.output.append(QStringLiteral("Preset %1/%2 is saved.").arg(queue, mLine.savePreset));
+        }
         return true;
     }
 

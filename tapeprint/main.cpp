@@ -4,6 +4,7 @@
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Completion.h"
 #include "tapeprint/Display.h"
+#include "tapeprint/PresetRun.h"
 #include "tapeprint/RunReport.h"
 #include "tapeprint/ServerChoice.h"
 #include "tapeprint/UnattendedRun.h"
@@ -61,6 +62,9 @@ int main(int argc, char **argv)
     }
     // A reader that goes away is said, as a full disk is.
     std::signal(SIGPIPE, SIG_IGN);
+    if (line->onlyManagesPresets()) {
+        return tapeprint::writeReport(tapeprint::runPresets(*line), line->json);
+    }
     nextMessageHandler = qInstallMessageHandler(passMessage);
     // Panels are real widgets with or without a window.
     const bool wantsWindow = !line->noDialog && line->submits();
