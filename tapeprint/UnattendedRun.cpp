@@ -4,6 +4,7 @@
 
 #include "dialog/GatheredAlerts.h"
 #include "dialog/Panels.h"
+#include "job/CustomValues.h"
 #include "job/DocumentSpool.h"
 #include "job/LaidDownOptions.h"
 #include "job/LaidOutJob.h"
@@ -95,8 +96,10 @@ bool fitLength(job::Job &job, const QStringList &files, QStringList &messages, j
 QStringList notCarriedAsAsked(const job::Job &job, const dialog::Panels &panels, const job::JobOptions &options)
 {
     const job::JobOptions asked = job::withNamedSize(options, job.ppd());
-    const auto isPanels = [&job, &panels](const QString &key) {
-        return panels.announced(key) || key == job.tape().lengthOption || key == job.tape().marginOption;
+    // A panel takes numbers that the PPD does not list; and what it has replaced is said as that.
+    const auto isPanels = [&job, &panels](const QString &key, const QString &value) {
+        const bool owns = panels.announced(key) || key == job.tape().lengthOption || key == job.tape().marginOption;
+        return owns && (job::isNumber(value) || job.options().value(key).compare(value, Qt::CaseInsensitive) != 0);
     };
     return job::refusedValues(job.ppd(), asked, isPanels) + panels.replacements(asked);
 }
@@ -167,7 +170,7 @@ private:
 
     bool show()
     {
-        const job::JobOptions carried = job::settle(mJob).carried();
+        const job::JobOptions carried = job::withoutSecrets(mJob.ppd(), job::settle(mJob).carried());
         if (mLine.showOptions) {
             mReport.output += carried.lines();
         }
