@@ -97,6 +97,8 @@ private:
     QWidget *makeButtons();
     QWidget *makeProgress(QWidget *parent);
     void connectControls();
+    void addCommandButton();
+    void showCommand();
 
     void fillPrinters();
     void showDestination();
@@ -105,6 +107,7 @@ private:
     void orderByTab();
     void assignKeys();
     void settlePanels();
+    void removeOwnPages();
     void removePages();
     void turnToPage(int index);
     const Page *currentPage() const;

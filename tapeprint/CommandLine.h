@@ -25,12 +25,30 @@ struct CommandLine {
     bool help = false;
     bool version = false;
     bool trustPpd = false;
-    bool resolve = false; ///< options that do not go together are changed
-    bool silent = false;  ///< -s: say nothing about a job that went well
-    QStringList files;    ///< none: standard input
+    bool silent = false;   ///< -s: say nothing about a job that went well
+    bool adjusts = false;  ///< a value that is not taken as it is does not keep the job from being printed
+    QString server;        ///< -h HOST:PORT; empty: the one that CUPS is set up for
+    QString user;          ///< -U USER; empty: the person's own
+    bool encrypts = false; ///< -E: no connection that is not encrypted
+    QStringList files;     ///< none: standard input
 
-    /// Whether the options are only shown and nothing is printed.
-    bool onlyShows() const { return showOptions || summary; }
+    QString savePreset;       ///< the settings are saved under this name; empty: they are not
+    QString deletePreset;     ///< the preset of this name is deleted; empty: none is
+    bool listPresets = false; ///< the names of the queue's presets are shown
+
+    bool check = false;   ///< see whether the job would be printed
+    bool resolve = false; ///< options that do not go together are changed
+    bool json = false;    ///< everything that is said is one JSON object
+    QString complete;     ///< what a shell asks for to complete a line; null: nothing
+
+    /// Whether presets are looked at or deleted, and nothing else is done.
+    bool onlyManagesPresets() const { return listPresets || !deletePreset.isEmpty(); }
+    /// Whether the options are only shown or saved.
+    bool onlyShows() const { return (showOptions || summary || !savePreset.isEmpty()) && !check; }
+    /// Whether there is to be a job at all.
+    bool submits() const { return !onlyManagesPresets() && !onlyShows() && !check; }
+    /// Whether the documents are needed.
+    bool readsDocuments() const { return !onlyShows(); }
 };
 
 /// Reads the arguments that follow the program's name. \param error takes a sentence about what is wrong.

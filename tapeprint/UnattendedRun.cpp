@@ -7,12 +7,18 @@
 #include "job/Conflicts.h"
 #include "job/CustomValues.h"
 #include "job/DocumentSpool.h"
+#include "job/LaidDownOptions.h"
 #include "job/LaidOutJob.h"
 #include "job/PageLayout.h"
+#include "job/PresetOptions.h"
+#include "job/Presets.h"
 #include "job/Printing.h"
+#include "job/QueueCheck.h"
+#include "job/RefusedValues.h"
+#include "tapeprint/JsonReport.h"
 #include "tapeprint/OutputPath.h"
 
-#include <QScopeGuard>
+#include <QJsonArray>
 
 #include <atomic>
 
@@ -49,39 +55,6 @@ bool settleJob(dialog::Panels &panels, const dialog::GatheredAlerts &alerts, job
         return false;
     }
     return true;
-}
-
-/// Names the options that do not go together, and resolves them when that is asked for. \param messages takes what the
-/// person should know of it. \param error takes the conflict that keeps the job from being printed.
-bool settleConflicts(job::Job &job, dialog::Panels &panels, const CommandLine &line, QStringList &messages,
-                     job::Problem *error)
-{
-    const std::vector<job::Conflict> conflicts = job::conflictsOf(job.ppd());
-    if (conflicts.empty()) {
-        return true;
-    }
-    QStringList sentences = job::sentencesOf(conflicts);
-    const std::optional<job::Resolution> resolution =
-        line.resolve ? job::resolutionOf(job.ppd(), job.lastChanged()) : std::nullopt;
-    if (resolution) {
-        panels.apply(*resolution);
-        if (!panels.saveValues(error)) {
-            return false;
-        }
-        messages += sentences;
-        messages.append(resolution->sentence());
-        sentences = job::sentencesOf(job::conflictsOf(job.ppd())); // a panel may hold on to its own value
-    } else if (line.onlyShows()) {
-        messages += sentences;
-        return true;
-    }
-    if (sentences.isEmpty()) {
-        return true;
-    }
-    sentences.append(line.resolve ? QStringLiteral("There is no way out of it: choose others with -o.")
-                                  : QStringLiteral("Choose others with -o, or let --resolve change them."));
-    *error = {job::Problem::Conflict, sentences.join(u' ')};
-    return false;
 }
 
 const std::atomic<bool> neverStopped{false};
@@ -122,72 +95,215 @@ bool fitLength(job::Job &job, const QStringList &files, QStringList &messages, j
     return true;
 }
 
+/// A sentence for each value that the command line asks for and the job does not carry as it was asked.
+QStringList notCarriedAsAsked(const job::Job &job, const dialog::Panels &panels, const job::JobOptions &options)
+{
+    const job::JobOptions asked = job::withNamedSize(options, job.ppd());
+    // A panel takes numbers that the PPD does not list; and what it has replaced is said as that.
+    const auto isPanels = [&job, &panels](const QString &key, const QString &value) {
+        const bool owns = panels.announced(key) || key == job.tape().lengthOption || key == job.tape().marginOption;
+        return owns && (job::isNumber(value) || job.options().value(key).compare(value, Qt::CaseInsensitive) != 0);
+    };
+    return job::refusedValues(job.ppd(), asked, isPanels) + panels.replacements(asked);
+}
+
+/// The run, step by step. A step that fails leaves a problem, and the run ends with it.
+class UnattendedRun
+{
+public:
+    explicit UnattendedRun(const CommandLine &line) : mLine(line), mPanels(mJob, dialog::bundleSearchPath()) {}
+
+    RunReport run()
+    {
+        const bool isDone = open() && settle() && settleConflicts() && show() &&
+                            (mLine.savePreset.isEmpty() || save()) && (!mLine.check || check()) &&
+                            (!mLine.submits() || print());
+        if (mIsOpen) { // however it ends, the panels hear of it
+            addNotices();
+            mPanels.windowWillClose(mIsPrinted);
+        }
+        if (!isDone) {
+            mReport.problem = mProblem;
+            mReport.status = exitStatus(mProblem.kind);
+            mReport.output.clear();
+            mReport.messages = {mProblem.sentence};
+        } else if (!mRefusals.isEmpty() && !mLine.adjusts) {
+            // Shown all the same: one sees what would become of the values.
+            mReport.problem = refusal();
+            mReport.status = exitStatus(job::Problem::RefusedValue);
+        }
+        return mReport;
+    }
+
+private:
+    bool open()
+    {
+        job::JobRequest request = mLine.request;
+        const bool fitsLength = job::layoutChoicesOf(request.options).fitLength && // by --fit-length or by -o
+                                mLine.savePreset.isEmpty();                        // which keeps the wish
+        if (mLine.readsDocuments() || fitsLength) {
+            mDocuments = job::DocumentSpool::collect(mLine.files, &mProblem);
+            if (!mDocuments) {
+                return false;
+            }
+            request.documents = mDocuments->sources();
+            nameOutput(request, mDocuments->title(QString()));
+        }
+        std::optional<job::Destination> destination = job::openDestination(request, &mProblem);
+        if (!destination) {
+            return false;
+        }
+        mReport.data.insert(QStringLiteral("printer"), jsonPrinter(*destination));
+        mPanels.open(std::move(*destination), request.options);
+        mIsOpen = true;
+        if (const QStringList dropped = job::bracedForNobody(mJob.ppd(), mJob.options()); !dropped.isEmpty()) {
+            mProblem = {job::Problem::BadUsage, dropped.join(u' ')};
+            return false;
+        }
+        return !fitsLength || fitLength(mJob, mDocuments->files(), mReport.messages, &mProblem);
+    }
+
+    bool settle()
+    {
+        if (!settleJob(mPanels, mAlerts, &mProblem)) {
+            return false;
+        }
+        mRefusals = notCarriedAsAsked(mJob, mPanels, mLine.request.options);
+        if (!mRefusals.isEmpty() && !mLine.adjusts && !mLine.onlyShows()) {
+            mProblem = refusal();
+            return false;
+        }
+        return true;
+    }
+
+    /// Names the options that do not go together, and resolves them when that is asked for.
+    bool settleConflicts()
+    {
+        QStringList sentences = job::sentencesOf(job::conflictsOf(mJob.ppd()));
+        mReport.data.insert(QStringLiteral("conflicts"), QJsonArray::fromStringList(sentences));
+        const std::optional<job::Resolution> resolution =
+            mLine.resolve && !sentences.isEmpty() ? job::resolutionOf(mJob.ppd(), mJob.lastChanged()) : std::nullopt;
+        if (resolution) {
+            mPanels.apply(*resolution);
+            if (!mPanels.saveValues(&mProblem)) {
+                return false;
+            }
+            mReport.messages += sentences + QStringList{resolution->sentence()};
+            sentences = job::sentencesOf(job::conflictsOf(mJob.ppd())); // a panel may hold on to its own value
+        } else if (mLine.onlyShows()) {
+            mReport.messages += sentences;
+            return true;
+        }
+        if (sentences.isEmpty()) {
+            return true;
+        }
+        sentences.append(mLine.resolve ? QStringLiteral("There is no way out of it: choose others with -o.")
+                                       : QStringLiteral("Choose others with -o, or let --resolve change them."));
+        mProblem = {job::Problem::Conflict, sentences.join(u' ')};
+        return false;
+    }
+
+    bool show()
+    {
+        const job::JobOptions carried = job::withoutSecrets(mJob.ppd(), job::settle(mJob).carried());
+        if (mLine.showOptions) {
+            mReport.output += carried.lines();
+        }
+        if (mLine.summary) {
+            mReport.output += summaryLines(mPanels);
+        }
+        mReport.data.insert(QStringLiteral("options"), jsonOptions(carried));
+        mReport.data.insert(QStringLiteral("summary"), jsonSummary(mPanels));
+        return true;
+    }
+
+    /// Saves the settings as a preset. Values that are not taken as they were given are not saved without a word.
+    bool save()
+    {
+        if (!mJob.destination().queue) {
+            mProblem = {job::Problem::BadUsage,
+                        QStringLiteral("--save-preset goes with a print queue: name one with -d.")};
+            return false;
+        }
+        if (!mRefusals.isEmpty() && !mLine.adjusts) {
+            mProblem = refusal();
+            return false;
+        }
+        const QString queue = mJob.destination().queue->name;
+        const job::JobOptions options = job::optionsForPreset(mJob.options(), mJob.ppd());
+        if (!job::savePreset(queue, mLine.savePreset, job::withoutGone(options, mJob.ppd()), &mProblem)) {
+            return false;
+        }
+        if (!mLine.silent) {
+            mReport.output.append(QStringLiteral("Preset %1/%2 is saved.").arg(queue, mLine.savePreset));
+        }
+        return true;
+    }
+
+    /// Everything that printing would stumble over, as far as it can be known without doing it.
+    bool check()
+    {
+        const job::SettledJob settled = job::settle(mJob);
+        if (!job::isPrintable(settled, mDocuments->files(), neverStopped, &mProblem) ||
+            (!settled.isFile() && !job::takesJobs(*settled.queue, &mProblem))) {
+            return false;
+        }
+        if (!mLine.silent) {
+            mReport.output.append(QStringLiteral("Everything is in order: nothing was printed."));
+        }
+        return true;
+    }
+
+    bool print()
+    {
+        if (!job::areUnchanged(mDocuments->sources(), &mProblem)) {
+            return false;
+        }
+        const std::optional<job::PrintedJob> printed = job::printJob(
+            job::settle(mJob), mDocuments->title(mLine.request.title), mDocuments->files(), neverStopped, &mProblem);
+        if (!printed) {
+            return false;
+        }
+        mIsPrinted = true;
+        mReport.data.insert(QStringLiteral("job"), jsonJob(*printed));
+        if (!mLine.silent) {
+            mReport.output.append(printed->sentence());
+        }
+        return true;
+    }
+
+    void addNotices()
+    {
+        const QString notice = job::lengthNotice(mJob.page());
+        mReport.messages += mRefusals + mJob.notices() + mPanels.notices() + mAlerts.lines() +
+                            (notice.isNull() ? QStringList() : QStringList{notice});
+        mReport.messages.removeDuplicates();
+    }
+
+    job::Problem refusal() const
+    {
+        return {job::Problem::RefusedValue,
+                mRefusals.join(u' ') + QStringLiteral(" Nothing was printed: give other values, or repeat with "
+                                                      "--adjust to print all the same.")};
+    }
+
+    const CommandLine &mLine;
+    const dialog::GatheredAlerts mAlerts;
+    job::Job mJob;
+    dialog::Panels mPanels;
+    std::optional<job::DocumentSpool> mDocuments;
+    QStringList mRefusals;
+    job::Problem mProblem;
+    RunReport mReport;
+    bool mIsOpen = false;
+    bool mIsPrinted = false;
+};
+
 } // namespace
 
 RunReport runUnattended(const CommandLine &line)
 {
-    job::Problem error;
-    job::JobRequest request = line.request;
-    const bool fitsLength = job::layoutChoicesOf(request.options).fitLength; // by --fit-length or by -o
-    std::optional<job::DocumentSpool> documents;
-    if (!line.onlyShows() || fitsLength) {
-        documents = job::DocumentSpool::collect(line.files, &error);
-        if (!documents) {
-            return failedRun(error);
-        }
-        request.documents = documents->sources();
-        nameOutput(request, documents->title(QString()));
-    }
-    std::optional<job::Destination> destination = job::openDestination(request, &error);
-    if (!destination) {
-        return failedRun(error);
-    }
-
-    const dialog::GatheredAlerts alerts;
-    job::Job job;
-    dialog::Panels panels(job, dialog::bundleSearchPath());
-    panels.open(std::move(*destination), request.options);
-    // However it ends, the panels hear of it.
-    bool printed = false;
-    const auto close = qScopeGuard([&panels, &printed] { panels.windowWillClose(printed); });
-
-    if (const QStringList dropped = job::bracedForNobody(job.ppd(), job.options()); !dropped.isEmpty()) {
-        return failedRun({job::Problem::BadUsage, dropped.join(u' ')});
-    }
-    RunReport report;
-    if (fitsLength && !fitLength(job, documents->files(), report.messages, &error)) {
-        return failedRun(error);
-    }
-    if (!settleJob(panels, alerts, &error)) {
-        return failedRun(error);
-    }
-    if (!settleConflicts(job, panels, line, report.messages, &error)) {
-        return failedRun(error);
-    }
-    if (line.showOptions) {
-        report.output += job::withoutSecrets(job.ppd(), job::settle(job).carried()).lines();
-    }
-    if (line.summary) {
-        report.output += summaryLines(panels);
-    }
-    if (!line.onlyShows()) {
-        std::optional<job::PrintedJob> result;
-        if (job::areUnchanged(documents->sources(), &error)) {
-            result = job::printJob(job::settle(job), documents->title(request.title), documents->files(), neverStopped,
-                                   &error);
-        }
-        if (!result) {
-            return failedRun(error);
-        }
-        printed = true;
-        if (!line.silent) {
-            report.output.append(result->sentence());
-        }
-    }
-    const QString notice = job::lengthNotice(job.page());
-    report.messages +=
-        job.notices() + panels.notices() + alerts.lines() + (notice.isNull() ? QStringList() : QStringList{notice});
-    return report;
+    return UnattendedRun(line).run();
 }
 
 } // namespace tapeprint
