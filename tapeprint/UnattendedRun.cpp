@@ -180,9 +180,12 @@ private:
     bool settleConflicts()
     {
         QStringList sentences = job::sentencesOf(job::conflictsOf(mJob.ppd()));
+        if (sentences.isEmpty()) {
+            return true;
+        }
         mReport.data.insert(QStringLiteral("conflicts"), QJsonArray::fromStringList(sentences));
         const std::optional<job::Resolution> resolution =
-            mLine.resolve && !sentences.isEmpty() ? job::resolutionOf(mJob.ppd(), mJob.lastChanged()) : std::nullopt;
+            mLine.resolve ? job::resolutionOf(mJob.ppd(), mJob.lastChanged()) : std::nullopt;
         if (resolution) {
             mPanels.apply(*resolution);
             if (!mPanels.saveValues(&mProblem)) {
