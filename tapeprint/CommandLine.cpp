@@ -127,6 +127,7 @@ const std::array flags{
     Flag{QLatin1String("--help"), &CommandLine::help},
     Flag{QLatin1String("--version"), &CommandLine::version},
     Flag{QLatin1String("--trust-ppd"), &CommandLine::trustPpd},
+    Flag{QLatin1String("--wait"), &CommandLine::wait},
     Flag{QLatin1String("-s"), &CommandLine::silent},
     Flag{QLatin1String("-c"), nullptr},
 };
@@ -249,6 +250,7 @@ QString commandLineHelp()
                "  --fit-length         make the tape as long as what is drawn on the document needs, with both "
                "margins\n"
                "  --no-dialog          do the same job without a window\n"
+               "  --wait               without a window: end when the job is printed, or has failed\n"
                "  --show-options       print the options that the job would carry, and submit nothing\n"
                "  --summary            print the summary of the job as \"title: value\" lines, and submit nothing\n"
                "  --help               print this text\n"

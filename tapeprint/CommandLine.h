@@ -25,6 +25,7 @@ struct CommandLine {
     bool help = false;
     bool version = false;
     bool trustPpd = false;
+    bool wait = false;   ///< the run ends when the job does
     bool silent = false; ///< -s: say nothing about a job that went well
     QStringList files;   ///< none: standard input
 

@@ -8,6 +8,7 @@
 #include "job/LaidOutJob.h"
 #include "job/PageLayout.h"
 #include "job/Printing.h"
+#include "tapeprint/JobWait.h"
 #include "tapeprint/OutputPath.h"
 
 #include <QScopeGuard>
@@ -139,6 +140,9 @@ RunReport runUnattended(const CommandLine &line)
             return failedRun(error);
         }
         printed = true;
+        if (line.wait && !waitForJob(*result, job.page().isTape, &error)) {
+            return failedRun(error);
+        }
         if (!line.silent) {
             report.output.append(result->sentence());
         }

@@ -5,6 +5,7 @@
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Display.h"
 #include "tapeprint/RunReport.h"
+#include "tapeprint/TerminalPassword.h"
 #include "tapeprint/UnattendedRun.h"
 #include "tapeprint/WindowRun.h"
 
@@ -88,6 +89,9 @@ int main(int argc, char **argv)
     const QApplication application(toolkitArgc, argv);
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
 
+    if (!showsWindow) {
+        tapeprint::job::setPasswordAsker(tapeprint::askOnTerminal); // the window has its own
+    }
     tapeprint::RunReport run = showsWindow ? tapeprint::runWindow(*line) : tapeprint::runUnattended(*line);
     if (wantsWindow && !showsWindow && run.status == 0) {
         run.output.prepend(QStringLiteral("There is no display: the job was done without a window."));
