@@ -162,6 +162,7 @@ void PrintDialog::follow()
     showNotices();
     mSummary->showSummary(mPanels.summary());
     followInThePreview();
+    followInThePresets();
     selectChoice(mTapePopUp, job::markedChoice(mJob.ppd(), job::OptionName::pageSize));
     mCopiesField->setValue(mJob.copies());
     if (mLayoutPage) {
@@ -203,6 +204,7 @@ void PrintDialog::revert()
     // A length that was typed stands in the panel's field alone: only a panel made anew shows the first values.
     remakePanels();
     mKeepFitting->setChecked(false);
+    mPresetRow->revert(presetNotices());
     follow();
 }
 

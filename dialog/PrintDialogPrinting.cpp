@@ -49,8 +49,14 @@ void PrintDialog::print()
     }
     const job::SettledJob settled = job::settle(mJob);
     mRun.start(
-        [action = mPrintAction, settled](const std::atomic<bool> &stop, const job::SendReport &report,
-                                         job::Problem *problem) { return action(settled, stop, report, problem); },
+        [action = mPrintAction, keep = keepingForNextTime(),
+         settled](const std::atomic<bool> &stop, const job::SendReport &report, job::Problem *problem) {
+            std::optional<job::PrintedJob> printed = action(settled, stop, report, problem);
+            if (printed) {
+                keep();
+            }
+            return printed;
+        },
         settled.page.isTape);
     showPrinting();
 }
