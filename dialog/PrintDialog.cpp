@@ -41,6 +41,7 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     mRestTimer.setSingleShot(true);
     mRestTimer.setInterval(0);
     buildControls();
+    addCommandButton();
     fillPrinters();
     connectControls();
     showDestination();
@@ -169,10 +170,24 @@ void PrintDialog::orderByTab()
             last = next; // only what takes the focus has a place in the order
         }
     }
-    for (QWidget *widget : std::initializer_list<QWidget *>{mSummary, mFitButton, mKeepFitting, mRevertButton,
-                                                            mCancelButton, mPrintButton}) {
+    QList<QWidget *> widgets{mSummary, mFitButton, mKeepFitting};
+    for (int i = 0; i < mMoreButtonsPlace->count(); ++i) {
+        widgets.append(mMoreButtonsPlace->itemAt(i)->widget());
+    }
+    widgets << mCancelButton << mPrintButton;
+    for (QWidget *widget : widgets) {
         setTabOrder(last, widget);
         last = widget;
+    }
+}
+
+/// The dialog's own pages show the panels' PPD, and go before it.
+void PrintDialog::removeOwnPages()
+{
+    for (const Page &page : mPageList) {
+        if (!page.panel) {
+            delete page.widget.data();
+        }
     }
 }
 

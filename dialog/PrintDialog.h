@@ -59,12 +59,11 @@ public:
         QStringList files;                   ///< the documents to show; none when there is no document yet
         std::vector<job::PrintQueue> queues; ///< to offer
     };
-    /// What Print does when the settings are final, away from the window's thread. \param stop when it becomes true,
-    /// the person has changed their mind. \param report hears of what is sent. \return what became of the job; nothing,
-    /// and a sentence in *error, when it could not be done and the window stays as it is. Without a sentence it was
-    /// stopped.
+    /// What Print does when the settings are final, away from the window's thread. \param watch its stop flag becomes
+    /// true when the person has changed their mind. \return what became of the job; nothing, and a sentence in *error,
+    /// when it could not be done and the window stays as it is. Without a sentence it was stopped.
     using PrintAction = std::function<std::optional<job::PrintedJob>(
-        const job::SettledJob &job, const std::atomic<bool> &stop, const job::SendReport &report, job::Problem *error)>;
+        const job::SettledJob &job, const job::PrintWatch &watch, job::Problem *error)>;
 
     /// \param job with a destination opened, and \param panels made for it; both outlive the window.
     PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction);
@@ -97,6 +96,8 @@ private:
     QWidget *makeFitControls(QWidget *parent);
     QWidget *makeButtons();
     void connectControls();
+    void addCommandButton();
+    void showCommand();
 
     void fillPrinters();
     void showDestination();
@@ -106,6 +107,7 @@ private:
     void orderByTab();
     void assignKeys();
     void settlePanels();
+    void removeOwnPages();
     void removePages();
     void turnToPage(int index);
     const Page *currentPage() const;

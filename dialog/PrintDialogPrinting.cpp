@@ -49,9 +49,9 @@ void PrintDialog::print()
     }
     const job::SettledJob settled = job::settle(mJob);
     mRun.start(
-        [action = mPrintAction, keep = keepingForNextTime(),
-         settled](const std::atomic<bool> &stop, const job::SendReport &report, job::Problem *problem) {
-            std::optional<job::PrintedJob> printed = action(settled, stop, report, problem);
+        [action = mPrintAction, keep = keepingForNextTime(), settled](const job::PrintWatch &watch,
+                                                                      job::Problem *problem) {
+            std::optional<job::PrintedJob> printed = action(settled, watch, problem);
             if (printed) {
                 keep();
             }

@@ -44,7 +44,7 @@ void PrintRun::start(Action action, bool isTape)
                 board->progress = progress;
             };
             job::Problem problem;
-            std::optional<job::PrintedJob> printed = action(stop, report, &problem);
+            std::optional<job::PrintedJob> printed = action(job::PrintWatch(stop, report), &problem);
             return [this, printed = std::move(printed), problem] { takeResult(printed, problem); };
         });
 }

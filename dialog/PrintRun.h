@@ -23,8 +23,7 @@ class PrintRun : public QObject
 
 public:
     /// Prints, in a thread of its own; as job::printJob() does it.
-    using Action = std::function<std::optional<job::PrintedJob>(const std::atomic<bool> &stop,
-                                                                const job::SendReport &report, job::Problem *error)>;
+    using Action = std::function<std::optional<job::PrintedJob>(const job::PrintWatch &watch, job::Problem *error)>;
     /// What the server does for a job that it has; for tests another than the real one.
     struct Server {
         std::function<std::optional<job::JobNews>(const job::JobName &, const std::atomic<bool> &,

@@ -3,6 +3,7 @@
 #include "job/Printing.h"
 
 #include "job/Conversion.h"
+#include "job/DocumentCheck.h"
 #include "job/LaidOutJob.h"
 #include "job/OutputFile.h"
 #include "job/PrivateFile.h"
@@ -58,27 +59,33 @@ QString PrintedJob::sentence() const
         .arg(queue, QString::number(job.id), Texts::tr(job.state.toLatin1().constData()));
 }
 
+bool isPrintable(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop, Problem *error)
+{
+    return job.page.isTape ? layOut(job, files, stop, error) != nullptr : areWhole(files, error);
+}
+
 std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
-                                   const std::atomic<bool> &stop, Problem *error, const SendReport &report)
+                                   const PrintWatch &watch, Problem *error)
 {
     QStringList printed = files;
     std::unique_ptr<PrivateFile> labels;
     if (job.page.isTape) {
-        labels = layOut(job, files, stop, error);
+        labels = layOut(job, files, watch.stop, error);
         if (!labels) {
             return std::nullopt;
         }
         printed = {labels->path()};
+    } else if (!areWhole(files, error)) {
+        return std::nullopt;
     }
     if (job.isFile()) {
         const std::optional<FilterOutput> output =
             runFilters({job.ppdPath, title, job.carried(), printed, job.outputPath, job.mayReplaceOutput, job.trustsPpd,
-                        job.documents, &stop},
+                        job.documents, &watch.stop},
                        error);
         return output ? std::optional(PrintedJob{{}, {}, *output}) : std::nullopt;
     }
-    const std::optional<SubmittedJob> submitted =
-        submitJob({*job.queue, title, job.carried(), printed}, stop, report, error);
+    const std::optional<SubmittedJob> submitted = submitJob({*job.queue, title, job.carried(), printed}, watch, error);
     return submitted ? std::optional(PrintedJob{job.queue->name, *submitted, {}}) : std::nullopt;
 }
 

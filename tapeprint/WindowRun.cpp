@@ -7,6 +7,7 @@
 #include "dialog/Translations.h"
 #include "job/DocumentSpool.h"
 #include "job/Printing.h"
+#include "tapeprint/JsonReport.h"
 #include "tapeprint/OutputPath.h"
 
 #include <QEventLoop>
@@ -47,8 +48,7 @@ RunReport runWindow(const CommandLine &line)
                         sources = documents->sources()](const job::SettledJob &settled, const std::atomic<bool> &stop,
                                                         const job::SendReport &report, job::Problem *reason) {
         // The window may have been open for hours, and the document another one by now.
-        return job::areUnchanged(sources, reason) ? job::printJob(settled, title, files, stop, reason, report)
-                                                  : std::nullopt;
+        return job::areUnchanged(sources, reason) ? job::printJob(settled, title, files, watch, reason) : std::nullopt;
     };
     dialog::PrintDialog window(job, panels, {request, title, documents->files(), std::move(queues)}, print);
     QEventLoop untilClosed;
@@ -59,8 +59,13 @@ RunReport runWindow(const CommandLine &line)
 
     RunReport report;
     if (!window.printed()) {
-        report.status = exitStatus(job::Problem::Cancelled); // nobody has to be told what they did
-    } else if (!line.silent) {
+        report.problem = job::Problem(job::Problem::Cancelled, {}); // nobody has to be told what they did
+        report.status = exitStatus(job::Problem::Cancelled);
+        return report;
+    }
+    report.data.insert(QStringLiteral("options"), jsonOptions(job::settle(job).carried()));
+    report.data.insert(QStringLiteral("job"), jsonJob(*window.printed()));
+    if (!line.silent) {
         report.output.append(
             window.printed()->sentence()); // scripts read it: in English, now that the window is closed
     }

@@ -83,7 +83,6 @@ protected:
         panels.open(hosttest::testDestination(folder, hostileOption), {});
         dialog = std::make_unique<PrintDialog>(job, panels, PrintDialog::Setup{{}, u"<b>x</b>[*]"_qs, {}, {}},
                                                [](const job::SettledJob & /*job*/, const std::atomic<bool> & /*stop*/,
-                                                  const job::SendReport & /*report*/,
                                                   job::Problem *error) -> std::optional<job::PrintedJob> {
                                                    *error = u"<b>no</b> &amp; never"_qs;
                                                    return std::nullopt;

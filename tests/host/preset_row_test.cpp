@@ -53,10 +53,10 @@ protected:
         const QStringList files{hosttest::writeFile(folder, u"label.txt"_qs, "Hello\n")};
         job::JobRequest request;
         request.options = asked;
-        dialog = std::make_unique<PrintDialog>(
-            printJob, panels, PrintDialog::Setup{request, u"label"_qs, files, {}},
-            [](const job::SettledJob & /*job*/, const std::atomic<bool> & /*stop*/, const job::SendReport & /*report*/,
-               job::Problem * /*error*/) { return std::optional(job::PrintedJob()); });
+        dialog =
+            std::make_unique<PrintDialog>(printJob, panels, PrintDialog::Setup{request, u"label"_qs, files, {}},
+                                          [](const job::SettledJob & /*job*/, const std::atomic<bool> & /*stop*/,
+                                             job::Problem * /*error*/) { return std::optional(job::PrintedJob()); });
         dialog->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
         rest();

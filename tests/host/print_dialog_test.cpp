@@ -45,8 +45,9 @@ protected:
         panels.open(std::move(destination), {});
         dialog = std::make_unique<PrintDialog>(
             printJob, panels, PrintDialog::Setup{{}, u"label.txt"_qs, files, {}},
-            [this](const job::SettledJob &job, const std::atomic<bool> &stop, const job::SendReport &,
-                   job::Problem *error) { return job::printJob(job, u"label.txt"_qs, files, stop, error); });
+            [this](const job::SettledJob &job, const std::atomic<bool> &stop, job::Problem *error) {
+                return job::printJob(job, u"label.txt"_qs, files, stop, error);
+            });
         dialog->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
         QApplication::processEvents();

@@ -131,7 +131,7 @@ protected:
     /// Prints and waits until the server has the job.
     void send()
     {
-        run->start([](const std::atomic<bool> &, const job::SendReport &, job::Problem *) { return inQueue(); }, true);
+        run->start([](const job::PrintWatch &, job::Problem *) { return inQueue(); }, true);
         ASSERT_TRUE(QTest::qWaitFor([this] { return run->phase() == PrintRun::Phase::Following; }));
     }
 
@@ -162,7 +162,7 @@ TEST_F(PrintRunTest, JobThatFails_IsNotPrinted)
 {
     script->lastState = IPP_JSTATE_ABORTED;
     script->mayEnd = true;
-    run->start([](const std::atomic<bool> &, const job::SendReport &, job::Problem *) { return inQueue(); }, true);
+    run->start([](const job::PrintWatch &, job::Problem *) { return inQueue(); }, true);
     ASSERT_TRUE(QTest::qWaitFor([this] { return events.size() == 2; }));
     EXPECT_EQ(events.last(), u"failed:Job tape-7 has failed: the print server does not say why."_qs);
     EXPECT_FALSE(run->printed());
@@ -171,10 +171,9 @@ TEST_F(PrintRunTest, JobThatFails_IsNotPrinted)
 TEST_F(PrintRunTest, Sending_TellsHowMuchAndStopsOnCancel)
 {
     run->start(
-        [](const std::atomic<bool> &stop, const job::SendReport &report,
-           job::Problem *problem) -> std::optional<job::PrintedJob> {
-            report({30, 120});
-            while (!stop) {
+        [](const job::PrintWatch &watch, job::Problem *problem) -> std::optional<job::PrintedJob> {
+            watch.report({30, 120});
+            while (!watch.stop) {
                 QThread::msleep(5);
             }
             *problem = {job::Problem::Cancelled, QString()};
@@ -225,7 +224,7 @@ TEST_F(PrintRunTest, ServerThatGoesAwayMeanwhile_IsSaid)
 {
     script->followProblem = {job::Problem::Unreachable, u"Gone."_qs};
     script->mayEnd = true;
-    run->start([](const std::atomic<bool> &, const job::SendReport &, job::Problem *) { return inQueue(); }, true);
+    run->start([](const job::PrintWatch &, job::Problem *) { return inQueue(); }, true);
     ASSERT_TRUE(QTest::qWaitFor([this] { return events.size() == 2; }));
     EXPECT_EQ(events.last(), u"failed:Gone."_qs);
 }

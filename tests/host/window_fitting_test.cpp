@@ -384,16 +384,16 @@ TEST_F(WindowFitting, Revert_BringsTheLengthBackFromBeforeItWasFitted)
 TEST_F(WindowFitting, Print_Cancelled_StaysOpenAndMayBePrintedAgain)
 {
     std::atomic<int> calls = 0;
-    ASSERT_NO_FATAL_FAILURE(open(boxOfHundredPoints, [&calls](const job::SettledJob &, const std::atomic<bool> &stop,
-                                                              const job::SendReport &, job::Problem *) {
-        if (calls.fetch_add(1) > 0) {
-            return std::optional(job::PrintedJob{{}, {}, {u"out.prn"_qs, 5}});
-        }
-        while (!stop) {
-            QThread::msleep(1);
-        }
-        return std::optional<job::PrintedJob>();
-    }));
+    ASSERT_NO_FATAL_FAILURE(
+        open(boxOfHundredPoints, [&calls](const job::SettledJob &, const std::atomic<bool> &stop, job::Problem *) {
+            if (calls.fetch_add(1) > 0) {
+                return std::optional(job::PrintedJob{{}, {}, {u"out.prn"_qs, 5}});
+            }
+            while (!stop) {
+                QThread::msleep(1);
+            }
+            return std::optional<job::PrintedJob>();
+        }));
     Answers answers(QMessageBox::Ok);
     int ticks = 0;
     QTimer timer;
@@ -432,17 +432,17 @@ TEST_F(WindowFitting, ClosingTheDialog_WhileItPrints_WaitsForNothingAndTellsTheA
         std::atomic<bool> hasEnded = false;
     };
     const auto shared = std::make_shared<Shared>();
-    ASSERT_NO_FATAL_FAILURE(open(boxOfHundredPoints, [shared](const job::SettledJob &job, const std::atomic<bool> &stop,
-                                                              const job::SendReport &, job::Problem *) {
-        shared->isRunning = true;
-        while (!shared->mayEnd) {
-            QThread::msleep(1);
-        }
-        // The job is the action's own: it is whole when the window has gone.
-        shared->wasStopped = stop && !job.carried().lines().isEmpty();
-        shared->hasEnded = true;
-        return std::optional<job::PrintedJob>();
-    }));
+    ASSERT_NO_FATAL_FAILURE(
+        open(boxOfHundredPoints, [shared](const job::SettledJob &job, const std::atomic<bool> &stop, job::Problem *) {
+            shared->isRunning = true;
+            while (!shared->mayEnd) {
+                QThread::msleep(1);
+            }
+            // The job is the action's own: it is whole when the window has gone.
+            shared->wasStopped = stop && !job.carried().lines().isEmpty();
+            shared->hasEnded = true;
+            return std::optional<job::PrintedJob>();
+        }));
     click(u"print"_qs);
     ASSERT_TRUE(QTest::qWaitFor([&] { return shared->isRunning.load(); }, patienceMs));
     QElapsedTimer clock;
