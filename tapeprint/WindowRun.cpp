@@ -44,9 +44,8 @@ RunReport runWindow(const CommandLine &line)
     dialog::Panels panels(job, dialog::bundleSearchPath());
     panels.open(std::move(*destination), request.options);
     const QString title = documents->title(request.title);
-    const auto print = [title, files = documents->files(),
-                        sources = documents->sources()](const job::SettledJob &settled, const std::atomic<bool> &stop,
-                                                        const job::SendReport &report, job::Problem *reason) {
+    const auto print = [title, files = documents->files(), sources = documents->sources()](
+                           const job::SettledJob &settled, const job::PrintWatch &watch, job::Problem *reason) {
         // The window may have been open for hours, and the document another one by now.
         return job::areUnchanged(sources, reason) ? job::printJob(settled, title, files, watch, reason) : std::nullopt;
     };
