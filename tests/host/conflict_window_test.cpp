@@ -49,7 +49,7 @@ protected:
         panels.open(hosttest::testDestination(folder, lines), {});
         dialog = std::make_unique<PrintDialog>(
             job, panels, PrintDialog::Setup{{}, u"label"_qs, {}, {}},
-            [this](const job::SettledJob &settled, const std::atomic<bool> &, job::Problem *error) {
+            [this](const job::SettledJob &settled, const job::PrintWatch &, job::Problem *error) {
                 printed = settled.options;
                 ++prints;
                 *error = job::Problem(u"nothing is printed here"_qs);
