@@ -9,6 +9,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <utility>
+
 namespace tapeprint::dialog
 {
 
@@ -39,8 +41,11 @@ void PrintDialog::resolveConflicts()
     }
 }
 
-bool PrintDialog::asksAboutConflicts()
+bool PrintDialog::asksAboutConflicts(const std::function<void()> &again)
 {
+    if (std::exchange(mConflictsAreSeen, false)) {
+        return false;
+    }
     mConflicts->follow(mJob); // what the panels have handed over last counts
     if (!mConflicts->isAny()) {
         return false;
@@ -54,13 +59,13 @@ bool PrintDialog::asksAboutConflicts()
     QPushButton *change = resolution ? box->addButton(tr("Change and &Print"), QMessageBox::AcceptRole) : nullptr;
     QPushButton *asItIs = box->addButton(tr("Print All the &Same"), QMessageBox::DestructiveRole);
     box->setDefaultButton(change != nullptr ? change : qobject_cast<QPushButton *>(box->button(QMessageBox::Cancel)));
-    connect(box, &QMessageBox::buttonClicked, this, [this, change, asItIs](const QAbstractButton *clicked) {
+    connect(box, &QMessageBox::buttonClicked, this, [this, change, asItIs, again](const QAbstractButton *clicked) {
         if (clicked == change) {
             resolveConflicts();
-            print();
+            again();
         } else if (clicked == asItIs) {
             mConflictsAreSeen = true;
-            print();
+            again();
         }
     });
     box->open();
