@@ -11,6 +11,7 @@
 #include "dialog/PlainText.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/SummaryView.h"
+#include "dialog/TabOrder.h"
 #include "dialog/TapeLook.h"
 
 #include <QCheckBox>
@@ -143,7 +144,7 @@ void PrintDialog::makePages()
 
 void PrintDialog::showPages(int first)
 {
-    orderByTab();
+    orderTabsByLayout(*this, mPages);
     assignKeys();
     turnToPage(std::clamp(first, 0, static_cast<int>(mPageList.size()) - 1));
     mPanelArea->updateGeometry();
@@ -157,22 +158,6 @@ void PrintDialog::settlePanels()
     job::Problem error;
     mPanels.settle(&error);
     mAlerts = alerts.lines();
-}
-
-void PrintDialog::orderByTab()
-{
-    // Pages are made after the buttons and would be reached last: the Tab key follows what the eye reads.
-    QWidget *last = mPanelArea;
-    for (QWidget *next = mPages->nextInFocusChain(); next != mPages; next = next->nextInFocusChain()) {
-        if (mPages->isAncestorOf(next) && next->focusPolicy() != Qt::NoFocus) {
-            last = next; // only what takes the focus has a place in the order
-        }
-    }
-    for (QWidget *widget : std::initializer_list<QWidget *>{mSummary, mFitButton, mKeepFitting, mRevertButton,
-                                                            mCancelButton, mPrintButton}) {
-        setTabOrder(last, widget);
-        last = widget;
-    }
 }
 
 void PrintDialog::removePages()

@@ -8,7 +8,6 @@
 //   Settings [     ]                | Summary
 //   page of the chooser             | Preview, Fit Length
 //   mMoreButtonsPlace     mAmountPlace, progress     Cancel, Print
-#include "dialog/Mnemonics.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/PanelArea.h"
 #include "dialog/PopUp.h"
@@ -107,6 +106,7 @@ QWidget *PrintDialog::makePagesArea()
     layout->addWidget(mChooserRow);
     mPanelArea = new PanelArea(area);
     mPanelArea->setWidgetResizable(true);
+    mPanelArea->setFocusPolicy(Qt::NoFocus); // what is in it takes the keys, and is scrolled to
     mPanelArea->setMinimumSize(smallestPagesArea);
     mPanelArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     mPages = new QStackedWidget;
@@ -200,17 +200,6 @@ QWidget *PrintDialog::makeProgress(QWidget *parent)
     layout->addWidget(bar);
     progress->hide();
     return progress;
-}
-
-void PrintDialog::assignKeys()
-{
-    QList<const QWidget *> views;
-    for (const PanelEntry &entry : mPanels.entries()) {
-        if (entry.view != nullptr) {
-            views.append(entry.view);
-        }
-    }
-    assignMnemonics(*this, views);
 }
 
 } // namespace tapeprint::dialog

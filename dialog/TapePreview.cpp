@@ -2,6 +2,8 @@
 // Drawing the label: at scale as long as that leaves something to see, with breaks where tape is longer than the room.
 #include "dialog/TapePreview.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -67,10 +69,27 @@ QColor lineOn(const QColor &tape)
     return qGray(tape.rgb()) < bright && tape.alpha() == 255 ? QColor(235, 235, 235) : QColor(90, 90, 90);
 }
 
+/// For people who hear the window. The toolkit asks once for each widget that somebody listens to.
+QAccessibleInterface *makeInterface(const QString & /*className*/, QObject *object)
+{
+    auto *preview = qobject_cast<TapePreview *>(object);
+    return preview == nullptr ? nullptr : new QAccessibleWidget(preview, QAccessible::Graphic);
+}
+
+void tellThatItIsAPicture()
+{
+    static const bool isDone = [] {
+        QAccessible::installFactory(makeInterface);
+        return true;
+    }();
+    Q_UNUSED(isDone)
+}
+
 } // namespace
 
 TapePreview::TapePreview(QWidget *parent) : QWidget(parent)
 {
+    tellThatItIsAPicture();
     setObjectName(QStringLiteral("tapePreview"));
     setAccessibleName(tr("Tape preview"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -130,8 +149,10 @@ QString TapePreview::describe() const
         return {};
     }
     const bool lies = mShown.page.isTape;
-    const QString measures =
-        tr("Length %1, width %2").arg(lies ? mLengthText : mWidthText, lies ? mWidthText : mLengthText);
+    QString measures = tr("Length %1, width %2").arg(lies ? mLengthText : mWidthText, lies ? mWidthText : mLengthText);
+    if (!mShown.position.isEmpty()) {
+        measures.prepend(mShown.position + QStringLiteral("; "));
+    }
     return mShown.isCutOff ? tr("%1; part of the page is cut off", "length and width").arg(measures) : measures;
 }
 
