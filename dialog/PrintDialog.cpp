@@ -132,7 +132,7 @@ void PrintDialog::makePages()
         connect(mLayoutPage, &LayoutPage::picked, this, &PrintDialog::pickOption);
         addPage(mLayoutPage, tr("Layout"), std::nullopt);
     }
-    mOptionsPage = new OptionsPage(mJob, mPanels, mPages);
+    mOptionsPage = new OptionsPage(mJob, mPanels, mUnit, mPages);
     if (mOptionsPage->isEmpty() && !mPanels.entries().empty()) {
         delete mOptionsPage;
     } else {

@@ -9,6 +9,7 @@
 #include "tapeprint/OutputPath.h"
 
 #include <QEventLoop>
+#include <QLocale>
 
 #include <atomic>
 
@@ -36,6 +37,7 @@ RunReport runWindow(const CommandLine &line)
     // scripts read it.
     auto translations = std::make_optional<dialog::Translations>();
     job::Job job;
+    job.setLanguages(QLocale().uiLanguages());
     dialog::Panels panels(job, dialog::bundleSearchPath());
     panels.open(std::move(*destination), request.options);
     const QString title = documents->title(request.title);
