@@ -4,10 +4,13 @@
 #include "dialog/DecimalKey.h"
 #include "dialog/GreyedReason.h"
 #include "dialog/Mnemonics.h"
+#include "dialog/NoticesArea.h"
 #include "dialog/PrintDialog.h"
+#include "dialog/TabOrder.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QScrollBar>
 #include <QStackedWidget>
 
 #include <algorithm>
@@ -21,6 +24,9 @@ void PrintDialog::helpPeople()
     auto *reasons = new GreyedReason(this, [this](const QWidget &control) { return whyGrey(control); });
     QApplication::instance()->installEventFilter(decimalKey);
     QApplication::instance()->installEventFilter(reasons);
+    // Notices take the keys as long as they scroll.
+    connect(mNotices->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            [this] { orderTabsByLayout(*this, mPages); });
 }
 
 void PrintDialog::assignKeys()

@@ -30,6 +30,7 @@ constexpr int breakTeeth = 4;     ///< swings over the tape's width
 constexpr int beforeContent = 8;  ///< to each side of what is printed, in a piece of its own
 constexpr int leastEndPiece = 28; ///< beside such a piece
 constexpr int tapeHeight = 90;
+constexpr int leastHeight = 60;
 constexpr int paperHeight = 190;
 constexpr int usualWidth = 280;
 constexpr int leastWidth = 180;
@@ -102,7 +103,7 @@ QSize TapePreview::sizeHint() const
 
 QSize TapePreview::minimumSizeHint() const
 {
-    return {leastWidth, tapeHeight + 2 * fontMetrics().height()};
+    return {leastWidth, leastHeight + 2 * fontMetrics().height()};
 }
 
 void TapePreview::showLabel(ShownLabel label)
@@ -356,6 +357,7 @@ void TapePreview::drawLimits(QPainter &painter, const QTransform &fromLabel) con
 void TapePreview::drawMeasures(QPainter &painter, const QRectF &strip) const
 {
     painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setLayoutDirection(Qt::LeftToRight); // the drawing is never mirrored, and neither are "24 mm" beside it
     painter.setPen(palette().color(QPalette::WindowText));
     const auto line = [&painter](const QPointF &from, const QPointF &to, const QPointF &end) {
         painter.drawLine(from, to);
