@@ -52,6 +52,15 @@ void Panels::open(job::Destination destination, const job::JobOptions &asked)
     mJob.rememberAsOpened();
 }
 
+void Panels::reopen(const QString &instance, const job::JobOptions &saved, const job::JobOptions &asked)
+{
+    release();
+    mNotices.clear();
+    mReplaced.clear();
+    mJob.reopen(instance, saved, asked);
+    make();
+}
+
 void Panels::make()
 {
     mHost = std::make_shared<PanelHost>(mJob, *this);
@@ -139,7 +148,7 @@ void Panels::remake()
 {
     release();
     mNotices.clear();
-    mJob.makeDefaultsOfOptions();
+    mJob.renewPpd();
     make();
     showAll();
 }
@@ -149,7 +158,6 @@ bool Panels::settle(job::Problem *error)
     showAll();
     const bool saved = saveValues(error);
     mReplaced = job::replacedOptions(mJob.laidDown(), mJob.options());
-    mJob.rememberAsOpened();
     return saved;
 }
 
@@ -229,6 +237,7 @@ bool Panels::revert(job::Problem *error)
 {
     const QString paper = mJob.options().value(job::OptionName::pageSize);
     mJob.revert();
+    mReplaced = job::replacedOptions(mJob.laidDown(), mJob.options());
     bool restored = true;
     for (const PanelEntry &entry : mPanels) {
         QString reason;

@@ -87,12 +87,13 @@ void PrintDialog::showDestination()
     showPages(0);
     mJob.rememberAsOpened();
     mKeepFitting->setChecked(job::layoutChoicesOf(mJob.options()).fitLength); // asked for beforehand
+    showPresets();
     follow();
 }
 
 void PrintDialog::showNotices()
 {
-    mNotices->setSentences((mJob.notices() + mPanels.notices() + mAlerts).join(u'\n'));
+    mNotices->setSentences((mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts).join(u'\n'));
 }
 
 void PrintDialog::showWhetherTape()

@@ -3,6 +3,7 @@
 //
 //   PrintDialog
 //     ├─ printer, tape, copies      two rows of pop-ups and a field of its own
+//     ├─ PresetRow                  beside them: what is saved for the printer
 //     ├─ NoticesArea                skipped bundles, options that get lost
 //     ├─ page chooser, PanelArea    the panels' views and the dialog's own pages; scrolls
 //     ├─ SummaryView, PreviewArea   beside it; the preview grows with the window
@@ -13,6 +14,7 @@
 #include "dialog/DocumentDesk.h"
 #include "dialog/MeasureUnit.h"
 #include "dialog/Panels.h"
+#include "dialog/PresetRow.h"
 #include "job/Destination.h"
 #include "job/Job.h"
 #include "job/Printing.h"
@@ -114,6 +116,13 @@ private:
     void followInThePreview();
     void revert();
     void remakePanels();
+    PresetRow *makePresetRow();
+    void showPresets();
+    QStringList presetNotices() const;
+    void pickPreset(const PresetRow::Settings &settings);
+    void followInThePresets();
+    std::optional<job::JobOptions> optionsToSave();
+    std::function<void()> keepingForNextTime() const;
     void print();
     void setPrinting(bool isPrinting);
     void finishPrinting(std::optional<job::PrintedJob> printed, const job::Problem &error);
@@ -150,6 +159,7 @@ private:
     QTimer mRestTimer;            ///< a change of the views' areas has come to rest when nothing else waits to be done
 
     QComboBox *mPrinterPopUp = nullptr;
+    PresetRow *mPresetRow = nullptr;
     QComboBox *mTapePopUp = nullptr;
     QSpinBox *mCopiesField = nullptr;
     QLabel *mTapeLabel = nullptr;
