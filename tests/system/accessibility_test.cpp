@@ -75,6 +75,8 @@ protected:
                  arguments + QStringList{QStringLiteral(TAPEPRINT_SOURCE_DIR "/docs/sample/address-label.pdf")},
              {{u"DISPLAY"_qs, display.name()},
               {u"XDG_RUNTIME_DIR"_qs, folder.makeFolder(u"run"_qs)},
+              {u"XDG_DATA_DIRS"_qs, u"/usr/share"_qs}, // the settings that the bus asks for
+              {u"GSETTINGS_BACKEND"_qs, u"memory"_qs},
               {u"QT_LINUX_ACCESSIBILITY_ALWAYS_ON"_qs, u"1"_qs}}});
         ASSERT_EQ(outcome.status, 0) << outcome.messages.toStdString();
         for (const QByteArray &line : outcome.output.split('\n')) {
