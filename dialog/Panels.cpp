@@ -165,12 +165,27 @@ QStringList Panels::notices() const
 {
     QStringList notices = mNotices;
     for (const job::ReplacedOption &replaced : mReplaced) {
-        const auto &[name, value] = replaced.carried;
-        if (mJob.options().value(name) == value) {
-            notices.append(replaced.sentence(mJob.ppd(), panelOf(name)));
+        if (isStillCarried(replaced)) {
+            notices.append(replaced.sentence(mJob.ppd(), panelOf(replaced.carried.first)));
         }
     }
     return notices;
+}
+
+QStringList Panels::replacements(const job::JobOptions &asked) const
+{
+    QStringList sentences;
+    for (const job::ReplacedOption &replaced : mReplaced) {
+        if (isStillCarried(replaced) && asked.contains(replaced.laidDown.first) && !replaced.isRounding()) {
+            sentences.append(replaced.sentence(mJob.ppd(), panelOf(replaced.carried.first)));
+        }
+    }
+    return sentences;
+}
+
+bool Panels::isStillCarried(const job::ReplacedOption &replaced) const
+{
+    return mJob.options().value(replaced.carried.first) == replaced.carried.second;
 }
 
 QString Panels::panelOf(const QString &key) const

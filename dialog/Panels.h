@@ -59,6 +59,8 @@ public:
     /// Sentences about bundles and panels that are not used, and about what was laid down and a panel replaced, as long
     /// as the job carries what the panel put there.
     QStringList notices() const;
+    /// Of these, the sentences about options asked for that a panel replaced by more than rounding.
+    QStringList replacements(const job::JobOptions &asked) const;
     const std::vector<PanelEntry> &entries() const { return mPanels; }
     /// Whether a panel announced an option as its own.
     bool announced(const QString &key) const;
@@ -109,6 +111,7 @@ private:
     void tell(const QString &key, const QString &choice);
     void tellPaperAgain();
     QString panelOf(const QString &key) const;
+    bool isStillCarried(const job::ReplacedOption &replaced) const;
 
     job::Job &mJob;
     QStringList mBundleFolders;

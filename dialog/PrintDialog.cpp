@@ -42,6 +42,7 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     mRestTimer.setSingleShot(true);
     mRestTimer.setInterval(0);
     buildControls();
+    addCommandButton();
     fillPrinters();
     connectControls();
     showDestination();
@@ -159,6 +160,16 @@ void PrintDialog::settlePanels()
     job::Problem error;
     mPanels.settle(&error);
     mAlerts = alerts.lines();
+}
+
+/// The dialog's own pages show the panels' PPD, and go before it.
+void PrintDialog::removeOwnPages()
+{
+    for (const Page &page : mPageList) {
+        if (!page.panel) {
+            delete page.widget.data();
+        }
+    }
 }
 
 void PrintDialog::removePages()

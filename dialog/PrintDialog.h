@@ -95,6 +95,8 @@ private:
     QWidget *makeButtons();
     QWidget *makeProgress(QWidget *parent);
     void connectControls();
+    void addCommandButton();
+    void showCommand();
 
     void fillPrinters();
     void showDestination();
@@ -103,6 +105,7 @@ private:
     void showPages(int first);
     void assignKeys();
     void settlePanels();
+    void removeOwnPages();
     void removePages();
     void turnToPage(int index);
     const Page *currentPage() const;

@@ -213,8 +213,7 @@ void PrintDialog::revert()
 void PrintDialog::remakePanels()
 {
     const int shown = mCurrentPage;
-    delete mLayoutPage;
-    delete mOptionsPage;
+    removeOwnPages();
     mPanels.remake();
     makePages();
     showPages(shown);
