@@ -10,11 +10,11 @@
 //     └─ Revert ... Cancel, Print
 #pragma once
 
-#include "dialog/BackgroundWork.h"
 #include "dialog/DocumentDesk.h"
 #include "dialog/MeasureUnit.h"
 #include "dialog/Panels.h"
 #include "dialog/PresetRow.h"
+#include "dialog/PrintRun.h"
 #include "job/Destination.h"
 #include "job/Job.h"
 #include "job/Printing.h"
@@ -39,6 +39,7 @@ class QStackedWidget;
 namespace tapeprint::dialog
 {
 
+class JobRow;
 class LayoutPage;
 class NoticesArea;
 class OptionsPage;
@@ -58,20 +59,21 @@ public:
         QStringList files;                   ///< the documents to show; none when there is no document yet
         std::vector<job::PrintQueue> queues; ///< to offer
     };
-    /// What Print does when the settings are final, away from the window's thread. \param stop when it becomes true,
-    /// the person has changed their mind. \return what became of the job; nothing, and a sentence in *error, when it
-    /// could not be done and the window stays as it is. Without a sentence it was stopped.
+    /// What Print does when the settings are final, away from the window's thread. \param watch its stop flag becomes
+    /// true when the person has changed their mind. \return what became of the job; nothing, and a sentence in *error,
+    /// when it could not be done and the window stays as it is. Without a sentence it was stopped.
     using PrintAction = std::function<std::optional<job::PrintedJob>(
-        const job::SettledJob &job, const std::atomic<bool> &stop, job::Problem *error)>;
+        const job::SettledJob &job, const job::PrintWatch &watch, job::Problem *error)>;
 
     /// \param job with a destination opened, and \param panels made for it; both outlive the window.
     PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction);
     ~PrintDialog() override;
 
     /// What became of the job; nothing when nothing was printed.
-    const std::optional<job::PrintedJob> &printed() const { return mPrinted; }
+    const std::optional<job::PrintedJob> &printed() const { return mRun.printed(); }
 
-    /// Cancel: the window closes, or, while it prints, printing stops and the window stays.
+    /// Escape: the window closes, or, while a job is laid out and sent, that ends and the window stays. A job that the
+    /// server has goes on.
     void reject() override;
     void done(int code) override;
 
@@ -93,7 +95,6 @@ private:
     QWidget *makeSummary(QWidget *parent);
     QWidget *makeFitControls(QWidget *parent);
     QWidget *makeButtons();
-    QWidget *makeProgress(QWidget *parent);
     void connectControls();
     void addCommandButton();
     void showCommand();
@@ -126,9 +127,14 @@ private:
     void followInThePresets();
     std::optional<job::JobOptions> optionsToSave();
     std::function<void()> keepingForNextTime() const;
+    void connectPrinting();
     void print();
-    void setPrinting(bool isPrinting);
-    void finishPrinting(std::optional<job::PrintedJob> printed, const job::Problem &error);
+    void cancel();
+    void leaveJob();
+    void showPrinting();
+    void tellJob(const QString &words, int percent);
+    void failPrinting(const job::Problem &problem);
+    void endPrinting();
 
     job::SettledJob currentJob() const;
     void takeDocuments();
@@ -150,8 +156,8 @@ private:
     Panels &mPanels;
     Setup mSetup;
     PrintAction mPrintAction;
-    std::optional<job::PrintedJob> mPrinted;
-    BackgroundWork mPrinting;
+    PrintRun mRun;
+    QTimer mLeaveTimer; ///< when it ends, a job that only waits its turn keeps the window open no longer
     DocumentDesk mDesk;
     MeasureUnit mUnit; ///< of every length that the dialog itself shows or takes
     bool mClosed = false;
@@ -180,7 +186,7 @@ private:
     QHBoxLayout *mPresetPlace = nullptr;      ///< right of the printer, for what goes with the whole of a queue
     QHBoxLayout *mMoreButtonsPlace = nullptr; ///< lower left, from Revert on
     QHBoxLayout *mAmountPlace = nullptr;      ///< before Cancel, for what is said beside Print; it gives way first
-    QWidget *mProgress = nullptr;             ///< shown while it prints
+    JobRow *mJobRow = nullptr;                ///< shown while it prints
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;

@@ -49,7 +49,7 @@ bool PrintDialog::isInPanel(const QWidget &widget) const
 
 QString PrintDialog::whyGrey(const QWidget &control) const
 {
-    if (mPrinting.isRunning()) {
+    if (mRun.phase() != PrintRun::Phase::Idle) {
         return tr("The job is being printed.");
     }
     if (&control == mTapePopUp) {

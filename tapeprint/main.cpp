@@ -4,8 +4,10 @@
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Completion.h"
 #include "tapeprint/Display.h"
+#include "tapeprint/PresetRun.h"
 #include "tapeprint/RunReport.h"
 #include "tapeprint/ServerChoice.h"
+#include "tapeprint/TerminalPassword.h"
 #include "tapeprint/UnattendedRun.h"
 #include "tapeprint/WindowRun.h"
 
@@ -61,6 +63,9 @@ int main(int argc, char **argv)
     }
     // A reader that goes away is said, as a full disk is.
     std::signal(SIGPIPE, SIG_IGN);
+    if (line->onlyManagesPresets()) {
+        return tapeprint::writeReport(tapeprint::runPresets(*line), line->json);
+    }
     nextMessageHandler = qInstallMessageHandler(passMessage);
     // Panels are real widgets with or without a window.
     const bool wantsWindow = !line->noDialog && line->submits();
@@ -69,7 +74,7 @@ int main(int argc, char **argv)
         return tapeprint::writeReport(tapeprint::failedRun(problem), line->json);
     }
     if (!wantsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", "minimal"); // the toolkit's quickest: it reads no fonts
     }
     // The toolkit gets no arguments: its own options would take lp's letters away.
     int toolkitArgc = 1;
@@ -78,6 +83,9 @@ int main(int argc, char **argv)
     start.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
 
+    if (!wantsWindow) {
+        tapeprint::job::setPasswordAsker(tapeprint::askOnTerminal); // the window has its own
+    }
     tapeprint::RunReport run = wantsWindow ? tapeprint::runWindow(*line) : tapeprint::runUnattended(*line);
     // Standard output is the printer's.
     if (line->submits() && tapeprint::job::isStandardOutput(line->request.outputPath)) {
