@@ -3,17 +3,20 @@
 #include "TestPrinter.h"
 
 #include "dialog/PrintDialog.h"
+#include "dialog/ShowCommand.h"
 #include "dialog/SummaryView.h"
 #include "job/DocumentSpool.h"
 #include "job/Printing.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
@@ -111,6 +114,24 @@ TEST_F(PrintDialogTest, PickInThePanel_ReachesTheJobAndTheSummary)
     click(u"wideMargin"_qs);
     EXPECT_EQ(printJob.options().value(u"KsMargin"_qs), u"5.0"_qs);
     EXPECT_EQ(summary(), (QStringList{u"Tape=W12"_qs, u"Margin=5.0"_qs}));
+}
+
+TEST_F(PrintDialogTest, ShowCommand_ShowsTheSettingsAsTheyStandAndCopiesThem)
+{
+    click(u"wideMargin"_qs);
+    QString shown;
+    QTimer::singleShot(0, dialog.get(), [this, &shown] {
+        auto *box = dialog->findChild<ShowCommand *>();
+        ASSERT_NE(box, nullptr);
+        shown = box->findChild<QPlainTextEdit *>(u"tapeprintCommand"_qs)->toPlainText();
+        EXPECT_EQ(box->findChild<QPlainTextEdit *>(u"lpCommand"_qs), nullptr); // there is no queue
+        QTest::mouseClick(box->findChild<QPushButton *>(u"tapeprintCopy"_qs), Qt::LeftButton);
+        box->reject();
+    });
+    click(u"showCommand"_qs);
+    EXPECT_EQ(shown, u"tapeprint --no-dialog --ppd "_qs + printJob.destination().ppdPath + u" --output "_qs +
+                         outputPath + u" -o PageSize=W12 -o KsMargin=5.0 -t label.txt"_qs);
+    EXPECT_EQ(QApplication::clipboard()->text(), shown);
 }
 
 TEST_F(PrintDialogTest, PickOfATape_IsToldToThePanelBeforeAndAfterItIsShownWithIt)
