@@ -146,8 +146,10 @@ TEST_F(PrintDialogTest, PickOfATape_IsToldToThePanelBeforeAndAfterItIsShownWithI
 
 TEST_F(PrintDialogTest, OtherOptions_AreShownWithoutThoseOfThePanel)
 {
-    pickNext(u"pageChooser"_qs);
-    EXPECT_EQ(child<QComboBox>(u"pageChooser"_qs)->currentText(), u"More Options"_qs);
+    for (const QString &page : {u"Layout"_qs, u"Job"_qs, u"More Options"_qs}) {
+        pickNext(u"pageChooser"_qs);
+        EXPECT_EQ(child<QComboBox>(u"pageChooser"_qs)->currentText(), page);
+    }
     EXPECT_TRUE(child<QComboBox>(u"CutMedia"_qs)->isVisible());
     EXPECT_TRUE(child<QComboBox>(u"KsMirror"_qs)->isVisible());
     EXPECT_EQ(dialog->findChild<QComboBox *>(u"KsMargin"_qs), nullptr);
@@ -336,11 +338,11 @@ protected:
     }
 };
 
-TEST_F(PlainDialog, ShowsThePrintersOptionsFirstAndNoChooser)
+TEST_F(PlainDialog, ShowsThePrintersOptionsFirst)
 {
     EXPECT_TRUE(child<QComboBox>(u"CutMedia"_qs)->isVisible());
     EXPECT_TRUE(child<QComboBox>(u"Margin"_qs)->isVisible());
-    EXPECT_FALSE(child<QComboBox>(u"pageChooser"_qs)->isVisible());
+    EXPECT_EQ(child<QComboBox>(u"pageChooser"_qs)->currentText(), u"Printer Options"_qs);
     EXPECT_FALSE(child<QWidget>(u"summary"_qs)->isVisible()); // of panels: there is none
     EXPECT_FALSE(child<QLabel>(u"notices"_qs)->isVisible());
     EXPECT_EQ(dialog->findChild<QPushButton *>(u"wideMargin"_qs), nullptr);
