@@ -108,7 +108,6 @@ private:
     void showDestination();
     void makePages();
     void showPages(int first);
-    void orderByTab();
     void assignKeys();
     void settlePanels();
     void removeOwnPages();
@@ -164,6 +163,9 @@ private:
     void showWhetherTape();
     void fitPanel();
     bool isPage(const QObject *object) const;
+    bool isInPanel(const QWidget &widget) const;
+    void helpPeople();
+    QString whyGrey(const QWidget &control) const;
 
     job::Job &mJob;
     Panels &mPanels;
