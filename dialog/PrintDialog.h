@@ -11,10 +11,13 @@
 
 #include "dialog/BackgroundWork.h"
 #include "dialog/DocumentDesk.h"
+#include "dialog/GreyedOut.h"
 #include "dialog/MeasureUnit.h"
 #include "dialog/Panels.h"
+#include "dialog/PrinterDesk.h"
 #include "job/Destination.h"
 #include "job/Job.h"
+#include "job/KeptChoices.h"
 #include "job/Printing.h"
 
 #include <QDialog>
@@ -42,6 +45,7 @@ class NoticesArea;
 class OptionsPage;
 class PanelArea;
 class PreviewArea;
+class PrinterPopUp;
 class SummaryView;
 
 class PrintDialog : public QDialog
@@ -51,10 +55,10 @@ class PrintDialog : public QDialog
 public:
     /// What the window is opened with.
     struct Setup {
-        job::JobRequest request;             ///< what was asked for; laid down again when another printer is picked
-        QString title;                       ///< of the job
-        QStringList files;                   ///< the documents to show; none when there is no document yet
-        std::vector<job::PrintQueue> queues; ///< to offer
+        job::JobRequest request; ///< what was asked for; laid down again when another printer is picked
+        QString title;           ///< of the job
+        QStringList files;       ///< the documents to show; none when there is no document yet
+        PrinterSource printers;  ///< to offer
     };
     /// What Print does when the settings are final, away from the window's thread. \param stop when it becomes true,
     /// the person has changed their mind. \return what became of the job; nothing, and a sentence in *error, when it
@@ -62,16 +66,23 @@ public:
     using PrintAction = std::function<std::optional<job::PrintedJob>(
         const job::SettledJob &job, const std::atomic<bool> &stop, job::Problem *error)>;
 
-    /// \param job with a destination opened, and \param panels made for it; both outlive the window.
+    /// \param job and \param panels outlive the window. With a destination opened already, the window shows it; else it
+    /// opens the one of the request, away from its thread, and can be shown meanwhile.
     PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction);
     ~PrintDialog() override;
 
+    /// Whether the first printer is open, or it is known that there is none to open by itself.
+    bool isSettled() const { return !mPrinters.isOpening(); }
     /// What became of the job; nothing when nothing was printed.
     const std::optional<job::PrintedJob> &printed() const { return mPrinted; }
 
     /// Cancel: the window closes, or, while it prints, printing stops and the window stays.
     void reject() override;
     void done(int code) override;
+
+Q_SIGNALS:
+    /// isSettled() has become true.
+    void settled();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -94,7 +105,10 @@ private:
     QWidget *makeProgress(QWidget *parent);
     void connectControls();
 
-    void fillPrinters();
+    void startPrinters();
+    void takeDestination(job::Destination destination);
+    void followPrinters();
+    void showWhetherPrintable();
     void showDestination();
     void showTapes();
     void makePages();
@@ -147,7 +161,12 @@ private:
     QTimer mFollowTimer;          ///< gathers changes of one event into one look at the job
     QTimer mRestTimer;            ///< a change of the views' areas has come to rest when nothing else waits to be done
 
-    QComboBox *mPrinterPopUp = nullptr;
+    PrinterDesk mPrinters;
+    job::KeptChoices mKept;
+    GreyedOut mGreyed; ///< while no printer is open
+
+    PrinterPopUp *mPrinterPopUp = nullptr;
+    QPushButton *mLoadAnew = nullptr; ///< among the notices, when the printer's PPD has changed
     QComboBox *mTapePopUp = nullptr;
     QSpinBox *mCopiesField = nullptr;
     QLabel *mTapeLabel = nullptr;
@@ -175,7 +194,6 @@ private:
     std::vector<Page> mPageList;
     QPointer<OptionsPage> mOptionsPage;
     QPointer<LayoutPage> mLayoutPage;
-    int mCurrentPrinter = 0;
     int mCurrentPage = -1;
 };
 

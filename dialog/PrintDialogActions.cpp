@@ -6,6 +6,7 @@
 #include "dialog/PanelArea.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
+#include "dialog/PrinterPopUp.h"
 #include "dialog/SummaryView.h"
 
 #include <QApplication>
@@ -104,31 +105,6 @@ void PrintDialog::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void PrintDialog::pickPrinter(int index)
-{
-    if (index == mCurrentPrinter) {
-        return;
-    }
-    // What was asked for is opened as it was asked for, with its own PPD and output; any other queue as it is.
-    const QString name = mPrinterPopUp->itemData(index).toString();
-    const job::QueueName queue = job::QueueName::parse(name);
-    job::Problem error;
-    std::optional<job::Destination> destination = name == mSetup.request.fullQueueName()
-                                                      ? job::openDestination(mSetup.request, &error)
-                                                      : job::openDestination(queue.queue, queue.instance, &error);
-    if (!destination) {
-        mPrinterPopUp->setCurrentIndex(mCurrentPrinter);
-        tellProblem(error.sentence);
-        return;
-    }
-    mCurrentPrinter = index;
-    // The old page goes before the panel and the PPD that it shows.
-    delete mLayoutPage;
-    delete mOptionsPage;
-    mPanels.open(std::move(*destination), mSetup.request.options);
-    showDestination();
-}
-
 void PrintDialog::pickTape(const QString &tape)
 {
     // Another tape brings a length along that nobody typed: it is fitted like the one before.
@@ -157,7 +133,7 @@ void PrintDialog::pickPage(int index)
 
 void PrintDialog::follow()
 {
-    if (mClosed) {
+    if (mClosed || !mPrinters.hasOpen()) {
         return;
     }
     showNotices();
@@ -257,6 +233,7 @@ void PrintDialog::setPrinting(bool isPrinting)
 void PrintDialog::finishPrinting(std::optional<job::PrintedJob> printed, const job::Problem &error)
 {
     setPrinting(false);
+    showWhetherPrintable(); // the printer may have gone meanwhile
     if (!printed) {
         if (!error.isNull()) { // without a sentence it was stopped
             tellProblem(error.sentence);
