@@ -2,6 +2,8 @@
 // The largest widgets that hold nothing kept are switched off as a whole: what lies in them follows.
 #include "dialog/GreyedOut.h"
 
+#include <QLabel>
+
 #include <algorithm>
 
 namespace tapeprint::dialog
@@ -11,7 +13,9 @@ void GreyedOut::greyAllBut(const QList<const QWidget *> &kept, QWidget *root)
 {
     mIsOn = true;
     for (QWidget *widget : root->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (kept.contains(widget) || widget->isWindow()) {
+        const auto *label = qobject_cast<const QLabel *>(widget);
+        const bool leadsToKept = label != nullptr && kept.contains(label->buddy());
+        if (kept.contains(widget) || leadsToKept || widget->isWindow()) {
             continue;
         }
         const bool holdsKept =

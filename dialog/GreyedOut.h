@@ -14,7 +14,8 @@ class GreyedOut
 {
 public:
     bool isOn() const { return mIsOn; }
-    /// Switches off every widget below root that neither is, holds, nor lies in one of those kept.
+    /// Switches off every widget below root that neither is, holds, nor lies in one of those kept. Their labels stay,
+    /// too.
     void greyAllBut(const QList<const QWidget *> &kept, QWidget *root);
     void undo();
 

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
-// Pop-ups of a PPD's options in the PPD's order, under the texts that the PPD gives them.
+// Rows are made in portions of a few milliseconds, so that no description keeps the window from answering.
 #include "dialog/OptionsPage.h"
 
-#include "dialog/ChoicePopUp.h"
+#include "dialog/OptionRow.h"
 #include "dialog/PlainText.h"
-#include "job/PpdMarks.h"
 
-#include <QComboBox>
+#include <QElapsedTimer>
 #include <QFormLayout>
+#include <QGroupBox>
 #include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace tapeprint::dialog
 {
@@ -16,50 +19,135 @@ namespace tapeprint::dialog
 namespace
 {
 
-/// Whether an option is one that the dialog's other controls do not show, and a pop-up can.
-bool isShown(const job::TapeKeywords &tape, const Panels &panels, const ppd_option_t &option)
+constexpr int portionMs = 15;
+/// A form is laid out anew with each row that it gets: one of hundreds is made of several.
+constexpr int mostRowsOfAForm = 40;
+
+/// Keywords of options that others show: the dialog's own controls, and the panels, which show the tape's length and
+/// margin whether they announce them or not.
+QSet<QString> shownElsewhere(const job::Job &job, const Panels &panels)
 {
-    const QString key = QString::fromUtf8(option.keyword);
-    if (key == tape.lengthOption || key == tape.marginOption) { // a panel's, announced or not
-        return false;
+    QSet<QString> keys{job::OptionName::pageSize, job::OptionName::pageRegion, job.tape().lengthOption,
+                       job.tape().marginOption};
+    for (const PanelEntry &panel : panels.entries()) {
+        keys.unite(QSet<QString>(panel.supportedKeys.begin(), panel.supportedKeys.end()));
     }
-    const bool isOneOf = option.ui == PPD_UI_PICKONE || option.ui == PPD_UI_BOOLEAN;
-    return isOneOf && option.num_choices > 0 && key != job::OptionName::pageSize &&
-           key != job::OptionName::pageRegion && !panels.announced(key);
+    return keys;
+}
+
+/// What takes the focus, in the order of the Tab key.
+std::vector<QWidget *> focusable(QWidget *within)
+{
+    std::vector<QWidget *> found;
+    for (QWidget *child : within->findChildren<QWidget *>()) {
+        // A pop-up's list is a window of its own.
+        if (child->window() == within->window() && (child->focusPolicy() & Qt::TabFocus) != 0 &&
+            child->focusProxy() == nullptr) {
+            found.push_back(child);
+        }
+    }
+    return found;
 }
 
 } // namespace
 
-OptionsPage::OptionsPage(const job::Job &job, const Panels &panels, QWidget *parent) : QWidget(parent), mJob(job)
+OptionsPage::OptionsPage(const job::Job &job, const Panels &panels, const MeasureUnit &unit, QWidget *parent)
+    : QWidget(parent), mJob(job), mUnit(unit), mGroups(job::optionGroups(job.ppd(), shownElsewhere(job, panels)))
 {
-    auto *form = new QFormLayout(this);
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    job::forEachOption(job.ppd(), [this, &panels](const ppd_option_t &option) {
-        if (isShown(mJob.tape(), panels, option)) {
-            addOption(option);
-        }
-    });
-    follow();
+    auto *sections = new QVBoxLayout(this);
+    sections->addStretch();
+    // What is the printer's comes after what is the job's.
+    std::stable_partition(mGroups.begin(), mGroups.end(),
+                          [](const job::OptionGroup &group) { return !group.isInstalled; });
+    connect(&mMaking, &QTimer::timeout, this, &OptionsPage::makeSome);
+    makeSome();
 }
 
-void OptionsPage::addOption(const ppd_option_t &option)
+void OptionsPage::makeSome()
 {
-    auto *popUp = new QComboBox(this);
-    const QString key = QString::fromUtf8(option.keyword);
-    popUp->setObjectName(key);
-    popUp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    fillWithChoices(popUp, option);
-    connect(popUp, &QComboBox::activated, this,
-            [this, popUp, key] { Q_EMIT picked(key, popUp->currentData().toString()); });
-    const QString text = tr("%1:", "name of an option").arg(QString::fromUtf8(option.text));
-    qobject_cast<QFormLayout *>(layout())->addRow(plainLabel(text, popUp), popUp);
-    mPopUps.push_back(popUp);
+    QElapsedTimer time;
+    time.start();
+    while (!isWhole() && !time.hasExpired(portionMs)) {
+        makeRow();
+    }
+    if (isWhole()) {
+        mMaking.stop();
+    } else {
+        mMaking.start();
+    }
+}
+
+void OptionsPage::finish()
+{
+    while (!isWhole()) {
+        makeRow();
+    }
+    mMaking.stop();
+}
+
+void OptionsPage::makeRow()
+{
+    const job::OptionGroup &group = mGroups[mNextGroup];
+    if (mNextOption == 0) {
+        QString title = group.isInstalled ? tr("Installed in the printer") : group.text;
+        auto *box = new QGroupBox(title.replace(u'&', QLatin1String("&&")), this);
+        mSection = new QVBoxLayout(box);
+        auto *sections = qobject_cast<QVBoxLayout *>(layout());
+        sections->insertWidget(sections->count() - 1, box); // above the stretch
+    }
+    if (mNextOption % mostRowsOfAForm == 0) {
+        mForm = new QFormLayout;
+        mForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+        mForm->setRowWrapPolicy(QFormLayout::WrapLongRows);
+        mSection->addLayout(mForm);
+    }
+    const job::OfferedOption &option = group.options[mNextOption];
+    auto *row = new OptionRow(option, mUnit, mSection->parentWidget());
+    connect(row, &OptionRow::picked, this, &OptionsPage::picked);
+    // A screen reader calls a check box by its own text; the option's name is that of the group of them.
+    row->setAccessibleName(option.text);
+    auto *label = plainLabel(tr("%1:", "name of an option").arg(option.text), row->firstControl());
+    label->setParent(mSection->parentWidget());
+    mForm->addRow(label, row);
+    // The page may be in the window already, where a new control would come last.
+    QWidget *before = mRows.empty() ? nullptr : focusable(mRows.back()).back();
+    for (QWidget *control : focusable(row)) {
+        if (before != nullptr) {
+            setTabOrder(before, control);
+        }
+        before = control;
+    }
+    mRows.push_back(row);
+    row->follow(mJob);
+    row->markConflict(mConflicts.value(row->key()));
+    if (++mNextOption == group.options.size()) {
+        mNextOption = 0;
+        ++mNextGroup;
+    }
 }
 
 void OptionsPage::follow()
 {
-    for (QComboBox *popUp : mPopUps) {
-        selectChoice(popUp, job::markedChoice(mJob.ppd(), popUp->objectName()));
+    for (OptionRow *row : mRows) {
+        row->follow(mJob);
+    }
+}
+
+void OptionsPage::markConflicts(const QHash<QString, QString> &sentences)
+{
+    if (sentences == mConflicts) {
+        return;
+    }
+    mConflicts = sentences;
+    for (OptionRow *row : mRows) {
+        row->markConflict(sentences.value(row->key()));
+    }
+}
+
+void OptionsPage::commit()
+{
+    for (OptionRow *row : mRows) {
+        row->commit();
     }
 }
 

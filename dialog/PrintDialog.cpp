@@ -47,13 +47,12 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     if (mPrinters.hasOpen()) {
         showDestination();
     } else {
-        showWhetherTape();
-        mChooserRow->hide();
-        mPreview->hide();
+        showNoDestination();
     }
     followPrinters();
-    // The toolkit by itself opens a window at no more than two thirds of the screen.
-    resize(sizeHint().boundedTo(screen()->availableSize()));
+    if (mPrinters.hasOpen()) {
+        growToContents();
+    }
 }
 
 PrintDialog::~PrintDialog() = default;
@@ -114,7 +113,7 @@ void PrintDialog::makePages()
         connect(mLayoutPage, &LayoutPage::picked, this, &PrintDialog::pickOption);
         addPage(mLayoutPage, tr("Layout"), std::nullopt);
     }
-    mOptionsPage = new OptionsPage(mJob, mPanels, mPages);
+    mOptionsPage = new OptionsPage(mJob, mPanels, mUnit, mPages);
     if (mOptionsPage->isEmpty() && !mPanels.entries().empty()) {
         delete mOptionsPage;
     } else {

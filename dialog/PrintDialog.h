@@ -108,6 +108,8 @@ private:
     void startPrinters();
     void takeDestination(job::Destination destination);
     void followPrinters();
+    void showNoDestination();
+    void growToContents();
     void showWhetherPrintable();
     void showDestination();
     void showTapes();

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QThread>
+#include <QTimer>
 
 namespace tapeprint::dialog
 {
@@ -66,8 +67,26 @@ void PrintDialog::takeDestination(job::Destination destination)
     mPanels.open(std::move(destination), asked);
     showDestination();
     followPrinters();
-    resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
-    Q_EMIT settled();
+    // The layouts hear of the new pages by events.
+    QTimer::singleShot(0, this, [this] {
+        growToContents();
+        Q_EMIT settled();
+    });
+}
+
+void PrintDialog::growToContents()
+{
+    // The toolkit by itself opens a window at no more than two thirds of the screen.
+    resize((isVisible() ? size() : QSize()).expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
+}
+
+void PrintDialog::showNoDestination()
+{
+    constexpr QSize usualSize(640, 480);
+    showWhetherTape();
+    mChooserRow->hide();
+    mPreview->hide();
+    resize(usualSize.boundedTo(screen()->availableSize()));
 }
 
 void PrintDialog::followPrinters()

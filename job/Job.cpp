@@ -4,6 +4,7 @@
 
 #include "job/FilterRun.h"
 #include "job/LaidDownOptions.h"
+#include "job/PpdTexts.h"
 
 #include <utility>
 
@@ -16,6 +17,7 @@ void Job::open(Destination destination, const JobOptions &asked)
 {
     close();
     mDestination = std::move(destination);
+    translateTexts(ppd(), mLanguages);
     describePrinter();
     layDownOptions(asked);
     rememberAsOpened();
@@ -197,7 +199,7 @@ void Job::revert()
         }
     }
     for (const auto &[key, choice] : left.entries()) {
-        const QString marked = markedChoice(ppd(), key);
+        const QString marked = markedValue(ppd(), key);
         if (!mOptions.contains(key) && !marked.isNull()) {
             Q_EMIT optionChanged(key, marked);
         }

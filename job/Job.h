@@ -27,6 +27,9 @@ class Job : public QObject
 public:
     using QObject::QObject;
 
+    /// The languages in which descriptions of printers are to be read, the preferred first; none: as they are written.
+    void setLanguages(const QStringList &languages) { mLanguages = languages; }
+
     /// Takes a destination and lays down its saved options and those asked for, which have the last word. Whoever
     /// borrowed the objects of an earlier destination must have let go of them.
     void open(Destination destination, const JobOptions &asked);
@@ -101,6 +104,7 @@ private:
     void setPaperLengthMm(double lengthMm);
     Snapshot takeSnapshot() const;
 
+    QStringList mLanguages;
     Destination mDestination;
     pdekit::PrintSession mSession;
     pdekit::PrintSettings mSettings;

@@ -1,17 +1,25 @@
 // SPDX-License-Identifier: Apache-2.0
 // The job calls of libcups: create, a document at a time, finish. Every answer is looked at.
+//
+// A server keeps a job that does not get its last document for some minutes, and then prints what it has. A job of
+// several documents is therefore held for good until the last one is in, and then set free, or held as the person wants
+// it. A single document needs no such care: cut short, it is thrown away.
 #include "job/JobSubmission.h"
 
 #include "job/CupsOptions.h"
+#include "job/JobRequests.h"
 #include "job/PlainText.h"
+#include "job/ServerConnection.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
 
+#include <chrono>
 #include <memory>
-#include <span>
+#include <thread>
+#include <vector>
 
 #include <cups/cups.h>
 
@@ -22,6 +30,12 @@ namespace
 {
 
 constexpr qint64 pieceBytes = 65536;
+/// So long a server may be gone before a job that was begun is left to it.
+constexpr std::chrono::milliseconds timeToPutInOrder{5000};
+constexpr std::chrono::milliseconds betweenAttempts{300};
+
+const QString holdOption = QStringLiteral("job-hold-until");
+const QString noHold = QStringLiteral("no-hold");
 
 struct DestinationDeleter {
     void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
@@ -30,103 +44,255 @@ struct InfoDeleter {
     void operator()(cups_dinfo_t *info) const { cupsFreeDestInfo(info); }
 };
 
-/// What the job calls need of a destination.
-struct Target {
-    std::unique_ptr<cups_dest_t, DestinationDeleter> destination;
-    std::unique_ptr<cups_dinfo_t, InfoDeleter> info;
-};
-
-QString serverSays()
+bool isOk(ipp_status_t status)
 {
-    return harmless(QString::fromUtf8(cupsLastErrorString()));
+    return status <= IPP_STATUS_OK_CONFLICTING;
 }
 
-bool sendDocument(const Target &target, int jobId, const QString &path, const QString &name, bool isLast,
-                  Problem *error)
+/// One job on its way.
+class Upload
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = {
-            Problem::BadDocument,
-            Texts::tr("The document %1 cannot be read (%2): name a readable file.").arg(path, file.errorString())};
-        return false;
-    }
-    cups_dest_t *destination = target.destination.get();
-    http_status_t status =
-        cupsStartDestDocument(CUPS_HTTP_DEFAULT, destination, target.info.get(), jobId, name.toUtf8().constData(),
-                              CUPS_FORMAT_AUTO, 0, nullptr, isLast ? 1 : 0);
-    for (QByteArray piece = file.read(pieceBytes); status == HTTP_STATUS_CONTINUE && !piece.isEmpty();
-         piece = file.read(pieceBytes)) {
-        status = cupsWriteRequestData(CUPS_HTTP_DEFAULT, piece.constData(), static_cast<std::size_t>(piece.size()));
-    }
-    const bool sent = status == HTTP_STATUS_CONTINUE && file.error() == QFileDevice::NoError;
-    // Finished in any case: the connection waits for it.
-    const ipp_status_t finished = cupsFinishDestDocument(CUPS_HTTP_DEFAULT, destination, target.info.get());
-    if (!sent || finished > IPP_STATUS_OK_CONFLICTING) {
-        *error = {Problem::RejectedJob,
-                  Texts::tr("The print server did not take the document %1 (%2): see that it is a kind of document "
-                            "that the queue prints.")
-                      .arg(path, serverSays())};
-        return false;
-    }
-    return true;
-}
-
-QString stateOfJob(const PrintQueue &queue, int jobId)
-{
-    cups_job_t *jobs = nullptr;
-    const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, queue.name.toUtf8().constData(), 0, CUPS_WHICHJOBS_ALL);
-    QString state;
-    for (const cups_job_t &job : std::span(jobs, static_cast<std::size_t>(count > 0 ? count : 0))) {
-        if (job.id == jobId) {
-            state = QString::fromLatin1(ippEnumString("job-state", static_cast<int>(job.state)));
+public:
+    Upload(const Submission &submission, const std::atomic<bool> &stop, const SendReport &report)
+        : mSubmission(submission), mReport(report), mServer(ServerConnection::open(&stop))
+    {
+        for (const QString &file : submission.files) {
+            mProgress.ofBytes += QFileInfo(file).size();
         }
     }
-    cupsFreeJobs(count, jobs);
-    return state.isNull() ? QStringLiteral("sent") : state;
-}
+
+    std::optional<SubmittedJob> run(Problem *error)
+    {
+        if (!findQueue(error) || !create(error)) {
+            return std::nullopt;
+        }
+        const bool isThere = sendAll(error) || hasArrivedAllTheSame();
+        if (!isThere || !release(error) || mServer->isStopped()) {
+            return abandon(error);
+        }
+        *error = {};
+        const std::optional<JobStatus> status = readJob(*mServer, mSubmission.queue.name, mJobId);
+        return SubmittedJob{mJobId, status ? status->stateName() : QStringLiteral("sent")};
+    }
+
+private:
+    /// The problem of a call that failed: what the server says stands in the sentence, unless it is gone.
+    Problem problem(const Problem &said) const
+    {
+        if (mServer->isStopped()) {
+            return {Problem::Cancelled, QString()};
+        }
+        if (mServer->wasRefused()) {
+            return {Problem::RejectedJob, mServer->problem()};
+        }
+        return mServer->isUnreachable() ? Problem(Problem::Unreachable, mServer->problem()) : said;
+    }
+
+    bool findQueue(Problem *error)
+    {
+        if (!mServer->isOpen()) {
+            *error = problem({});
+            return false;
+        }
+        const QByteArray name = mSubmission.queue.name.toUtf8();
+        mDestination.reset(cupsGetNamedDest(mServer->http(), name.constData(), nullptr));
+        if (mDestination && !mServer->isStopped()) {
+            mInfo.reset(cupsCopyDestInfo(mServer->http(), mDestination.get()));
+        }
+        if (!mInfo) {
+            *error = problem({Problem::NoSuchPrinter,
+                              Texts::tr("The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.")
+                                  .arg(mSubmission.queue.name, mServer->problem())});
+        }
+        return mInfo != nullptr;
+    }
+
+    bool create(Problem *error)
+    {
+        JobOptions options = mSubmission.options;
+        if (mSubmission.files.size() > 1 && canBeHeld()) {
+            mHoldUntil = options.contains(holdOption) ? options.value(holdOption) : queuesHold();
+            options.remove(holdOption);
+        }
+        const CupsOptions cupsOptions(options);
+        const ipp_status_t created =
+            cupsCreateDestJob(mServer->http(), mDestination.get(), mInfo.get(), &mJobId,
+                              mSubmission.title.toUtf8().constData(), cupsOptions.count(), cupsOptions.data());
+        if (!isOk(created) || mJobId == 0) {
+            *error = problem(notTaken());
+            cancelWithoutNumber();
+            return false;
+        }
+        // Held only now: a job whose number is lost on the way is not held for good.
+        if (!mHoldUntil.isNull() && !holdJob(*mServer, mJobId, QStringLiteral("indefinite"))) {
+            *error = problem(notTaken());
+            abandon(error);
+            return false;
+        }
+        return true;
+    }
+
+    Problem notTaken() const
+    {
+        return {Problem::RejectedJob, Texts::tr("The queue %1 did not take the job (%2): see lpstat -p %1 -l.")
+                                          .arg(mSubmission.queue.name, mServer->problem())};
+    }
+
+    /// The server may have made the job, and only its number was lost: it is the one without documents.
+    void cancelWithoutNumber()
+    {
+        if (mServer->isStopped() || mServer->isUnreachable()) {
+            putInOrder([this] {
+                const std::optional<std::vector<int>> jobs =
+                    emptyJobs(*mServer, mSubmission.queue.name, mSubmission.title);
+                // Of several, others may belong to somebody who is about to fill them.
+                return jobs && (jobs->size() != 1 || cancelJob(*mServer, jobs->front()));
+            });
+        }
+    }
+
+    bool canBeHeld() const
+    {
+        return cupsCheckDestSupported(mServer->http(), mDestination.get(), mInfo.get(), "job-hold-until",
+                                      "indefinite") != 0;
+    }
+
+    /// What the queue does with jobs that do not say until when they are held.
+    QString queuesHold() const
+    {
+        ipp_attribute_t *hold = cupsFindDestDefault(mServer->http(), mDestination.get(), mInfo.get(), "job-hold-until");
+        const QString until = QString::fromUtf8(ippGetString(hold, 0, nullptr));
+        return until.isEmpty() ? noHold : until;
+    }
+
+    bool sendAll(Problem *error)
+    {
+        for (const QString &file : mSubmission.files) {
+            mIsLast = &file == &mSubmission.files.last();
+            if (!send(file, error)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    bool send(const QString &path, Problem *error)
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly)) {
+            *error = {
+                Problem::BadDocument,
+                Texts::tr("The document %1 cannot be read (%2): name a readable file.").arg(path, file.errorString())};
+            return false;
+        }
+        // A single document goes by the job's title: standard input has no name of its own.
+        const QString name = mSubmission.files.size() == 1 ? mSubmission.title : QFileInfo(path).fileName();
+        http_status_t status =
+            cupsStartDestDocument(mServer->http(), mDestination.get(), mInfo.get(), mJobId, name.toUtf8().constData(),
+                                  CUPS_FORMAT_AUTO, 0, nullptr, mIsLast ? 1 : 0);
+        for (QByteArray piece = file.read(pieceBytes);
+             status == HTTP_STATUS_CONTINUE && !piece.isEmpty() && !mServer->isStopped();
+             piece = file.read(pieceBytes)) {
+            status = cupsWriteRequestData(mServer->http(), piece.constData(), static_cast<std::size_t>(piece.size()));
+            mProgress.bytes += piece.size();
+            if (mReport) {
+                mReport(mProgress);
+            }
+        }
+        if (mServer->isStopped() || file.error() != QFileDevice::NoError) {
+            // The end mark is not written: what the server has is no document.
+            *error = mServer->isStopped()
+                         ? problem({})
+                         : Problem(Problem::BadDocument,
+                                   Texts::tr("The document %1 cannot be read (%2): name a readable file.")
+                                       .arg(path, file.errorString()));
+            return false;
+        }
+        const bool sent = status == HTTP_STATUS_CONTINUE;
+        mIsAllWritten = sent && mIsLast;
+        // Finished in any case: the connection waits for it.
+        const Response answer(cupsGetResponse(mServer->http(), "/"));
+        if (!sent || !isAccepted(answer.get())) {
+            *error = problem({Problem::RejectedJob,
+                              Texts::tr("The print server did not take the document %1 (%2): see that it is a kind "
+                                        "of document that the queue prints.")
+                                  .arg(path, mServer->problem())});
+            return false;
+        }
+        return true;
+    }
+
+    /// Whether only the server's last word was lost, and the job is whole.
+    bool hasArrivedAllTheSame()
+    {
+        if (!mIsAllWritten || mServer->isStopped() || !mServer->isUnreachable()) {
+            return false;
+        }
+        std::optional<JobStatus> status;
+        putInOrder([this, &status] {
+            status = readJob(*mServer, mSubmission.queue.name, mJobId);
+            return status.has_value();
+        });
+        mServer->allowOnly(timeToPutInOrder); // for what is still to be asked
+        return status && status->isWhole(static_cast<int>(mSubmission.files.size()));
+    }
+
+    bool release(Problem *error)
+    {
+        if (mHoldUntil.isNull() || holdJob(*mServer, mJobId, mHoldUntil)) {
+            return true;
+        }
+        *error = problem(notTaken());
+        return false;
+    }
+
+    /// Cancels what was begun. \param error in it stands why it is not completed; its number is added where needed.
+    std::optional<SubmittedJob> abandon(Problem *error)
+    {
+        if (!putInOrder([this] { return cancelJob(*mServer, mJobId); })) {
+            const QString left = Texts::tr("Job %1 may be left half sent on the server; cancel it with: cancel %2-%1")
+                                     .arg(QString::number(mJobId), harmless(mSubmission.queue.name));
+            error->sentence = error->isNull() ? left : error->sentence + u' ' + left;
+        }
+        return std::nullopt;
+    }
+
+    /// Tries to get something done on a new connection, because the old one may be in the middle of a document, until
+    /// it is done or the time for that is over; all attempts share it.
+    template <typename Act>
+    bool putInOrder(const Act &act)
+    {
+        const auto now = std::chrono::steady_clock::now();
+        mEndOfOrder = mEndOfOrder.value_or(now + timeToPutInOrder);
+        mServer->allowOnly(std::chrono::ceil<std::chrono::milliseconds>(*mEndOfOrder - now));
+        do {
+            if (mServer->reconnect() && act()) {
+                return true;
+            }
+            std::this_thread::sleep_for(betweenAttempts);
+        } while (std::chrono::steady_clock::now() < *mEndOfOrder);
+        return false;
+    }
+
+    const Submission &mSubmission;
+    const SendReport &mReport;
+    std::unique_ptr<ServerConnection> mServer;
+    std::unique_ptr<cups_dest_t, DestinationDeleter> mDestination;
+    std::unique_ptr<cups_dinfo_t, InfoDeleter> mInfo;
+    int mJobId = 0;
+    QString mHoldUntil; ///< what the job is held for when it is whole; null when it is not held meanwhile
+    SendProgress mProgress;
+    std::optional<std::chrono::steady_clock::time_point> mEndOfOrder; ///< none while nothing has gone wrong
+    bool mIsLast = false;                                             ///< the document being sent is the job's last
+    bool mIsAllWritten = false;                                       ///< the last document has gone out to its end
+};
 
 } // namespace
 
-std::optional<SubmittedJob> submitJob(const PrintQueue &queue, const QString &title, const JobOptions &options,
-                                      const QStringList &files, Problem *error)
+std::optional<SubmittedJob> submitJob(const Submission &submission, const std::atomic<bool> &stop,
+                                      const SendReport &report, Problem *error)
 {
-    if (!serverAnswers(error)) {
-        return std::nullopt;
-    }
-    Target target;
-    target.destination.reset(cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.name.toUtf8().constData(), nullptr));
-    if (target.destination) {
-        target.info.reset(cupsCopyDestInfo(CUPS_HTTP_DEFAULT, target.destination.get()));
-    }
-    if (!target.info) {
-        *error = {Problem::NoSuchPrinter,
-                  Texts::tr("The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.")
-                      .arg(queue.name, serverSays())};
-        return std::nullopt;
-    }
-
-    const CupsOptions cupsOptions(options);
-    SubmittedJob job;
-    const ipp_status_t created =
-        cupsCreateDestJob(CUPS_HTTP_DEFAULT, target.destination.get(), target.info.get(), &job.id,
-                          title.toUtf8().constData(), cupsOptions.count(), cupsOptions.data());
-    if (created > IPP_STATUS_OK_CONFLICTING || job.id == 0) {
-        *error = {
-            Problem::RejectedJob,
-            Texts::tr("The queue %1 did not take the job (%2): see lpstat -p %1 -l.").arg(queue.name, serverSays())};
-        return std::nullopt;
-    }
-    for (const QString &file : files) {
-        // A single document goes by the job's title: standard input has no name of its own.
-        const QString name = files.size() == 1 ? title : QFileInfo(file).fileName();
-        if (!sendDocument(target, job.id, file, name, &file == &files.last(), error)) {
-            cupsCancelDestJob(CUPS_HTTP_DEFAULT, target.destination.get(), job.id);
-            return std::nullopt;
-        }
-    }
-    job.state = stateOfJob(queue, job.id);
-    return job;
+    return Upload(submission, stop, report).run(error);
 }
 
 } // namespace tapeprint::job

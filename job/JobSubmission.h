@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Sending a job to a print queue.
+// Sending a job to a print queue, so that it prints as a whole or not at all.
 #pragma once
 
 #include "job/JobOptions.h"
@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <atomic>
+#include <functional>
 #include <optional>
 
 namespace tapeprint::job
@@ -20,9 +22,27 @@ struct SubmittedJob {
     QString state; ///< as IPP names it, such as "pending" or "processing"; "sent" when the server does not say
 };
 
-/// Sends documents as one job. A job that cannot be completed is cancelled.
-/// \param error takes a sentence when the server does not take it.
-std::optional<SubmittedJob> submitJob(const PrintQueue &queue, const QString &title, const JobOptions &options,
-                                      const QStringList &files, Problem *error);
+/// What is to be sent.
+struct Submission {
+    PrintQueue queue;
+    QString title;
+    JobOptions options;
+    QStringList files;
+};
+
+/// How much of a job is on its way.
+struct SendProgress {
+    qint64 bytes = 0; ///< of all documents together
+    qint64 ofBytes = 0;
+};
+/// Called in the thread that sends, after each piece.
+using SendReport = std::function<void(const SendProgress &progress)>;
+
+/// Sends documents as one job, in the calling thread. A job that does not get all its documents is cancelled, also when
+/// the server goes away and is back soon; where that cannot be had it never prints, and the problem tells its number.
+/// \param stop when it becomes true, sending ends within about a second, and nothing is printed.
+/// \param error takes a sentence when the server does not take the job; none when it was stopped.
+std::optional<SubmittedJob> submitJob(const Submission &submission, const std::atomic<bool> &stop,
+                                      const SendReport &report, Problem *error);
 
 } // namespace tapeprint::job

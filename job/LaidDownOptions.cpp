@@ -49,7 +49,7 @@ void nameTape(ppd_file_t *ppd, JobOptions *job)
     }
     const QString media = job->value(OptionName::media);
     const bool isCustom = media.startsWith(QLatin1String("Custom."), Qt::CaseInsensitive);
-    const QString tape = isCustom ? media : markedChoice(ppd, OptionName::pageSize);
+    const QString tape = isCustom ? media : markedValue(ppd, OptionName::pageSize);
     if (!tape.isNull()) {
         job->set(OptionName::pageSize, tape);
         setDefaultChoice(ppd, OptionName::pageSize, tape);

@@ -25,20 +25,6 @@ namespace tapeprint::job
 namespace
 {
 
-/// Whether a server that took the connection also speaks.
-bool saysAnything(http_t *server)
-{
-    httpClearFields(server);
-    if (httpOptions(server, "*") != 0) {
-        return false;
-    }
-    http_status_t status = HTTP_STATUS_CONTINUE;
-    while (status == HTTP_STATUS_CONTINUE) {
-        status = httpUpdate(server);
-    }
-    return status != HTTP_STATUS_ERROR; // a refusal is an answer as well
-}
-
 struct DestinationDeleter {
     void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
 };
@@ -134,16 +120,6 @@ QueueName QueueName::parse(const QString &text)
 {
     const qsizetype slash = text.indexOf(u'/');
     return slash < 0 ? QueueName{text, {}} : QueueName{text.left(slash), text.mid(slash + 1)};
-}
-
-bool serverAnswers(Problem *error)
-{
-    const auto server = ServerConnection::open(nullptr);
-    if (server->isOpen() && saysAnything(server->http())) {
-        return true;
-    }
-    *error = {Problem::Unreachable, ServerConnection::noAnswer()};
-    return false;
 }
 
 Problem serverProblem(const ServerConnection &server)

@@ -38,8 +38,6 @@ struct PrintQueue {
     QString fullName() const { return QueueName{name, instance}.text(); }
 };
 
-/// Whether the print server can be reached. \param error takes a sentence that names the server.
-bool serverAnswers(Problem *error);
 /// Why a call on a connection failed. Without a sentence when it was stopped.
 Problem serverProblem(const ServerConnection &server);
 

@@ -59,7 +59,7 @@ QString PrintedJob::sentence() const
 }
 
 std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
-                                   const std::atomic<bool> &stop, Problem *error)
+                                   const std::atomic<bool> &stop, Problem *error, const SendReport &report)
 {
     QStringList printed = files;
     std::unique_ptr<PrivateFile> labels;
@@ -77,7 +77,8 @@ std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, 
                        error);
         return output ? std::optional(PrintedJob{{}, {}, *output}) : std::nullopt;
     }
-    const std::optional<SubmittedJob> submitted = submitJob(*job.queue, title, job.carried(), printed, error);
+    const std::optional<SubmittedJob> submitted =
+        submitJob({*job.queue, title, job.carried(), printed}, stop, report, error);
     return submitted ? std::optional(PrintedJob{job.queue->name, *submitted, {}}) : std::nullopt;
 }
 

@@ -77,6 +77,7 @@ bool ServerConnection::reconnect()
     while (mHttp != nullptr && !isOver() && Clock::now() - start < connectPatience) {
         const Clock::time_point attempt = Clock::now();
         if (httpReconnect2(mHttp, static_cast<int>(connectAttempt.count()), nullptr) == 0) {
+            mHasBeenOpen = true;
             return true;
         }
         if (Clock::now() - attempt < connectAttempt / 2) {
@@ -116,7 +117,7 @@ bool ServerConnection::mayWaitOn()
 
 bool ServerConnection::isUnreachable() const
 {
-    return mIsSilent || !isOpen();
+    return mIsSilent || !isOpen() || httpError(mHttp) != 0;
 }
 
 const char *ServerConnection::answerPassword()
@@ -146,7 +147,9 @@ QString ServerConnection::problem() const
             .arg(serverName());
     }
     if (isUnreachable()) {
-        return noAnswer();
+        return mHasBeenOpen ? Texts::tr("The print server %1 has stopped answering: try again when it is back.")
+                                  .arg(serverName())
+                            : noAnswer();
     }
     return harmless(QString::fromUtf8(cupsLastErrorString()));
 }

@@ -55,6 +55,8 @@ public:
     bool isStopped() const;
     /// Whether calls fail because the server is gone or silent.
     bool isUnreachable() const;
+    /// Whether calls fail because the server was given no password that it accepts.
+    bool wasRefused() const { return mWasRefused; }
     /// Why the last call failed, as a sentence; null when it was stopped. For use in the connection's own thread.
     QString problem() const;
     /// That the server cannot be reached, as a sentence.
@@ -75,6 +77,7 @@ private:
     Clock::time_point mLastTick;           ///< when libcups last waited in vain
     Clock::time_point mSilentSince;
     bool mIsSilent = false;
+    bool mHasBeenOpen = false;
     int mQuestions = 0;
     bool mWasRefused = false; ///< no password was given, or none that is good
     Secret mPassword;         ///< libcups reads it from here

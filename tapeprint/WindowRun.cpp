@@ -9,6 +9,7 @@
 #include "tapeprint/OutputPath.h"
 
 #include <QEventLoop>
+#include <QLocale>
 #include <QTimer>
 
 #include <atomic>
@@ -55,6 +56,7 @@ RunReport runWindow(const CommandLine &line)
     // scripts read it.
     auto translations = std::make_optional<dialog::Translations>();
     job::Job job;
+    job.setLanguages(QLocale().uiLanguages());
     dialog::Panels panels(job, dialog::bundleSearchPath());
     if (destination) {
         panels.open(std::move(*destination), request.options);

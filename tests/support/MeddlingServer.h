@@ -17,13 +17,13 @@ namespace tapeprint::test
 
 /// What is done to a request.
 enum class Meddling {
-    PassOn,       ///< nothing: the server behind answers
-    AnswerOk,     ///< an answer of success without attributes; no server is needed behind
-    Deny,         ///< 401: a user and a password are wanted
-    KeepSilent,   ///< the request goes nowhere, and nothing is said
-    SwallowReply, ///< the server behind does what it was asked for, and its answer is lost; then silence
-    HangUp,       ///< the connection is cut before the server behind hears of the request
-    CutShort,     ///< the server behind gets the beginning of the request, and then both connections are cut
+    PassOn,     ///< nothing: the server behind answers
+    AnswerOk,   ///< an answer of success without attributes; no server is needed behind
+    Deny,       ///< 401: a user and a password are wanted
+    KeepSilent, ///< the request goes nowhere, and nothing is said
+    LoseReply,  ///< the server behind does what it was asked for; the connection is cut before its answer is through
+    HangUp,     ///< the connection is cut before the server behind hears of the request
+    CutShort,   ///< the server behind gets the beginning of the request, and then both connections are cut
 };
 
 /// A request as it is seen when its operation is known.

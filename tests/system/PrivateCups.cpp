@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <array>
 #include <memory>
 #include <span>
 
@@ -130,8 +131,8 @@ QString PrivateCups::start()
     mFolder.makeFolder(QStringLiteral("home/runtime"), 0700); // the toolkit insists on it
     const QString files =
         writeFile(mFolder.path(QStringLiteral("cups-files.conf")), filled(filesConfiguration, mFolder.path()), 0640);
-    const QString server =
-        writeFile(mFolder.path(QStringLiteral("cupsd.conf")), filled(serverConfiguration, mFolder.path()), 0640);
+    const QString server = writeFile(mFolder.path(QStringLiteral("cupsd.conf")),
+                                     mMoreConfiguration + filled(serverConfiguration, mFolder.path()), 0640);
 
     dieWithTest(mServer);
     mServer.setProcessChannelMode(QProcess::MergedChannels);
@@ -214,6 +215,19 @@ std::vector<ServerJob> PrivateCups::jobs() const
     }
     cupsFreeJobs(count, found);
     return jobs;
+}
+
+QByteArray PrivateCups::attributeOfJob(int jobId, const char *name) const
+{
+    const Connection connection = connectTo(socket());
+    ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(jobId);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
+    ipp_t *response = cupsDoRequest(connection.get(), request, "/");
+    std::array<char, 1024> text{};
+    ippAttributeString(ippFindAttribute(response, name, IPP_TAG_ZERO), text.data(), text.size());
+    ippDelete(response);
+    return text.data();
 }
 
 std::optional<ServerJob> PrivateCups::waitForEnd(int jobId) const

@@ -43,6 +43,8 @@ public:
     /// Why no server can be run on this machine; null when one can.
     static QString reasonToSkip();
 
+    /// Adds a line to the server's configuration, before it is started.
+    void configure(const QByteArray &line) { mMoreConfiguration += line + '\n'; }
     /// Starts the server and waits until it answers. \return null, or why it does not.
     QString start();
 
@@ -60,6 +62,8 @@ public:
 
     /// All jobs, in the order in which they came.
     std::vector<ServerJob> jobs() const;
+    /// An attribute of a job, as text.
+    QByteArray attributeOfJob(int jobId, const char *name) const;
     /// Waits for a job to end. \return it; null when the server does not know it or it does not end.
     std::optional<ServerJob> waitForEnd(int jobId) const;
     /// The runs of the printer's filter for a job, in their order.
@@ -74,6 +78,7 @@ private:
     QString recordingFilter();
 
     PrivateFolder mFolder;
+    QByteArray mMoreConfiguration;
     QProcess mServer;
 };
 

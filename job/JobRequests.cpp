@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: Apache-2.0
+// The requests, by the job's own URI: a server's numbers are one row over all its queues.
+#include "job/JobRequests.h"
+
+#include "job/PlainText.h"
+
+#include <array>
+#include <memory>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+constexpr std::array jobAttributes{"job-state", "job-state-reasons", "job-printer-state-message", "number-of-documents",
+                                   "number-of-intervening-jobs"};
+constexpr std::array printerAttributes{"printer-state", "printer-state-reasons", "printer-state-message"};
+
+void addUser(ipp_t *request)
+{
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+}
+
+ipp_t *aboutJob(ipp_op_t operation, int jobId)
+{
+    ipp_t *request = ippNewRequest(operation);
+    // Servers look at the path alone.
+    const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(jobId);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
+    addUser(request);
+    return request;
+}
+
+ipp_t *aboutPrinter(ipp_op_t operation, const QString &queue)
+{
+    std::array<char, HTTP_MAX_URI> uri{};
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
+                     "/printers/%s", queue.toUtf8().constData());
+    ipp_t *request = ippNewRequest(operation);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+    addUser(request);
+    return request;
+}
+
+template <std::size_t count>
+void askFor(ipp_t *request, const std::array<const char *, count> &attributes)
+{
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", static_cast<int>(count), nullptr,
+                  attributes.data());
+}
+
+int numberIn(const Response &response, const char *name, ipp_tag_t tag, int otherwise)
+{
+    ipp_attribute_t *attribute = ippFindAttribute(response.get(), name, tag);
+    return attribute == nullptr ? otherwise : ippGetInteger(attribute, 0);
+}
+
+QStringList wordsIn(const Response &response, const char *name)
+{
+    QStringList words;
+    ipp_attribute_t *attribute = ippFindAttribute(response.get(), name, IPP_TAG_ZERO);
+    for (int i = 0; attribute != nullptr && i < ippGetCount(attribute); ++i) {
+        words.append(harmless(QString::fromUtf8(ippGetString(attribute, i, nullptr))));
+    }
+    return words;
+}
+
+} // namespace
+
+bool isAccepted(ipp_t *response)
+{
+    return response != nullptr && ippGetStatusCode(response) <= IPP_STATUS_OK_CONFLICTING;
+}
+
+QString JobStatus::stateName() const
+{
+    return QString::fromLatin1(ippEnumString("job-state", static_cast<int>(state)));
+}
+
+bool JobStatus::isWhole(int documentsSent) const
+{
+    return documents >= documentsSent && !reasons.contains(QLatin1String("job-incoming"));
+}
+
+std::optional<JobStatus> readJob(const ServerConnection &server, const QString &queue, int jobId)
+{
+    ipp_t *request = aboutJob(IPP_OP_GET_JOB_ATTRIBUTES, jobId);
+    askFor(request, jobAttributes);
+    const Response job(cupsDoRequest(server.http(), request, "/"));
+    ipp_attribute_t *state = ippFindAttribute(job.get(), "job-state", IPP_TAG_ENUM);
+    if (state == nullptr) {
+        return std::nullopt;
+    }
+    JobStatus status;
+    status.state = static_cast<ipp_jstate_t>(ippGetInteger(state, 0));
+    status.reasons = wordsIn(job, "job-state-reasons");
+    status.message = wordsIn(job, "job-printer-state-message").join(u' ');
+    status.documents = numberIn(job, "number-of-documents", IPP_TAG_INTEGER, 0);
+    status.jobsBefore = numberIn(job, "number-of-intervening-jobs", IPP_TAG_INTEGER, 0);
+
+    request = aboutPrinter(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    askFor(request, printerAttributes);
+    const Response printer(cupsDoRequest(server.http(), request, "/"));
+    status.isStopped = numberIn(printer, "printer-state", IPP_TAG_ENUM, IPP_PSTATE_IDLE) == IPP_PSTATE_STOPPED;
+    status.printerReasons = wordsIn(printer, "printer-state-reasons");
+    status.printerMessage = wordsIn(printer, "printer-state-message").join(u' ');
+    return status;
+}
+
+bool holdJob(const ServerConnection &server, int jobId, const QString &until)
+{
+    const bool isRelease = until == u"no-hold";
+    ipp_t *request = aboutJob(isRelease ? IPP_OP_RELEASE_JOB : IPP_OP_HOLD_JOB, jobId);
+    if (!isRelease) {
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "job-hold-until", nullptr,
+                     until.toUtf8().constData());
+    }
+    const Response response(cupsDoRequest(server.http(), request, "/jobs"));
+    return isAccepted(response.get());
+}
+
+std::optional<std::vector<int>> emptyJobs(const ServerConnection &server, const QString &queue, const QString &title)
+{
+    static constexpr std::array attributes{"job-id", "job-name", "number-of-documents"};
+    ipp_t *request = aboutPrinter(IPP_OP_GET_JOBS, queue);
+    ippAddBoolean(request, IPP_TAG_OPERATION, "my-jobs", 1);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, "not-completed");
+    askFor(request, attributes);
+    const Response response(cupsDoRequest(server.http(), request, "/"));
+    if (!isAccepted(response.get())) {
+        return std::nullopt;
+    }
+    std::vector<int> jobs;
+    int id = 0;
+    bool isCalledSo = false;
+    bool isEmpty = false;
+    const auto finishJob = [&] {
+        if (id != 0 && isCalledSo && isEmpty) {
+            jobs.push_back(id);
+        }
+        id = 0;
+    };
+    // An attribute without a name divides the jobs.
+    for (ipp_attribute_t *attribute = ippFirstAttribute(response.get()); attribute != nullptr;
+         attribute = ippNextAttribute(response.get())) {
+        const QLatin1String name(ippGetName(attribute));
+        if (name.isEmpty()) {
+            finishJob();
+        } else if (name == QLatin1String("job-id")) {
+            id = ippGetInteger(attribute, 0);
+        } else if (name == QLatin1String("job-name")) {
+            isCalledSo = QString::fromUtf8(ippGetString(attribute, 0, nullptr)) == title;
+        } else if (name == QLatin1String("number-of-documents")) {
+            isEmpty = ippGetInteger(attribute, 0) == 0;
+        }
+    }
+    finishJob();
+    return jobs;
+}
+
+bool cancelJob(const ServerConnection &server, int jobId)
+{
+    const Response response(cupsDoRequest(server.http(), aboutJob(IPP_OP_CANCEL_JOB, jobId), "/jobs"));
+    // A job that is over cannot be cancelled; one that the server has forgotten is not found.
+    const ipp_status_t status = response ? ippGetStatusCode(response.get()) : IPP_STATUS_ERROR_INTERNAL;
+    return isAccepted(response.get()) || status == IPP_STATUS_ERROR_NOT_POSSIBLE ||
+           status == IPP_STATUS_ERROR_NOT_FOUND;
+}
+
+} // namespace tapeprint::job

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: Apache-2.0
+// What is asked of the print server about one job: how it is, that it may print, that it may not.
+#pragma once
+
+#include "job/ServerConnection.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <cups/cups.h>
+
+namespace tapeprint::job
+{
+
+struct ResponseDeleter {
+    void operator()(ipp_t *response) const { ippDelete(response); }
+};
+using Response = std::unique_ptr<ipp_t, ResponseDeleter>;
+
+/// Whether a response says that the request was carried out. libcups's last error does not: where the connection broke
+/// it may still be that of the request before. \param response null when there was none.
+bool isAccepted(ipp_t *response);
+
+/// A job as the server knows it.
+struct JobStatus {
+    ipp_jstate_t state = IPP_JSTATE_PENDING;
+    QStringList reasons;        ///< job-state-reasons, as IPP's keywords
+    QString message;            ///< what the printer or a filter said of it last, in its own words
+    int documents = 0;          ///< how many have come
+    int jobsBefore = 0;         ///< how many others the queue prints first
+    bool isStopped = false;     ///< whether the printer has stopped; the job waits for it
+    QStringList printerReasons; ///< printer-state-reasons, as IPP's keywords
+    QString printerMessage;     ///< of the printer, in its driver's or administrator's words
+
+    /// The state as IPP names it, such as "pending" or "processing".
+    QString stateName() const;
+    /// Whether all its documents are there.
+    bool isWhole(int documentsSent) const;
+
+    bool operator==(const JobStatus &other) const = default;
+};
+
+/// The server's word about a job and its queue's printer. \return nothing when it gives none.
+std::optional<JobStatus> readJob(const ServerConnection &server, const QString &queue, int jobId);
+
+/// Holds a job, or lets it go on. \param until when, as IPP's job-hold-until says it; "no-hold" for now.
+bool holdJob(const ServerConnection &server, int jobId, const QString &until);
+
+/// The person's own jobs of a title on a queue that wait for their first document; nothing when the server does not
+/// say.
+std::optional<std::vector<int>> emptyJobs(const ServerConnection &server, const QString &queue, const QString &title);
+
+/// Whether the job is gone for certain: cancelled, or over already.
+bool cancelJob(const ServerConnection &server, int jobId);
+
+} // namespace tapeprint::job
