@@ -5,6 +5,7 @@
 #include "dialog/NoticesArea.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PlainText.h"
+#include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/PrinterPopUp.h"
 

@@ -13,7 +13,6 @@ namespace tapeprint::dialog
 namespace
 {
 
-constexpr int readPauseMs = 1000;
 constexpr int lookPauseMs = 10000;
 constexpr int gatePauseMs = 50;
 
@@ -38,7 +37,7 @@ PrinterDesk::PrinterDesk(PrinterSource source, job::JobRequest request, QObject 
     for (QTimer *timer : {&mReadTimer, &mLookTimer, &mGateTimer}) {
         timer->setSingleShot(true);
     }
-    mReadTimer.setInterval(readPauseMs);
+    mReadTimer.setInterval(mSource.pause);
     mLookTimer.setInterval(lookPauseMs);
     mGateTimer.setInterval(gatePauseMs);
     connect(&mReadTimer, &QTimer::timeout, this, &PrinterDesk::read);

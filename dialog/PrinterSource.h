@@ -6,6 +6,7 @@
 #include "job/PrinterList.h"
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -23,14 +24,21 @@ struct PrinterSource {
                                                   job::Problem *problem)>
         open;
 
+    /// How long the server is left alone after each reading.
+    std::chrono::milliseconds pause{1000};
+
     /// The print server of libcups's settings.
     static PrinterSource server()
     {
-        return {[](const std::atomic<bool> &stop, job::Problem *problem) { return job::readPrinters(&stop, problem); },
-                job::findOnNetwork,
-                [](const job::JobRequest &request, const std::atomic<bool> &stop, job::Problem *problem) {
-                    return job::openDestination(request, problem, &stop);
-                }};
+        PrinterSource source;
+        source.list = [](const std::atomic<bool> &stop, job::Problem *problem) {
+            return job::readPrinters(&stop, problem);
+        };
+        source.network = job::findOnNetwork;
+        source.open = [](const job::JobRequest &request, const std::atomic<bool> &stop, job::Problem *problem) {
+            return job::openDestination(request, problem, &stop);
+        };
+        return source;
     }
 };
 
