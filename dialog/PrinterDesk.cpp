@@ -139,6 +139,7 @@ void PrinterDesk::take(const job::Destination &destination)
     mDigest = destination.ppdDigest;
     mWasListed = false;
     mLastKnown = rowOfDestination(destination).printer;
+    followOpenPrinter();
     // A destination that is no queue stays on offer, whatever is picked.
     if (!destination.queue) {
         mFirst = rowOfDestination(destination);
@@ -178,18 +179,24 @@ void PrinterDesk::takeList(const std::optional<job::PrinterList> &printers, cons
         mServerProblem = {};
         mPrinters = printers;
     }
-    if (const job::Printer *printer = openPrinter()) {
-        mWasListed = true;
-        mLastKnown = *printer;
-        if (printer->configuredAt != mConfiguredAt) {
-            checkDescription();
-        }
-    }
+    followOpenPrinter();
     fillRows();
     Q_EMIT changed();
     if (printers) {
         openWhatTheServerAllows();
         openTheOnlyPrinter();
+    }
+}
+
+void PrinterDesk::followOpenPrinter()
+{
+    if (const job::Printer *printer = openPrinter()) {
+        mWasListed = true;
+        mLastKnown = *printer;
+        // A reading from before the printer was opened may be older than what was opened.
+        if (printer->configuredAt > mConfiguredAt) {
+            checkDescription();
+        }
     }
 }
 

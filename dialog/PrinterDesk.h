@@ -73,6 +73,7 @@ private:
     void take(const job::Destination &destination);
     void read();
     void takeList(const std::optional<job::PrinterList> &printers, const job::Problem &problem);
+    void followOpenPrinter();
     void look();
     void openWhatTheServerAllows();
     void openTheOnlyPrinter();

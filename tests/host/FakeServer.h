@@ -18,6 +18,13 @@ namespace hosttest
 /// Called from the window's threads and from the test's; a thread that is late keeps it alive.
 class FakeServer : public std::enable_shared_from_this<FakeServer>
 {
+    template <typename Function>
+    auto locked(const Function &function) const
+    {
+        const std::lock_guard lock(mMutex);
+        return function();
+    }
+
 public:
     /// \param folder where descriptions are written.
     explicit FakeServer(const QTemporaryDir &folder) : mFolder(folder) {}
@@ -62,12 +69,6 @@ private:
         QByteArray morePpd;
     };
 
-    template <typename Function>
-    auto locked(const Function &function) const
-    {
-        const std::lock_guard lock(mMutex);
-        return function();
-    }
     Queue *find(const QString &name);
     std::optional<tapeprint::job::PrinterList> list(tapeprint::job::Problem *problem);
     std::optional<tapeprint::job::Destination> open(const tapeprint::job::JobRequest &request,

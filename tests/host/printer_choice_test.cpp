@@ -4,11 +4,11 @@
 
 #include "dialog/PrintDialog.h"
 #include "dialog/PrinterPopUp.h"
+#include "tests/support/LoopWatch.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -16,7 +16,6 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -26,25 +25,6 @@ namespace
 using namespace tapeprint;
 using dialog::PrintDialog;
 using hosttest::FakeServer;
-
-/// The longest time for which the event loop did nothing for others.
-class LoopWatch
-{
-public:
-    LoopWatch()
-    {
-        mSinceTick.start();
-        QObject::connect(&mTicks, &QTimer::timeout,
-                         [this] { mLongestMs = std::max(mLongestMs, mSinceTick.restart()); });
-        mTicks.start(2);
-    }
-    qint64 longestMs() const { return std::max(mLongestMs, mSinceTick.elapsed()); }
-
-private:
-    QTimer mTicks;
-    QElapsedTimer mSinceTick;
-    qint64 mLongestMs = 0;
-};
 
 class PrinterChoice : public testing::Test
 {
@@ -118,7 +98,7 @@ TEST_F(PrinterChoice, WhileThePrinterIsConnected_TheWindowIsUpAndPrintIsOff)
     job::JobRequest request;
     request.queue = u"tape"_qs;
     open(request);
-    const LoopWatch watch;
+    const test::LoopWatch watch;
     EXPECT_TRUE(waitFor([&] { return printers()->count() == 2; })); // the list is live already
     QTest::qWait(100);
     EXPECT_LT(watch.longestMs(), 100);
@@ -287,12 +267,13 @@ TEST_F(PrinterChoice, NewDescription_IsSaidAndLoadedWithTheChoicesKept)
     printJob.changeOption(u"CutMedia"_qs, u"Label"_qs);
     auto *loadAnew = child<QPushButton>("loadAnew");
     EXPECT_FALSE(loadAnew->isVisible());
-    server->describe(u"tape"_qs, "*ManualCopies: True\n");
+    server->describe(u"tape"_qs, "*TestMark: \"new\"\n");
     ASSERT_TRUE(waitForNotice(u"The description of the printer tape has changed"_qs));
     ASSERT_TRUE(loadAnew->isVisible());
-    EXPECT_EQ(printJob.ppd()->manual_copies, 0);
+    const auto isNew = [this] { return ppdFindAttr(printJob.ppd(), "TestMark", nullptr) != nullptr; };
+    EXPECT_FALSE(isNew());
     loadAnew->click();
-    ASSERT_TRUE(waitFor([&] { return printJob.ppd()->manual_copies == 1; }));
+    ASSERT_TRUE(waitFor(isNew));
     EXPECT_FALSE(loadAnew->isVisible());
     EXPECT_EQ(notices(), QString());
     EXPECT_EQ(choice("CutMedia"), u"Label"_qs);
