@@ -52,6 +52,15 @@ void Panels::open(job::Destination destination, const job::JobOptions &asked)
     mJob.rememberAsOpened();
 }
 
+void Panels::reopen(const QString &instance, const job::JobOptions &saved, const job::JobOptions &asked)
+{
+    release();
+    mNotices.clear();
+    mReplaced.clear();
+    mJob.reopen(instance, saved, asked);
+    make();
+}
+
 void Panels::make()
 {
     mHost = std::make_shared<PanelHost>(mJob, *this);
@@ -139,7 +148,7 @@ void Panels::remake()
 {
     release();
     mNotices.clear();
-    mJob.makeDefaultsOfOptions();
+    mJob.renewPpd();
     make();
     showAll();
 }
@@ -149,7 +158,6 @@ bool Panels::settle(job::Problem *error)
     showAll();
     const bool saved = saveValues(error);
     mReplaced = job::replacedOptions(mJob.laidDown(), mJob.options());
-    mJob.rememberAsOpened();
     return saved;
 }
 
@@ -157,12 +165,27 @@ QStringList Panels::notices() const
 {
     QStringList notices = mNotices;
     for (const job::ReplacedOption &replaced : mReplaced) {
-        const auto &[name, value] = replaced.carried;
-        if (mJob.options().value(name) == value) {
-            notices.append(replaced.sentence(mJob.ppd(), panelOf(name)));
+        if (isStillCarried(replaced)) {
+            notices.append(replaced.sentence(mJob.ppd(), panelOf(replaced.carried.first)));
         }
     }
     return notices;
+}
+
+QStringList Panels::replacements(const job::JobOptions &asked) const
+{
+    QStringList sentences;
+    for (const job::ReplacedOption &replaced : mReplaced) {
+        if (isStillCarried(replaced) && asked.contains(replaced.laidDown.first) && !replaced.isRounding()) {
+            sentences.append(replaced.sentence(mJob.ppd(), panelOf(replaced.carried.first)));
+        }
+    }
+    return sentences;
+}
+
+bool Panels::isStillCarried(const job::ReplacedOption &replaced) const
+{
+    return mJob.options().value(replaced.carried.first) == replaced.carried.second;
 }
 
 QString Panels::panelOf(const QString &key) const
@@ -229,6 +252,7 @@ bool Panels::revert(job::Problem *error)
 {
     const QString paper = mJob.options().value(job::OptionName::pageSize);
     mJob.revert();
+    mReplaced = job::replacedOptions(mJob.laidDown(), mJob.options());
     bool restored = true;
     for (const PanelEntry &entry : mPanels) {
         QString reason;

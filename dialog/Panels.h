@@ -52,10 +52,15 @@ public:
 
     /// Releases the panels, opens the job's next destination, and makes that destination's panels.
     void open(job::Destination destination, const job::JobOptions &asked);
+    /// Releases the panels, opens the same queue once more with other saved options, and makes its panels. What
+    /// revert() goes back to stays. No call of a panel may be under way.
+    void reopen(const QString &instance, const job::JobOptions &saved, const job::JobOptions &asked);
 
     /// Sentences about bundles and panels that are not used, and about what was laid down and a panel replaced, as long
     /// as the job carries what the panel put there.
     QStringList notices() const;
+    /// Of these, the sentences about options asked for that a panel replaced by more than rounding.
+    QStringList replacements(const job::JobOptions &asked) const;
     const std::vector<PanelEntry> &entries() const { return mPanels; }
     /// Whether a panel announced an option as its own.
     bool announced(const QString &key) const;
@@ -63,7 +68,7 @@ public:
     /// The panel is about to be seen, or is seen and its controls are to follow a change.
     void show(std::size_t index);
     /// Every panel is shown, as far as that goes without a window, and hands over its values: the job is what would be
-    /// printed now, and what it goes back to. \param error takes the sentence of a panel that could not.
+    /// printed now. \param error takes the sentence of a panel that could not.
     bool settle(job::Problem *error);
     /// The person picks another paper. Panels hand over what was typed before the change, and hear of it once more when
     /// they have been shown with the new paper: what they learn by that shows in every control.
@@ -106,6 +111,7 @@ private:
     void tell(const QString &key, const QString &choice);
     void tellPaperAgain();
     QString panelOf(const QString &key) const;
+    bool isStillCarried(const job::ReplacedOption &replaced) const;
 
     job::Job &mJob;
     QStringList mBundleFolders;

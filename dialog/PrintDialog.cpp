@@ -42,6 +42,7 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     mRestTimer.setSingleShot(true);
     mRestTimer.setInterval(0);
     buildControls();
+    addCommandButton();
     connectControls();
     startPrinters();
     if (mPrinters.hasOpen()) {
@@ -68,12 +69,14 @@ void PrintDialog::showDestination()
     showPages(0);
     mJob.rememberAsOpened();
     mKeepFitting->setChecked(job::layoutChoicesOf(mJob.options()).fitLength); // asked for beforehand
+    showPresets();
     follow();
 }
 
 void PrintDialog::showNotices()
 {
-    mNotices->setSentences((mPrinters.notices() + mJob.notices() + mPanels.notices() + mAlerts).join(u'\n'));
+    mNotices->setSentences(
+        (mPrinters.notices() + mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts).join(u'\n'));
 }
 
 void PrintDialog::showWhetherTape()
@@ -150,8 +153,12 @@ void PrintDialog::orderByTab()
             last = next; // only what takes the focus has a place in the order
         }
     }
-    for (QWidget *widget : std::initializer_list<QWidget *>{mSummary, mFitButton, mKeepFitting, mRevertButton,
-                                                            mCancelButton, mPrintButton}) {
+    QList<QWidget *> widgets{mSummary, mFitButton, mKeepFitting};
+    for (int i = 0; i < mMoreButtonsPlace->count(); ++i) {
+        widgets.append(mMoreButtonsPlace->itemAt(i)->widget());
+    }
+    widgets << mCancelButton << mPrintButton;
+    for (QWidget *widget : widgets) {
         setTabOrder(last, widget);
         last = widget;
     }

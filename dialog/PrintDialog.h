@@ -3,6 +3,7 @@
 //
 //   PrintDialog
 //     ├─ printer, tape, copies      two rows of pop-ups and a field of its own
+//     ├─ PresetRow                  beside them: what is saved for the printer
 //     ├─ NoticesArea                skipped bundles, options that get lost
 //     ├─ page chooser, PanelArea    the panels' views and the dialog's own pages; scrolls
 //     ├─ SummaryView, PreviewArea   beside it; the preview grows with the window
@@ -14,6 +15,7 @@
 #include "dialog/GreyedOut.h"
 #include "dialog/MeasureUnit.h"
 #include "dialog/Panels.h"
+#include "dialog/PresetRow.h"
 #include "dialog/PrinterDesk.h"
 #include "job/Destination.h"
 #include "job/Job.h"
@@ -104,6 +106,8 @@ private:
     QWidget *makeButtons();
     QWidget *makeProgress(QWidget *parent);
     void connectControls();
+    void addCommandButton();
+    void showCommand();
 
     void startPrinters();
     void takeDestination(job::Destination destination);
@@ -131,6 +135,13 @@ private:
     void followInThePreview();
     void revert();
     void remakePanels();
+    PresetRow *makePresetRow();
+    void showPresets();
+    QStringList presetNotices() const;
+    void pickPreset(const PresetRow::Settings &settings);
+    void followInThePresets();
+    std::optional<job::JobOptions> optionsToSave();
+    std::function<void()> keepingForNextTime() const;
     void print();
     void setPrinting(bool isPrinting);
     void finishPrinting(std::optional<job::PrintedJob> printed, const job::Problem &error);
@@ -169,6 +180,7 @@ private:
 
     PrinterPopUp *mPrinterPopUp = nullptr;
     QPushButton *mLoadAnew = nullptr; ///< among the notices, when the printer's PPD has changed
+    PresetRow *mPresetRow = nullptr;
     QComboBox *mTapePopUp = nullptr;
     QSpinBox *mCopiesField = nullptr;
     QLabel *mTapeLabel = nullptr;

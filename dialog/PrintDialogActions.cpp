@@ -139,6 +139,7 @@ void PrintDialog::follow()
     showNotices();
     mSummary->showSummary(mPanels.summary());
     followInThePreview();
+    followInThePresets();
     selectChoice(mTapePopUp, job::markedChoice(mJob.ppd(), job::OptionName::pageSize));
     mCopiesField->setValue(mJob.copies());
     if (mLayoutPage) {
@@ -180,6 +181,7 @@ void PrintDialog::revert()
     // A length that was typed stands in the panel's field alone: only a panel made anew shows the first values.
     remakePanels();
     mKeepFitting->setChecked(false);
+    mPresetRow->revert(presetNotices());
     follow();
 }
 
@@ -206,10 +208,13 @@ void PrintDialog::print()
         return;
     }
     setPrinting(true);
-    mPrinting.start([this, action = mPrintAction,
+    mPrinting.start([this, action = mPrintAction, keep = keepingForNextTime(),
                      job = job::settle(mJob)](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
         job::Problem problem;
         std::optional<job::PrintedJob> printed = action(job, stop, &problem);
+        if (printed) {
+            keep();
+        }
         return [this, printed = std::move(printed), problem] { finishPrinting(printed, problem); };
     });
 }

@@ -75,6 +75,8 @@ QWidget *PrintDialog::makeDestinationRows()
     mPrinterPlace = new QHBoxLayout;
     mPrinterPlace->addWidget(mPrinterPopUp, 1);
     mPresetPlace = new QHBoxLayout;
+    mPresetRow = makePresetRow();
+    mPresetPlace->addWidget(mPresetRow);
     grid->addWidget(makeLabel(tr("P&rinter:"), mPrinterPopUp), 0, 0);
     grid->addLayout(mPrinterPlace, 0, 1);
     grid->addLayout(mPresetPlace, 0, 2, 1, 2);

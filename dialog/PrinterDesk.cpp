@@ -193,6 +193,7 @@ void PrinterDesk::followOpenPrinter()
     if (const job::Printer *printer = openPrinter()) {
         mWasListed = true;
         mLastKnown = *printer;
+        mLastKnown.instance = job::QueueName::parse(*mOpen).instance;
         // A reading from before the printer was opened may be older than what was opened.
         if (printer->configuredAt > mConfiguredAt) {
             checkDescription();
@@ -274,8 +275,10 @@ const job::Printer *PrinterDesk::openPrinter() const
     if (!mPrinters || !mOpen) {
         return nullptr;
     }
+    // An instance stands and falls with its queue: presets are deleted while they are in use.
+    const QString queue = job::QueueName::parse(*mOpen).queue;
     const auto found = std::find_if(mPrinters->begin(), mPrinters->end(),
-                                    [this](const job::Printer &printer) { return printer.fullName() == *mOpen; });
+                                    [&queue](const job::Printer &printer) { return printer.name == queue; });
     return found == mPrinters->end() ? nullptr : &*found;
 }
 

@@ -35,7 +35,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     }
     require(line->request.outputPath.isEmpty() || !line->request.ppdPath.isEmpty());
     require(line->files.size() <= arguments.size());
-    require(line->onlyShows() == (line->showOptions || line->summary));
+    require(line->submits() == !(line->showOptions || line->summary || line->check));
     checkOptions(line->request.options);
     return 0;
 }

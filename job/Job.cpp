@@ -24,18 +24,45 @@ void Job::open(Destination destination, const JobOptions &asked)
     Q_EMIT changed();
 }
 
+void Job::reopen(const QString &instance, const JobOptions &saved, const JobOptions &asked)
+{
+    if (!mDestination.queue) {
+        return;
+    }
+    takeFreshPpd();
+    mDestination.queue->instance = instance;
+    mDestination.queue->options = saved;
+    clearOptions();
+    describePrinter();
+    layDownOptions(asked);
+    Q_EMIT changed();
+}
+
+void Job::takeFreshPpd()
+{
+    if (PpdFile fresh = freshCopy(mDestination.ppd)) {
+        mDestination.ppd = std::move(fresh);
+        translateTexts(ppd(), mLanguages);
+    }
+}
+
 void Job::close()
+{
+    clearOptions();
+    mPrinter = {};
+    mOpenedWith = {};
+    mDestination = {};
+}
+
+void Job::clearOptions()
 {
     mSession = {};
     mSettings = {};
     mPageFormat = {};
-    mPrinter = {};
     mOptions = {};
     mLaidDown = {};
     mTape = {};
     mChosen = {};
-    mOpenedWith = {};
-    mDestination = {};
 }
 
 void Job::describePrinter()
@@ -143,13 +170,11 @@ void Job::changePaperLength(double lengthMm)
     Q_EMIT changed();
 }
 
-void Job::makeDefaultsOfOptions()
+void Job::renewPpd()
 {
-    for (const auto &[key, value] : mOptions.entries()) {
-        if (isNumber(value) || !listedChoice(ppd(), key, value).isNull()) {
-            setDefaultChoice(ppd(), key, value);
-        }
-    }
+    takeFreshPpd();
+    JobOptions already = mOptions;
+    layDown(mOptions, ppd(), &already);
 }
 
 void Job::setCopies(int copies)
@@ -181,7 +206,9 @@ void Job::setPaperLengthMm(double lengthMm)
 
 Job::Snapshot Job::takeSnapshot() const
 {
-    return {mOptions, takeMarks(ppd()), takeDefaults(ppd()), mPageFormat, mSettings};
+    const PrintQueue queue = mDestination.queue.value_or(PrintQueue());
+    return {mOptions,         mLaidDown,           queue.instance, queue.options,
+            takeMarks(ppd()), takeDefaults(ppd()), mPageFormat,    mSettings};
 }
 
 void Job::revert()
@@ -189,7 +216,12 @@ void Job::revert()
     const JobOptions left = std::exchange(mOptions, mOpenedWith.options);
     putMarks(ppd(), mOpenedWith.marks);
     putDefaults(ppd(), mOpenedWith.defaults);
-    mChosen = mLaidDown;
+    mChosen = mLaidDown = mOpenedWith.laidDown;
+    if (mDestination.queue) {
+        mDestination.queue->instance = mOpenedWith.instance;
+        mDestination.queue->options = mOpenedWith.saved;
+        describePrinter();
+    }
     mPageFormat = mOpenedWith.pageFormat;
     mSettings = mOpenedWith.settings;
 

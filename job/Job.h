@@ -33,6 +33,11 @@ public:
     /// Takes a destination and lays down its saved options and those asked for, which have the last word. Whoever
     /// borrowed the objects of an earlier destination must have let go of them.
     void open(Destination destination, const JobOptions &asked);
+    /// Opens the queue that is open once more, with other saved options: nothing that was marked or set in the PPD
+    /// until now is left, and nobody is asked for anything. What revert() goes back to stays. Whoever borrowed the
+    /// objects must have let go of them. Does nothing without a queue. \param instance the instance that the saved
+    /// options belong to; empty for the queue itself.
+    void reopen(const QString &instance, const JobOptions &saved, const JobOptions &asked);
     /// Lets go of the destination and its PPD.
     void close();
 
@@ -66,9 +71,9 @@ public:
     void changeOption(const QString &key, const QString &choice);
     /// The paper becomes a tape of another length. Panels take it over when they are shown again.
     void changePaperLength(double lengthMm);
-    /// The choices that the job carries become the defaults of this PPD copy, from which panels that are made anew
-    /// start.
-    void makeDefaultsOfOptions();
+    /// The job's options are laid down in a PPD that is as it came, and become its defaults, from which panels that are
+    /// made anew start. Whoever borrowed the PPD must have let go of it.
+    void renewPpd();
     /// The number of copies, at least 1.
     void setCopies(int copies);
     int copies() const;
@@ -77,7 +82,7 @@ public:
     void rememberAsOpened() { mOpenedWith = takeSnapshot(); }
     /// The options of the job that revert() goes back to.
     const JobOptions &openedWith() const { return mOpenedWith.options; }
-    /// Goes back to the remembered job. Each option that changes by it is told as a change.
+    /// Goes back to the remembered job, its instance and its marks. Each option that changes by it is told as a change.
     void revert();
 
 Q_SIGNALS:
@@ -90,6 +95,9 @@ private:
     /// What "the values that the dialog was opened with" are.
     struct Snapshot {
         JobOptions options;
+        JobOptions laidDown;
+        QString instance; ///< of the queue
+        JobOptions saved; ///< for the queue or instance
         PpdMarks marks;
         PpdMarks defaults;
         pdekit::PageFormat pageFormat;
@@ -101,6 +109,8 @@ private:
     void layDownPages();
     void record(const QString &key, const QString &choice);
     void followMarkedTape();
+    void takeFreshPpd();
+    void clearOptions();
     void setPaperLengthMm(double lengthMm);
     Snapshot takeSnapshot() const;
 

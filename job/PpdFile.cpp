@@ -11,8 +11,11 @@
 
 #include <array>
 #include <memory>
+#include <utility>
 
+#include <sys/mman.h>
 #include <sys/types.h>
+#include <unistd.h>
 
 #include <cups/file.h>
 
@@ -46,6 +49,29 @@ bool isCutOff(const QString &path)
     return bytes != stated;
 }
 
+/// Nothing of this size describes a printer: it is not read into memory.
+constexpr qint64 mostBytes = qint64{64} << 20;
+
+/// Parses bytes as libcups parses a file, by a file that stands in memory alone.
+PpdFile parse(const QByteArray &bytes)
+{
+    const int memory = memfd_create("ppd", MFD_CLOEXEC);
+    QFile file;
+    if (memory < 0 || !file.open(memory, QIODevice::WriteOnly, QFileDevice::DontCloseHandle) ||
+        file.write(bytes) != bytes.size() || !file.flush() || lseek(memory, 0, SEEK_SET) != 0) {
+        if (memory >= 0) {
+            ::close(memory);
+        }
+        return nullptr;
+    }
+    file.close();
+    PpdFile ppd(ppdOpenFd(memory), PpdCloser{bytes}); // closes the file
+    if (ppd) {
+        ppdMarkDefaults(ppd.get());
+    }
+    return ppd;
+}
+
 } // namespace
 
 PpdFile openPpdFile(const QString &path, Problem *error, const QString &shownAs)
@@ -62,6 +88,12 @@ PpdFile openPpdFile(const QString &path, Problem *error, const QString &shownAs)
                   Texts::tr("The PPD file %1 cannot be read (%2): name a readable PPD file.").arg(name, reason)};
         return nullptr;
     }
+    const QByteArray bytes = file.read(mostBytes + 1);
+    if (bytes.size() > mostBytes) {
+        *error = {Problem::BadDescription,
+                  Texts::tr("The PPD file %1 is too large for one: name a PPD file.").arg(name)};
+        return nullptr;
+    }
     file.close();
     if (isCutOff(path)) {
         *error = {Problem::BadDescription,
@@ -69,17 +101,21 @@ PpdFile openPpdFile(const QString &path, Problem *error, const QString &shownAs)
         return nullptr;
     }
 
-    PpdFile ppd(ppdOpenFile(QFile::encodeName(path).constData()));
+    PpdFile ppd = parse(bytes);
     if (!ppd) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
         *error = {Problem::BadDescription,
                   Texts::tr("The PPD file %1 is not valid, line %2: %3. Correct the file or name another.")
                       .arg(name, QString::number(line), harmless(QString::fromUtf8(ppdErrorString(status))))};
-        return nullptr;
     }
-    ppdMarkDefaults(ppd.get());
     return ppd;
+}
+
+PpdFile freshCopy(const PpdFile &ppd)
+{
+    const QByteArray &source = ppd.get_deleter().source;
+    return source.isEmpty() ? nullptr : parse(source);
 }
 
 } // namespace tapeprint::job

@@ -3,6 +3,7 @@
 #include "job/Printing.h"
 
 #include "job/Conversion.h"
+#include "job/DocumentCheck.h"
 #include "job/LaidOutJob.h"
 #include "job/OutputFile.h"
 #include "job/PrivateFile.h"
@@ -58,6 +59,11 @@ QString PrintedJob::sentence() const
         .arg(queue, QString::number(job.id), Texts::tr(job.state.toLatin1().constData()));
 }
 
+bool isPrintable(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop, Problem *error)
+{
+    return job.page.isTape ? layOut(job, files, stop, error) != nullptr : areWhole(files, error);
+}
+
 std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
                                    const std::atomic<bool> &stop, Problem *error, const SendReport &report)
 {
@@ -69,6 +75,8 @@ std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, 
             return std::nullopt;
         }
         printed = {labels->path()};
+    } else if (!areWhole(files, error)) {
+        return std::nullopt;
     }
     if (job.isFile()) {
         const std::optional<FilterOutput> output =

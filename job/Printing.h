@@ -26,6 +26,10 @@ struct PrintedJob {
     QString sentence() const;
 };
 
+/// Whether documents could be printed, without printing them: for tape they are laid out on labels and thrown away.
+/// \param error takes a sentence when they could not.
+bool isPrintable(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop, Problem *error);
+
 /// Prints documents, away from a window's thread if one is there, to the job's destination: for tape laid out on
 /// labels, for paper as they are, because the filters lay those out. \param title the job's title; \param files the
 /// documents, only read. \param stop when it becomes true, printing ends with nothing printed. \return what became of

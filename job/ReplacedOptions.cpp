@@ -5,6 +5,8 @@
 #include "job/PpdMarks.h"
 #include "job/Texts.h"
 
+#include <cmath>
+
 namespace tapeprint::job
 {
 
@@ -20,6 +22,13 @@ bool sameValue(const QString &left, const QString &right)
 }
 
 } // namespace
+
+bool ReplacedOption::isRounding() const
+{
+    constexpr double finestStep = 0.1;
+    return isNumber(laidDown.second) && isNumber(carried.second) &&
+           std::abs(laidDown.second.toDouble() - carried.second.toDouble()) < finestStep;
+}
 
 QString ReplacedOption::sentence(ppd_file_t *ppd, const QString &panel) const
 {

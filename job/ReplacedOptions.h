@@ -17,6 +17,9 @@ struct ReplacedOption {
     JobOptions::Entry laidDown;
     JobOptions::Entry carried;
 
+    /// Whether the job carries the same as nearly as a panel's steps allow: lengths that differ by less than a tenth of
+    /// a millimetre, which is the finest step there is.
+    bool isRounding() const;
     /// Why the job carries another value, and which. \param ppd tells what the printer has, may be null; \param panel
     /// the name of the panel that sent the other value.
     QString sentence(ppd_file_t *ppd, const QString &panel) const;

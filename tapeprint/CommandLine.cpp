@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
-// The command line's parser. lp accepts letters joined with their value ("-dQUEUE") and several options in one -o.
+// The command line's parser. As with lp, letters without a value may stand together ("-sc"), and a letter's value may
+// stand beside it ("-dQUEUE").
 #include "tapeprint/CommandLine.h"
 
-#include "job/CupsOptions.h"
 #include "tapeprint/ExitStatus.h"
+#include "tapeprint/ProgramOptions.h"
 
-#include <QRegularExpression>
-
-#include <array>
+#include <algorithm>
 
 namespace tapeprint
 {
@@ -15,207 +14,142 @@ namespace tapeprint
 namespace
 {
 
-bool takeQueue(CommandLine &line, const QString &value, job::Problem *error)
+using job::Problem;
+
+const ProgramOption *findOption(const QString &name)
 {
-    const job::QueueName name = job::QueueName::parse(value);
-    line.request.queue = name.queue;
-    line.request.instance = name.instance;
-    if (name.queue.isEmpty()) {
-        *error = {job::Problem::BadUsage,
-                  QStringLiteral("-d needs the name of a print queue: -d QUEUE or -d QUEUE/INSTANCE.")};
-        return false;
-    }
-    return true;
+    const auto options = programOptions();
+    const auto found = std::find_if(options.begin(), options.end(), [&name](const ProgramOption &option) {
+        return name == QLatin1String(option.name);
+    });
+    return found == options.end() ? nullptr : &*found;
 }
 
-bool takeCopies(CommandLine &line, const QString &value, job::Problem *error)
+/// The arguments, taken one after the other.
+class Parser
 {
-    bool isNumber = false;
-    const int copies = value.toInt(&isNumber);
-    if (!isNumber || copies < 1) {
-        *error = {job::Problem::BadUsage,
-                  QStringLiteral("\"%1\" is no number of copies: give -n a whole number from 1.").arg(value)};
-        return false;
-    }
-    line.request.options.set(job::OptionName::copies, QString::number(copies));
-    return true;
-}
+public:
+    Parser(const QStringList &arguments, Problem *error) : mArguments(arguments), mError(error) {}
 
-bool takePages(CommandLine &line, const QString &value, job::Problem *error)
-{
-    static const QRegularExpression ranges(QStringLiteral(R"(\A[1-9]\d*(-([1-9]\d*)?)?(,[1-9]\d*(-([1-9]\d*)?)?)*\z)"));
-    if (!ranges.match(value).hasMatch()) {
-        *error = {
-            job::Problem::BadUsage,
-            QStringLiteral("\"%1\" is no list of pages: give -P page numbers and ranges such as 1-4,7.").arg(value)};
-        return false;
-    }
-    line.request.options.set(job::OptionName::pageRanges, value);
-    return true;
-}
-
-bool takeOptions(CommandLine &line, const QString &value, job::Problem *error)
-{
-    job::CupsOptions parsed;
-    parsed.parse(value.toUtf8());
-    if (parsed.count() == 0) {
-        *error = {job::Problem::BadUsage, QStringLiteral("\"%1\" is no option: give -o a NAME=VALUE.").arg(value)};
-        return false;
-    }
-    for (const cups_option_t &option : parsed) {
-        const QString name = QString::fromUtf8(option.name);
-        const QString text = QString::fromUtf8(option.value);
-        // The print server drops collections without a word: the filter would never see them.
-        if (text.startsWith(u'{')) {
-            *error = {job::Problem::BadUsage,
-                      QStringLiteral("The value of option %1 is in braces, which the print server drops: "
-                                     "give %1 a plain value.")
-                          .arg(name)};
-            return false;
-        }
-        line.request.options.set(name, text);
-    }
-    return true;
-}
-
-bool takeTitle(CommandLine &line, const QString &value, job::Problem * /*error*/)
-{
-    line.request.title = value;
-    return true;
-}
-
-bool takePpd(CommandLine &line, const QString &value, job::Problem *error)
-{
-    line.request.ppdPath = value;
-    if (value.isEmpty()) {
-        *error = {job::Problem::BadUsage, QStringLiteral("--ppd needs the name of a PPD file.")};
-    }
-    return !value.isEmpty();
-}
-
-bool takeOutput(CommandLine &line, const QString &value, job::Problem *error)
-{
-    line.request.outputPath = value;
-    if (value.isEmpty()) {
-        *error = {job::Problem::BadUsage, QStringLiteral("--output needs the name of a file.")};
-    }
-    return !value.isEmpty();
-}
-
-struct ValueOption {
-    QLatin1String name;
-    bool (*take)(CommandLine &line, const QString &value, job::Problem *error);
-};
-
-struct Flag {
-    QLatin1String name;
-    bool CommandLine::*member; ///< null: accepted for lp's sake, without a meaning here
-};
-
-const std::array valueOptions{
-    ValueOption{QLatin1String("-d"), takeQueue},        ValueOption{QLatin1String("-n"), takeCopies},
-    ValueOption{QLatin1String("-o"), takeOptions},      ValueOption{QLatin1String("-P"), takePages},
-    ValueOption{QLatin1String("-t"), takeTitle},        ValueOption{QLatin1String("--ppd"), takePpd},
-    ValueOption{QLatin1String("--output"), takeOutput},
-};
-
-const std::array flags{
-    Flag{QLatin1String("--no-dialog"), &CommandLine::noDialog},
-    Flag{QLatin1String("--fit-length"), &CommandLine::fitLength},
-    Flag{QLatin1String("--show-options"), &CommandLine::showOptions},
-    Flag{QLatin1String("--summary"), &CommandLine::summary},
-    Flag{QLatin1String("--help"), &CommandLine::help},
-    Flag{QLatin1String("--version"), &CommandLine::version},
-    Flag{QLatin1String("--trust-ppd"), &CommandLine::trustPpd},
-    Flag{QLatin1String("-s"), &CommandLine::silent},
-    Flag{QLatin1String("-c"), nullptr},
-};
-
-bool takeFlag(CommandLine &line, const QString &argument)
-{
-    for (const Flag &flag : flags) {
-        if (argument == flag.name) {
-            if (flag.member != nullptr) {
-                line.*flag.member = true;
+    bool takeAll()
+    {
+        bool onlyFiles = false;
+        while (mNext < mArguments.size()) {
+            const QString &argument = mArguments.at(mNext++);
+            if (argument == u"-" && !onlyFiles) {
+                continue; // stands for standard input, which is read when no file is named
             }
-            return true;
+            if (onlyFiles || !argument.startsWith(u'-')) {
+                line.files.append(argument);
+            } else if (argument == u"--") {
+                onlyFiles = true;
+            } else if (!(argument.startsWith(QLatin1String("--")) ? takeLong(argument) : takeLetters(argument))) {
+                return false;
+            }
         }
+        return true;
     }
-    return false;
-}
 
-/// The option that an argument names, and the value joined with it: "-dQUEUE", "--ppd=FILE". A null value: it follows.
-std::pair<const ValueOption *, QString> findValueOption(const QString &argument)
-{
-    for (const ValueOption &option : valueOptions) {
-        if (argument == option.name) {
-            return {&option, QString()};
-        }
-        const bool isLong = option.name.startsWith(QLatin1String("--"));
-        const qsizetype valueAt = option.name.size() + (isLong ? 1 : 0);
-        if (argument.startsWith(option.name) && (!isLong || argument.at(option.name.size()) == u'=')) {
-            return {&option, argument.mid(valueAt)};
-        }
+    CommandLine line;
+
+private:
+    bool fail(const QString &sentence)
+    {
+        *mError = {Problem::BadUsage, sentence};
+        return false;
     }
-    return {nullptr, QString()};
-}
 
-bool fitsTogether(const CommandLine &line, job::Problem *error)
+    bool isNone(const QString &argument)
+    {
+        return fail(QStringLiteral("%1 is no option of tapeprint: see tapeprint --help.").arg(argument));
+    }
+
+    bool takeLong(const QString &argument)
+    {
+        const qsizetype equals = argument.indexOf(u'=');
+        const ProgramOption *option = findOption(argument.left(equals));
+        if (option == nullptr || (!option->takesValue() && equals >= 0)) {
+            return isNone(argument);
+        }
+        return equals < 0 ? takeNext(*option) : option->take(line, argument.mid(equals + 1), mError);
+    }
+
+    bool takeLetters(const QString &argument)
+    {
+        for (qsizetype i = 1; i < argument.size(); ++i) {
+            const ProgramOption *option = findOption(QLatin1Char('-') + argument.sliced(i, 1));
+            if (option == nullptr) {
+                const QString instead = insteadOfLetter(argument.at(i));
+                return instead.isNull() ? isNone(i == 1 ? argument : u'-' + argument.sliced(i, 1)) : fail(instead);
+            }
+            if (option->takesValue()) {
+                return i + 1 < argument.size() ? option->take(line, argument.mid(i + 1), mError) : takeNext(*option);
+            }
+            if (!option->take(line, QString(), mError)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    /// Takes an option whose value, if it has one, is the next argument.
+    bool takeNext(const ProgramOption &option)
+    {
+        if (!option.takesValue()) {
+            return option.take(line, QString(), mError);
+        }
+        if (mNext == mArguments.size()) {
+            return fail(QStringLiteral("%1 needs a value: see tapeprint --help.").arg(QLatin1String(option.name)));
+        }
+        return option.take(line, mArguments.at(mNext++), mError);
+    }
+
+    const QStringList &mArguments;
+    qsizetype mNext = 0;
+    Problem *mError;
+};
+
+bool fitsTogether(const CommandLine &line, Problem *error)
 {
     if (!line.request.outputPath.isEmpty() && line.request.ppdPath.isEmpty()) {
-        *error = {job::Problem::BadUsage,
+        *error = {Problem::BadUsage,
                   QStringLiteral("--output goes with --ppd: without a PPD file the job goes to a print queue.")};
         return false;
     }
     if (line.trustPpd && line.request.ppdPath.isEmpty()) {
-        *error = {job::Problem::BadUsage,
+        *error = {Problem::BadUsage,
                   QStringLiteral("--trust-ppd goes with --ppd: it is about the programs of that PPD file.")};
+        return false;
+    }
+    if (line.json && line.request.outputPath == u"-") {
+        *error = {Problem::BadUsage,
+                  QStringLiteral("--json and --output - both write to standard output: give the output a name.")};
         return false;
     }
     return true;
 }
 
+/// An option's line of --help: what it is, and from a column on what it does.
+QString helpOf(const ProgramOption &option)
+{
+    constexpr int column = 25;
+    QString text = QStringLiteral("  ") + QLatin1String(option.name);
+    if (option.takesValue()) {
+        text += u' ' + QLatin1String(option.valueName);
+    }
+    const QString indent = u'\n' + QString(column, u' ');
+    return text.leftJustified(column) + QString::fromUtf8(option.help).replace(u'\n', indent) + u'\n';
+}
+
 } // namespace
 
-std::optional<CommandLine> parseCommandLine(const QStringList &arguments, job::Problem *error)
+std::optional<CommandLine> parseCommandLine(const QStringList &arguments, Problem *error)
 {
-    CommandLine line;
-    bool onlyFiles = false;
-    for (qsizetype i = 0; i < arguments.size(); ++i) {
-        const QString &argument = arguments.at(i);
-        // "-" alone stands for standard input, which is read when no file is named.
-        if (argument == u"-" && !onlyFiles) {
-            continue;
-        }
-        if (onlyFiles || !argument.startsWith(u'-')) {
-            line.files.append(argument);
-            continue;
-        }
-        if (argument == u"--") {
-            onlyFiles = true;
-            continue;
-        }
-        if (takeFlag(line, argument)) {
-            continue;
-        }
-        auto [option, value] = findValueOption(argument);
-        if (option == nullptr) {
-            *error = {job::Problem::BadUsage,
-                      QStringLiteral("%1 is no option of tapeprint: see tapeprint --help.").arg(argument)};
-            return std::nullopt;
-        }
-        if (value.isNull()) {
-            if (++i == arguments.size()) {
-                *error = {job::Problem::BadUsage,
-                          QStringLiteral("%1 needs a value: see tapeprint --help.").arg(argument)};
-                return std::nullopt;
-            }
-            value = arguments.at(i);
-        }
-        if (!option->take(line, value, error)) {
-            return std::nullopt;
-        }
+    Parser parser(arguments, error);
+    if (!parser.takeAll()) {
+        return std::nullopt;
     }
+    CommandLine &line = parser.line;
     if (line.fitLength) {
         line.request.options.set(job::OptionName::fitLength, QStringLiteral("true"));
     }
@@ -226,35 +160,16 @@ std::optional<CommandLine> parseCommandLine(const QStringList &arguments, job::P
 
 QString commandLineHelp()
 {
-    return QStringLiteral(
-               "Usage: tapeprint [-d QUEUE[/INSTANCE]] [-n COPIES] [-o NAME=VALUE]... [-P PAGES] [-t TITLE]\n"
-               "                 [--ppd FILE [--output FILE] [--trust-ppd]] [--fit-length] [--no-dialog]\n"
-               "                 [--show-options] [--summary] [FILE...]\n"
-               "\n"
-               "Opens the print dialog for tape and label printers. Without FILE, standard input is printed.\n"
-               "\n"
-               "  -d QUEUE[/INSTANCE]  the print queue; without it, the default printer\n"
-               "  -n COPIES            the number of copies\n"
-               "  -o NAME=VALUE        an option of the job; several may stand in one -o, separated by blanks\n"
-               "  -P PAGES             the pages to print, such as 1-4,7\n"
-               "  -t TITLE             the title of the job\n"
-               "  -s                   say nothing about a job that went well\n"
-               "  -c                   accepted for the sake of lp\n"
-               "  --ppd FILE           take the printer's description from a PPD file; without -d no print server is\n"
-               "                       needed: the document runs through the filters that the PPD names\n"
-               "  --output FILE        with --ppd: where the printer's bytes go, - for standard output; no print queue "
-               "is\n"
-               "                       used\n"
-               "  --trust-ppd          with --ppd: run programs and commands of its own that the PPD file names\n"
-               "  --fit-length         make the tape as long as what is drawn on the document needs, with both "
-               "margins\n"
-               "  --no-dialog          do the same job without a window\n"
-               "  --show-options       print the options that the job would carry, and submit nothing\n"
-               "  --summary            print the summary of the job as \"title: value\" lines, and submit nothing\n"
-               "  --help               print this text\n"
-               "  --version            print the version\n"
-               "\n") +
-           exitStatusHelp();
+    QString text =
+        QStringLiteral("Usage: tapeprint [-d QUEUE[/INSTANCE]] [-n COPIES] [-o NAME=VALUE]... [-P PAGES] [-t TITLE]\n"
+                       "                 [--ppd FILE [--output FILE] [--trust-ppd]] [OPTION]... [--] [FILE]...\n"
+                       "\n"
+                       "Opens the print dialog for tape and label printers. Without FILE, standard input is printed.\n"
+                       "\n");
+    for (const ProgramOption &option : programOptions()) {
+        text += option.help == nullptr ? QString() : helpOf(option);
+    }
+    return text + u'\n' + exitStatusHelp();
 }
 
 } // namespace tapeprint

@@ -25,11 +25,23 @@ struct CommandLine {
     bool help = false;
     bool version = false;
     bool trustPpd = false;
-    bool silent = false; ///< -s: say nothing about a job that went well
-    QStringList files;   ///< none: standard input
+    bool silent = false;   ///< -s: say nothing about a job that went well
+    bool adjusts = false;  ///< a value that is not taken as it is does not keep the job from being printed
+    QString server;        ///< -h HOST:PORT; empty: the one that CUPS is set up for
+    QString user;          ///< -U USER; empty: the person's own
+    bool encrypts = false; ///< -E: no connection that is not encrypted
+    QStringList files;     ///< none: standard input
 
-    /// Whether the options are only shown and nothing is printed.
-    bool onlyShows() const { return showOptions || summary; }
+    bool check = false; ///< see whether the job would be printed
+    bool json = false;  ///< everything that is said is one JSON object
+    QString complete;   ///< what a shell asks for to complete a line; null: nothing
+
+    /// Whether the options are only shown.
+    bool onlyShows() const { return (showOptions || summary) && !check; }
+    /// Whether there is to be a job at all.
+    bool submits() const { return !showOptions && !summary && !check; }
+    /// Whether the documents are needed.
+    bool readsDocuments() const { return !onlyShows(); }
 };
 
 /// Reads the arguments that follow the program's name. \param error takes a sentence about what is wrong.

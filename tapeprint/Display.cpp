@@ -2,14 +2,22 @@
 // A display is there when its local socket takes a connection; displays on other machines are taken at their word.
 #include "tapeprint/Display.h"
 
+#include "tapeprint/JsonReport.h"
+#include "tapeprint/RunReport.h"
+
 #include <QByteArray>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QString>
 
 #include <algorithm>
+#include <csignal>
 #include <cstddef>
 #include <cstring>
+#include <utility>
+#include <vector>
 
+#include <fcntl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -42,6 +50,38 @@ bool takesConnection(const QByteArray &path, bool isAbstract)
     return connected;
 }
 
+job::Problem unusableDisplay()
+{
+    const QByteArray xDisplay = qgetenv("DISPLAY");
+    const QString name = QString::fromLocal8Bit(xDisplay.isEmpty() ? qgetenv("WAYLAND_DISPLAY") : xDisplay);
+    return {job::Problem::General,
+            QStringLiteral("The display %1 cannot be used: see that it runs and lets you in, or print without a window "
+                           "with --no-dialog.")
+                .arg(name)};
+}
+
+// What is said when the toolkit cannot start: put together beforehand, because a signal handler may not.
+constexpr unsigned patienceSeconds = 10;
+QByteArray lastWords;
+int lastWordsGoTo = STDERR_FILENO;
+std::vector<std::pair<QtMsgType, QString>> remarks;
+QtMessageHandler nextMessageHandler = nullptr;
+
+[[noreturn]] void endHere()
+{
+    const ssize_t written = write(lastWordsGoTo, lastWords.constData(), static_cast<std::size_t>(lastWords.size()));
+    static_cast<void>(written); // there is nobody left to tell
+    _exit(1);
+}
+
+void keepRemark(QtMsgType type, const QMessageLogContext & /*context*/, const QString &text)
+{
+    if (type == QtFatalMsg) {
+        endHere();
+    }
+    remarks.emplace_back(type, text);
+}
+
 bool xServerAnswers(const QByteArray &display)
 {
     const auto colon = display.lastIndexOf(':');
@@ -64,16 +104,59 @@ bool waylandAnswers(const QByteArray &display)
 
 } // namespace
 
-bool hasDisplay()
+job::Problem displayProblem()
 {
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    if (platform.startsWith("offscreen") || platform.startsWith("minimal")) {
-        return false;
-    }
+    const bool isBlind = platform.startsWith("offscreen") || platform.startsWith("minimal");
     const QByteArray xDisplay = qgetenv("DISPLAY");
     const QByteArray waylandDisplay = qgetenv("WAYLAND_DISPLAY");
-    return (!xDisplay.isEmpty() && xServerAnswers(xDisplay)) ||
-           (!waylandDisplay.isEmpty() && waylandAnswers(waylandDisplay));
+    if (isBlind || (xDisplay.isEmpty() && waylandDisplay.isEmpty())) {
+        return {job::Problem::General, QStringLiteral("There is no display for the window: set DISPLAY, or print "
+                                                      "without a window with --no-dialog.")};
+    }
+    const bool answers = (!xDisplay.isEmpty() && xServerAnswers(xDisplay)) ||
+                         (!waylandDisplay.isEmpty() && waylandAnswers(waylandDisplay));
+    return answers ? job::Problem() : unusableDisplay();
+}
+
+ToolkitStart::ToolkitStart(bool showsWindow, bool asJson)
+{
+    const RunReport report = failedRun(
+        showsWindow ? unusableDisplay()
+                    : job::Problem(job::Problem::General,
+                                   QStringLiteral("The toolkit cannot start: see that it is installed as a whole.")));
+    lastWords = asJson ? jsonText(report) : "tapeprint: " + report.messages.first().toLocal8Bit() + '\n';
+    lastWordsGoTo = asJson ? STDOUT_FILENO : STDERR_FILENO;
+    remarks.clear();
+    nextMessageHandler = qInstallMessageHandler(keepRemark);
+    if (!showsWindow) {
+        return;
+    }
+    // A display that lets nobody in has its refusal written to standard error by the library below the toolkit.
+    mStandardError = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    if (const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC); mStandardError >= 0 && nowhere >= 0) {
+        dup2(nowhere, STDERR_FILENO);
+        close(nowhere);
+    }
+    if (!asJson && mStandardError >= 0) {
+        lastWordsGoTo = mStandardError;
+    }
+    std::signal(SIGALRM, [](int) { endHere(); });
+    alarm(patienceSeconds);
+}
+
+ToolkitStart::~ToolkitStart()
+{
+    alarm(0);
+    std::signal(SIGALRM, SIG_DFL);
+    if (mStandardError >= 0) {
+        dup2(mStandardError, STDERR_FILENO);
+        close(mStandardError);
+    }
+    qInstallMessageHandler(nextMessageHandler);
+    for (const auto &[type, text] : remarks) {
+        qt_message_output(type, QMessageLogContext(), text);
+    }
 }
 
 } // namespace tapeprint

@@ -5,12 +5,14 @@
 #include "dialog/GatheredAlerts.h"
 #include "dialog/Panels.h"
 #include "job/DocumentSpool.h"
+#include "job/LaidDownOptions.h"
 #include "job/LaidOutJob.h"
 #include "job/PageLayout.h"
 #include "job/Printing.h"
+#include "job/QueueCheck.h"
+#include "job/RefusedValues.h"
+#include "tapeprint/JsonReport.h"
 #include "tapeprint/OutputPath.h"
-
-#include <QScopeGuard>
 
 #include <atomic>
 
@@ -87,66 +89,156 @@ bool fitLength(job::Job &job, const QStringList &files, QStringList &messages, j
     return true;
 }
 
+/// A sentence for each value that the command line asks for and the job does not carry as it was asked.
+QStringList notCarriedAsAsked(const job::Job &job, const dialog::Panels &panels, const job::JobOptions &options)
+{
+    const job::JobOptions asked = job::withNamedSize(options, job.ppd());
+    const auto isPanels = [&job, &panels](const QString &key) {
+        return panels.announced(key) || key == job.tape().lengthOption || key == job.tape().marginOption;
+    };
+    return job::refusedValues(job.ppd(), asked, isPanels) + panels.replacements(asked);
+}
+
+/// The run, step by step. A step that fails leaves a problem, and the run ends with it.
+class UnattendedRun
+{
+public:
+    explicit UnattendedRun(const CommandLine &line) : mLine(line), mPanels(mJob, dialog::bundleSearchPath()) {}
+
+    RunReport run()
+    {
+        const bool isDone = open() && settle() && show() && (!mLine.check || check()) && (!mLine.submits() || print());
+        if (mIsOpen) { // however it ends, the panels hear of it
+            addNotices();
+            mPanels.windowWillClose(mIsPrinted);
+        }
+        if (!isDone) {
+            mReport.problem = mProblem;
+            mReport.status = exitStatus(mProblem.kind);
+            mReport.output.clear();
+            mReport.messages = {mProblem.sentence};
+        } else if (!mRefusals.isEmpty() && !mLine.adjusts) {
+            // Shown all the same: one sees what would become of the values.
+            mReport.problem = refusal();
+            mReport.status = exitStatus(job::Problem::RefusedValue);
+        }
+        return mReport;
+    }
+
+private:
+    bool open()
+    {
+        job::JobRequest request = mLine.request;
+        const bool fitsLength = job::layoutChoicesOf(request.options).fitLength; // by --fit-length or by -o
+        if (mLine.readsDocuments() || fitsLength) {
+            mDocuments = job::DocumentSpool::collect(mLine.files, &mProblem);
+            if (!mDocuments) {
+                return false;
+            }
+            request.documents = mDocuments->sources();
+            nameOutput(request, mDocuments->title(QString()));
+        }
+        std::optional<job::Destination> destination = job::openDestination(request, &mProblem);
+        if (!destination) {
+            return false;
+        }
+        mReport.data.insert(QStringLiteral("printer"), jsonPrinter(*destination));
+        mPanels.open(std::move(*destination), request.options);
+        mIsOpen = true;
+        return !fitsLength || fitLength(mJob, mDocuments->files(), mReport.messages, &mProblem);
+    }
+
+    bool settle()
+    {
+        if (!settleJob(mPanels, mAlerts, &mProblem)) {
+            return false;
+        }
+        mRefusals = notCarriedAsAsked(mJob, mPanels, mLine.request.options);
+        if (!mRefusals.isEmpty() && !mLine.adjusts && !mLine.onlyShows()) {
+            mProblem = refusal();
+            return false;
+        }
+        return true;
+    }
+
+    bool show()
+    {
+        const job::JobOptions carried = job::settle(mJob).carried();
+        if (mLine.showOptions) {
+            mReport.output += carried.lines();
+        }
+        if (mLine.summary) {
+            mReport.output += summaryLines(mPanels);
+        }
+        mReport.data.insert(QStringLiteral("options"), jsonOptions(carried));
+        mReport.data.insert(QStringLiteral("summary"), jsonSummary(mPanels));
+        return true;
+    }
+
+    /// Everything that printing would stumble over, as far as it can be known without doing it.
+    bool check()
+    {
+        const job::SettledJob settled = job::settle(mJob);
+        if (!job::isPrintable(settled, mDocuments->files(), neverStopped, &mProblem) ||
+            (!settled.isFile() && !job::takesJobs(*settled.queue, &mProblem))) {
+            return false;
+        }
+        if (!mLine.silent) {
+            mReport.output.append(QStringLiteral("Everything is in order: nothing was printed."));
+        }
+        return true;
+    }
+
+    bool print()
+    {
+        if (!job::areUnchanged(mDocuments->sources(), &mProblem)) {
+            return false;
+        }
+        const std::optional<job::PrintedJob> printed = job::printJob(
+            job::settle(mJob), mDocuments->title(mLine.request.title), mDocuments->files(), neverStopped, &mProblem);
+        if (!printed) {
+            return false;
+        }
+        mIsPrinted = true;
+        mReport.data.insert(QStringLiteral("job"), jsonJob(*printed));
+        if (!mLine.silent) {
+            mReport.output.append(printed->sentence());
+        }
+        return true;
+    }
+
+    void addNotices()
+    {
+        const QString notice = job::lengthNotice(mJob.page());
+        mReport.messages += mRefusals + mJob.notices() + mPanels.notices() + mAlerts.lines() +
+                            (notice.isNull() ? QStringList() : QStringList{notice});
+        mReport.messages.removeDuplicates();
+    }
+
+    job::Problem refusal() const
+    {
+        return {job::Problem::RefusedValue,
+                mRefusals.join(u' ') + QStringLiteral(" Nothing was printed: give other values, or repeat with "
+                                                      "--adjust to print all the same.")};
+    }
+
+    const CommandLine &mLine;
+    const dialog::GatheredAlerts mAlerts;
+    job::Job mJob;
+    dialog::Panels mPanels;
+    std::optional<job::DocumentSpool> mDocuments;
+    QStringList mRefusals;
+    job::Problem mProblem;
+    RunReport mReport;
+    bool mIsOpen = false;
+    bool mIsPrinted = false;
+};
+
 } // namespace
 
 RunReport runUnattended(const CommandLine &line)
 {
-    job::Problem error;
-    job::JobRequest request = line.request;
-    const bool fitsLength = job::layoutChoicesOf(request.options).fitLength; // by --fit-length or by -o
-    std::optional<job::DocumentSpool> documents;
-    if (!line.onlyShows() || fitsLength) {
-        documents = job::DocumentSpool::collect(line.files, &error);
-        if (!documents) {
-            return failedRun(error);
-        }
-        request.documents = documents->sources();
-        nameOutput(request, documents->title(QString()));
-    }
-    std::optional<job::Destination> destination = job::openDestination(request, &error);
-    if (!destination) {
-        return failedRun(error);
-    }
-
-    const dialog::GatheredAlerts alerts;
-    job::Job job;
-    dialog::Panels panels(job, dialog::bundleSearchPath());
-    panels.open(std::move(*destination), request.options);
-    // However it ends, the panels hear of it.
-    bool printed = false;
-    const auto close = qScopeGuard([&panels, &printed] { panels.windowWillClose(printed); });
-
-    RunReport report;
-    if (fitsLength && !fitLength(job, documents->files(), report.messages, &error)) {
-        return failedRun(error);
-    }
-    if (!settleJob(panels, alerts, &error)) {
-        return failedRun(error);
-    }
-    if (line.showOptions) {
-        report.output += job::settle(job).carried().lines();
-    }
-    if (line.summary) {
-        report.output += summaryLines(panels);
-    }
-    if (!line.onlyShows()) {
-        std::optional<job::PrintedJob> result;
-        if (job::areUnchanged(documents->sources(), &error)) {
-            result = job::printJob(job::settle(job), documents->title(request.title), documents->files(), neverStopped,
-                                   &error);
-        }
-        if (!result) {
-            return failedRun(error);
-        }
-        printed = true;
-        if (!line.silent) {
-            report.output.append(result->sentence());
-        }
-    }
-    const QString notice = job::lengthNotice(job.page());
-    report.messages +=
-        job.notices() + panels.notices() + alerts.lines() + (notice.isNull() ? QStringList() : QStringList{notice});
-    return report;
+    return UnattendedRun(line).run();
 }
 
 } // namespace tapeprint

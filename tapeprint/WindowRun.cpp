@@ -6,6 +6,7 @@
 #include "dialog/Translations.h"
 #include "job/DocumentSpool.h"
 #include "job/Printing.h"
+#include "tapeprint/JsonReport.h"
 #include "tapeprint/OutputPath.h"
 
 #include <QEventLoop>
@@ -80,8 +81,13 @@ RunReport runWindow(const CommandLine &line)
 
     RunReport report;
     if (!window.printed()) {
-        report.status = exitStatus(job::Problem::Cancelled); // nobody has to be told what they did
-    } else if (!line.silent) {
+        report.problem = job::Problem(job::Problem::Cancelled, {}); // nobody has to be told what they did
+        report.status = exitStatus(job::Problem::Cancelled);
+        return report;
+    }
+    report.data.insert(QStringLiteral("options"), jsonOptions(job::settle(job).carried()));
+    report.data.insert(QStringLiteral("job"), jsonJob(*window.printed()));
+    if (!line.silent) {
         report.output.append(
             window.printed()->sentence()); // scripts read it: in English, now that the window is closed
     }

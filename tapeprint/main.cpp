@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program tapeprint: reads its command line, and runs the dialog with or without a window.
 #include "job/OutputFile.h"
-#include "job/PlainText.h"
 #include "tapeprint/CommandLine.h"
+#include "tapeprint/Completion.h"
 #include "tapeprint/Display.h"
 #include "tapeprint/RunReport.h"
+#include "tapeprint/ServerChoice.h"
 #include "tapeprint/UnattendedRun.h"
 #include "tapeprint/WindowRun.h"
 
@@ -12,31 +13,10 @@
 #include <QFile>
 
 #include <csignal>
-#include <cstdio>
+#include <optional>
 
 namespace
 {
-
-/// Writes lines. \return whether all of them could be written.
-bool writeLines(const QStringList &lines, std::FILE *stream, const char *prefix)
-{
-    for (const QString &line : lines) {
-        std::fprintf(stream, "%s%s\n", prefix, tapeprint::job::harmless(line).toLocal8Bit().constData());
-    }
-    return std::fflush(stream) == 0;
-}
-
-int report(const tapeprint::RunReport &run)
-{
-    int status = run.status;
-    QStringList messages = run.messages;
-    if (!writeLines(run.output, stdout, "")) {
-        messages = {QStringLiteral("Standard output cannot be written: send it elsewhere.")};
-        status = tapeprint::exitStatus(tapeprint::job::Problem::UnwritableOutput);
-    }
-    writeLines(messages, stderr, "tapeprint: ");
-    return status;
-}
 
 QtMessageHandler nextMessageHandler = nullptr;
 
@@ -63,39 +43,46 @@ QStringList argumentsOf(int argc, char **argv)
 int main(int argc, char **argv)
 {
     tapeprint::job::Problem error;
-    const std::optional<tapeprint::CommandLine> line = tapeprint::parseCommandLine(argumentsOf(argc, argv), &error);
+    const QStringList arguments = argumentsOf(argc, argv);
+    const std::optional<tapeprint::CommandLine> line = tapeprint::parseCommandLine(arguments, &error);
     if (!line) {
-        return report(tapeprint::failedRun(error));
+        return tapeprint::writeReport(tapeprint::failedRun(error), arguments.contains(QLatin1String("--json")));
     }
     if (line->help) {
-        return report({tapeprint::commandLineHelp().trimmed().split(u'\n'), {}, 0});
+        return tapeprint::writeReport({tapeprint::commandLineHelp().trimmed().split(u'\n'), {}}, false);
     }
     if (line->version) {
-        return report({{QStringLiteral("tapeprint " TAPEPRINT_VERSION)}, {}, 0});
+        return tapeprint::writeReport({{QStringLiteral("tapeprint " TAPEPRINT_VERSION)}, {}}, false);
     }
 
+    tapeprint::chooseServer(*line);
+    if (!line->complete.isNull()) {
+        return tapeprint::writeCompletions(*line);
+    }
     // A reader that goes away is said, as a full disk is.
     std::signal(SIGPIPE, SIG_IGN);
     nextMessageHandler = qInstallMessageHandler(passMessage);
     // Panels are real widgets with or without a window.
-    const bool wantsWindow = !line->noDialog && !line->onlyShows();
-    const bool showsWindow = wantsWindow && tapeprint::hasDisplay();
-    if (!showsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    const bool wantsWindow = !line->noDialog && line->submits();
+    if (const tapeprint::job::Problem problem = wantsWindow ? tapeprint::displayProblem() : tapeprint::job::Problem();
+        !problem.isNull()) {
+        return tapeprint::writeReport(tapeprint::failedRun(problem), line->json);
+    }
+    if (!wantsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     // The toolkit gets no arguments: its own options would take lp's letters away.
     int toolkitArgc = 1;
+    auto start = std::make_optional<tapeprint::ToolkitStart>(wantsWindow, line->json);
     const QApplication application(toolkitArgc, argv);
+    start.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
 
-    tapeprint::RunReport run = showsWindow ? tapeprint::runWindow(*line) : tapeprint::runUnattended(*line);
-    if (wantsWindow && !showsWindow && run.status == 0) {
-        run.output.prepend(QStringLiteral("There is no display: the job was done without a window."));
-    }
+    tapeprint::RunReport run = wantsWindow ? tapeprint::runWindow(*line) : tapeprint::runUnattended(*line);
     // Standard output is the printer's.
-    if (!line->onlyShows() && tapeprint::job::isStandardOutput(line->request.outputPath)) {
+    if (line->submits() && tapeprint::job::isStandardOutput(line->request.outputPath)) {
         run.messages = run.output + run.messages;
         run.output.clear();
     }
-    return report(run);
+    return tapeprint::writeReport(run, line->json);
 }

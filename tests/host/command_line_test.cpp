@@ -40,7 +40,15 @@ INSTANTIATE_TEST_SUITE_P(
                     OptionsCase{{u"-o"_qs, u"noKsMirror"_qs}, {u"KsMirror=false"_qs}},
                     OptionsCase{{u"-o"_qs, u"A='two words'"_qs}, {u"A=two words"_qs}},
                     OptionsCase{{u"-n"_qs, u"3"_qs}, {u"copies=3"_qs}},
-                    OptionsCase{{u"-n03"_qs, u"-P"_qs, u"1-4,7,9-"_qs}, {u"copies=3"_qs, u"page-ranges=1-4,7,9-"_qs}}));
+                    OptionsCase{{u"-n03"_qs, u"-P"_qs, u"1-4,7,9-"_qs}, {u"copies=3"_qs, u"page-ranges=1-4,7,9-"_qs}},
+                    OptionsCase{{u"-q"_qs, u"100"_qs}, {u"job-priority=100"_qs}},
+                    OptionsCase{{u"-Hhold"_qs}, {u"job-hold-until=indefinite"_qs}},
+                    OptionsCase{{u"-H"_qs, u"immediate"_qs}, {u"job-hold-until=no-hold"_qs}},
+                    OptionsCase{{u"-H"_qs, u"23:59"_qs}, {u"job-hold-until=23:59"_qs}},
+                    OptionsCase{{u"-H"_qs, u"third-shift"_qs}, {u"job-hold-until=third-shift"_qs}},
+                    // Letters without a value stand together, and the last of them may take one, as with lp.
+                    OptionsCase{{u"-scn3"_qs, u"-oA=1 B=2"_qs}, {u"copies=3"_qs, u"A=1"_qs, u"B=2"_qs}},
+                    OptionsCase{{u"-sn"_qs, u"3"_qs}, {u"copies=3"_qs}}));
 
 struct ErrorCase {
     QStringList arguments;
@@ -69,6 +77,13 @@ INSTANTIATE_TEST_SUITE_P(
                     ErrorCase{{u"-o"_qs, u"media-col={media-type=x}"_qs}, u"media-col is in braces"_qs},
                     ErrorCase{{u"--ppd="_qs}, u"--ppd needs"_qs}, ErrorCase{{u"--ppdx"_qs, u"a"_qs}, u"--ppdx"_qs},
                     ErrorCase{{u"-Z"_qs}, u"-Z is no option"_qs}, ErrorCase{{u"--no-such"_qs}, u"--no-such"_qs},
+                    ErrorCase{{u"-sZ"_qs}, u"-Z is no option"_qs}, ErrorCase{{u"--help=x"_qs}, u"--help=x"_qs},
+                    ErrorCase{{u"-q"_qs, u"0"_qs}, u"from 1 to 100"_qs}, ErrorCase{{u"-q101"_qs}, u"\"101\""_qs},
+                    ErrorCase{{u"-H"_qs, u"24:00"_qs}, u"\"24:00\""_qs}, ErrorCase{{u"-H"_qs, u""_qs}, u"\"\""_qs},
+                    ErrorCase{{u"-H"_qs, u"resume"_qs}, u"use lp -i QUEUE-NUMBER -H resume"_qs},
+                    ErrorCase{{u"-i"_qs, u"tape-7"_qs}, u"use lp -i"_qs},
+                    ErrorCase{{u"-sm"_qs}, u"-m asks for a mail"_qs}, ErrorCase{{u"-h"_qs, u""_qs}, u"-h HOST"_qs},
+                    ErrorCase{{u"-U"_qs}, u"-U needs a value"_qs},
                     ErrorCase{{u"--output"_qs, u"x"_qs}, u"goes with --ppd"_qs},
                     ErrorCase{{u"--trust-ppd"_qs}, u"--trust-ppd goes with --ppd"_qs}));
 
@@ -118,13 +133,14 @@ TEST(CommandLineOutput, MayBeADashWhichIsNoDocument)
     EXPECT_FALSE(line->request.onlyShows);
 }
 
-TEST(CommandLineHelp, NamesEveryOption)
+TEST(CommandLineServer, IsTheOneOfTheLetters)
 {
-    const QString help = tapeprint::commandLineHelp();
-    for (const char *name : {"-d ", "-n ", "-o ", "-P ", "-t ", "-s ", "-c ", "--ppd ", "--output ", "--trust-ppd ",
-                             "--no-dialog", "--show-options", "--summary", "--help", "--version"}) {
-        EXPECT_TRUE(help.contains(QStringLiteral("\n  ") + QLatin1String(name))) << name;
-    }
+    tapeprint::job::Problem error;
+    const auto line = parseCommandLine({u"-Eh"_qs, u"printers:8631"_qs, u"-Umary"_qs}, &error);
+    ASSERT_TRUE(line.has_value()) << error.sentence.toStdString();
+    EXPECT_EQ(line->server, u"printers:8631"_qs);
+    EXPECT_EQ(line->user, u"mary"_qs);
+    EXPECT_TRUE(line->encrypts);
 }
 
 } // namespace

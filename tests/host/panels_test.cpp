@@ -226,6 +226,7 @@ TEST_F(PanelsTest, Revert_BringsJobMarksAndTapeBackAndTellsThePanelOfEachChange)
     open();
     Problem error;
     ASSERT_TRUE(panels.settle(&error));
+    job.rememberAsOpened();
     const QStringList before = job.options().lines();
     job.changeOption(u"PageSize"_qs, u"W24"_qs);
     job.changeOption(u"CutMedia"_qs, u"Label"_qs);
@@ -237,6 +238,101 @@ TEST_F(PanelsTest, Revert_BringsJobMarksAndTapeBackAndTellsThePanelOfEachChange)
     EXPECT_EQ(markedChoice(job.ppd(), u"PageSize"_qs), u"W12"_qs);
     EXPECT_EQ(markedChoice(job.ppd(), u"CutMedia"_qs), u"None"_qs);
     EXPECT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 288.0);
+    EXPECT_EQ(mediaName(), u"W12"_qs);
+}
+
+TEST_F(PanelsTest, Revert_UnmarksWhatWasNotMarkedWhenOpened)
+{
+    // The PPD names no default that it lists: nothing is marked until the person picks.
+    panels.open(hosttest::testDestination(folder, "*OpenUI *Coating/Coating: PickOne\n"
+                                                  "*OrderDependency: 20 AnySetup *Coating\n"
+                                                  "*DefaultCoating: Unknown\n"
+                                                  "*Coating Matte/Matte: \"\"\n"
+                                                  "*Coating Gloss/Gloss: \"\"\n"
+                                                  "*CloseUI: *Coating\n"),
+                {});
+    ASSERT_TRUE(markedChoice(job.ppd(), u"Coating"_qs).isNull());
+    job.changeOption(u"Coating"_qs, u"Gloss"_qs);
+    ASSERT_EQ(markedChoice(job.ppd(), u"Coating"_qs), u"Gloss"_qs);
+    Problem error;
+    EXPECT_TRUE(panels.revert(&error));
+    EXPECT_TRUE(markedChoice(job.ppd(), u"Coating"_qs).isNull());
+    EXPECT_FALSE(job.options().contains(u"Coating"_qs));
+    EXPECT_EQ(markedChoice(job.ppd(), u"KsMargin"_qs), u"2.0"_qs); // what was marked is marked again
+}
+
+TEST_F(PanelsTest, RevertOfACustomSize_BringsItsMeasuresBack)
+{
+    panels.open(hosttest::testDestination(folder, "*VariablePaperSize: True\n"
+                                                  "*MaxMediaWidth: \"100\"\n"
+                                                  "*MaxMediaHeight: \"900\"\n"
+                                                  "*HWMargins: 0 0 0 0\n"
+                                                  "*CustomPageSize True: \"\"\n"
+                                                  "*ParamCustomPageSize Width: 1 points 10 100\n"
+                                                  "*ParamCustomPageSize Height: 2 points 10 900\n"),
+                options({{u"PageSize"_qs, u"Custom.40x500"_qs}}));
+    ASSERT_TRUE(job.pageFormat().paper.has_value());
+    ASSERT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 500.0);
+    job.changeOption(u"PageSize"_qs, u"Custom.60x700"_qs);
+    ASSERT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 700.0);
+    Problem error;
+    EXPECT_TRUE(panels.revert(&error));
+    EXPECT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 500.0);
+    const ppd_size_t *size = ppdPageSize(job.ppd(), nullptr);
+    ASSERT_NE(size, nullptr);
+    EXPECT_FLOAT_EQ(size->width, 40.0F);
+    EXPECT_FLOAT_EQ(size->length, 500.0F);
+}
+
+/// A queue with the tests' PPD.
+Destination queueDestination(const QTemporaryDir &folder, const QByteArray &more = {})
+{
+    Destination destination = hosttest::testDestination(folder, more);
+    destination.queue = PrintQueue();
+    destination.queue->name = u"tape"_qs;
+    return destination;
+}
+
+TEST_F(PanelsTest, Reopening_LeavesNothingOfWhatWasLaidDownBefore)
+{
+    panels.open(queueDestination(folder), {});
+    panels.reopen(u"wide"_qs, options({{u"KsMargin"_qs, u"5.0"_qs}, {u"CutMedia"_qs, u"Label"_qs}}), {});
+    EXPECT_EQ(takeCalls().filter(u"made"_qs), (QStringList{u"made, margin 2.0"_qs, u"made, margin 5.0"_qs}));
+    EXPECT_EQ(job.printer().instance, u"wide"_qs);
+    EXPECT_EQ(job.options().lines(), (QStringList{u"KsMargin=5.0"_qs, u"CutMedia=Label"_qs, u"PageSize=W12"_qs}));
+
+    panels.reopen(u"large"_qs, options({{u"PageSize"_qs, u"W24"_qs}}), {});
+    EXPECT_EQ(takeCalls().filter(u"made"_qs), QStringList{u"made, margin 2.0"_qs});
+    EXPECT_EQ(job.options().lines(), QStringList{u"PageSize=W24"_qs});
+    EXPECT_EQ(markedChoice(job.ppd(), u"CutMedia"_qs), u"None"_qs);
+    EXPECT_EQ(job.printer().instance, u"large"_qs);
+    EXPECT_EQ(mediaName(), u"W24"_qs);
+}
+
+TEST_F(PanelsTest, ReopeningWithoutTheFile_StillFindsThePpd)
+{
+    Destination destination = queueDestination(folder);
+    ASSERT_TRUE(QFile::remove(destination.ppdPath));
+    panels.open(std::move(destination), {});
+    job.changeOption(u"CutMedia"_qs, u"Label"_qs);
+    panels.reopen({}, {}, {});
+    EXPECT_EQ(markedChoice(job.ppd(), u"CutMedia"_qs), u"None"_qs);
+}
+
+TEST_F(PanelsTest, RevertAfterReopening_GoesBackToWhatTheDialogWasOpenedWith)
+{
+    panels.open(queueDestination(folder), options({{u"KsMargin"_qs, u"5.0"_qs}}));
+    const QStringList before = job.options().lines();
+    panels.reopen(u"large"_qs, options({{u"PageSize"_qs, u"W24"_qs}, {u"CutMedia"_qs, u"Label"_qs}}), {});
+    Problem error;
+    EXPECT_TRUE(panels.revert(&error));
+    takeCalls();
+    panels.remake();
+    EXPECT_EQ(takeCalls().filter(u"made"_qs), QStringList{u"made, margin 5.0"_qs});
+    EXPECT_EQ(job.options().lines(), before);
+    EXPECT_EQ(job.laidDown().lines(), QStringList{u"KsMargin=5.0"_qs});
+    EXPECT_EQ(job.printer().instance, QString());
+    EXPECT_EQ(markedChoice(job.ppd(), u"CutMedia"_qs), u"None"_qs);
     EXPECT_EQ(mediaName(), u"W12"_qs);
 }
 

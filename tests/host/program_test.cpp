@@ -3,6 +3,9 @@
 #include "ProgramTest.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace
 {
@@ -49,11 +52,9 @@ TEST_F(Program, FilterRun_GivesTheFilterEveryOptionAndNamesTheOutput)
     EXPECT_TRUE(bytes.endsWith("Hello\n")) << bytes.toStdString();
 }
 
-TEST_F(Program, WithoutADisplay_SaysSoAndDoesTheJob)
+TEST_F(Program, OfAPipe_NamesItsOutputItself)
 {
-    const Outcome outcome = run({u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd}, "From a pipe\n");
-    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
-    EXPECT_TRUE(outcome.output.startsWith("There is no display")) << outcome.output.toStdString();
+    EXPECT_EQ(run({u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd}, "From a pipe\n").status, 0);
     EXPECT_TRUE(contentsOf(folder.filePath(u"tapeprint.prn"_qs)).endsWith("From a pipe\n"));
 }
 
@@ -108,8 +109,36 @@ TEST_F(Program, OptionThatThePanelReplaces_IsNamed)
     // The test panel sends what the PPD's default says, which holds 40 bytes: this value does not fit.
     const QString tooLong(41, u'9');
     const Outcome outcome = run({u"--ppd"_qs, ppd, u"--show-options"_qs, u"-o"_qs, u"KsMargin="_qs + tooLong});
-    EXPECT_EQ(outcome.status, 0);
+    // It is shown what would become of it, but whoever asked for it does not get it.
+    EXPECT_EQ(outcome.status, testsupport::refusedValue);
     EXPECT_TRUE(outcome.messages.contains("the job carries 2.0.")) << outcome.messages.toStdString();
+    EXPECT_EQ(run({u"--adjust"_qs, u"--ppd"_qs, ppd, u"--show-options"_qs, u"-o"_qs, u"KsMargin="_qs + tooLong}).status,
+              testsupport::done);
+}
+
+TEST_F(Program, ValueThatIsNotTakenAsItIs_IsRefusedBeforeAnythingIsPrinted)
+{
+    const QStringList job{u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs};
+    const std::vector<std::pair<QString, const char *>> values{
+        {u"KsMargin="_qs + QString(41, u'9'), "the job carries 2.0."},
+        {u"CutMedia=Twice"_qs, "CutMedia=Twice is none of the choices"},
+        {u"CutMedia=3"_qs, "CutMedia=3 is none of the choices"}, // no panel answers for it
+        {u"PageSize=Custom.24x"_qs, "PageSize=Custom.24x is no size"},
+        {u"media=Custom.twelve"_qs, "media=Custom.twelve is no size"},
+        {u"media=W99"_qs, "media=W99 is none of the choices"},
+        {u"number-up=many"_qs, "number-up=many is no value"},
+    };
+    for (const auto &[value, part] : values) {
+        const Outcome outcome = run(job + QStringList{u"-o"_qs, value, document});
+        EXPECT_EQ(outcome.status, testsupport::refusedValue) << part;
+        EXPECT_EQ(outcome.messages.count('\n'), 1) << outcome.messages.toStdString();
+        EXPECT_TRUE(outcome.messages.contains(part)) << outcome.messages.toStdString();
+        EXPECT_TRUE(outcome.messages.contains("--adjust")) << outcome.messages.toStdString();
+        EXPECT_FALSE(QFileInfo::exists(folder.filePath(u"out.prn"_qs))) << part;
+    }
+    EXPECT_EQ(run(job + QStringList{u"--adjust"_qs, u"-o"_qs, u"CutMedia=Twice"_qs, document}).status,
+              testsupport::done);
+    EXPECT_TRUE(contentsOf(folder.filePath(u"out.prn"_qs)).contains("CutMedia=Twice"));
 }
 
 TEST_F(Program, ResolutionThatThePanelCannotShow_IsSaidAndTheRestDone)
@@ -122,7 +151,7 @@ TEST_F(Program, ResolutionThatThePanelCannotShow_IsSaidAndTheRestDone)
                                               "*Resolution C/C: \"\"\n*CloseUI: *Resolution\n"
                                               "*KsMaxTapeLength: \"500\"\n*KsMaxMargin: \"20\"\n"));
     const Outcome outcome = run({u"--ppd"_qs, three, u"--show-options"_qs, u"-o"_qs, u"Resolution=C"_qs});
-    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.status, testsupport::refusedValue);
     EXPECT_TRUE(outcome.output.contains("Resolution=A\n")) << outcome.output.toStdString();
     EXPECT_EQ(outcome.messages, "tapeprint: The panel \"Page Settings\" does not offer Resolution=C, which the printer "
                                 "has: the job carries Resolution=A.\n");
@@ -132,17 +161,79 @@ TEST_F(Program, BadInput_IsOneLineAndTheStatusOfItsKind)
 {
     const QString broken = hosttest::writeFile(folder, u"broken.ppd"_qs, "*PPD-Adobe: \"4.3\"\nbroken\n");
     const QString empty = hosttest::writeFile(folder, u"empty.txt"_qs, {});
-    expectFailure(testsupport::badDescription, {u"--ppd"_qs, broken, document}, "broken.ppd is not valid, line 2");
-    expectFailure(testsupport::badDescription, {u"--ppd"_qs, folder.filePath(u"none.ppd"_qs), document},
+    expectFailure(testsupport::badDescription, {u"--no-dialog"_qs, u"--ppd"_qs, broken, document},
+                  "broken.ppd is not valid, line 2");
+    expectFailure(testsupport::badDescription,
+                  {u"--no-dialog"_qs, u"--ppd"_qs, folder.filePath(u"none.ppd"_qs), document},
                   "none.ppd cannot be read");
-    expectFailure(testsupport::badDocument, {u"--ppd"_qs, ppd, folder.filePath(u"none.pdf"_qs)},
+    expectFailure(testsupport::badDocument, {u"--no-dialog"_qs, u"--ppd"_qs, ppd, folder.filePath(u"none.pdf"_qs)},
                   "none.pdf cannot be read");
-    expectFailure(testsupport::badDocument, {u"--ppd"_qs, ppd, empty}, "is empty");
-    expectFailure(testsupport::badDocument, {u"--ppd"_qs, ppd}, "Standard input is empty");
-    expectFailure(testsupport::unreachable, {u"-d"_qs, u"tape"_qs, document}, "does not answer");
-    expectFailure(testsupport::unreachable, {document}, "does not answer");
+    expectFailure(testsupport::badDocument, {u"--no-dialog"_qs, u"--ppd"_qs, ppd, empty}, "is empty");
+    expectFailure(testsupport::badDocument, {u"--no-dialog"_qs, u"--ppd"_qs, ppd}, "Standard input is empty");
+    expectFailure(testsupport::unreachable, {u"--no-dialog"_qs, u"-d"_qs, u"tape"_qs, document}, "does not answer");
+    expectFailure(testsupport::unreachable, {u"--no-dialog"_qs, document}, "does not answer");
     expectFailure(testsupport::badUsage, {u"-o"_qs, u"a={b=c}"_qs, document}, "braces");
     expectFailure(testsupport::badUsage, {u"--unknown"_qs}, "--unknown is no option");
+}
+
+TEST_F(Program, Check_SaysWhetherItWouldPrintAndPrintsNothing)
+{
+    const QStringList check{u"--check"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs};
+    const Outcome good = run(check + QStringList{u"out.prn"_qs, document});
+    EXPECT_EQ(good.status, testsupport::done) << good.messages.toStdString();
+    EXPECT_TRUE(good.output.contains("nothing was printed")) << good.output.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(folder.filePath(u"out.prn"_qs)));
+    expectFailure(testsupport::refusedValue, check + QStringList{u"out.prn"_qs, u"-oCutMedia=Twice"_qs, document},
+                  "none of the choices");
+    expectFailure(testsupport::unwritableOutput, check + QStringList{document, document}, "only read");
+    expectFailure(testsupport::badDescription, {u"--check"_qs, u"--ppd"_qs, filterPpd, document}, "--trust-ppd");
+    expectFailure(testsupport::unreachable, {u"--check"_qs, u"-d"_qs, u"tape"_qs, document}, "does not answer");
+    expectFailure(testsupport::badDocument, check + QStringList{u"out.prn"_qs, u"none.pdf"_qs}, "cannot be read");
+}
+
+TEST_F(Program, PdfThatIsBrokenOrLocked_IsNotSentToPaperEither)
+{
+    const QString broken = hosttest::writeFile(folder, u"broken.pdf"_qs, "%PDF-1.4\nand no more\n");
+    for (const QString &mode : {u"--check"_qs, u"--no-dialog"_qs}) {
+        expectFailure(testsupport::badDocument, {mode, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, document, broken},
+                      "broken.pdf is damaged");
+    }
+}
+
+TEST_F(Program, Json_IsOneObjectWithNumbersAsNumbers)
+{
+    const Outcome outcome = run({u"--json"_qs, u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"-n2"_qs,
+                                 u"-oKsMargin=5.0"_qs, u"--output"_qs, u"out.prn"_qs, document});
+    EXPECT_EQ(outcome.status, testsupport::done);
+    EXPECT_EQ(outcome.messages, "");
+    const QJsonObject object = QJsonDocument::fromJson(outcome.output).object();
+    EXPECT_EQ(object[u"status"].toInt(-1), 0);
+    EXPECT_EQ(object[u"kind"].toString(), u"done"_qs);
+    EXPECT_EQ(object[u"printer"][u"ppd"].toString(), filterPpd);
+    EXPECT_EQ(object[u"options"][u"copies"].toInt(), 2);
+    EXPECT_EQ(object[u"options"][u"KsMargin"].toDouble(), 5.0);
+    EXPECT_EQ(object[u"options"][u"PageSize"].toString(), u"W12"_qs);
+    EXPECT_EQ(object[u"summary"][0][u"lines"][0][u"title"].toString(), u"Tape"_qs);
+    EXPECT_EQ(object[u"job"][u"output"].toString(), u"out.prn"_qs);
+    EXPECT_EQ(object[u"job"][u"bytes"].toInteger(), contentsOf(folder.filePath(u"out.prn"_qs)).size());
+    EXPECT_TRUE(object[u"warnings"].isArray());
+}
+
+TEST_F(Program, Json_HoldsProblemsWithTheSameStatus)
+{
+    const std::vector<std::pair<QStringList, testsupport::ExitStatus>> runs{
+        {{u"--json"_qs, u"--no-such"_qs}, testsupport::badUsage},
+        {{u"--json"_qs, u"--check"_qs, u"--ppd"_qs, ppd, u"none.pdf"_qs}, testsupport::badDocument},
+        {{u"--json"_qs, u"--ppd"_qs, ppd, u"--show-options"_qs, u"-oCutMedia=Twice"_qs}, testsupport::refusedValue},
+    };
+    for (const auto &[arguments, status] : runs) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, status);
+        EXPECT_EQ(outcome.messages, "");
+        const QJsonObject object = QJsonDocument::fromJson(outcome.output).object();
+        EXPECT_EQ(object[u"status"].toInt(), status);
+        EXPECT_FALSE(object[u"message"].toString().isEmpty());
+    }
 }
 
 TEST_F(Program, HelpAndVersion_NeedNothing)

@@ -31,6 +31,17 @@ TEST(ReplacedOptions, AreThoseThatTheJobCarriesWithAnotherValue)
     EXPECT_EQ(replaced.front().carried, JobOptions::Entry(u"KsMirror"_qs, u"False"_qs));
 }
 
+TEST(ReplacedOptions, ByLessThanATenth_AreRounded)
+{
+    const auto isRounding = [](const QString &asked, const QString &carried) {
+        return ReplacedOption{{u"KsMargin"_qs, asked}, {u"KsMargin"_qs, carried}}.isRounding();
+    };
+    EXPECT_TRUE(isRounding(u"2.54"_qs, u"2.6"_qs));
+    EXPECT_TRUE(isRounding(u"2.6"_qs, u"2.54"_qs));
+    EXPECT_FALSE(isRounding(u"2.4"_qs, u"2.54"_qs));
+    EXPECT_FALSE(isRounding(u"None"_qs, u"2.54"_qs));
+}
+
 TEST(ReplacedOptions, SentenceSaysWhetherThePrinterHasTheValue)
 {
     const QTemporaryDir folder;

@@ -102,9 +102,9 @@ TEST_F(BadDocument, PageOfTenMetres_IsMadeSmaller)
     EXPECT_NEAR(black.width(), 20 / 25.4 * 300, 2.0);
 }
 
-TEST_F(BadDocument, LengthsBeyondTheLimits_AreHeldByThePanelAndSaid)
+TEST_F(BadDocument, LengthsBeyondTheLimits_AreHeldByThePanelAndSaidWhenThatIsAskedFor)
 {
-    const PrintedTape printed = printTape(folder, u"mm"_qs, {u"KsTapeLength=5000"_qs}, {good});
+    const PrintedTape printed = printTape(folder, u"mm"_qs, {u"KsTapeLength=5000"_qs}, {u"--adjust"_qs, good});
     ASSERT_EQ(printed.labels.size(), 1U) << printed.outcome.messages.toStdString();
     EXPECT_EQ(printed.labels[0].size.height(), 11811); // a metre
     EXPECT_TRUE(printed.outcome.messages.contains("instead of 5000 the job carries 1000.0"))

@@ -112,10 +112,10 @@ TEST_F(UnattendedJob, ValueThatThePpdDoesNotList_ArrivesAsItIs)
     EXPECT_EQ(tapeOptions(calls[0]), expected);
 }
 
-TEST_F(UnattendedJob, ValuesOutOfRange_AreHeldWithinTheLimits)
+TEST_F(UnattendedJob, ValuesOutOfRange_AreHeldWithinTheLimitsWhenThatIsAskedFor)
 {
     const std::vector<FilterCall> calls =
-        printed({u"-o"_qs, u"KsTapeLength=5000"_qs, u"-o"_qs, u"KsPrintTapeLength=9"_qs, document});
+        printed({u"--adjust"_qs, u"-o"_qs, u"KsTapeLength=5000"_qs, u"-o"_qs, u"KsPrintTapeLength=9"_qs, document});
     ASSERT_EQ(calls.size(), 1U);
     EXPECT_EQ(tapeOptions(calls[0]),
               panelOptionsMm({"KsTapeLength=1000.0", "KsPrintTapeLength=8.0", "PageSize=Custom.24x1000mm"}));

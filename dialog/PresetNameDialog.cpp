@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+// The remark below the field and the offer follow each letter; only a name that can be kept is accepted.
+#include "dialog/PresetNameDialog.h"
+
+#include "dialog/PlainText.h"
+#include "job/PlainText.h"
+#include "job/Presets.h"
+
+#include <QDialogButtonBox>
+#include <QFontMetrics>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+constexpr int fieldLetters = 30;
+constexpr int remarkLines = 2;
+
+} // namespace
+
+PresetNameDialog::PresetNameDialog(const QString &title, const QString &name, QStringList taken, TakenNames rule,
+                                   QWidget *parent)
+    : QDialog(parent), mTaken(std::move(taken)), mRule(rule)
+{
+    setWindowTitle(title);
+    mField = new QLineEdit(name, this);
+    mField->setObjectName(QStringLiteral("presetName"));
+    mField->setMinimumWidth(QFontMetrics(mField->font()).averageCharWidth() * fieldLetters);
+    mField->selectAll();
+    mRemark = new QLabel(this);
+    mRemark->setObjectName(QStringLiteral("presetNameRemark"));
+    mRemark->setTextFormat(Qt::PlainText);
+    mRemark->setWordWrap(true);
+    mRemark->setMinimumHeight(QFontMetrics(mRemark->font()).lineSpacing() * remarkLines); // nothing jumps while typing
+    mOffer = new QPushButton(this);
+    mOffer->setObjectName(QStringLiteral("presetNameOffer"));
+    mOffer->setAutoDefault(false);
+    mButtons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel, this);
+
+    auto *layout = new QVBoxLayout(this);
+    auto *form = new QFormLayout;
+    form->addRow(tr("&Name:"), mField);
+    layout->addLayout(form);
+    layout->addWidget(mRemark);
+    layout->addWidget(mOffer, 0, Qt::AlignLeft);
+    layout->addWidget(mButtons);
+
+    connect(mField, &QLineEdit::textChanged, this, &PresetNameDialog::follow);
+    connect(mOffer, &QPushButton::clicked, this, &PresetNameDialog::takeOffer);
+    connect(mButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(mButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    follow();
+}
+
+QString PresetNameDialog::name() const
+{
+    return mField->text();
+}
+
+void PresetNameDialog::takeOffer()
+{
+    mField->setText(job::suitablePresetName(mField->text()));
+    mField->setFocus();
+}
+
+void PresetNameDialog::follow()
+{
+    const QString typed = mField->text();
+    QString problem = job::problemWithPresetName(typed);
+    QString remark = problem;
+    if (problem.isNull() && mTaken.contains(typed, Qt::CaseInsensitive)) {
+        remark = mRule == TakenNames::Replace ? tr("The preset %1 will be replaced.").arg(typed)
+                                              : tr("There is a preset %1 already.").arg(typed);
+        problem = mRule == TakenNames::Replace ? QString() : remark;
+    }
+    mRemark->setText(typed.isEmpty() ? QString() : remark);
+    mField->setAccessibleDescription(mRemark->text());
+    mButtons->button(QDialogButtonBox::Save)->setEnabled(problem.isNull());
+    const QString offer = job::suitablePresetName(typed);
+    mOffer->setText(tr("Take \"%1\"").arg(QString(offer).replace(u'&', QLatin1String("&&"))));
+    mOffer->setVisible(offer != typed && !offer.isEmpty());
+}
+
+} // namespace tapeprint::dialog

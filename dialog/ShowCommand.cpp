@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: Apache-2.0
+// One field a command, which wraps and can be selected, and a button that copies it whole.
+#include "dialog/ShowCommand.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDialogButtonBox>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tapeprint::dialog
+{
+
+ShowCommand::ShowCommand(const QString &tapeprint, const QString &lp, QWidget *parent) : QDialog(parent)
+{
+    constexpr QSize wished(560, 320);
+    setWindowTitle(tr("Commands for a Shell"));
+    auto *layout = new QVBoxLayout(this);
+    addCommand(layout, tr("The same job by &tapeprint:"), tapeprint, QStringLiteral("tapeprint"));
+    if (!lp.isNull()) {
+        addCommand(layout, tr("The same options by &lp, which lays nothing out:"), lp, QStringLiteral("lp"));
+    }
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout->addWidget(buttons);
+    resize(wished);
+}
+
+void ShowCommand::addCommand(QVBoxLayout *layout, const QString &title, const QString &command, const QString &name)
+{
+    auto *field = new QPlainTextEdit(command, this);
+    field->setObjectName(name + QLatin1String("Command"));
+    field->setReadOnly(true);
+    field->setTabChangesFocus(true);
+    field->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    field->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    auto *label = new QLabel(title, this);
+    label->setBuddy(field);
+    auto *copy = new QPushButton(tr("Copy"), this);
+    copy->setObjectName(name + QLatin1String("Copy"));
+    copy->setAccessibleName(tr("Copy the command of %1").arg(name));
+    copy->setAutoDefault(false);
+    connect(copy, &QPushButton::clicked, this, [command] { QApplication::clipboard()->setText(command); });
+    auto *row = new QHBoxLayout;
+    row->addWidget(label, 1);
+    row->addWidget(copy);
+    layout->addLayout(row);
+    layout->addWidget(field, 1);
+}
+
+} // namespace tapeprint::dialog

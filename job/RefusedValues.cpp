@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: Apache-2.0
+// CUPS takes a value that it cannot read for none at all, and prints. What it reads is held here as patterns.
+#include "job/RefusedValues.h"
+
+#include "job/IppAttributeNames.h"
+#include "job/PpdMarks.h"
+#include "job/Texts.h"
+
+#include <QHash>
+#include <QRegularExpression>
+#include <QSizeF>
+
+#include <algorithm>
+
+#include <cups/pwg.h>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+const QString wholeNumber = QStringLiteral(R"([1-9]\d{0,8})");
+
+/// What CUPS and this program read in options that are no choices of a PPD; each pattern stands for the whole value.
+const QHash<QString, QString> &patterns()
+{
+    static const QHash<QString, QString> known{
+        {OptionName::copies, wholeNumber},
+        {OptionName::pageRanges, QStringLiteral(R"(\d+(-\d*)?(,\d+(-\d*)?)*)")},
+        {OptionName::fitLength, QStringLiteral("true|false|yes|no|on|off|1|0")},
+        {QStringLiteral("fit-to-page"), QStringLiteral("true|false|yes|no|on|off|1|0")},
+        {QStringLiteral("job-priority"), QStringLiteral(R"([1-9]\d?|100)")},
+        {QStringLiteral("number-up"), wholeNumber},
+        {QStringLiteral("orientation-requested"), QStringLiteral("[3-7]")},
+        {QStringLiteral("print-scaling"), QStringLiteral("auto|auto-fit|fit|fill|none")},
+        {QStringLiteral("print-quality"), QStringLiteral("[3-5]|draft|normal|high")},
+        {QStringLiteral("page-set"), QStringLiteral("all|odd|even")},
+        {QStringLiteral("outputorder"), QStringLiteral("normal|reverse")},
+        {QStringLiteral("position"), QStringLiteral("center|top|bottom|left|right|(top|bottom)-(left|right)")},
+        {QStringLiteral("sides"), QStringLiteral("one-sided|two-sided-(long|short)-edge")},
+    };
+    return known;
+}
+
+bool matches(const QString &pattern, const QString &value)
+{
+    const QRegularExpression whole(QRegularExpression::anchoredPattern(pattern),
+                                   QRegularExpression::CaseInsensitiveOption);
+    return whole.match(value).hasMatch();
+}
+
+bool isCustom(const QString &value)
+{
+    return value.startsWith(QLatin1String("Custom."), Qt::CaseInsensitive);
+}
+
+/// A size of the person's own, "Custom.WIDTHxLENGTHUNIT", in points; empty when it cannot be read.
+QSizeF customSizePt(const QString &value)
+{
+    static const QHash<QString, double> points{
+        {QString(), 1.0},
+        {QStringLiteral("pt"), 1.0},
+        {QStringLiteral("in"), 72.0},
+        {QStringLiteral("ft"), 864.0},
+        {QStringLiteral("mm"), 72.0 / 25.4},
+        {QStringLiteral("cm"), 72.0 / 2.54},
+        {QStringLiteral("m"), 72.0 / 0.0254},
+    };
+    static const QRegularExpression size(
+        QStringLiteral(R"(\ACustom\.(\d+\.?\d*|\.\d+)x(\d+\.?\d*|\.\d+)(pt|in|ft|mm|cm|m)?\z)"),
+        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = size.match(value);
+    const double unit = points.value(match.captured(3).toLower());
+    return match.hasMatch() ? QSizeF(match.captured(1).toDouble(), match.captured(2).toDouble()) * unit : QSizeF();
+}
+
+/// Whether a printer takes a size: each side within the PPD's limits, but for what a unit's rounding takes away.
+bool isWithinLimits(ppd_file_t *ppd, const QSizeF &sizePt)
+{
+    constexpr double roundingPt = 0.5;
+    const auto within = [](double side, float least, float most) {
+        return side >= static_cast<double>(least) - roundingPt && side <= static_cast<double>(most) + roundingPt;
+    };
+    return within(sizePt.width(), ppd->custom_min[0], ppd->custom_max[0]) &&
+           within(sizePt.height(), ppd->custom_min[1], ppd->custom_max[1]);
+}
+
+QString customSizeProblem(ppd_file_t *ppd, const QString &name, const QString &value)
+{
+    const QSizeF sizePt = customSizePt(value);
+    if (sizePt.isEmpty()) {
+        return Texts::tr("%1=%2 is no size: write it as Custom.WIDTHxLENGTHmm, or with in, cm or pt.").arg(name, value);
+    }
+    if (ppd != nullptr && listedChoice(ppd, OptionName::pageSize, value).isNull()) {
+        return Texts::tr("%1=%2: the printer takes no sizes other than those that it has.").arg(name, value);
+    }
+    if (ppd != nullptr && !isWithinLimits(ppd, sizePt)) {
+        return Texts::tr("%1=%2 is smaller or larger than the printer can take.").arg(name, value);
+    }
+    return {};
+}
+
+/// Whether CUPS finds a paper, a tray or a kind of paper by a name in the option media.
+bool isMedia(ppd_file_t *ppd, const QString &name)
+{
+    static const QStringList options{OptionName::pageSize, QStringLiteral("InputSlot"), QStringLiteral("MediaType")};
+    const bool isListed = std::any_of(options.begin(), options.end(),
+                                      [&](const QString &key) { return !listedChoice(ppd, key, name).isNull(); });
+    const QByteArray bytes = name.toUtf8();
+    // What is written as a keyword may be one of a tray: the print server knows.
+    return isListed || pwgMediaForPWG(bytes.constData()) != nullptr ||
+           pwgMediaForLegacy(bytes.constData()) != nullptr || matches(QStringLiteral("[a-z]+(-[a-z0-9]+)*"), name);
+}
+
+QString mediaProblem(ppd_file_t *ppd, const QString &value)
+{
+    if (isCustom(value)) {
+        return customSizeProblem(ppd, OptionName::media, value);
+    }
+    for (const QString &name : value.split(u',')) {
+        if (ppd != nullptr && !isMedia(ppd, name)) {
+            return Texts::tr("media=%1 is none of the choices that the printer's PPD lists.").arg(name);
+        }
+    }
+    return {};
+}
+
+QString problemOf(ppd_file_t *ppd, const QString &name, const QString &value,
+                  const std::function<bool(const QString &key)> &isPanels)
+{
+    if (name == OptionName::media) {
+        return mediaProblem(ppd, value);
+    }
+    if (name.compare(OptionName::pageSize, Qt::CaseInsensitive) == 0 && isCustom(value)) {
+        return customSizeProblem(ppd, name, value);
+    }
+    const ppd_option_t *option = isIppJobAttribute(name) ? nullptr : findOption(ppd, name);
+    if (option == nullptr) {
+        const QString pattern = patterns().value(name);
+        return pattern.isNull() || matches(pattern, value)
+                   ? QString()
+                   : Texts::tr("%1=%2 is no value that CUPS knows for %1.").arg(name, value);
+    }
+    return isPanels(QString::fromUtf8(option->keyword)) || !listedChoice(ppd, name, value).isNull()
+               ? QString()
+               : Texts::tr("%1=%2 is none of the choices that the printer's PPD lists.").arg(name, value);
+}
+
+} // namespace
+
+QStringList refusedValues(ppd_file_t *ppd, const JobOptions &asked,
+                          const std::function<bool(const QString &key)> &isPanels)
+{
+    QStringList sentences;
+    for (const auto &[name, value] : asked.entries()) {
+        if (const QString sentence = problemOf(ppd, name, value, isPanels); !sentence.isNull()) {
+            sentences.append(sentence);
+        }
+    }
+    return sentences;
+}
+
+} // namespace tapeprint::job

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+// Values that a job cannot carry as they were asked for, found before anything is printed: whoever asked from a script
+// wants that label or none.
+#pragma once
+
+#include "job/JobOptions.h"
+
+#include <QStringList>
+
+#include <functional>
+
+#include <cups/ppd.h>
+
+namespace tapeprint::job
+{
+
+/// A sentence for each value that neither the printer nor CUPS takes: none of the choices that the PPD lists, no size
+/// that can be read or that the printer has, no number where CUPS reads one. \param asked what was asked for; \param
+/// isPanels whether a panel answers for an option: it says itself what it makes of a value. \param ppd may be null.
+QStringList refusedValues(ppd_file_t *ppd, const JobOptions &asked,
+                          const std::function<bool(const QString &key)> &isPanels);
+
+} // namespace tapeprint::job

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: Apache-2.0
+// Completions: what the program answers, and bash's function called as bash calls it.
+#include "ProgramTest.h"
+
+#include <QStandardPaths>
+
+namespace
+{
+
+using hosttest::Outcome;
+
+class Completions : public hosttest::Program
+{
+protected:
+    QStringList words(const QStringList &arguments) const
+    {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, testsupport::done) << outcome.messages.toStdString();
+        EXPECT_EQ(outcome.messages, "");
+        return QString::fromUtf8(outcome.output).split(u'\n', Qt::SkipEmptyParts);
+    }
+
+    /// What bash would offer at the end of a line.
+    QStringList offered(const QString &line) const
+    {
+        const QString script = u"cd '"_qs + folder.path() + u"'; source '"_qs +
+                               QStringLiteral(TAPEPRINT_SOURCE_DIR "/packaging/completions/tapeprint.bash") +
+                               u"'; COMP_LINE=\"$1\"; COMP_POINT=${#COMP_LINE}; read -ra COMP_WORDS <<<\"$1\"; "
+                               "[[ $1 == *' ' ]] && COMP_WORDS+=(''); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); "
+                               "_tapeprint; printf '%s\\n' \"${COMPREPLY[@]}\""_qs;
+        QProcess bash;
+        start(bash, u"bash"_qs, {u"-c"_qs, script, u"bash"_qs, programPath() + u' ' + line});
+        EXPECT_TRUE(bash.waitForFinished());
+        EXPECT_EQ(bash.readAllStandardError(), "");
+        return QString::fromUtf8(bash.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    }
+};
+
+TEST_F(Completions, OfOptionsAndChoices_AreThoseOfTheDescription)
+{
+    EXPECT_TRUE(words({u"--complete"_qs, u"options"_qs, u"--ppd"_qs, ppd}).contains(u"CutMedia=\tCut"_qs));
+    EXPECT_EQ(words({u"--complete"_qs, u"choices:KsMargin"_qs, u"--ppd"_qs, ppd}),
+              (QStringList{u"2.0\t2 mm"_qs, u"5.0\t5 mm"_qs}));
+    EXPECT_EQ(words({u"--complete"_qs, u"choices:page-set"_qs}), (QStringList{u"all\t"_qs, u"even\t"_qs, u"odd\t"_qs}));
+    EXPECT_TRUE(words({u"--complete"_qs, u"arguments"_qs}).contains(u"--ppd\tfile"_qs));
+}
+
+TEST_F(Completions, WithoutAServer_AreNone)
+{
+    EXPECT_EQ(words({u"--complete"_qs, u"queues"_qs}), QStringList());
+}
+
+TEST_F(Completions, OfBash_FollowThePrinterOfTheLine)
+{
+    EXPECT_EQ(offered(u"--no-d"_qs), QStringList{u"--no-dialog"_qs});
+    EXPECT_EQ(offered(u"--ppd test.ppd -o KsMar"_qs), QStringList{u"KsMargin="_qs});
+    EXPECT_EQ(offered(u"--ppd test.ppd -o KsMargin="_qs), (QStringList{u"2.0"_qs, u"5.0"_qs}));
+    EXPECT_EQ(offered(u"--ppd test.ppd -o KsMargin=5"_qs), QStringList{u"5.0"_qs});
+    EXPECT_EQ(offered(u"--ppd te"_qs), QStringList{u"test.ppd"_qs});
+    EXPECT_EQ(offered(u"lab"_qs), QStringList{u"label.txt"_qs});
+    EXPECT_EQ(offered(u"-t lab"_qs), QStringList());
+}
+
+/// A shell that is not on the machine reads nothing; the other two are tried where they are.
+TEST_F(Completions, OfTheOtherShells_AreReadByThem)
+{
+    const std::vector<std::pair<QString, QString>> files{{u"zsh"_qs, u"_tapeprint"_qs},
+                                                         {u"fish"_qs, u"tapeprint.fish"_qs}};
+    for (const auto &[shell, file] : files) {
+        if (QStandardPaths::findExecutable(shell).isEmpty()) {
+            continue;
+        }
+        QProcess process;
+        start(process, shell, {u"-n"_qs, QStringLiteral(TAPEPRINT_SOURCE_DIR "/packaging/completions/") + file});
+        EXPECT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    }
+}
+
+} // namespace
