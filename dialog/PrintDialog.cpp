@@ -164,6 +164,16 @@ void PrintDialog::orderByTab()
     }
 }
 
+/// The dialog's own pages show the panels' PPD, and go before it.
+void PrintDialog::removeOwnPages()
+{
+    for (const Page &page : mPageList) {
+        if (!page.panel) {
+            delete page.widget.data();
+        }
+    }
+}
+
 void PrintDialog::removePages()
 {
     // A released panel took its view along or left it behind; either is fine.

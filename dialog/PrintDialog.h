@@ -122,6 +122,7 @@ private:
     void orderByTab();
     void assignKeys();
     void settlePanels();
+    void removeOwnPages();
     void removePages();
     void turnToPage(int index);
     const Page *currentPage() const;

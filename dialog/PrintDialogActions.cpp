@@ -188,8 +188,7 @@ void PrintDialog::revert()
 void PrintDialog::remakePanels()
 {
     const int shown = mCurrentPage;
-    delete mLayoutPage;
-    delete mOptionsPage;
+    removeOwnPages();
     mPanels.remake();
     makePages();
     showPages(shown);

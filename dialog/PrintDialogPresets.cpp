@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the window does about presets: it lays a chosen one down on a job opened anew, and hands over what is to be
 // saved.
-#include "dialog/LayoutPage.h"
-#include "dialog/OptionsPage.h"
 #include "dialog/PresetRow.h"
 #include "dialog/PrintDialog.h"
 #include "job/LastSettings.h"
@@ -11,7 +9,6 @@
 #include "job/Presets.h"
 
 #include <QCheckBox>
-#include <QPointer>
 
 namespace tapeprint::dialog
 {
@@ -49,9 +46,7 @@ void PrintDialog::pickPreset(const PresetRow::Settings &settings)
         asked.remove(job::OptionName::copies); // the preset says how many
     }
     const int shown = mCurrentPage;
-    // The old pages go before the panel and the PPD that they show.
-    delete mLayoutPage;
-    delete mOptionsPage;
+    removeOwnPages();
     mPanels.reopen(settings.instance, settings.saved, asked);
     showWhetherTape();
     showTapes();
