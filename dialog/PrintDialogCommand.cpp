@@ -3,6 +3,7 @@
 #include "dialog/PrintDialog.h"
 #include "dialog/ShowCommand.h"
 #include "job/CommandText.h"
+#include "job/CustomValues.h"
 
 #include <QDir>
 #include <QHBoxLayout>
@@ -31,8 +32,8 @@ void PrintDialog::showCommand()
             source.files.append(QDir::current().absoluteFilePath(document.path));
         }
     }
-    source.options = source.job.options;
-    source.carried = source.job.carried();
+    source.options = job::withoutSecrets(mJob.ppd(), source.job.options);
+    source.carried = job::withoutSecrets(mJob.ppd(), source.job.carried());
     ShowCommand(job::tapeprintCommand(source), job::lpCommand(source), this).exec();
 }
 

@@ -2,6 +2,7 @@
 // CUPS takes a value that it cannot read for none at all, and prints. What it reads is held here as patterns.
 #include "job/RefusedValues.h"
 
+#include "job/CustomValues.h"
 #include "job/IppAttributeNames.h"
 #include "job/PpdMarks.h"
 #include "job/Texts.h"
@@ -11,6 +12,8 @@
 #include <QSizeF>
 
 #include <algorithm>
+#include <cstddef>
+#include <vector>
 
 #include <cups/pwg.h>
 
@@ -101,6 +104,23 @@ QString customSizeProblem(ppd_file_t *ppd, const QString &name, const QString &v
     return {};
 }
 
+/// Why the parameters of an own value do not take it; null when they do, or when it is no own value.
+QString customValueProblem(ppd_file_t *ppd, const QString &name, const QString &value)
+{
+    const std::vector<CustomParameter> parameters = customParameters(ppd, name);
+    if (!isCustomValue(value) || parameters.empty()) {
+        return {};
+    }
+    const QStringList values = customValuesIn(parameters, value);
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+        const QString problem = customProblem(parameters[i], values.value(static_cast<qsizetype>(i)), false);
+        if (!problem.isNull()) {
+            return Texts::tr("%1=%2: %3").arg(name, withoutSecret(ppd, name, value), problem);
+        }
+    }
+    return {};
+}
+
 /// Whether CUPS finds a paper, a tray or a kind of paper by a name in the option media.
 bool isMedia(ppd_file_t *ppd, const QString &name)
 {
@@ -126,8 +146,7 @@ QString mediaProblem(ppd_file_t *ppd, const QString &value)
     return {};
 }
 
-QString problemOf(ppd_file_t *ppd, const QString &name, const QString &value,
-                  const std::function<bool(const QString &key)> &isPanels)
+QString problemOf(ppd_file_t *ppd, const QString &name, const QString &value, const AnswersFor &isPanels)
 {
     if (name == OptionName::media) {
         return mediaProblem(ppd, value);
@@ -142,15 +161,17 @@ QString problemOf(ppd_file_t *ppd, const QString &name, const QString &value,
                    ? QString()
                    : Texts::tr("%1=%2 is no value that CUPS knows for %1.").arg(name, value);
     }
-    return isPanels(QString::fromUtf8(option->keyword)) || !listedChoice(ppd, name, value).isNull()
+    if (const QString problem = customValueProblem(ppd, name, value); !problem.isNull()) {
+        return problem;
+    }
+    return isPanels(QString::fromUtf8(option->keyword), value) || !listedChoice(ppd, name, value).isNull()
                ? QString()
                : Texts::tr("%1=%2 is none of the choices that the printer's PPD lists.").arg(name, value);
 }
 
 } // namespace
 
-QStringList refusedValues(ppd_file_t *ppd, const JobOptions &asked,
-                          const std::function<bool(const QString &key)> &isPanels)
+QStringList refusedValues(ppd_file_t *ppd, const JobOptions &asked, const AnswersFor &isPanels)
 {
     QStringList sentences;
     for (const auto &[name, value] : asked.entries()) {

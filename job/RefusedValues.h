@@ -14,10 +14,12 @@
 namespace tapeprint::job
 {
 
+/// Whether a panel answers for a value of an option, and says itself what it makes of it.
+using AnswersFor = std::function<bool(const QString &key, const QString &value)>;
+
 /// A sentence for each value that neither the printer nor CUPS takes: none of the choices that the PPD lists, no size
-/// that can be read or that the printer has, no number where CUPS reads one. \param asked what was asked for; \param
-/// isPanels whether a panel answers for an option: it says itself what it makes of a value. \param ppd may be null.
-QStringList refusedValues(ppd_file_t *ppd, const JobOptions &asked,
-                          const std::function<bool(const QString &key)> &isPanels);
+/// that can be read or that the printer has, no number where CUPS reads one. \param ppd may be null. \param asked what
+/// was asked for.
+QStringList refusedValues(ppd_file_t *ppd, const JobOptions &asked, const AnswersFor &isPanels);
 
 } // namespace tapeprint::job

@@ -121,6 +121,11 @@ bool fitsTogether(const CommandLine &line, Problem *error)
                   QStringLiteral("--trust-ppd goes with --ppd: it is about the programs of that PPD file.")};
         return false;
     }
+    if (line.onlyManagesPresets() && line.request.queue.isEmpty()) {
+        *error = {Problem::BadUsage,
+                  QStringLiteral("--list-presets and --delete-preset go with -d: presets belong to a print queue.")};
+        return false;
+    }
     if (line.json && line.request.outputPath == u"-") {
         *error = {Problem::BadUsage,
                   QStringLiteral("--json and --output - both write to standard output: give the output a name.")};

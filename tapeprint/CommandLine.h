@@ -32,14 +32,20 @@ struct CommandLine {
     bool encrypts = false; ///< -E: no connection that is not encrypted
     QStringList files;     ///< none: standard input
 
+    QString savePreset;       ///< the settings are saved under this name; empty: they are not
+    QString deletePreset;     ///< the preset of this name is deleted; empty: none is
+    bool listPresets = false; ///< the names of the queue's presets are shown
+
     bool check = false; ///< see whether the job would be printed
     bool json = false;  ///< everything that is said is one JSON object
     QString complete;   ///< what a shell asks for to complete a line; null: nothing
 
-    /// Whether the options are only shown.
-    bool onlyShows() const { return (showOptions || summary) && !check; }
+    /// Whether presets are looked at or deleted, and nothing else is done.
+    bool onlyManagesPresets() const { return listPresets || !deletePreset.isEmpty(); }
+    /// Whether the options are only shown or saved.
+    bool onlyShows() const { return (showOptions || summary || !savePreset.isEmpty()) && !check; }
     /// Whether there is to be a job at all.
-    bool submits() const { return !showOptions && !summary && !check; }
+    bool submits() const { return !onlyManagesPresets() && !onlyShows() && !check; }
     /// Whether the documents are needed.
     bool readsDocuments() const { return !onlyShows(); }
 };

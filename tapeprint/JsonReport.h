@@ -7,6 +7,7 @@
 //   printer               queue, instance, ppd, output: those that there are
 //   options               what the job carries, by name; numbers are numbers
 //   summary               of each panel: panel, lines (title, value)
+//   presets               with --list-presets, of each: name, default, own, options
 //   job                   queue, id, state; or output, bytes
 #pragma once
 

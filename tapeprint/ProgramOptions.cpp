@@ -3,6 +3,7 @@
 #include "tapeprint/ProgramOptions.h"
 
 #include "job/CupsOptions.h"
+#include "job/Presets.h"
 
 #include <QRegularExpression>
 
@@ -152,6 +153,18 @@ bool takeCompletion(CommandLine &line, const QString &value, Problem *error)
     return takeText(&line.complete, value, "--complete needs to be told what.", error);
 }
 
+bool takeSavePreset(CommandLine &line, const QString &value, Problem *error)
+{
+    line.savePreset = value;
+    const QString problem = job::problemWithPresetName(value);
+    return problem.isNull() || refuse(error, problem);
+}
+
+bool takeDeletePreset(CommandLine &line, const QString &value, Problem *error)
+{
+    return takeText(&line.deletePreset, value, "--delete-preset needs the name of a preset.", error);
+}
+
 bool takeNothing(CommandLine & /*line*/, const QString & /*value*/, Problem * /*error*/)
 {
     return true;
@@ -195,6 +208,11 @@ constexpr std::array options{
                   "make the tape as long as what is drawn on the document needs, with both margins"},
     ProgramOption{"--adjust", nullptr, ValueKind::None, raise<&CommandLine::adjusts>,
                   "print also when a value given is not taken as it is, with what takes its place"},
+    ProgramOption{"--save-preset", "NAME", ValueKind::Text, takeSavePreset,
+                  "save the settings as the queue's preset NAME, and submit nothing"},
+    ProgramOption{"--delete-preset", "NAME", ValueKind::Text, takeDeletePreset, "delete the queue's preset NAME"},
+    ProgramOption{"--list-presets", nullptr, ValueKind::None, raise<&CommandLine::listPresets>,
+                  "print the names of the queue's presets"},
     ProgramOption{"--no-dialog", nullptr, ValueKind::None, raise<&CommandLine::noDialog>,
                   "do the same job without a window"},
     ProgramOption{"--show-options", nullptr, ValueKind::None, raise<&CommandLine::showOptions>,

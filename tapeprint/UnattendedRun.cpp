@@ -4,10 +4,13 @@
 
 #include "dialog/GatheredAlerts.h"
 #include "dialog/Panels.h"
+#include "job/CustomValues.h"
 #include "job/DocumentSpool.h"
 #include "job/LaidDownOptions.h"
 #include "job/LaidOutJob.h"
 #include "job/PageLayout.h"
+#include "job/PresetOptions.h"
+#include "job/Presets.h"
 #include "job/Printing.h"
 #include "job/QueueCheck.h"
 #include "job/RefusedValues.h"
@@ -93,8 +96,10 @@ bool fitLength(job::Job &job, const QStringList &files, QStringList &messages, j
 QStringList notCarriedAsAsked(const job::Job &job, const dialog::Panels &panels, const job::JobOptions &options)
 {
     const job::JobOptions asked = job::withNamedSize(options, job.ppd());
-    const auto isPanels = [&job, &panels](const QString &key) {
-        return panels.announced(key) || key == job.tape().lengthOption || key == job.tape().marginOption;
+    // A panel takes numbers that the PPD does not list; and what it has replaced is said as that.
+    const auto isPanels = [&job, &panels](const QString &key, const QString &value) {
+        const bool owns = panels.announced(key) || key == job.tape().lengthOption || key == job.tape().marginOption;
+        return owns && (job::isNumber(value) || job.options().value(key).compare(value, Qt::CaseInsensitive) != 0);
     };
     return job::refusedValues(job.ppd(), asked, isPanels) + panels.replacements(asked);
 }
@@ -107,7 +112,8 @@ public:
 
     RunReport run()
     {
-        const bool isDone = open() && settle() && show() && (!mLine.check || check()) && (!mLine.submits() || print());
+        const bool isDone = open() && settle() && show() && (mLine.savePreset.isEmpty() || save()) &&
+                            (!mLine.check || check()) && (!mLine.submits() || print());
         if (mIsOpen) { // however it ends, the panels hear of it
             addNotices();
             mPanels.windowWillClose(mIsPrinted);
@@ -129,7 +135,8 @@ private:
     bool open()
     {
         job::JobRequest request = mLine.request;
-        const bool fitsLength = job::layoutChoicesOf(request.options).fitLength; // by --fit-length or by -o
+        const bool fitsLength = job::layoutChoicesOf(request.options).fitLength && // by --fit-length or by -o
+                                mLine.savePreset.isEmpty();                        // which keeps the wish
         if (mLine.readsDocuments() || fitsLength) {
             mDocuments = job::DocumentSpool::collect(mLine.files, &mProblem);
             if (!mDocuments) {
@@ -163,7 +170,7 @@ private:
 
     bool show()
     {
-        const job::JobOptions carried = job::settle(mJob).carried();
+        const job::JobOptions carried = job::withoutSecrets(mJob.ppd(), job::settle(mJob).carried());
         if (mLine.showOptions) {
             mReport.output += carried.lines();
         }
@@ -172,6 +179,29 @@ private:
         }
         mReport.data.insert(QStringLiteral("options"), jsonOptions(carried));
         mReport.data.insert(QStringLiteral("summary"), jsonSummary(mPanels));
+        return true;
+    }
+
+    /// Saves the settings as a preset. Values that are not taken as they were given are not saved without a word.
+    bool save()
+    {
+        if (!mJob.destination().queue) {
+            mProblem = {job::Problem::BadUsage,
+                        QStringLiteral("--save-preset goes with a print queue: name one with -d.")};
+            return false;
+        }
+        if (!mRefusals.isEmpty() && !mLine.adjusts) {
+            mProblem = refusal();
+            return false;
+        }
+        const QString queue = mJob.destination().queue->name;
+        const job::JobOptions options = job::optionsForPreset(mJob.options(), mJob.ppd());
+        if (!job::savePreset(queue, mLine.savePreset, job::withoutGone(options, mJob.ppd()), &mProblem)) {
+            return false;
+        }
+        if (!mLine.silent) {
+            mReport.output.append(QStringLiteral("Preset %1/%2 is saved.").arg(queue, mLine.savePreset));
+        }
         return true;
     }
 

@@ -4,6 +4,7 @@
 
 #include "dialog/PrintDialog.h"
 #include "dialog/Translations.h"
+#include "job/CustomValues.h"
 #include "job/DocumentSpool.h"
 #include "job/Printing.h"
 #include "tapeprint/JsonReport.h"
@@ -85,7 +86,8 @@ RunReport runWindow(const CommandLine &line)
         report.status = exitStatus(job::Problem::Cancelled);
         return report;
     }
-    report.data.insert(QStringLiteral("options"), jsonOptions(job::settle(job).carried()));
+    report.data.insert(QStringLiteral("options"),
+                       jsonOptions(job::withoutSecrets(job.ppd(), job::settle(job).carried())));
     report.data.insert(QStringLiteral("job"), jsonJob(*window.printed()));
     if (!line.silent) {
         report.output.append(

@@ -4,6 +4,7 @@
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Completion.h"
 #include "tapeprint/Display.h"
+#include "tapeprint/PresetRun.h"
 #include "tapeprint/RunReport.h"
 #include "tapeprint/ServerChoice.h"
 #include "tapeprint/UnattendedRun.h"
@@ -61,6 +62,9 @@ int main(int argc, char **argv)
     }
     // A reader that goes away is said, as a full disk is.
     std::signal(SIGPIPE, SIG_IGN);
+    if (line->onlyManagesPresets()) {
+        return tapeprint::writeReport(tapeprint::runPresets(*line), line->json);
+    }
     nextMessageHandler = qInstallMessageHandler(passMessage);
     // Panels are real widgets with or without a window.
     const bool wantsWindow = !line->noDialog && line->submits();
@@ -69,7 +73,7 @@ int main(int argc, char **argv)
         return tapeprint::writeReport(tapeprint::failedRun(problem), line->json);
     }
     if (!wantsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", "minimal"); // the toolkit's quickest: it reads no fonts
     }
     // The toolkit gets no arguments: its own options would take lp's letters away.
     int toolkitArgc = 1;

@@ -143,4 +143,30 @@ TEST(CommandLineServer, IsTheOneOfTheLetters)
     EXPECT_TRUE(line->encrypts);
 }
 
+TEST(CommandLinePresets, AreNoJobs)
+{
+    tapeprint::job::Problem error;
+    const auto saving = parseCommandLine({u"-d"_qs, u"tape"_qs, u"--save-preset"_qs, u"red"_qs}, &error);
+    ASSERT_TRUE(saving.has_value()) << error.sentence.toStdString();
+    EXPECT_EQ(saving->savePreset, u"red"_qs);
+    EXPECT_FALSE(saving->submits());
+    EXPECT_FALSE(saving->readsDocuments());
+    EXPECT_FALSE(saving->onlyManagesPresets());
+    const auto listing = parseCommandLine({u"-d"_qs, u"tape"_qs, u"--list-presets"_qs}, &error);
+    ASSERT_TRUE(listing.has_value());
+    EXPECT_TRUE(listing->onlyManagesPresets());
+    EXPECT_FALSE(listing->submits());
+}
+
+TEST(CommandLinePresets, NeedAQueueAndANameThatCupsCanKeep)
+{
+    tapeprint::job::Problem error;
+    EXPECT_FALSE(parseCommandLine({u"--list-presets"_qs}, &error).has_value());
+    EXPECT_TRUE(error.sentence.contains(u"go with -d"_qs)) << error.sentence.toStdString();
+    EXPECT_FALSE(parseCommandLine({u"--delete-preset"_qs, u"red"_qs}, &error).has_value());
+    EXPECT_FALSE(parseCommandLine({u"-d"_qs, u"tape"_qs, u"--save-preset"_qs, u"two words"_qs}, &error).has_value());
+    EXPECT_EQ(error.kind, tapeprint::job::Problem::BadUsage);
+    EXPECT_TRUE(error.sentence.contains(u"blanks"_qs)) << error.sentence.toStdString();
+}
+
 } // namespace

@@ -7,6 +7,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <sys/stat.h>
+
 namespace
 {
 
@@ -123,6 +125,7 @@ TEST_F(Program, ValueThatIsNotTakenAsItIs_IsRefusedBeforeAnythingIsPrinted)
         {u"KsMargin="_qs + QString(41, u'9'), "the job carries 2.0."},
         {u"CutMedia=Twice"_qs, "CutMedia=Twice is none of the choices"},
         {u"CutMedia=3"_qs, "CutMedia=3 is none of the choices"}, // no panel answers for it
+        {u"PageSize=W99"_qs, "PageSize=W99 is none of the choices"},
         {u"PageSize=Custom.24x"_qs, "PageSize=Custom.24x is no size"},
         {u"media=Custom.twelve"_qs, "media=Custom.twelve is no size"},
         {u"media=W99"_qs, "media=W99 is none of the choices"},
@@ -198,6 +201,33 @@ TEST_F(Program, PdfThatIsBrokenOrLocked_IsNotSentToPaperEither)
         expectFailure(testsupport::badDocument, {mode, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, document, broken},
                       "broken.pdf is damaged");
     }
+}
+
+TEST_F(Program, NamedPipe_IsReadOnceToItsEnd)
+{
+    const QString pipe = folder.filePath(u"pipe"_qs);
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    // The writer ends well: nobody opened the pipe only to look at it.
+    QProcess writer;
+    writer.start(u"sh"_qs, {u"-c"_qs, u"printf 'Through a pipe\\n' > \"$0\" && echo whole"_qs, pipe});
+    const Outcome outcome =
+        run({u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs, pipe});
+    EXPECT_EQ(outcome.status, testsupport::done) << outcome.messages.toStdString();
+    ASSERT_TRUE(writer.waitForFinished());
+    EXPECT_EQ(writer.readAllStandardOutput(), "whole\n");
+    EXPECT_TRUE(contentsOf(folder.filePath(u"out.prn"_qs)).endsWith("Through a pipe\n"));
+}
+
+TEST_F(Program, SeveralFiles_ArePrintedInTheirOrder)
+{
+    const QString second = hosttest::writeFile(folder, u"second.txt"_qs, "World\n");
+    EXPECT_EQ(run({u"--no-dialog"_qs, u"--trust-ppd"_qs, u"--ppd"_qs, filterPpd, u"--output"_qs, u"out.prn"_qs,
+                   document, second})
+                  .status,
+              testsupport::done);
+    const QByteArray bytes = contentsOf(folder.filePath(u"out.prn"_qs));
+    EXPECT_GE(bytes.indexOf("Hello\n"), 0) << bytes.toStdString();
+    EXPECT_GT(bytes.indexOf("World\n"), bytes.indexOf("Hello\n")) << bytes.toStdString();
 }
 
 TEST_F(Program, Json_IsOneObjectWithNumbersAsNumbers)

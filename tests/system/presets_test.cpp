@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // A preset saved in the real window is CUPS's own: lp prints with it, lpoptions shows it, and other presets stay.
+#include "tests/support/ExitStatuses.h"
 #include "tests/system/SystemTest.h"
 #include "tests/system/WindowUnderTest.h"
 
@@ -118,6 +119,36 @@ TEST_F(PresetJob, SavedInTheWindow_IsUsedByLpAndKeptByLpoptions)
     const std::vector<FilterCall> blue = printedByLp(u"tape/blue"_qs);
     ASSERT_EQ(blue.size(), 1U);
     EXPECT_TRUE(holds(tapeOptions(blue[0]), "KsTapeColor=KsTapeColorBlue"));
+}
+
+TEST_F(PresetJob, SavedByTheCommandLine_IsListedUsedAndDeleted)
+{
+    const QStringList gold{u"-d"_qs, u"tape"_qs, u"-n"_qs, u"2"_qs,
+                           u"-P"_qs, u"1"_qs,    u"-o"_qs, u"KsInkColor=KsInkColorGold"_qs};
+    const Outcome saved = tapeprint(gold + QStringList{u"--save-preset"_qs, u"gold"_qs});
+    EXPECT_EQ(saved.status, 0) << saved.messages.toStdString();
+    EXPECT_EQ(saved.output, "Preset tape/gold is saved.\n");
+    EXPECT_TRUE(cups.jobs().empty());
+    EXPECT_FALSE(this->saved().contains("page-ranges"));
+
+    // A value that is not taken as it is given is not saved in another's place.
+    const Outcome refused =
+        tapeprint({u"-d"_qs, u"tape"_qs, u"-o"_qs, u"KsInkColor=Invisible"_qs, u"--save-preset"_qs, u"bad"_qs});
+    EXPECT_EQ(refused.status, testsupport::refusedValue) << refused.messages.toStdString();
+    EXPECT_EQ(tapeprint({u"-d"_qs, u"tape"_qs, u"--list-presets"_qs}).output, "gold\n");
+
+    const std::vector<FilterCall> calls = printedByLp(u"tape/gold"_qs);
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsInkColor=KsInkColorGold"}));
+    EXPECT_EQ(calls[0].copies(), "2");
+    const std::vector<FilterCall> own =
+        filterCallsOf(tapeprint({u"-d"_qs, u"tape/gold"_qs, u"--no-dialog"_qs, document}));
+    ASSERT_EQ(own.size(), 1U);
+    EXPECT_EQ(tapeOptions(own[0]), panelOptionsMm({"KsInkColor=KsInkColorGold"}));
+
+    EXPECT_EQ(tapeprint({u"-d"_qs, u"tape"_qs, u"--delete-preset"_qs, u"gold"_qs}).status, 0);
+    EXPECT_EQ(tapeprint({u"-d"_qs, u"tape"_qs, u"--delete-preset"_qs, u"gold"_qs}).status, testsupport::badUsage);
+    EXPECT_EQ(tapeprint({u"-d"_qs, u"tape"_qs, u"--list-presets"_qs}).output, "");
 }
 
 } // namespace

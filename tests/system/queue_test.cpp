@@ -119,6 +119,36 @@ TEST_F(QueueJob, StandardInput_IsPrintedWhenNoFileIsNamed)
     EXPECT_EQ(labelsIn(cups.printedBy(u"tape"_qs)).size(), 1U);
 }
 
+TEST_F(QueueJob, Check_TellsAQueueThatTakesNoJobsFromOneThatDoes)
+{
+    const QStringList check{u"--check"_qs, u"-d"_qs, u"tape"_qs, document};
+    EXPECT_EQ(tapeprint(check).status, testsupport::done);
+    run(u"/usr/sbin/cupsreject"_qs, {u"tape"_qs});
+    const Outcome outcome = tapeprint(check);
+    EXPECT_EQ(outcome.status, testsupport::rejectedJob);
+    EXPECT_TRUE(outcome.messages.contains("takes no jobs")) << outcome.messages.toStdString();
+    EXPECT_TRUE(cups.jobs().empty());
+}
+
+TEST_F(QueueJob, ServerOfTheLetterH_IsTheOneThatIsUsed)
+{
+    moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"nobody.sock"_qs)}};
+    EXPECT_EQ(tapeprint({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document}).status, testsupport::unreachable);
+    EXPECT_EQ(
+        tapeprint({u"-h"_qs, cups.socket(), u"-U"_qs, u"mary"_qs, u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document})
+            .status,
+        testsupport::done);
+    ASSERT_EQ(cups.jobs().size(), 1U);
+    EXPECT_EQ(cups.attributeOfJob(cups.jobs()[0].id, "job-originating-user-name"), "mary");
+}
+
+TEST_F(QueueJob, CompletionOfQueues_NamesThem)
+{
+    EXPECT_TRUE(tapeprint({u"--complete"_qs, u"queues"_qs}).output.contains("tape\t"));
+    EXPECT_TRUE(tapeprint({u"--complete"_qs, u"choices:KsTapeColor"_qs, u"-d"_qs, u"tape"_qs})
+                    .output.contains("KsTapeColorYellow\t"));
+}
+
 TEST_F(QueueJob, PpdOfTheQueue_LeavesNoTemporaryFile)
 {
     const QString temporary = folder.makeFolder(u"temporary"_qs, 0700);
