@@ -10,12 +10,12 @@
 //     └─ Revert ... Cancel, Print
 #pragma once
 
-#include "dialog/BackgroundWork.h"
 #include "dialog/DocumentDesk.h"
 #include "dialog/GreyedOut.h"
 #include "dialog/MeasureUnit.h"
 #include "dialog/Panels.h"
 #include "dialog/PresetRow.h"
+#include "dialog/PrintRun.h"
 #include "dialog/PrinterDesk.h"
 #include "job/Destination.h"
 #include "job/Job.h"
@@ -42,6 +42,7 @@ class QStackedWidget;
 namespace tapeprint::dialog
 {
 
+class JobRow;
 class LayoutPage;
 class NoticesArea;
 class OptionsPage;
@@ -62,11 +63,11 @@ public:
         QStringList files;       ///< the documents to show; none when there is no document yet
         PrinterSource printers;  ///< to offer
     };
-    /// What Print does when the settings are final, away from the window's thread. \param stop when it becomes true,
-    /// the person has changed their mind. \return what became of the job; nothing, and a sentence in *error, when it
-    /// could not be done and the window stays as it is. Without a sentence it was stopped.
+    /// What Print does when the settings are final, away from the window's thread. \param watch its stop flag becomes
+    /// true when the person has changed their mind. \return what became of the job; nothing, and a sentence in *error,
+    /// when it could not be done and the window stays as it is. Without a sentence it was stopped.
     using PrintAction = std::function<std::optional<job::PrintedJob>(
-        const job::SettledJob &job, const std::atomic<bool> &stop, job::Problem *error)>;
+        const job::SettledJob &job, const job::PrintWatch &watch, job::Problem *error)>;
 
     /// \param job and \param panels outlive the window. With a destination opened already, the window shows it; else it
     /// opens the one of the request, away from its thread, and can be shown meanwhile.
@@ -76,9 +77,10 @@ public:
     /// Whether the first printer is open, or it is known that there is none to open by itself.
     bool isSettled() const { return !mPrinters.isOpening(); }
     /// What became of the job; nothing when nothing was printed.
-    const std::optional<job::PrintedJob> &printed() const { return mPrinted; }
+    const std::optional<job::PrintedJob> &printed() const { return mRun.printed(); }
 
-    /// Cancel: the window closes, or, while it prints, printing stops and the window stays.
+    /// Escape: the window closes, or, while a job is laid out and sent, that ends and the window stays. A job that the
+    /// server has goes on.
     void reject() override;
     void done(int code) override;
 
@@ -104,7 +106,6 @@ private:
     QWidget *makeSummary(QWidget *parent);
     QWidget *makeFitControls(QWidget *parent);
     QWidget *makeButtons();
-    QWidget *makeProgress(QWidget *parent);
     void connectControls();
     void addCommandButton();
     void showCommand();
@@ -115,6 +116,7 @@ private:
     void showNoDestination();
     void growToContents();
     void showWhetherPrintable();
+    bool isPrinting() const { return mRun.phase() != PrintRun::Phase::Idle; }
     void showDestination();
     void showTapes();
     void makePages();
@@ -143,9 +145,14 @@ private:
     void followInThePresets();
     std::optional<job::JobOptions> optionsToSave();
     std::function<void()> keepingForNextTime() const;
+    void connectPrinting();
     void print();
-    void setPrinting(bool isPrinting);
-    void finishPrinting(std::optional<job::PrintedJob> printed, const job::Problem &error);
+    void cancel();
+    void leaveJob();
+    void showPrinting();
+    void tellJob(const QString &words, int percent);
+    void failPrinting(const job::Problem &problem);
+    void endPrinting();
 
     job::SettledJob currentJob() const;
     void takeDocuments();
@@ -164,8 +171,8 @@ private:
     Panels &mPanels;
     Setup mSetup;
     PrintAction mPrintAction;
-    std::optional<job::PrintedJob> mPrinted;
-    BackgroundWork mPrinting;
+    PrintRun mRun;
+    QTimer mLeaveTimer; ///< when it ends, a job that only waits its turn keeps the window open no longer
     DocumentDesk mDesk;
     MeasureUnit mUnit; ///< of every length that the dialog itself shows or takes
     bool mClosed = false;
@@ -199,7 +206,7 @@ private:
     QHBoxLayout *mPresetPlace = nullptr;      ///< right of the printer, for what goes with the whole of a queue
     QHBoxLayout *mMoreButtonsPlace = nullptr; ///< lower left, from Revert on
     QHBoxLayout *mAmountPlace = nullptr;      ///< before Cancel, for what is said beside Print; it gives way first
-    QWidget *mProgress = nullptr;             ///< shown while it prints
+    JobRow *mJobRow = nullptr;                ///< shown while it prints
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;

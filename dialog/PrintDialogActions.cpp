@@ -38,8 +38,7 @@ void PrintDialog::connectControls()
     });
     connect(mPageChooser, &QComboBox::activated, this, &PrintDialog::pickPage);
     connect(mRevertButton, &QPushButton::clicked, this, &PrintDialog::revert);
-    connect(mCancelButton, &QPushButton::clicked, this, &PrintDialog::reject);
-    connect(mPrintButton, &QPushButton::clicked, this, &PrintDialog::print);
+    connectPrinting();
     connect(mFitButton, &QPushButton::clicked, this, &PrintDialog::fitOnce);
     connect(mKeepFitting, &QCheckBox::clicked, this, [this](bool keep) {
         if (keep) {
@@ -192,71 +191,6 @@ void PrintDialog::remakePanels()
     mPanels.remake();
     makePages();
     showPages(shown);
-}
-
-void PrintDialog::print()
-{
-    job::Problem error;
-    if (!mPanels.saveValues(&error)) {
-        tellProblem(error.sentence);
-        return;
-    }
-    // A panel that refuses has told the person why; the dialog stays as it is.
-    if (QString panel; !mPanels.shouldPrint(&panel)) {
-        follow();
-        return;
-    }
-    setPrinting(true);
-    mPrinting.start([this, action = mPrintAction, keep = keepingForNextTime(),
-                     job = job::settle(mJob)](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
-        job::Problem problem;
-        std::optional<job::PrintedJob> printed = action(job, stop, &problem);
-        if (printed) {
-            keep();
-        }
-        return [this, printed = std::move(printed), problem] { finishPrinting(printed, problem); };
-    });
-}
-
-void PrintDialog::setPrinting(bool isPrinting)
-{
-    // Only Cancel is left: what is being printed is not to be changed under the person's hands.
-    for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (widget != mCancelButton->parentWidget()) {
-            widget->setEnabled(!isPrinting);
-        }
-    }
-    mRevertButton->setEnabled(!isPrinting);
-    mPrintButton->setEnabled(!isPrinting);
-    mProgress->setVisible(isPrinting);
-    if (isPrinting) {
-        mCancelButton->setFocus();
-    }
-}
-
-void PrintDialog::finishPrinting(std::optional<job::PrintedJob> printed, const job::Problem &error)
-{
-    setPrinting(false);
-    showWhetherPrintable(); // the printer may have gone meanwhile
-    if (!printed) {
-        if (!error.isNull()) { // without a sentence it was stopped
-            tellProblem(error.sentence);
-        }
-        mPrintButton->setFocus();
-        return;
-    }
-    mPrinted = std::move(printed);
-    say(QMessageBox::Information, mPrinted->sentence());
-    accept();
-}
-
-void PrintDialog::reject()
-{
-    if (mPrinting.isRunning()) {
-        mPrinting.stop();
-        return;
-    }
-    QDialog::reject();
 }
 
 void PrintDialog::done(int code)

@@ -8,6 +8,7 @@
 //   Settings [     ]                | Summary
 //   page of the chooser             | Preview, Fit Length
 //   mMoreButtonsPlace     mAmountPlace, progress     Cancel, Print
+#include "dialog/JobRow.h"
 #include "dialog/Mnemonics.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/PanelArea.h"
@@ -24,7 +25,6 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -62,6 +62,8 @@ void PrintDialog::buildControls()
     middle->addWidget(makePagesArea());
     middle->addWidget(makeResultArea());
     layout->addLayout(middle, 1);
+    mJobRow = new JobRow(this);
+    layout->addWidget(mJobRow);
     layout->addWidget(makeButtons());
 }
 
@@ -172,7 +174,6 @@ QWidget *PrintDialog::makeButtons()
     mMoreButtonsPlace = new QHBoxLayout;
     mMoreButtonsPlace->addWidget(mRevertButton);
     mAmountPlace = new QHBoxLayout;
-    mProgress = makeProgress(buttons);
     mCancelButton = new QPushButton(tr("Cancel"), buttons);
     mCancelButton->setObjectName(QStringLiteral("cancel"));
     mCancelButton->setAutoDefault(false);
@@ -182,27 +183,9 @@ QWidget *PrintDialog::makeButtons()
     layout->addLayout(mMoreButtonsPlace);
     layout->addStretch();
     layout->addLayout(mAmountPlace);
-    layout->addWidget(mProgress);
     layout->addWidget(mCancelButton);
     layout->addWidget(mPrintButton);
     return buttons;
-}
-
-QWidget *PrintDialog::makeProgress(QWidget *parent)
-{
-    constexpr int barWidth = 100;
-    auto *progress = new QWidget(parent);
-    auto *layout = new QHBoxLayout(progress);
-    layout->setContentsMargins({});
-    auto *bar = new QProgressBar(progress);
-    bar->setRange(0, 0); // how long filters and servers take is not known
-    bar->setTextVisible(false);
-    bar->setFixedWidth(barWidth);
-    bar->setAccessibleName(tr("Printing"));
-    layout->addWidget(new QLabel(tr("Printing…"), progress));
-    layout->addWidget(bar);
-    progress->hide();
-    return progress;
 }
 
 void PrintDialog::assignKeys()

@@ -33,7 +33,7 @@ void PrintDialog::startPrinters()
     mPrinters.setGate([this, usualLevel] {
         const QWidget *modal = QApplication::activeModalWidget();
         return (modal == nullptr || modal == this) && QThread::currentThread()->loopLevel() <= usualLevel &&
-               !mPrinting.isRunning() && !mIsFitting;
+               !isPrinting() && !mIsFitting;
     });
     connect(mLoadAnew, &QPushButton::clicked, &mPrinters, &PrinterDesk::takeNewDescription);
     connect(&mPrinters, &PrinterDesk::changed, this, &PrintDialog::followPrinters);
@@ -119,12 +119,12 @@ void PrintDialog::followPrinters()
 
 void PrintDialog::showWhetherPrintable()
 {
-    const bool canPrint = mPrinters.canPrint() && !mPrinting.isRunning();
+    const bool canPrint = mPrinters.canPrint() && !isPrinting();
     mPrintButton->setEnabled(canPrint);
-    mPrintButton->setToolTip(canPrint || mPrinting.isRunning() ? QString()
-                             : mPrinters.isOpening()           ? tr("The printer is still being connected.")
-                             : mPrinters.hasOpen()             ? tr("The printer is not there any more.")
-                                                               : tr("Choose a printer first."));
+    mPrintButton->setToolTip(canPrint || isPrinting() ? QString()
+                             : mPrinters.isOpening()  ? tr("The printer is still being connected.")
+                             : mPrinters.hasOpen()    ? tr("The printer is not there any more.")
+                                                      : tr("Choose a printer first."));
 }
 
 } // namespace tapeprint::dialog

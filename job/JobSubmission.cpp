@@ -53,8 +53,8 @@ bool isOk(ipp_status_t status)
 class Upload
 {
 public:
-    Upload(const Submission &submission, const std::atomic<bool> &stop, const SendReport &report)
-        : mSubmission(submission), mReport(report), mServer(ServerConnection::open(&stop))
+    Upload(const Submission &submission, const PrintWatch &watch)
+        : mSubmission(submission), mReport(watch.report), mServer(ServerConnection::open(&watch.stop))
     {
         for (const QString &file : submission.files) {
             mProgress.ofBytes += QFileInfo(file).size();
@@ -289,10 +289,9 @@ private:
 
 } // namespace
 
-std::optional<SubmittedJob> submitJob(const Submission &submission, const std::atomic<bool> &stop,
-                                      const SendReport &report, Problem *error)
+std::optional<SubmittedJob> submitJob(const Submission &submission, const PrintWatch &watch, Problem *error)
 {
-    return Upload(submission, stop, report).run(error);
+    return Upload(submission, watch).run(error);
 }
 
 } // namespace tapeprint::job

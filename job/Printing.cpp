@@ -65,12 +65,12 @@ bool isPrintable(const SettledJob &job, const QStringList &files, const std::ato
 }
 
 std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
-                                   const std::atomic<bool> &stop, Problem *error, const SendReport &report)
+                                   const PrintWatch &watch, Problem *error)
 {
     QStringList printed = files;
     std::unique_ptr<PrivateFile> labels;
     if (job.page.isTape) {
-        labels = layOut(job, files, stop, error);
+        labels = layOut(job, files, watch.stop, error);
         if (!labels) {
             return std::nullopt;
         }
@@ -81,12 +81,11 @@ std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, 
     if (job.isFile()) {
         const std::optional<FilterOutput> output =
             runFilters({job.ppdPath, title, job.carried(), printed, job.outputPath, job.mayReplaceOutput, job.trustsPpd,
-                        job.documents, &stop},
+                        job.documents, &watch.stop},
                        error);
         return output ? std::optional(PrintedJob{{}, {}, *output}) : std::nullopt;
     }
-    const std::optional<SubmittedJob> submitted =
-        submitJob({*job.queue, title, job.carried(), printed}, stop, report, error);
+    const std::optional<SubmittedJob> submitted = submitJob({*job.queue, title, job.carried(), printed}, watch, error);
     return submitted ? std::optional(PrintedJob{job.queue->name, *submitted, {}}) : std::nullopt;
 }
 

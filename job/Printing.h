@@ -32,10 +32,10 @@ bool isPrintable(const SettledJob &job, const QStringList &files, const std::ato
 
 /// Prints documents, away from a window's thread if one is there, to the job's destination: for tape laid out on
 /// labels, for paper as they are, because the filters lay those out. \param title the job's title; \param files the
-/// documents, only read. \param stop when it becomes true, printing ends with nothing printed. \return what became of
-/// the job; std::nullopt, and a sentence in *error, on failure. \param report hears of what is sent to a queue; may be
-/// null.
+/// documents, only read. \param watch when its stop flag becomes true, printing ends with nothing printed; its report
+/// hears of what is sent to a queue. \return what became of the job; std::nullopt, and a sentence in *error, on
+/// failure.
 std::optional<PrintedJob> printJob(const SettledJob &job, const QString &title, const QStringList &files,
-                                   const std::atomic<bool> &stop, Problem *error, const SendReport &report = nullptr);
+                                   const PrintWatch &watch, Problem *error);
 
 } // namespace tapeprint::job

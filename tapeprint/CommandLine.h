@@ -25,6 +25,7 @@ struct CommandLine {
     bool help = false;
     bool version = false;
     bool trustPpd = false;
+    bool wait = false;     ///< without a window: the run ends when the job does
     bool silent = false;   ///< -s: say nothing about a job that went well
     bool adjusts = false;  ///< a value that is not taken as it is does not keep the job from being printed
     QString server;        ///< -h HOST:PORT; empty: the one that CUPS is set up for

@@ -215,6 +215,8 @@ constexpr std::array options{
                   "print the names of the queue's presets"},
     ProgramOption{"--no-dialog", nullptr, ValueKind::None, raise<&CommandLine::noDialog>,
                   "do the same job without a window"},
+    ProgramOption{"--wait", nullptr, ValueKind::None, raise<&CommandLine::wait>,
+                  "without a window: end when the job is printed, held or has failed"},
     ProgramOption{"--show-options", nullptr, ValueKind::None, raise<&CommandLine::showOptions>,
                   "print the options that the job would carry, and submit nothing"},
     ProgramOption{"--summary", nullptr, ValueKind::None, raise<&CommandLine::summary>,

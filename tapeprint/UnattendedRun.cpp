@@ -14,6 +14,7 @@
 #include "job/Printing.h"
 #include "job/QueueCheck.h"
 #include "job/RefusedValues.h"
+#include "tapeprint/JobWait.h"
 #include "tapeprint/JsonReport.h"
 #include "tapeprint/OutputPath.h"
 
@@ -224,12 +225,15 @@ private:
         if (!job::areUnchanged(mDocuments->sources(), &mProblem)) {
             return false;
         }
-        const std::optional<job::PrintedJob> printed = job::printJob(
+        std::optional<job::PrintedJob> printed = job::printJob(
             job::settle(mJob), mDocuments->title(mLine.request.title), mDocuments->files(), neverStopped, &mProblem);
         if (!printed) {
             return false;
         }
         mIsPrinted = true;
+        if (mLine.wait && !waitForJob(*printed, mJob.page().isTape, &mProblem)) {
+            return false;
+        }
         mReport.data.insert(QStringLiteral("job"), jsonJob(*printed));
         if (!mLine.silent) {
             mReport.output.append(printed->sentence());

@@ -2,6 +2,7 @@
 // Opens what the command line names, shows the window, and says what became of the job.
 #include "tapeprint/WindowRun.h"
 
+#include "dialog/PasswordQuestion.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/Translations.h"
 #include "job/CustomValues.h"
@@ -57,6 +58,7 @@ RunReport runWindow(const CommandLine &line)
     // The window speaks the person's language; what is said on standard output and standard error does not, because
     // scripts read it.
     auto translations = std::make_optional<dialog::Translations>();
+    const dialog::PasswordDesk passwords;
     job::Job job;
     job.setLanguages(QLocale().uiLanguages());
     dialog::Panels panels(job, dialog::bundleSearchPath());
@@ -65,9 +67,9 @@ RunReport runWindow(const CommandLine &line)
     }
     const QString title = documents->title(request.title);
     const auto print = [title, files = documents->files(), sources = documents->sources()](
-                           const job::SettledJob &settled, const std::atomic<bool> &stop, job::Problem *reason) {
+                           const job::SettledJob &settled, const job::PrintWatch &watch, job::Problem *reason) {
         // The window may have been open for hours, and the document another one by now.
-        return job::areUnchanged(sources, reason) ? job::printJob(settled, title, files, stop, reason) : std::nullopt;
+        return job::areUnchanged(sources, reason) ? job::printJob(settled, title, files, watch, reason) : std::nullopt;
     };
     dialog::PrintDialog window(
         job, panels,

@@ -7,6 +7,7 @@
 #include "tapeprint/PresetRun.h"
 #include "tapeprint/RunReport.h"
 #include "tapeprint/ServerChoice.h"
+#include "tapeprint/TerminalPassword.h"
 #include "tapeprint/UnattendedRun.h"
 #include "tapeprint/WindowRun.h"
 
@@ -82,6 +83,9 @@ int main(int argc, char **argv)
     start.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
 
+    if (!wantsWindow) {
+        tapeprint::job::setPasswordAsker(tapeprint::askOnTerminal); // the window has its own
+    }
     tapeprint::RunReport run = wantsWindow ? tapeprint::runWindow(*line) : tapeprint::runUnattended(*line);
     // Standard output is the printer's.
     if (line->submits() && tapeprint::job::isStandardOutput(line->request.outputPath)) {

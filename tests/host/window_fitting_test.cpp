@@ -387,7 +387,7 @@ TEST_F(WindowFitting, Print_Cancelled_StaysOpenAndMayBePrintedAgain)
     ASSERT_NO_FATAL_FAILURE(
         open(boxOfHundredPoints, [&calls](const job::SettledJob &, const std::atomic<bool> &stop, job::Problem *) {
             if (calls.fetch_add(1) > 0) {
-                return std::optional(job::PrintedJob{u"tape"_qs, {}, {}});
+                return std::optional(job::PrintedJob{{}, {}, {u"out.prn"_qs, 5}});
             }
             while (!stop) {
                 QThread::msleep(1);
@@ -419,7 +419,7 @@ TEST_F(WindowFitting, Print_Cancelled_StaysOpenAndMayBePrintedAgain)
     click(u"print"_qs);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !dialog->isVisible(); }, patienceMs));
     ASSERT_TRUE(dialog->printed().has_value());
-    EXPECT_EQ(dialog->printed()->queue, u"tape"_qs);
+    EXPECT_EQ(dialog->printed()->output.bytes, 5);
     EXPECT_EQ(answers.sentences, QStringList{dialog->printed()->sentence()});
 }
 

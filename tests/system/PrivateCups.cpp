@@ -179,12 +179,24 @@ QString PrivateCups::recordingFilter()
 
 QString PrivateCups::addRecordedQueue(const QString &name, const QString &description)
 {
+    return addFilteredQueue(name, description, recordingFilter());
+}
+
+QString PrivateCups::addScriptedQueue(const QString &name, const QString &description, const QByteArray &script)
+{
+    const QString folder = mFolder.makeFolder(QStringLiteral("filter"));
+    return addFilteredQueue(name, description,
+                            writeFile(folder + u'/' + name + QLatin1String("-filter"), "#!/bin/sh\n" + script, 0755));
+}
+
+QString PrivateCups::addFilteredQueue(const QString &name, const QString &description, const QString &filter)
+{
     QByteArray ppd = contentsOf(describedBy(description));
     const QByteArray shipped = " rastertolabel\"";
     if (ppd.count(shipped) != 1) {
         return QStringLiteral("The description %1 does not name the filter rastertolabel once.").arg(description);
     }
-    ppd.replace(shipped, " " + QFile::encodeName(recordingFilter()) + '"');
+    ppd.replace(shipped, " " + QFile::encodeName(filter) + '"');
     return addQueue(name, writeFile(mFolder.path(name + QLatin1String(".ppd")), ppd));
 }
 

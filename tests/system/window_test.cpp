@@ -7,6 +7,7 @@
 
 #include <QElapsedTimer>
 #include <QImage>
+#include <QThread>
 
 namespace
 {
@@ -42,13 +43,10 @@ protected:
         ASSERT_TRUE(problem.isNull()) << problem.toStdString();
     }
 
-    /// Clicks on Print, reads the sentence about the job away, and waits for the job.
+    /// Clicks on Print and waits for the job; the window closes when it is printed.
     std::vector<FilterCall> print()
     {
         dialog.clickPrint();
-        const QString sentence = dialog.waitForFurtherWindow();
-        EXPECT_FALSE(sentence.isNull()) << "no word about the job";
-        dialog.press({u"Return"_qs});
         return filterCallsOf(dialog.waitForEnd());
     }
 
@@ -214,6 +212,41 @@ TEST_F(WindowJob, DocumentThatChanged_IsSaidAndNotPrinted)
     dialog.press({u"Escape"_qs});
     EXPECT_EQ(dialog.waitForEnd().output, "");
     EXPECT_TRUE(cups.jobs().empty());
+}
+
+TEST_F(WindowJob, FilterThatFails_IsSaidAndTheWindowStaysToPrintAgain)
+{
+    const QString works = folder.path(u"works"_qs);
+    ASSERT_TRUE(cups.addScriptedQueue(u"moody"_qs, u"mm"_qs,
+                                      "cat >/dev/null; [ -e " + works.toUtf8() + " ] || exit 1; echo tape\n")
+                    .isNull());
+    ASSERT_NO_FATAL_FAILURE(open({u"-d"_qs, u"moody"_qs}));
+    dialog.clickPrint();
+    const QString sentence = dialog.waitForFurtherWindow();
+    ASSERT_FALSE(sentence.isNull()) << "no word about the job";
+    dialog.press({u"Return"_qs});
+    ASSERT_TRUE(dialog.waitForGone(sentence));
+    EXPECT_EQ(dialog.windows(), QStringList{dialog.window()});
+    systemtest::writeFile(works, "");
+    dialog.clickPrint();
+    const Outcome outcome = dialog.waitForEnd();
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    EXPECT_EQ(outcome.output, "Job moody-2 is completed.\n");
+}
+
+TEST_F(WindowJob, PausedQueue_TheWindowSaysSoAndCanBeClosedWithoutEndingTheJob)
+{
+    systemtest::runClient({u"/usr/sbin/cupsdisable"_qs, {u"-r"_qs, u"cleaning the knife"_qs, u"tape"_qs}, variables()});
+    ASSERT_NO_FATAL_FAILURE(open());
+    dialog.clickPrint();
+    ASSERT_TRUE(systemtest::waitUntil([this] { return cups.jobs().size() == 1; }));
+    // It stays longer than for a job that waits behind others.
+    QThread::sleep(6);
+    EXPECT_TRUE(display.takePicture(dialog.window(), QStringLiteral(TAPEPRINT_SCREENSHOT_DIR "/job-waits.png")));
+    EXPECT_EQ(dialog.windows(), QStringList{dialog.window()});
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(dialog.waitForEnd().output, "Job tape-1 is pending.\n");
+    EXPECT_EQ(cups.jobs().at(0).state, 3); // pending
 }
 
 TEST_F(WindowJob, Cancel_PrintsNothing)

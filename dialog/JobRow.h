@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+// The line of the window that tells how a job is coming on.
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace tapeprint::dialog
+{
+
+/// Hidden while nothing is printed.
+class JobRow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit JobRow(QWidget *parent = nullptr);
+
+    /// \param words may hold texts of strangers. \param percent of what is to be sent; below 0 while nobody knows how
+    /// long it takes.
+    void tell(const QString &words, int percent);
+    /// Whether the window may be closed without ending anything: shows a button for it.
+    void setCanClose(bool canClose);
+    QPushButton *closeButton() const { return mClose; }
+
+private:
+    QLabel *mWords;
+    QProgressBar *mBar;
+    QPushButton *mClose;
+};
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: Apache-2.0
+// Print, and what the window shows until the printer's last word.
+#include "dialog/JobRow.h"
+#include "dialog/PrintDialog.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+/// So long the window stays when nobody has to do anything and the job only waits its turn.
+constexpr int leaveAfterMs = 5000;
+
+} // namespace
+
+void PrintDialog::connectPrinting()
+{
+    connect(mPrintButton, &QPushButton::clicked, this, &PrintDialog::print);
+    connect(mCancelButton, &QPushButton::clicked, this, &PrintDialog::cancel);
+    connect(mJobRow->closeButton(), &QPushButton::clicked, this, &PrintDialog::leaveJob);
+    connect(&mRun, &PrintRun::told, this, &PrintDialog::tellJob);
+    connect(&mRun, &PrintRun::sent, this, &PrintDialog::showPrinting);
+    connect(&mRun, &PrintRun::failed, this, &PrintDialog::failPrinting);
+    connect(&mRun, &PrintRun::ended, this, &PrintDialog::endPrinting);
+    connect(&mRun, &PrintRun::notCancelled, this, [this](const job::Problem &problem) {
+        mCancelButton->setEnabled(true);
+        tellProblem(problem.sentence);
+    });
+    mLeaveTimer.setSingleShot(true);
+    mLeaveTimer.setInterval(leaveAfterMs);
+    connect(&mLeaveTimer, &QTimer::timeout, this, &PrintDialog::leaveJob);
+}
+
+void PrintDialog::print()
+{
+    job::Problem error;
+    if (!mPanels.saveValues(&error)) {
+        tellProblem(error.sentence);
+        return;
+    }
+    // A panel that refuses has told the person why; the dialog stays as it is.
+    if (QString panel; !mPanels.shouldPrint(&panel)) {
+        follow();
+        return;
+    }
+    const job::SettledJob settled = job::settle(mJob);
+    mRun.start(
+        [action = mPrintAction, keep = keepingForNextTime(), settled](const job::PrintWatch &watch,
+                                                                      job::Problem *problem) {
+            std::optional<job::PrintedJob> printed = action(settled, watch, problem);
+            if (printed) {
+                keep();
+            }
+            return printed;
+        },
+        settled.page.isTape);
+    showPrinting();
+}
+
+void PrintDialog::showPrinting()
+{
+    const bool isPrinting = this->isPrinting();
+    const bool isSent = mRun.phase() == PrintRun::Phase::Following;
+    // What is being printed is not to be changed under the person's hands.
+    for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (widget != mCancelButton->parentWidget() && widget != mJobRow && !widget->isWindow()) {
+            widget->setEnabled(!isPrinting);
+        }
+    }
+    mRevertButton->setEnabled(!isPrinting);
+    showWhetherPrintable();
+    mCancelButton->setEnabled(true);
+    mCancelButton->setText(isSent ? tr("Cancel Job") : tr("Cancel"));
+    mJobRow->setCanClose(isSent);
+    mJobRow->setVisible(isPrinting);
+    if (isPrinting) {
+        (isSent ? mJobRow->closeButton() : mCancelButton)->setFocus();
+    } else {
+        mLeaveTimer.stop();
+        mPrintButton->setFocus();
+    }
+}
+
+void PrintDialog::tellJob(const QString &words, int percent)
+{
+    mJobRow->tell(words, percent);
+    const std::optional<job::JobNews> &news = mRun.news();
+    const bool isOwnTurn = !news || news->waitsForPerson() || news->status.jobsBefore == 0;
+    if (isOwnTurn) {
+        mLeaveTimer.stop();
+    } else if (!mLeaveTimer.isActive()) {
+        mLeaveTimer.start();
+    }
+}
+
+void PrintDialog::failPrinting(const job::Problem &problem)
+{
+    showPrinting();
+    if (!problem.isNull()) { // without a sentence it was stopped
+        tellProblem(problem.sentence);
+    }
+}
+
+void PrintDialog::endPrinting()
+{
+    const std::optional<job::JobNews> &news = mRun.news();
+    if (!news) { // there is a file, whose name the person wants to know
+        showPrinting();
+        say(QMessageBox::Information, printed()->sentence());
+    } else if (news->status.state != IPP_JSTATE_COMPLETED && !news->isLost) {
+        mCancelButton->setEnabled(false);
+        mLeaveTimer.start(); // it is held, which is to be read
+        return;
+    }
+    accept();
+}
+
+void PrintDialog::cancel()
+{
+    if (mRun.phase() == PrintRun::Phase::Idle) {
+        reject();
+        return;
+    }
+    mCancelButton->setEnabled(false);
+    mRun.cancel();
+}
+
+void PrintDialog::leaveJob()
+{
+    mRun.leave();
+    accept();
+}
+
+void PrintDialog::reject()
+{
+    switch (mRun.phase()) {
+    case PrintRun::Phase::Sending:
+        cancel();
+        break;
+    case PrintRun::Phase::Following:
+        leaveJob();
+        break;
+    case PrintRun::Phase::Idle:
+        printed() ? accept() : QDialog::reject();
+        break;
+    }
+}
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: Apache-2.0
+// A print server that wants a password, and a person at a terminal, or none.
+#include "tests/support/ExitStatuses.h"
+#include "tests/support/MeddlingServer.h"
+#include "tests/system/SystemTest.h"
+
+#include <cups/cups.h>
+#include <poll.h>
+#include <pty.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+
+using systemtest::Outcome;
+using tapeprint::test::Meddling;
+using tapeprint::test::MeddlingServer;
+using tapeprint::test::SeenRequest;
+
+class PasswordTest : public systemtest::SystemTest
+{
+protected:
+    void SetUp() override
+    {
+        SystemTest::SetUp();
+        moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"meddling.sock"_qs)}};
+    }
+
+    MeddlingServer guardedServer() const
+    {
+        return {folder.path(u"meddling.sock"_qs), cups.socket(), [](const SeenRequest &request) {
+                    return request.operation != IPP_OP_CREATE_JOB || request.authorization == "anna:right"
+                               ? Meddling::PassOn
+                               : Meddling::Deny;
+                }};
+    }
+
+    /// Runs the program at a terminal where a person types a line after each ": ". \return what the terminal shows.
+    QByteArray printAtTerminal(std::vector<QByteArray> lines, int *status) const
+    {
+        const QByteArray program = TAPEPRINT_BIN_DIR "/tapeprint";
+        const QByteArray documentName = QFile::encodeName(document);
+        const QStringList environment = systemtest::clientEnvironment(variables()).toStringList();
+        int terminal = -1;
+        const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
+        if (child == 0) {
+            clearenv();
+            for (const QString &entry : environment) {
+                putenv(strdup(entry.toUtf8().constData()));
+            }
+            execl(program.constData(), program.constData(), "-d", "tape", "--no-dialog", documentName.constData(),
+                  nullptr);
+            _exit(127);
+        }
+        QByteArray shown;
+        std::array<char, 1024> bytes{};
+        std::size_t next = 0;
+        qsizetype read = 0;
+        pollfd waited{terminal, POLLIN, 0};
+        for (ssize_t count = 0; poll(&waited, 1, systemtest::patienceMs) > 0 &&
+                                (count = ::read(terminal, bytes.data(), bytes.size())) > 0;) {
+            shown.append(bytes.data(), count);
+            if (shown.mid(read).endsWith(": ") && next < lines.size()) {
+                read = shown.size();
+                const QByteArray line = lines[next++] + '\n';
+                EXPECT_EQ(::write(terminal, line.constData(), static_cast<std::size_t>(line.size())), line.size());
+            }
+        }
+        close(terminal); // which ends a program that waits there
+        int ended = 0;
+        waitpid(child, &ended, 0);
+        *status = WIFEXITED(ended) ? WEXITSTATUS(ended) : -1;
+        return shown;
+    }
+};
+
+TEST_F(PasswordTest, NoTerminal_IsSaidAndNothingIsPrinted)
+{
+    const auto server = guardedServer();
+    const Outcome outcome = tapeprint({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document});
+    EXPECT_EQ(outcome.status, testsupport::rejectedJob);
+    EXPECT_TRUE(outcome.messages.contains("wants a user's name and password")) << outcome.messages.toStdString();
+    EXPECT_TRUE(cups.jobs().empty());
+}
+
+TEST_F(PasswordTest, Terminal_AsksAgainAndShowsNoPassword)
+{
+    const auto server = guardedServer();
+    int status = -1;
+    const QByteArray shown = printAtTerminal({"anna", "wrong", "", "right"}, &status);
+    EXPECT_EQ(status, 0) << shown.toStdString();
+    EXPECT_TRUE(shown.contains("That was not accepted.")) << shown.toStdString();
+    EXPECT_TRUE(shown.contains("User [anna]: ")) << shown.toStdString(); // as given the first time
+    EXPECT_FALSE(shown.contains("wrong")) << shown.toStdString();
+    EXPECT_FALSE(shown.contains("right")) << shown.toStdString();
+    EXPECT_TRUE(shown.contains("Job tape-1 is ")) << shown.toStdString();
+    EXPECT_TRUE(cups.waitForEnd(1).has_value());
+}
+
+TEST_F(PasswordTest, TerminalWhereNothingIsTyped_EndsInWords)
+{
+    const auto server = guardedServer();
+    int status = -1;
+    const QByteArray shown = printAtTerminal({"anna", ""}, &status);
+    EXPECT_EQ(status, testsupport::rejectedJob) << shown.toStdString();
+    EXPECT_TRUE(shown.contains("wants a user's name and password")) << shown.toStdString();
+    EXPECT_TRUE(cups.jobs().empty());
+}
+
+} // namespace
