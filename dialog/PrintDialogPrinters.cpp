@@ -22,7 +22,7 @@ namespace tapeprint::dialog
 void PrintDialog::startPrinters()
 {
     mPrinterPopUp->setModel(&mPrinters.model());
-    mLoadAnew = new QPushButton(tr("Load Anew"), mNotices);
+    mLoadAnew = new QPushButton(tr("&Load Anew"), mNotices);
     mLoadAnew->setObjectName(QStringLiteral("loadAnew"));
     mLoadAnew->setAutoDefault(false);
     mLoadAnew->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
