@@ -260,7 +260,6 @@ void PageRenderer::setDocuments(const QStringList &pdfPaths, const QStringList &
     mDocuments.clear();
     mDrawn.clear();
     mIsMeasuring = false;
-    mKept.clear();
     mWanted.clear();
     mIsReading = true;
     // A worker that is deep in an earlier document may take its time: another one takes over.
@@ -278,7 +277,15 @@ void PageRenderer::takeDocuments(quint64 generation, std::vector<ReadDocument> d
     }
     mIsReading = false;
     mDocuments = std::move(documents);
+    const auto isGone = [this](const Kept &each) { return !hasPage(each.document, each.page); };
+    mKept.erase(std::remove_if(mKept.begin(), mKept.end(), isGone), mKept.end());
     Q_EMIT documentsRead();
+}
+
+bool PageRenderer::hasPage(std::size_t document, int page) const
+{
+    return document < mDocuments.size() && page >= 0 &&
+           static_cast<std::size_t>(page) < mDocuments[document].sizes.size();
 }
 
 void PageRenderer::measure()
@@ -302,10 +309,9 @@ void PageRenderer::takeDrawn(quint64 generation, std::vector<job::DrawnRects> dr
 void PageRenderer::want(std::vector<WantedPage> pages)
 {
     for (WantedPage &wanted : pages) {
-        const bool isKnown = wanted.document < mDocuments.size() && wanted.page >= 0 &&
-                             static_cast<std::size_t>(wanted.page) < mDocuments[wanted.document].sizes.size();
-        const QSizeF size =
-            isKnown ? mDocuments[wanted.document].sizes[static_cast<std::size_t>(wanted.page)] : QSizeF();
+        const QSizeF size = hasPage(wanted.document, wanted.page)
+                                ? mDocuments[wanted.document].sizes[static_cast<std::size_t>(wanted.page)]
+                                : QSizeF();
         wanted.dotsPerPoint =
             size.isEmpty() ? 0.0
                            : std::min(wanted.dotsPerPoint, std::sqrt(mostDotsAPage / size.width() / size.height()));
@@ -328,8 +334,9 @@ void PageRenderer::takePicture(quint64 generation, const WantedPage &wanted, Pag
     mWanted.erase(std::remove(mWanted.begin(), mWanted.end(), wanted), mWanted.end());
     if (Kept *before = kept(wanted.document, wanted.page)) {
         before->picture = std::move(picture);
+        before->generation = generation;
     } else {
-        mKept.push_back({wanted.document, wanted.page, std::move(picture), ++mUses});
+        mKept.push_back({wanted.document, wanted.page, std::move(picture), ++mUses, generation});
         keepWithinBounds();
     }
     Q_EMIT rendered();
@@ -347,7 +354,8 @@ bool PageRenderer::isSharpEnough(const WantedPage &wanted)
 {
     constexpr double almost = 0.999;
     const Kept *there = kept(wanted.document, wanted.page);
-    return there != nullptr && there->picture.dotsPerPoint >= wanted.dotsPerPoint * almost;
+    return there != nullptr && there->generation == mGeneration &&
+           there->picture.dotsPerPoint >= wanted.dotsPerPoint * almost;
 }
 
 void PageRenderer::keepWithinBounds()

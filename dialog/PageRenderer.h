@@ -48,7 +48,8 @@ public:
     explicit PageRenderer(QObject *parent = nullptr);
     ~PageRenderer() override;
 
-    /// Takes the documents to show, given as paths of PDF files; earlier ones and their pictures are dropped.
+    /// Takes the documents to show, given as paths of PDF files; earlier ones are dropped. Their pictures stand for the
+    /// new ones' until these are read and rendered.
     /// \param shownAs how sentences name them, one by one; where it ends, by their paths.
     void setDocuments(const QStringList &pdfPaths, const QStringList &shownAs = {});
     /// Whether the documents are still being read.
@@ -83,11 +84,13 @@ private:
         int page;
         PagePicture picture;
         quint64 lastUse;
+        quint64 generation; ///< of the documents that it was rendered from
     };
 
     void takeDocuments(quint64 generation, std::vector<ReadDocument> documents);
     void takeDrawn(quint64 generation, std::vector<job::DrawnRects> drawn);
     void takePicture(quint64 generation, const WantedPage &wanted, PagePicture picture);
+    bool hasPage(std::size_t document, int page) const;
     Kept *kept(std::size_t document, int page);
     bool isSharpEnough(const WantedPage &wanted);
     void keepWithinBounds();

@@ -3,6 +3,7 @@
 #include "dialog/PluginLoader.h"
 
 #include "dialog/PluginClaims.h"
+#include "job/Reason.h"
 #include "job/Texts.h"
 
 #include <QCoreApplication>
@@ -62,7 +63,7 @@ QString loadBundle(const QString &path, QPluginLoader &module, LoadedBundle *loa
     }
     QObject *root = module.instance();
     if (root == nullptr) {
-        return job::Texts::tr("its code cannot be loaded: %1").arg(module.errorString().simplified());
+        return job::Texts::tr("its code cannot be loaded: %1").arg(job::reasonText(module.errorString()));
     }
     auto *entry = qobject_cast<pdekit::PlugInEntry *>(root);
     const QString className = ownMetadata(module).value(u"PrincipalClass").toString();

@@ -141,15 +141,19 @@ void PreviewArea::follow(const job::TapePage &page, const job::JobOptions &optio
 
 void PreviewArea::planAnew()
 {
-    std::vector<job::PageSizes> sizes;
-    for (const ReadDocument &document : mRenderer.documents()) {
-        sizes.push_back(document.sizes);
-    }
     const bool fitsLength = job::layoutChoicesOf(mOptions).fitLength;
-    if (fitsLength) {
-        mRenderer.measure();
+    // While documents are made and read anew, what is known of the earlier ones stands for them.
+    if (!mRenderer.isReading()) {
+        if (fitsLength) {
+            mRenderer.measure();
+        }
+        mSizes.clear();
+        for (const ReadDocument &document : mRenderer.documents()) {
+            mSizes.push_back(document.sizes);
+        }
+        mDrawn = mRenderer.drawn();
     }
-    mPlan = job::planLabels(sizes, mPage, mOptions, fitsLength ? mRenderer.drawn() : std::vector<job::DrawnRects>());
+    mPlan = job::planLabels(mSizes, mPage, mOptions, fitsLength ? mDrawn : std::vector<job::DrawnRects>());
     turnTo(mLabel);
 }
 
@@ -198,9 +202,8 @@ void PreviewArea::askForPages()
 QRectF PreviewArea::partThatCounts(const job::PlacedPage &page) const
 {
     const auto number = static_cast<std::size_t>(page.page);
-    const bool isDrawnAlone = job::layoutChoicesOf(mOptions).fitLength && page.document < mRenderer.drawn().size();
-    return isDrawnAlone ? mRenderer.drawn()[page.document][number]
-                        : QRectF({}, mRenderer.documents()[page.document].sizes[number]);
+    const bool isDrawnAlone = job::layoutChoicesOf(mOptions).fitLength && page.document < mDrawn.size();
+    return isDrawnAlone ? mDrawn[page.document][number] : QRectF({}, mSizes[page.document][number]);
 }
 
 bool PreviewArea::isCutOff() const
@@ -246,15 +249,22 @@ QStringList PreviewArea::messages()
     return sentences;
 }
 
-QString PreviewArea::tapeUsed() const
+bool PreviewArea::isCounting() const
 {
-    const auto count = static_cast<int>(mPlan.labelCount());
-    if (!mPage.isTape) {
-        return tr("%n sheet(s)", nullptr, count);
+    return mExpectsDocuments || mRenderer.isReading();
+}
+
+std::optional<Amount> PreviewArea::amount() const
+{
+    // As long as not every document is known, the number would be wrong.
+    const std::vector<ReadDocument> &documents = mRenderer.documents();
+    const bool areAllKnown =
+        !mSizes.empty() &&
+        std::all_of(documents.begin(), documents.end(), [](const auto &document) { return document.problem.isNull(); });
+    if (!areAllKnown || mPage.isEmpty()) {
+        return std::nullopt;
     }
-    const double lengthPt = mPage.sizePt.height() * static_cast<double>(mPlan.labelCount());
-    return tr("%1, %2 of tape", "such as: 3 labels, 18.6 cm of tape")
-        .arg(tr("%n label(s)", nullptr, count), tapeText(lengthPt, mLook.unit));
+    return Amount{mPage.isTape, mPlan.labelCount(), job::pointsFromMm(mPlan.tapeLengthMm())};
 }
 
 void PreviewArea::showWords()
@@ -262,12 +272,11 @@ void PreviewArea::showWords()
     const QString words = messages().join(u'\n');
     mMessages->setText(words);
     mMessages->setVisible(!words.isEmpty());
-    // As long as not every document is known, the number would be wrong.
-    const bool areAllKnown = std::all_of(mRenderer.documents().begin(), mRenderer.documents().end(),
-                                         [](const ReadDocument &document) { return document.problem.isNull(); });
-    const bool isKnown = areAllKnown && !mPlan.labels.empty() && !mPage.isEmpty();
-    mTapeUsed->setText(isKnown ? tapeUsed() : QString());
+    const std::optional<Amount> printed = amount();
+    const bool isKnown = printed && printed->pieces > 0;
+    mTapeUsed->setText(isKnown ? amountText(*printed, mLook.unit) : QString());
     mTapeUsed->setVisible(isKnown);
+    Q_EMIT amountChanged();
 }
 
 } // namespace tapeprint::dialog

@@ -2,6 +2,7 @@
 // What will come out of the printer: a label, the others to page to, how much tape they take, and what to know of them.
 #pragma once
 
+#include "dialog/Amount.h"
 #include "dialog/PageRenderer.h"
 #include "dialog/TapeLook.h"
 #include "job/LabelPlan.h"
@@ -10,6 +11,7 @@
 #include <QWidget>
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 class QHBoxLayout;
@@ -44,6 +46,10 @@ public:
 
     /// What is shown: every label of the job. Without labels as long as the documents are being read.
     const job::LabelPlan &plan() const { return mPlan; }
+    /// How much the job prints; nothing as long as that is not known, and for documents that cannot be read.
+    std::optional<Amount> amount() const;
+    /// Whether what is to be counted is still being made or read.
+    bool isCounting() const;
     /// Index of the label that is shown.
     std::size_t label() const { return mLabel; }
     /// Whether something is still to come: documents being read, pages being rendered.
@@ -55,6 +61,8 @@ public:
 Q_SIGNALS:
     /// The documents have been read: the plan has its labels.
     void planned();
+    /// How much is printed may have changed, or is known now.
+    void amountChanged();
     /// Everything that is to be seen is there.
     void settled();
 
@@ -70,13 +78,14 @@ private:
     bool isCutOff() const;
     bool isBlank();
     QStringList messages();
-    QString tapeUsed() const;
 
     job::TapePage mPage;
     job::JobOptions mOptions;
     TapeLook mLook;
     QString mProblem;
     bool mExpectsDocuments = false;
+    std::vector<job::PageSizes> mSizes; ///< of the documents that are shown, or were until others are read
+    std::vector<job::DrawnRects> mDrawn;
     job::LabelPlan mPlan;
     std::size_t mLabel = 0;
 

@@ -4,6 +4,7 @@
 
 #include "dialog/ChoicePopUp.h"
 #include "dialog/GatheredAlerts.h"
+#include "dialog/JobPage.h"
 #include "dialog/LayoutPage.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/OptionsPage.h"
@@ -41,6 +42,7 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     mFollowTimer.setInterval(0);
     mRestTimer.setSingleShot(true);
     mRestTimer.setInterval(0);
+    mCountTimer.setSingleShot(true);
     buildControls();
     addCommandButton();
     connectControls();
@@ -87,6 +89,7 @@ void PrintDialog::showWhetherTape()
     mPreview->setIsTapePrinter(isTape);
     mSummary->parentWidget()->setVisible(isTape); // it is the panels' summary
     mFitControls->setVisible(isTape);
+    mSaveButton->setHasPrinterData(mJob.ppd() != nullptr);
 }
 
 void PrintDialog::showTapes()
@@ -111,17 +114,25 @@ void PrintDialog::makePages()
         const PanelEntry &entry = mPanels.entries()[i];
         addPage(entry.view != nullptr ? entry.view.data() : new QLabel(tr("This panel has no view.")), entry.name, i);
     }
-    if (!mJob.tape().isEmpty()) {
-        mLayoutPage = new LayoutPage(mJob, mPages);
-        connect(mLayoutPage, &LayoutPage::picked, this, &PrintDialog::pickOption);
-        addPage(mLayoutPage, tr("Layout"), std::nullopt);
-    }
+    mLayoutPage = new LayoutPage(mJob, mPages);
+    connect(mLayoutPage, &LayoutPage::picked, this, &PrintDialog::pickOption);
+    mJobPage = new JobPage(mJob, mSetup.title, mPages);
+    connect(mJobPage, &JobPage::picked, this, &PrintDialog::pickOption);
+    connect(mJobPage, &JobPage::dropped, &mJob, &job::Job::dropOption);
     mOptionsPage = new OptionsPage(mJob, mPanels, mUnit, mPages);
-    if (mOptionsPage->isEmpty() && !mPanels.entries().empty()) {
-        delete mOptionsPage;
-    } else {
-        connect(mOptionsPage, &OptionsPage::picked, this, &PrintDialog::pickOption);
+    connect(mOptionsPage, &OptionsPage::picked, this, &PrintDialog::pickOption);
+    // What a printer has of its own comes first: its panels, or where there are none, its options.
+    const bool hasPanels = !mPanels.entries().empty();
+    if (!hasPanels && !mOptionsPage->isEmpty()) {
+        addPage(mOptionsPage, tr("Printer Options"), std::nullopt);
+    }
+    addPage(mLayoutPage, tr("Layout"), std::nullopt);
+    addPage(mJobPage, tr("Job"), std::nullopt);
+    if (hasPanels && !mOptionsPage->isEmpty()) {
         addPage(mOptionsPage, tr("More Options"), std::nullopt);
+    }
+    if (mOptionsPage->isEmpty()) {
+        delete mOptionsPage;
     }
     mChooserRow->setVisible(mPageList.size() > 1);
 }
@@ -157,7 +168,7 @@ void PrintDialog::orderByTab()
     for (int i = 0; i < mMoreButtonsPlace->count(); ++i) {
         widgets.append(mMoreButtonsPlace->itemAt(i)->widget());
     }
-    widgets << mCancelButton << mPrintButton;
+    widgets << mSaveButton << mCancelButton << mPrintButton;
     for (QWidget *widget : widgets) {
         setTabOrder(last, widget);
         last = widget;

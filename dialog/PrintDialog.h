@@ -17,6 +17,7 @@
 #include "dialog/PresetRow.h"
 #include "dialog/PrintRun.h"
 #include "dialog/PrinterDesk.h"
+#include "dialog/SaveButton.h"
 #include "job/Destination.h"
 #include "job/Job.h"
 #include "job/KeptChoices.h"
@@ -42,6 +43,8 @@ class QStackedWidget;
 namespace tapeprint::dialog
 {
 
+class AmountLabel;
+class JobPage;
 class JobRow;
 class LayoutPage;
 class NoticesArea;
@@ -138,6 +141,11 @@ private:
     void followInThePreview();
     void revert();
     void remakePanels();
+    bool isReadyToPrint();
+    bool isAmountAgreed();
+    void showAmount();
+    void printCounted();
+    void save(SaveButton::Kind kind, const QString &path);
     PresetRow *makePresetRow();
     void showPresets();
     QStringList presetNotices() const;
@@ -180,6 +188,9 @@ private:
     bool mIsFitting = false;      ///< the length is being fitted; a question about it may stand open
     double mFittedLengthMm = 0.0; ///< the length that was worked out last; 0 when none was
     QTimer mFollowTimer;          ///< gathers changes of one event into one look at the job
+    QTimer mCountTimer;           ///< runs while what was pressed waits for the pages to be counted
+    bool mIsSaving = false;       ///< what runs makes a file
+    bool mIsCountedOut = false;   ///< it does not wait any longer
     QTimer mRestTimer;            ///< a change of the views' areas has come to rest when nothing else waits to be done
 
     PrinterDesk mPrinters;
@@ -206,7 +217,9 @@ private:
     QHBoxLayout *mPresetPlace = nullptr;      ///< right of the printer, for what goes with the whole of a queue
     QHBoxLayout *mMoreButtonsPlace = nullptr; ///< lower left, from Revert on
     QHBoxLayout *mAmountPlace = nullptr;      ///< before Cancel, for what is said beside Print; it gives way first
-    JobRow *mJobRow = nullptr;                ///< shown while it prints
+    AmountLabel *mAmount = nullptr;
+    SaveButton *mSaveButton = nullptr;
+    JobRow *mJobRow = nullptr; ///< shown while it prints
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;
@@ -216,6 +229,7 @@ private:
     std::vector<Page> mPageList;
     QPointer<OptionsPage> mOptionsPage;
     QPointer<LayoutPage> mLayoutPage;
+    QPointer<JobPage> mJobPage;
     int mCurrentPage = -1;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the window does when the person acts: picks, Revert, Print, Cancel, and the live summary.
 #include "dialog/ChoicePopUp.h"
+#include "dialog/JobPage.h"
 #include "dialog/LayoutPage.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
@@ -47,6 +48,9 @@ void PrintDialog::connectControls()
     });
     connect(&mDesk, &DocumentDesk::changed, this, &PrintDialog::takeDocuments);
 
+    connect(mPreview, &PreviewArea::amountChanged, this, &PrintDialog::showAmount);
+    connect(&mCountTimer, &QTimer::timeout, this, &PrintDialog::printCounted);
+    connect(mSaveButton, &SaveButton::wanted, this, &PrintDialog::save);
     connect(&mUnit, &MeasureUnit::changed, this, [this] { mFollowTimer.start(); });
     connect(&mFollowTimer, &QTimer::timeout, this, &PrintDialog::follow);
     connect(&mJob, &job::Job::changed, this, [this] { mFollowTimer.start(); });
@@ -143,6 +147,9 @@ void PrintDialog::follow()
     mCopiesField->setValue(mJob.copies());
     if (mLayoutPage) {
         mLayoutPage->follow();
+    }
+    if (mJobPage) {
+        mJobPage->follow();
     }
     if (mOptionsPage) {
         mOptionsPage->follow();

@@ -4,6 +4,7 @@
 #include "dialog/ShowCommand.h"
 #include "job/CommandText.h"
 #include "job/CustomValues.h"
+#include "job/OutputFile.h"
 
 #include <QDir>
 #include <QHBoxLayout>
@@ -26,6 +27,13 @@ void PrintDialog::showCommand()
 {
     job::CommandSource source;
     source.job = currentJob();
+    // The command may be run in another folder.
+    if (!source.job.ppdPath.isEmpty()) {
+        source.job.ppdPath = QDir::current().absoluteFilePath(source.job.ppdPath);
+    }
+    if (!source.job.outputPath.isEmpty() && !job::isStandardOutput(source.job.outputPath)) {
+        source.job.outputPath = QDir::current().absoluteFilePath(source.job.outputPath);
+    }
     source.title = mSetup.title;
     for (const job::FileStamp &document : mSetup.request.documents) {
         if (!document.path.isNull()) { // standard input has no name to give

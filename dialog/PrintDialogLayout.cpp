@@ -8,6 +8,7 @@
 //   Settings [     ]                | Summary
 //   page of the chooser             | Preview, Fit Length
 //   mMoreButtonsPlace     mAmountPlace, progress     Cancel, Print
+#include "dialog/AmountLabel.h"
 #include "dialog/JobRow.h"
 #include "dialog/Mnemonics.h"
 #include "dialog/NoticesArea.h"
@@ -183,6 +184,10 @@ QWidget *PrintDialog::makeButtons()
     layout->addLayout(mMoreButtonsPlace);
     layout->addStretch();
     layout->addLayout(mAmountPlace);
+    mAmount = new AmountLabel(buttons);
+    mAmountPlace->addWidget(mAmount);
+    mSaveButton = new SaveButton(mSetup.title, buttons);
+    layout->addWidget(mSaveButton);
     layout->addWidget(mCancelButton);
     layout->addWidget(mPrintButton);
     return buttons;

@@ -62,8 +62,7 @@ void PrintDialog::takeDestination(job::Destination destination)
         asked.set(name, value);
     }
     // The old pages go before the panels and the PPD that they show.
-    delete mLayoutPage;
-    delete mOptionsPage;
+    removeOwnPages();
     mGreyed.undo();
     mPanels.open(std::move(destination), asked);
     showDestination();

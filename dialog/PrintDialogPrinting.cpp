@@ -2,6 +2,7 @@
 // Print, and what the window shows until the printer's last word.
 #include "dialog/JobRow.h"
 #include "dialog/PrintDialog.h"
+#include "dialog/SaveButton.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -37,16 +38,10 @@ void PrintDialog::connectPrinting()
 
 void PrintDialog::print()
 {
-    job::Problem error;
-    if (!mPanels.saveValues(&error)) {
-        tellProblem(error.sentence);
+    if (!isReadyToPrint() || !isAmountAgreed()) {
         return;
     }
-    // A panel that refuses has told the person why; the dialog stays as it is.
-    if (QString panel; !mPanels.shouldPrint(&panel)) {
-        follow();
-        return;
-    }
+    mIsSaving = false;
     const job::SettledJob settled = job::settle(mJob);
     mRun.start(
         [action = mPrintAction, keep = keepingForNextTime(), settled](const job::PrintWatch &watch,
@@ -72,6 +67,7 @@ void PrintDialog::showPrinting()
         }
     }
     mRevertButton->setEnabled(!isPrinting);
+    mSaveButton->setEnabled(!isPrinting);
     showWhetherPrintable();
     mCancelButton->setEnabled(true);
     mCancelButton->setText(isSent ? tr("Cancel Job") : tr("Cancel"));
@@ -111,6 +107,9 @@ void PrintDialog::endPrinting()
     if (!news) { // there is a file, whose name the person wants to know
         showPrinting();
         say(QMessageBox::Information, printed()->sentence());
+        if (mIsSaving) { // a file is no print: the window stays
+            return;
+        }
     } else if (news->status.state != IPP_JSTATE_COMPLETED && !news->isLost) {
         mCancelButton->setEnabled(false);
         mLeaveTimer.start(); // it is held, which is to be read

@@ -7,6 +7,7 @@
 #include "job/EpsPage.h"
 #include "job/PicturePdf.h"
 #include "job/PlainText.h"
+#include "job/Reason.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
@@ -81,7 +82,7 @@ QString complaintOf(const QByteArray &messages)
 {
     for (const QByteArray &line : messages.split('\n')) {
         if (line.startsWith("ERROR:")) {
-            return harmless(QString::fromUtf8(line.mid(6)).simplified());
+            return reasonText(QString::fromUtf8(line.mid(6)));
         }
     }
     return Texts::tr("they do not say why");
@@ -133,7 +134,8 @@ bool convertByFilters(const Input &document, const QString &type, const QString 
     if (run.end != ConfinedRun::End::finished || run.exitCode != 0 || output.size() == 0) {
         *error = {Problem::BadDocument,
                   Texts::tr("The filters could not make pages of the document %1: %2.")
-                      .arg(harmless(document.name), run.reason.isEmpty() ? complaintOf(run.messages) : run.reason)};
+                      .arg(harmless(document.name),
+                           run.reason.isEmpty() ? complaintOf(run.messages) : reasonText(run.reason))};
         return false;
     }
     return true;

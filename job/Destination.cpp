@@ -49,6 +49,7 @@ std::optional<Destination> openDestination(const JobRequest &request, Problem *e
 {
     Destination destination;
     destination.outputPath = request.outputPath;
+    destination.pdfPath = request.pdfPath;
     destination.mayReplaceOutput = request.mayReplaceOutput;
     destination.trustsPpd = request.trustsPpd;
     destination.documents = request.documents;
@@ -61,7 +62,7 @@ std::optional<Destination> openDestination(const JobRequest &request, Problem *e
         if (const std::optional<FileStamp> description = FileStamp::ofPath(request.ppdPath)) {
             destination.documents.push_back(*description);
         }
-        const bool isOnItsOwn = request.queue.isEmpty() || !request.outputPath.isEmpty();
+        const bool isOnItsOwn = (request.queue.isEmpty() || !request.outputPath.isEmpty()) && request.pdfPath.isEmpty();
         if (isOnItsOwn && !request.onlyShows && !mayRun(destination, error)) {
             return std::nullopt;
         }

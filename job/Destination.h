@@ -25,6 +25,7 @@ struct JobRequest {
     QString title;      ///< empty: the document's name
     QString ppdPath;    ///< a PPD file that takes the place of the queue's
     QString outputPath; ///< a file for the printer's bytes instead of a queue; "-" for standard output
+    QString pdfPath;    ///< a file for the job as a PDF instead of printing; "-" for standard output
     /// Whether a file that stands at the output's path may be replaced: the person named it.
     bool mayReplaceOutput = true;
     /// Whether the PPD file's own programs may run: the person was shown them, and says so.
@@ -42,6 +43,7 @@ struct Destination {
     std::optional<PrintQueue> queue;
     QString ppdPath;              ///< the local PPD file; empty when the PPD is the queue's
     QString outputPath;           ///< where the printer's bytes go; empty: to the queue
+    QString pdfPath;              ///< where the job is saved as a PDF; empty: it is printed
     bool mayReplaceOutput = true; ///< as in the request, and so the next
     bool trustsPpd = false;
     FileStamps documents; ///< the PPD file stands among them

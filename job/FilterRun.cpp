@@ -9,6 +9,7 @@
 #include "job/PpdFile.h"
 #include "job/PpdPrograms.h"
 #include "job/PrivateFile.h"
+#include "job/Reason.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
@@ -65,10 +66,10 @@ QString complaintOf(const QByteArray &messages)
     QString last;
     for (const QByteArray &line : messages.split('\n')) {
         if (line.startsWith("ERROR:")) {
-            return harmless(QString::fromUtf8(line.mid(6)).simplified());
+            return reasonText(QString::fromUtf8(line.mid(6)));
         }
         if (!line.trimmed().isEmpty() && !line.startsWith("DEBUG:") && !line.startsWith("INFO:")) {
-            last = harmless(QString::fromUtf8(line).simplified());
+            last = reasonText(QString::fromUtf8(line));
         }
     }
     return last.isEmpty() ? Texts::tr("they do not say why") : last;
@@ -105,7 +106,7 @@ std::unique_ptr<PrivateFile> copyOfPpd(const FilterJob &job, Problem *error)
     const QByteArray text = ppdText(job.ppdPath, &reason);
     if (text.isNull()) {
         *error = {Problem::BadDescription, Texts::tr("The PPD file %1 cannot be read (%2): name a readable PPD file.")
-                                               .arg(harmless(job.ppdPath), harmless(reason))};
+                                               .arg(harmless(job.ppdPath), reasonText(reason))};
         return nullptr;
     }
     auto copy = PrivateFile::create(QStringLiteral("printer.ppd"), &reason);
@@ -122,7 +123,8 @@ QString failureOf(const ConfinedRun &run, const FilterJob &job, const QString &f
 {
     switch (run.end) {
     case ConfinedRun::End::notStarted:
-        return Texts::tr("The filters cannot be started (%1): see that CUPS is installed whole.").arg(run.reason);
+        return Texts::tr("The filters cannot be started (%1): see that CUPS is installed whole.")
+            .arg(reasonText(run.reason));
     case ConfinedRun::End::stopped:
         return Texts::tr("Printing was stopped.");
     case ConfinedRun::End::tooLong:

@@ -2,6 +2,7 @@
 // The objects of one job are changed here and nowhere else, so that they always agree.
 #include "job/Job.h"
 
+#include "job/FilterOptions.h"
 #include "job/FilterRun.h"
 #include "job/LaidDownOptions.h"
 #include "job/PpdTexts.h"
@@ -103,6 +104,8 @@ void Job::layDownOptions(const JobOptions &asked)
 void Job::layDownPages()
 {
     pdekit::PMPrintSettingsSetValue(&mSettings, pdekit::PrintSettingsKey::copies, copies(), false);
+    pdekit::PMPrintSettingsSetValue(&mSettings, pdekit::PrintSettingsKey::firstPage, QVariant(), false);
+    pdekit::PMPrintSettingsSetValue(&mSettings, pdekit::PrintSettingsKey::lastPage, QVariant(), false);
     const QString pages = mOptions.value(OptionName::pageRanges);
     if (pages.isEmpty()) {
         return;
@@ -119,7 +122,8 @@ void Job::layDownPages()
 
 QStringList Job::notices() const
 {
-    QStringList notices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen);
+    QStringList notices =
+        unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen) + optionsWithoutEffect(mChosen, page());
     if (mDestination.isFile() && ppd() != nullptr) {
         notices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
     }
@@ -148,10 +152,23 @@ void Job::changeOption(const QString &key, const QString &choice)
     }
     record(key, choice);
     mChosen.set(key, choice);
+    if (key == OptionName::pageRanges) {
+        layDownPages();
+    }
     if (key == OptionName::tapeLength && pdekit::doubleValue(choice) > 0.0) {
         setPaperLengthMm(pdekit::doubleValue(choice));
     }
     Q_EMIT optionChanged(key, choice);
+    Q_EMIT changed();
+}
+
+void Job::dropOption(const QString &key)
+{
+    mOptions.remove(key);
+    mChosen.remove(key);
+    if (key == OptionName::pageRanges) {
+        layDownPages();
+    }
     Q_EMIT changed();
 }
 

@@ -69,6 +69,9 @@ public:
     bool takeChoice(const QString &key, const QString &choice);
     /// The person changes an option in the dialog itself: the paper follows, too.
     void changeOption(const QString &key, const QString &choice);
+    /// The person takes a choice back: the job does not say anything of the option any more. For options of print
+    /// servers and filters alone, which no panel hears of.
+    void dropOption(const QString &key);
     /// The paper becomes a tape of another length. Panels take it over when they are shown again.
     void changePaperLength(double lengthMm);
     /// The job's options are laid down in a PPD that is as it came, and become its defaults, from which panels that are

@@ -2,6 +2,9 @@
 // Selecting pages and dealing them out to labels.
 #include "job/LabelPlan.h"
 
+#include "job/PageRanges.h"
+#include "job/UsualOptions.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -12,27 +15,6 @@ namespace tapeprint::job
 
 namespace
 {
-
-/// Page ranges such as 1-4,7,9- as first and last page from 1; an open end goes to the last page there is.
-std::vector<std::pair<int, int>> rangesOf(const QString &text, int total)
-{
-    std::vector<std::pair<int, int>> ranges;
-    for (const QString &part : text.split(u',', Qt::SkipEmptyParts)) {
-        const qsizetype dash = part.indexOf(u'-');
-        const int first = pdekit::intValue(dash < 0 ? part : part.left(dash));
-        const bool isOpen = dash >= 0 && part.mid(dash + 1).trimmed().isEmpty();
-        const int last = dash < 0 ? first : isOpen ? total : pdekit::intValue(part.mid(dash + 1));
-        ranges.emplace_back(std::max(first, 1), std::min(last, total));
-    }
-    return ranges;
-}
-
-bool isSelected(int number, const std::vector<std::pair<int, int>> &ranges)
-{
-    return ranges.empty() || std::any_of(ranges.begin(), ranges.end(), [number](const auto &range) {
-               return number >= range.first && number <= range.second;
-           });
-}
 
 /// A page of all documents, numbered through.
 struct PageOfAll {
@@ -69,6 +51,35 @@ PlacedPage placed(const PageOfAll &source, const QRectF &place, const LayoutChoi
             place};
 }
 
+bool isInSet(PageSet set, int number)
+{
+    return set == PageSet::All || (set == PageSet::Odd) == (number % 2 == 1);
+}
+
+/// Pages dealt out to sheets. \param set which of the sheets are wanted when they hold several pages.
+std::vector<Label> dealOut(const std::vector<PageOfAll> &pages, const TapePage &page, const LayoutChoices &choices,
+                           PageSet set)
+{
+    // Paper is laid out on what can be printed of it, as the filters do; tape keeps its margins free as well.
+    const QRectF area = page.layoutRect();
+    const auto perSheet = static_cast<std::size_t>(choices.pagesPerSheet);
+    std::vector<Label> sheets;
+    for (std::size_t first = 0; first < pages.size(); first += perSheet) {
+        if (perSheet > 1 && !isInSet(set, static_cast<int>(first / perSheet) + 1)) {
+            continue;
+        }
+        Label sheet;
+        const std::size_t count = std::min(perSheet, pages.size() - first);
+        // A sheet that is not full keeps the places of a full one.
+        const std::vector<QRectF> places = placesOnSheet(choices.pagesPerSheet, area, pages[first].size, choices);
+        for (std::size_t i = 0; i < count; ++i) {
+            sheet.push_back(placed(pages[first + i], places[std::min(i, places.size() - 1)], choices));
+        }
+        sheets.push_back(std::move(sheet));
+    }
+    return sheets;
+}
+
 } // namespace
 
 double LabelPlan::tapeLengthMm() const
@@ -78,27 +89,23 @@ double LabelPlan::tapeLengthMm() const
 
 const QStringList &selectionOptionNames()
 {
-    static const QStringList names{OptionName::pageRanges, QStringLiteral("page-set"), QStringLiteral("outputorder"),
+    static const QStringList names{OptionName::pageRanges, OptionName::pageSet, OptionName::outputOrder,
                                    QStringLiteral("OutputOrder")};
     return names;
 }
 
 std::vector<int> selectedPages(int total, const JobOptions &options)
 {
-    const std::vector<std::pair<int, int>> ranges = rangesOf(options.value(OptionName::pageRanges), total);
-    const QString set = options.value(QStringLiteral("page-set"));
+    const std::vector<PageRange> ranges = pageRangesOf(options.value(OptionName::pageRanges), total);
+    const PageSet set = layoutChoicesOf(options).pagesPerSheet > 1 ? PageSet::All : pageSetOf(options);
     std::vector<int> pages;
     for (int number = 1; number <= total; ++number) {
-        const bool isInSet = (set != u"even" || number % 2 == 0) && (set != u"odd" || number % 2 == 1);
-        if (isInSet && isSelected(number, ranges)) {
+        const bool isInRange =
+            ranges.empty() ||
+            std::any_of(ranges.begin(), ranges.end(), [number](const PageRange &range) { return range.holds(number); });
+        if (isInRange && isInSet(set, number)) {
             pages.push_back(number - 1);
         }
-    }
-    const QString order = options.contains(QStringLiteral("outputorder"))
-                              ? options.value(QStringLiteral("outputorder"))
-                              : options.value(QStringLiteral("OutputOrder"));
-    if (order.compare(QLatin1String("reverse"), Qt::CaseInsensitive) == 0) {
-        std::reverse(pages.begin(), pages.end());
     }
     return pages;
 }
@@ -109,24 +116,29 @@ LabelPlan planLabels(const std::vector<PageSizes> &documents, const TapePage &pa
     LabelPlan plan;
     plan.page = page;
     plan.copies = std::max(1, static_cast<int>(pdekit::intValue(options.value(OptionName::copies))));
-    const LayoutChoices choices = layoutChoicesOf(options);
-    // Paper is laid out on what can be printed of it, as the filters do; tape keeps its margins free as well.
-    const QRectF area = page.layoutRect();
+    LayoutChoices choices = layoutChoicesOf(options);
+    if (!page.isTape) {
+        choices.pagesPerSheet = pagesPerPaper(choices.pagesPerSheet);
+    }
     const std::vector<PageOfAll> all = allPages(documents, drawn);
-    const std::vector<int> selected = selectedPages(static_cast<int>(all.size()), options);
-    const auto perSheet = static_cast<std::size_t>(choices.pagesPerSheet);
-    for (std::size_t first = 0; first < selected.size(); first += perSheet) {
-        Label label;
-        const std::size_t count = std::min(perSheet, selected.size() - first);
-        // A sheet that is not full keeps the places of a full one.
-        const std::vector<QRectF> places =
-            placesOnSheet(choices.pagesPerSheet, area, all[static_cast<std::size_t>(selected[first])].size, choices);
-        for (std::size_t i = 0; i < count; ++i) {
-            const PageOfAll &source = all[static_cast<std::size_t>(selected[first + i])];
-            const QRectF &place = places[std::min(i, places.size() - 1)];
-            label.push_back(placed(source, place, choices));
+    std::vector<PageOfAll> selected;
+    for (const int index : selectedPages(static_cast<int>(all.size()), options)) {
+        selected.push_back(all[static_cast<std::size_t>(index)]);
+    }
+    // The labels of a tape are one document. Paper is laid out by filters, one document at a time.
+    auto first = selected.cbegin();
+    while (first != selected.cend()) {
+        const auto end =
+            page.isTape ? selected.cend() : std::find_if(first, selected.cend(), [first](const PageOfAll &source) {
+                return source.document != first->document;
+            });
+        for (Label &sheet : dealOut({first, end}, page, choices, pageSetOf(options))) {
+            plan.labels.push_back(std::move(sheet));
         }
-        plan.labels.push_back(std::move(label));
+        first = end;
+    }
+    if (isReversed(options)) {
+        std::reverse(plan.labels.begin(), plan.labels.end());
     }
     return plan;
 }

@@ -40,17 +40,19 @@ struct LabelPlan {
     double tapeLengthMm() const;
 };
 
-/// The pages that a job's options select out of all pages of its documents, from 0 and in the order of printing:
-/// page-ranges, page-set (even, odd), outputorder=reverse. \param total how many pages there are.
+/// The pages that a job's options select out of all pages of its documents, from 0 and in their order: page-ranges, and
+/// page-set (even, odd) unless several pages go on a sheet, where it selects sheets. \param total how many pages there
+/// are.
 std::vector<int> selectedPages(int total, const JobOptions &options);
 
-/// Names of the options that selectedPages() reads.
+/// Names of the options that select pages and sheets and order them.
 const QStringList &selectionOptionNames();
 
 /// What of a document's pages is drawn on, in points; an empty rectangle for a page that is blank or not looked at.
 using DrawnRects = std::vector<QRectF>;
 
-/// The plan of a job. \param documents the page sizes of each document, in their order. \param drawn what of the pages
+/// The plan of a job: pages are selected, dealt out to sheets, and the sheets reversed when the job says so, as CUPS's
+/// filters do it. \param documents the page sizes of each document, in their order. \param drawn what of the pages
 /// is drawn on, for fit-length; without it pages count whole.
 LabelPlan planLabels(const std::vector<PageSizes> &documents, const TapePage &page, const JobOptions &options,
                      const std::vector<DrawnRects> &drawn = {});

@@ -4,6 +4,7 @@
 #include "job/LaidOutDocument.h"
 
 #include "job/PageBox.h"
+#include "job/PdfFailure.h"
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
@@ -21,7 +22,6 @@
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFAcroFormDocumentHelper.hh>
-#include <qpdf/QPDFExc.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -157,22 +157,6 @@ QPDFObjectHandle labelPage(QPDF &target, const Label &label, const TapePage &pag
     return target.makeIndirectObject(dictionary);
 }
 
-QString reasonOf(const std::exception &failure)
-{
-    const auto *pdf = dynamic_cast<const QPDFExc *>(&failure);
-    return QString::fromUtf8(pdf != nullptr ? pdf->getMessageDetail().c_str() : failure.what()).simplified();
-}
-
-QString openingFailure(const QString &path, const std::exception &failure)
-{
-    const auto *pdf = dynamic_cast<const QPDFExc *>(&failure);
-    if (pdf != nullptr && pdf->getErrorCode() == qpdf_e_password) {
-        return Texts::tr("The document %1 is locked with a password: save it without one and print that.").arg(path);
-    }
-    return Texts::tr("The document %1 is damaged (%2): make it anew or name another.")
-        .arg(path, harmless(reasonOf(failure)));
-}
-
 } // namespace
 
 std::optional<PageSizes> pageSizesOf(const QString &pdf, Problem *error, const QString &shownAs)
@@ -193,7 +177,7 @@ std::optional<PageSizes> pageSizesOf(const QString &pdf, Problem *error, const Q
         }
         return sizes;
     } catch (const std::exception &failure) {
-        *error = {Problem::BadDocument, openingFailure(name, failure)};
+        *error = {Problem::BadDocument, pdfOpeningFailure(name, failure)};
         return std::nullopt;
     }
 }
@@ -211,7 +195,7 @@ bool writeLaidOut(const LabelPlan &plan, const QStringList &pdfs, RasterShift sh
             sources.push_back(std::make_unique<Source>(pdf));
         }
     } catch (const std::exception &failure) {
-        *error = {Problem::BadDocument, openingFailure(current, failure)};
+        *error = {Problem::BadDocument, pdfOpeningFailure(current, failure)};
         return false;
     }
     try {
@@ -229,7 +213,7 @@ bool writeLaidOut(const LabelPlan &plan, const QStringList &pdfs, RasterShift sh
         *error = {Problem::BadDocument,
                   Texts::tr("The labels cannot be laid out (%1): see that the document is whole and that there is room "
                             "for temporary files.")
-                      .arg(reasonOf(failure))};
+                      .arg(pdfFailureReason(failure))};
         return false;
     }
     return true;

@@ -95,6 +95,9 @@ QSizeF textPageOf(const SettledJob &job)
 {
     const TapePage page = job.page;
     const QSizeF area = page.layoutRect().size();
+    if (!page.isTape) {
+        return area;
+    }
     const double mostMm = job.lengths.most;
     if (job.fitsLength() && mostMm > 0.0) {
         return {std::max(area.height(), pointsFromMm(mostMm) - 2.0 * page.freeEndsPt), area.width()};
@@ -105,6 +108,11 @@ QSizeF textPageOf(const SettledJob &job)
 std::optional<AutomaticLength> automaticLength(const SettledJob &job, const PdfDocuments &documents)
 {
     return automaticLength(documents.sizes, documents.drawn, job.page, job.options, job.lengths);
+}
+
+Problem noPageIsChosen()
+{
+    return {Problem::RefusedValue, Texts::tr("None of the document's pages is chosen: change the page range.")};
 }
 
 QString lengthNotice(const TapePage &page)
@@ -140,7 +148,7 @@ std::optional<LabelPlan> layOutJob(const SettledJob &job, const PdfDocuments &do
     }
     LabelPlan plan = planLabels(documents.sizes, page, job.options, documents.drawn);
     if (plan.labels.empty()) {
-        *error = {Problem::RefusedValue, Texts::tr("None of the document's pages is chosen: change the page range.")};
+        *error = noPageIsChosen();
         return std::nullopt;
     }
     if (const QString problem = pageWithoutSize(plan, documents); !problem.isNull()) {

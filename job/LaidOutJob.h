@@ -37,11 +37,14 @@ std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList
 bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, Problem *error);
 
 /// The page that text is set on for a job: what is laid out on, lying, so that lines run along the tape. With
-/// fit-length it is as long as the tape may become, so that no line is broken for want of tape.
+/// fit-length it is as long as the tape may become, so that no line is broken for want of tape. Paper stands.
 QSizeF textPageOf(const SettledJob &job);
 
 /// The length that the job's documents need, for fit-length; nothing when nothing is drawn on their selected pages.
 std::optional<AutomaticLength> automaticLength(const SettledJob &job, const PdfDocuments &documents);
+
+/// The problem of a job whose options select no page.
+Problem noPageIsChosen();
 
 /// A sentence about a page whose length is not the one that was chosen; null when there is nothing to say.
 QString lengthNotice(const TapePage &page);

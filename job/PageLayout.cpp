@@ -55,6 +55,17 @@ constexpr std::array positions{
     Word<Position>{QLatin1String("bottom-right"), {Place::End, Place::End}},
 };
 
+constexpr std::array orders{
+    Word<SheetOrder>{QLatin1String("lrtb"), {false, false, false}},
+    Word<SheetOrder>{QLatin1String("lrbt"), {false, true, false}},
+    Word<SheetOrder>{QLatin1String("rltb"), {true, false, false}},
+    Word<SheetOrder>{QLatin1String("rlbt"), {true, true, false}},
+    Word<SheetOrder>{QLatin1String("tblr"), {false, false, true}},
+    Word<SheetOrder>{QLatin1String("btlr"), {false, true, true}},
+    Word<SheetOrder>{QLatin1String("tbrl"), {true, false, true}},
+    Word<SheetOrder>{QLatin1String("btrl"), {true, true, true}},
+};
+
 template <typename Value, std::size_t size>
 const Value *meaning(const std::array<Word<Value>, size> &words, const QString &text)
 {
@@ -124,6 +135,33 @@ QSizeF turnedSize(const QSizeF &pagePt, int quarters)
     return quarters % 2 == 0 ? pagePt : pagePt.transposed();
 }
 
+struct Cell {
+    int column;
+    int row;
+};
+
+/// Where a page of a sheet stands. The order is that of the pages as they are read: where they are turned, so is it.
+Cell cellOf(int index, int columns, int rows, const SheetOrder &order, int quarters)
+{
+    const bool lies = quarters % 2 == 1;
+    const int readColumns = lies ? rows : columns;
+    const int readRows = lies ? columns : rows;
+    int column = order.columnsFirst ? index / readRows : index % readColumns;
+    int row = order.columnsFirst ? index % readRows : index / readColumns;
+    column = order.rightToLeft ? readColumns - 1 - column : column;
+    row = order.bottomToTop ? readRows - 1 - row : row;
+    switch (quarters) {
+    case 1:
+        return {columns - 1 - row, column};
+    case 2:
+        return {columns - 1 - column, rows - 1 - row};
+    case 3:
+        return {row, rows - 1 - column};
+    default:
+        return {column, row};
+    }
+}
+
 } // namespace
 
 const QStringList &layoutOptionNames()
@@ -171,11 +209,21 @@ LayoutChoices layoutChoicesOf(const JobOptions &options)
     constexpr int mostPages = 16;
     choices.pagesPerSheet = std::clamp(pdekit::intValue(options.value(QStringLiteral("number-up"))), std::int32_t{1},
                                        std::int32_t{mostPages});
+    if (const SheetOrder *order = meaning(orders, options.value(QStringLiteral("number-up-layout")))) {
+        choices.order = *order;
+    }
     choices.fitLength = isTrue(options.value(OptionName::fitLength));
     if (choices.fitLength) {
         choices.pagesPerSheet = 1;
     }
     return choices;
+}
+
+int pagesPerPaper(int asked)
+{
+    // The other numbers make no rows and columns that the filters know; they then leave a page a sheet.
+    static constexpr std::array known{2, 3, 4, 6, 8, 9, 10, 12, 15, 16};
+    return std::find(known.begin(), known.end(), asked) == known.end() ? 1 : asked;
 }
 
 PagePart partThatCounts(const QSizeF &pagePt, const QRectF &drawnPt, const LayoutChoices &choices)
@@ -236,8 +284,9 @@ std::vector<QRectF> placesOnSheet(int count, const QRectF &area, const QSizeF &p
     if (count <= 1 || area.isEmpty()) {
         return {area};
     }
+    const int quarters = quarterTurns(choices.turn, pagePt);
     // A page without a size must not bring the others on its sheet on top of each other.
-    const QSizeF turned = pagePt.isEmpty() ? area.size() : turnedSize(pagePt, quarterTurns(choices.turn, pagePt));
+    const QSizeF turned = pagePt.isEmpty() ? area.size() : turnedSize(pagePt, quarters);
     int bestColumns = 1;
     double bestScale = 0.0;
     for (int columns = 1; columns <= count; ++columns) {
@@ -255,8 +304,7 @@ std::vector<QRectF> placesOnSheet(int count, const QRectF &area, const QSizeF &p
     std::vector<QRectF> places;
     places.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
-        const int column = i % bestColumns;
-        const int row = i / bestColumns;
+        const auto [column, row] = cellOf(i, bestColumns, rows, choices.order, quarters);
         places.emplace_back(
             QPointF(area.left() + column * (place.width() + gapPt), area.top() + row * (place.height() + gapPt)),
             place);

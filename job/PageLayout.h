@@ -33,6 +33,15 @@ enum class Turn {
 /// Where a page stands in its place when it does not fill it.
 enum class Place { Start, Middle, End };
 
+/// In which order the pages of a sheet fill its rows and columns; by itself as one reads.
+struct SheetOrder {
+    bool rightToLeft = false;
+    bool bottomToTop = false;
+    bool columnsFirst = false; ///< a column is filled before the next is begun
+
+    bool operator==(const SheetOrder &) const = default;
+};
+
 /// What a person chose about the layout.
 struct LayoutChoices {
     Scaling scaling = Scaling::Auto;
@@ -40,15 +49,19 @@ struct LayoutChoices {
     Place across = Place::Middle; ///< over the width; Start is the left of the standing page
     Place along = Place::Middle;  ///< over the height; Start is the top of the standing page
     int pagesPerSheet = 1;
+    SheetOrder order;
     bool fitLength = false; ///< of each page only what is drawn on counts along the height, and each has its own sheet
 
     bool operator==(const LayoutChoices &) const = default;
 };
 
 /// The choices that a job's options make, by the names that CUPS has for them: print-scaling (or fit-to-page),
-/// orientation-requested, position, number-up; and by fit-length. Values that are none of theirs leave the choice as it
-/// is by itself.
+/// orientation-requested, position, number-up, number-up-layout; and by fit-length. Values that are none of theirs
+/// leave the choice as it is by itself.
 LayoutChoices layoutChoicesOf(const JobOptions &options);
+
+/// As many pages as CUPS's filters put on a sheet of paper when they are asked for so many.
+int pagesPerPaper(int asked);
 
 /// Names of the options by which filters place pages, those among them that layoutChoicesOf() reads: a job that is laid
 /// out carries none of them to the filters.

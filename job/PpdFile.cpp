@@ -3,6 +3,7 @@
 #include "job/PpdFile.h"
 
 #include "job/PlainText.h"
+#include "job/Reason.h"
 #include "job/Texts.h"
 
 #include <QFile>
@@ -107,7 +108,7 @@ PpdFile openPpdFile(const QString &path, Problem *error, const QString &shownAs)
         const ppd_status_t status = ppdLastError(&line);
         *error = {Problem::BadDescription,
                   Texts::tr("The PPD file %1 is not valid, line %2: %3. Correct the file or name another.")
-                      .arg(name, QString::number(line), harmless(QString::fromUtf8(ppdErrorString(status))))};
+                      .arg(name, QString::number(line), reasonText(QString::fromUtf8(ppdErrorString(status))))};
     }
     return ppd;
 }

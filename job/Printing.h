@@ -21,6 +21,7 @@ struct PrintedJob {
     QString queue; ///< null when the bytes are in a file
     SubmittedJob job;
     FilterOutput output;
+    bool isPdf = false; ///< the file is the job as a PDF, not the printer's bytes
 
     /// A sentence about it, in the language of the moment.
     QString sentence() const;
@@ -31,7 +32,8 @@ struct PrintedJob {
 bool isPrintable(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop, Problem *error);
 
 /// Prints documents, away from a window's thread if one is there, to the job's destination: for tape laid out on
-/// labels, for paper as they are, because the filters lay those out. \param title the job's title; \param files the
+/// labels, for paper as they are, because the filters lay those out; or saves
+/// them as a PDF. \param title the job's title where its options have none; \param files the
 /// documents, only read. \param watch when its stop flag becomes true, printing ends with nothing printed; its report
 /// hears of what is sent to a queue. \return what became of the job; std::nullopt, and a sentence in *error, on
 /// failure.

@@ -161,7 +161,7 @@ QString problemOf(ppd_file_t *ppd, const QString &name, const QString &value, co
                    ? QString()
                    : Texts::tr("%1=%2 is no value that CUPS knows for %1.").arg(name, value);
     }
-    if (const QString problem = customValueProblem(ppd, name, value); !problem.isNull()) {
+    if (QString problem = customValueProblem(ppd, name, value); !problem.isNull()) {
         return problem;
     }
     return isPanels(QString::fromUtf8(option->keyword), value) || !listedChoice(ppd, name, value).isNull()

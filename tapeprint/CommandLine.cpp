@@ -121,6 +121,16 @@ bool fitsTogether(const CommandLine &line, Problem *error)
                   QStringLiteral("--trust-ppd goes with --ppd: it is about the programs of that PPD file.")};
         return false;
     }
+    if (!line.request.pdfPath.isEmpty() && !line.request.outputPath.isEmpty()) {
+        *error = {Problem::BadUsage,
+                  QStringLiteral("--pdf and --output both say where the job goes: give one of them.")};
+        return false;
+    }
+    if (line.json && line.request.pdfPath == u"-") {
+        *error = {Problem::BadUsage,
+                  QStringLiteral("--json and --pdf - both write to standard output: give the PDF a name.")};
+        return false;
+    }
     if (line.onlyManagesPresets() && line.request.queue.isEmpty()) {
         *error = {Problem::BadUsage,
                   QStringLiteral("--list-presets and --delete-preset go with -d: presets belong to a print queue.")};

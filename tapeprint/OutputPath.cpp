@@ -25,7 +25,8 @@ QString freeOutputPath(const QString &documentTitle)
 
 void nameOutput(job::JobRequest &request, const QString &documentTitle)
 {
-    if (!request.ppdPath.isEmpty() && request.queue.isEmpty() && request.outputPath.isEmpty()) {
+    if (!request.ppdPath.isEmpty() && request.queue.isEmpty() && request.outputPath.isEmpty() &&
+        request.pdfPath.isEmpty()) {
         request.outputPath = freeOutputPath(documentTitle);
         request.mayReplaceOutput = false;
     }

@@ -147,6 +147,11 @@ bool takeOutput(CommandLine &line, const QString &value, Problem *error)
     return takeText(&line.request.outputPath, value, "--output needs the name of a file.", error);
 }
 
+bool takePdf(CommandLine &line, const QString &value, Problem *error)
+{
+    return takeText(&line.request.pdfPath, value, "--pdf needs the name of a file.", error);
+}
+
 /// For the shells' completions: arguments, queues, options, or choices:OPTION.
 bool takeCompletion(CommandLine &line, const QString &value, Problem *error)
 {
@@ -199,6 +204,9 @@ constexpr std::array options{
     ProgramOption{"--ppd", "FILE", ValueKind::File, takePpd,
                   "take the printer's description from a PPD file; without -d no print server is\n"
                   "needed: the document runs through the filters that the PPD names"},
+    ProgramOption{"--pdf", "FILE", ValueKind::File, takePdf,
+                  "save the job as a PDF in place of printing it, - for standard output: the\n"
+                  "labels of a tape, or the chosen pages"},
     ProgramOption{"--output", "FILE", ValueKind::File, takeOutput,
                   "with --ppd: where the printer's bytes go, - for standard output; no print queue is\n"
                   "used"},

@@ -88,7 +88,9 @@ int main(int argc, char **argv)
     }
     tapeprint::RunReport run = wantsWindow ? tapeprint::runWindow(*line) : tapeprint::runUnattended(*line);
     // Standard output is the printer's.
-    if (line->submits() && tapeprint::job::isStandardOutput(line->request.outputPath)) {
+    const tapeprint::job::JobRequest &request = line->request;
+    if (line->submits() &&
+        (tapeprint::job::isStandardOutput(request.outputPath) || tapeprint::job::isStandardOutput(request.pdfPath))) {
         run.messages = run.output + run.messages;
         run.output.clear();
     }

@@ -136,11 +136,16 @@ TEST_F(UnitInTheWindow, SwitchedByKeys_EveryMeasureFollowsAndTheNextWindowToo)
     EXPECT_EQ(button->text(), u"mm"_qs);
     EXPECT_TRUE(measures().startsWith(u"Length 100.0 mm, width "_qs)) << measures().toStdString();
     button->setFocus();
-    QTimer::singleShot(100, button, [this] {
-        QTest::keyClick(button->menu(), Qt::Key_Down);
-        QTest::keyClick(button->menu(), Qt::Key_Down);
-        QTest::keyClick(button->menu(), Qt::Key_Return);
+    QTimer whenOpen;
+    QObject::connect(&whenOpen, &QTimer::timeout, button, [this, &whenOpen] {
+        if (QApplication::activePopupWidget() == button->menu()) {
+            whenOpen.stop();
+            QTest::keyClick(button->menu(), Qt::Key_Down);
+            QTest::keyClick(button->menu(), Qt::Key_Down);
+            QTest::keyClick(button->menu(), Qt::Key_Return);
+        }
     });
+    whenOpen.start(20);
     QTest::keyClick(button, Qt::Key_Space);
     QApplication::processEvents();
     EXPECT_EQ(button->text(), u"in"_qs);

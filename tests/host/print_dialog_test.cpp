@@ -3,17 +3,20 @@
 #include "TestPrinter.h"
 
 #include "dialog/PrintDialog.h"
+#include "dialog/ShowCommand.h"
 #include "dialog/SummaryView.h"
 #include "job/DocumentSpool.h"
 #include "job/Printing.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
@@ -113,6 +116,24 @@ TEST_F(PrintDialogTest, PickInThePanel_ReachesTheJobAndTheSummary)
     EXPECT_EQ(summary(), (QStringList{u"Tape=W12"_qs, u"Margin=5.0"_qs}));
 }
 
+TEST_F(PrintDialogTest, ShowCommand_ShowsTheSettingsAsTheyStandAndCopiesThem)
+{
+    click(u"wideMargin"_qs);
+    QString shown;
+    QTimer::singleShot(0, dialog.get(), [this, &shown] {
+        auto *box = dialog->findChild<ShowCommand *>();
+        ASSERT_NE(box, nullptr);
+        shown = box->findChild<QPlainTextEdit *>(u"tapeprintCommand"_qs)->toPlainText();
+        EXPECT_EQ(box->findChild<QPlainTextEdit *>(u"lpCommand"_qs), nullptr); // there is no queue
+        QTest::mouseClick(box->findChild<QPushButton *>(u"tapeprintCopy"_qs), Qt::LeftButton);
+        box->reject();
+    });
+    click(u"showCommand"_qs);
+    EXPECT_EQ(shown, u"tapeprint --no-dialog --ppd "_qs + printJob.destination().ppdPath + u" --output "_qs +
+                         outputPath + u" -o PageSize=W12 -o KsMargin=5.0 -t label.txt"_qs);
+    EXPECT_EQ(QApplication::clipboard()->text(), shown);
+}
+
 TEST_F(PrintDialogTest, PickOfATape_IsToldToThePanelBeforeAndAfterItIsShownWithIt)
 {
     takeCalls();
@@ -125,8 +146,10 @@ TEST_F(PrintDialogTest, PickOfATape_IsToldToThePanelBeforeAndAfterItIsShownWithI
 
 TEST_F(PrintDialogTest, OtherOptions_AreShownWithoutThoseOfThePanel)
 {
-    pickNext(u"pageChooser"_qs);
-    EXPECT_EQ(child<QComboBox>(u"pageChooser"_qs)->currentText(), u"More Options"_qs);
+    for (const QString &page : {u"Layout"_qs, u"Job"_qs, u"More Options"_qs}) {
+        pickNext(u"pageChooser"_qs);
+        EXPECT_EQ(child<QComboBox>(u"pageChooser"_qs)->currentText(), page);
+    }
     EXPECT_TRUE(child<QComboBox>(u"CutMedia"_qs)->isVisible());
     EXPECT_TRUE(child<QComboBox>(u"KsMirror"_qs)->isVisible());
     EXPECT_EQ(dialog->findChild<QComboBox *>(u"KsMargin"_qs), nullptr);
@@ -315,11 +338,11 @@ protected:
     }
 };
 
-TEST_F(PlainDialog, ShowsThePrintersOptionsFirstAndNoChooser)
+TEST_F(PlainDialog, ShowsThePrintersOptionsFirst)
 {
     EXPECT_TRUE(child<QComboBox>(u"CutMedia"_qs)->isVisible());
     EXPECT_TRUE(child<QComboBox>(u"Margin"_qs)->isVisible());
-    EXPECT_FALSE(child<QComboBox>(u"pageChooser"_qs)->isVisible());
+    EXPECT_EQ(child<QComboBox>(u"pageChooser"_qs)->currentText(), u"Printer Options"_qs);
     EXPECT_FALSE(child<QWidget>(u"summary"_qs)->isVisible()); // of panels: there is none
     EXPECT_FALSE(child<QLabel>(u"notices"_qs)->isVisible());
     EXPECT_EQ(dialog->findChild<QPushButton *>(u"wideMargin"_qs), nullptr);

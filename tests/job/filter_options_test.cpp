@@ -86,4 +86,30 @@ TEST(FilterOptions_Paper, EverythingButFitLength_GoesToTheFilters)
     EXPECT_EQ(filterOptions({}, paper), JobOptions());
 }
 
+TEST(FilterOptions_Paper, WhatServersAndFiltersRefuse_IsPutAsTheyTakeIt)
+{
+    TapePage paper = tape();
+    paper.isTape = false;
+    EXPECT_EQ(filterOptions(options({{u"page-ranges"_qs, u"7, 1-3"_qs}}), paper).lines(),
+              QStringList{u"page-ranges=1-3,7"_qs});
+    EXPECT_EQ(filterOptions(options({{u"orientation-requested"_qs, u"0"_qs}}), paper), JobOptions());
+    EXPECT_EQ(filterOptions(options({{u"orientation-requested"_qs, u"4"_qs}}), paper).lines(),
+              QStringList{u"orientation-requested=4"_qs});
+}
+
+TEST(FilterOptions_Effect, OptionsThatTapeIgnores_AreSaidOnce)
+{
+    const JobOptions chosen =
+        options({{u"scaling"_qs, u"50"_qs}, {u"page-border"_qs, u"none"_qs}, {u"number-up-layout"_qs, u"tblr"_qs}});
+    EXPECT_EQ(optionsWithoutEffect(chosen, tape()),
+              QStringList{u"Option scaling changes nothing on tape: say how pages lie on it by print-scaling, "
+                          "orientation-requested, position and number-up."_qs});
+    TapePage paper = tape();
+    paper.isTape = false;
+    EXPECT_TRUE(optionsWithoutEffect(chosen, paper).isEmpty());
+    EXPECT_EQ(optionsWithoutEffect(options({{u"number-up"_qs, u"5"_qs}}), paper),
+              QStringList{u"number-up=5 is none of the numbers that the print system knows: each page has a sheet of "
+                          "its own."_qs});
+}
+
 } // namespace

@@ -51,14 +51,6 @@ TEST(PageSelection, EvenAndOdd_CountFromOne)
     EXPECT_EQ(selectedPages(9, options({{u"page-set"_qs, u"odd"_qs}, {u"page-ranges"_qs, u"2-5"_qs}})), Pages({2, 4}));
 }
 
-TEST(PageSelection, Reverse_TurnsTheOrder)
-{
-    EXPECT_EQ(selectedPages(3, options({{u"outputorder"_qs, u"reverse"_qs}})), Pages({2, 1, 0}));
-    EXPECT_EQ(selectedPages(3, options({{u"OutputOrder"_qs, u"Reverse"_qs}})), Pages({2, 1, 0}));
-    EXPECT_EQ(selectedPages(3, options({{u"outputorder"_qs, u"normal"_qs}, {u"OutputOrder"_qs, u"Reverse"_qs}})),
-              Pages({0, 1, 2}));
-}
-
 /// A tape of 72 x 288 points (101.6 mm), all of it printable.
 TapePage tape()
 {
@@ -111,13 +103,62 @@ TEST(LabelPlan_Sheets, LastSheetThatIsNotFull_KeepsThePlacesOfAFullOne)
     EXPECT_EQ(plan.labels[0][1].place, QTransform(1, 0, 0, 1, 0, 145.5));
 }
 
-TEST(LabelPlan_Sheets, SelectionComesBeforeSheets)
+TEST(LabelPlan_Order, Reverse_BringsTheLastFirst)
 {
-    EXPECT_EQ(
-        told(planLabels(
-            {pages(6)}, tape(),
-            options({{u"number-up"_qs, u"2"_qs}, {u"page-set"_qs, u"even"_qs}, {u"outputorder"_qs, u"reverse"_qs}}))),
-        u"0.5+0.3 0.1"_qs);
+    EXPECT_EQ(told(planLabels({pages(2), pages(1)}, tape(), options({{u"outputorder"_qs, u"reverse"_qs}}))),
+              u"1.0 0.1 0.0"_qs);
+    EXPECT_EQ(told(planLabels({pages(2)}, tape(), options({{u"OutputOrder"_qs, u"Reverse"_qs}}))), u"0.1 0.0"_qs);
+    EXPECT_EQ(told(planLabels({pages(2)}, tape(),
+                              options({{u"outputorder"_qs, u"normal"_qs}, {u"OutputOrder"_qs, u"Reverse"_qs}}))),
+              u"0.0 0.1"_qs);
+}
+
+TEST(LabelPlan_Sheets, RangesMeanPagesAndSetsAndOrderMeanSheets)
+{
+    const auto plan = [](std::initializer_list<JobOptions::Entry> more) {
+        JobOptions all = options({{u"number-up"_qs, u"2"_qs}});
+        for (const auto &[name, value] : more) {
+            all.set(name, value);
+        }
+        return told(planLabels({pages(6)}, tape(), all));
+    };
+    EXPECT_EQ(plan({{u"page-ranges"_qs, u"2-4"_qs}}), u"0.1+0.2 0.3"_qs);
+    EXPECT_EQ(plan({{u"page-set"_qs, u"even"_qs}}), u"0.2+0.3"_qs);
+    EXPECT_EQ(plan({{u"page-set"_qs, u"odd"_qs}, {u"outputorder"_qs, u"reverse"_qs}}), u"0.4+0.5 0.0+0.1"_qs);
+}
+
+TEST(LabelPlan_Sheets, SheetsOfPaper_HoldPagesOfOneDocument)
+{
+    TapePage paper = tape();
+    paper.isTape = false;
+    const JobOptions twoUp = options({{u"number-up"_qs, u"2"_qs}});
+    EXPECT_EQ(told(planLabels({pages(3), pages(2)}, paper, twoUp)), u"0.0+0.1 0.2 1.0+1.1"_qs);
+    EXPECT_EQ(told(planLabels({pages(3), pages(2)}, tape(), twoUp)), u"0.0+0.1 0.2+1.0 1.1"_qs);
+    // Five pages a sheet are more than the filters know how to place.
+    EXPECT_EQ(told(planLabels({pages(2)}, paper, options({{u"number-up"_qs, u"5"_qs}}))), u"0.0 0.1"_qs);
+}
+
+TEST(LabelPlan_Sheets, NumberUpLayout_SaysWhereTheFirstPageStands)
+{
+    // Two pages on a tape that is four times as long as wide stand one above the other.
+    const auto firstTop = [](const QString &order) {
+        return planLabels({pages(2, {72, 142.5})}, tape(),
+                          options({{u"number-up"_qs, u"2"_qs}, {u"number-up-layout"_qs, order}}))
+            .labels.at(0)
+            .at(0)
+            .clip.top();
+    };
+    EXPECT_EQ(firstTop(u"lrtb"_qs), 0.0);
+    EXPECT_EQ(firstTop(u"lrbt"_qs), 145.5);
+    EXPECT_EQ(firstTop(u"btrl"_qs), 145.5);
+    EXPECT_EQ(firstTop(u"no-such-order"_qs), 0.0);
+    // Four pages of the area's own shape stand in two rows of two.
+    const LabelPlan plan =
+        planLabels({pages(4)}, tape(), options({{u"number-up"_qs, u"4"_qs}, {u"number-up-layout"_qs, u"tbrl"_qs}}));
+    const Label &sheet = plan.labels.at(0);
+    EXPECT_EQ(sheet.at(0).clip.topLeft(), QPointF(37.5, 0));
+    EXPECT_EQ(sheet.at(1).clip.topLeft(), QPointF(37.5, 145.5));
+    EXPECT_EQ(sheet.at(2).clip.topLeft(), QPointF(0, 0));
 }
 
 TEST(LabelPlan_Copies, CountForLabelsAndTape)

@@ -158,10 +158,25 @@ TEST(PageLayout_Sheet, LyingPages_AreCountedAsTheyAreTurned)
     // 100 x 60 is turned to 60 x 100; unturned it would be largest in one column as well, but at 0.6.
     const std::vector<QRectF> places = placesOnSheet(4, {0, 0, 123, 203}, {100, 60}, choices({}, Turn::Automatic));
     ASSERT_EQ(places.size(), 4U);
-    expectRect(places[0], {0, 0, 60, 100});
-    expectRect(places[1], {63, 0, 60, 100});
-    expectRect(places[2], {0, 103, 60, 100});
-    expectRect(places[3], {63, 103, 60, 100});
+    // Turned against the clock, what is read as the left end lies at the bottom, and the next line to the right.
+    expectRect(places[0], {0, 103, 60, 100});
+    expectRect(places[1], {0, 0, 60, 100});
+    expectRect(places[2], {63, 103, 60, 100});
+    expectRect(places[3], {63, 0, 60, 100});
+}
+
+TEST(PageLayout_Sheet, TurnedPages_AreInTheOrderInWhichTheyAreRead)
+{
+    const QRectF four(0, 0, 123, 203);
+    // With the clock, the left end is at the top and the next line to the left.
+    const std::vector<QRectF> right = placesOnSheet(4, four, {100, 60}, choices({}, Turn::Right));
+    expectRect(right[0], {63, 0, 60, 100});
+    expectRect(right[1], {63, 103, 60, 100});
+    expectRect(right[2], {0, 0, 60, 100});
+    const std::vector<QRectF> half = placesOnSheet(4, four, {60, 100}, choices({}, Turn::Half));
+    expectRect(half[0], {63, 103, 60, 100});
+    expectRect(half[1], {0, 103, 60, 100});
+    expectRect(half[3], {0, 0, 60, 100});
 }
 
 TEST(PageLayout_Sheet, OneToSixteenPages_AreInReadingOrderApartAndInside)

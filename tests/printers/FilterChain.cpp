@@ -90,7 +90,8 @@ std::vector<RasterPage> rasterPagesIn(const QByteArray &bytes)
         RasterPage page{QSize(static_cast<int>(header.cupsWidth), static_cast<int>(header.cupsHeight)),
                         QSize(static_cast<int>(header.HWResolution[0]), static_cast<int>(header.HWResolution[1])),
                         static_cast<int>(header.cupsBytesPerLine),
-                        {}};
+                        {},
+                        std::max(1, static_cast<int>(header.NumCopies))};
         page.bits.resize(static_cast<qsizetype>(header.cupsBytesPerLine) * header.cupsHeight);
         const auto wanted = static_cast<unsigned>(page.bits.size());
         const unsigned read =

@@ -19,6 +19,7 @@ struct RasterPage {
     QSize dotsPerInch;
     int bytesPerLine = 0;
     QByteArray bits;
+    int copies = 1; ///< that the printer is told to make
 
     bool isBlack(int x, int y) const;
     /// The smallest rectangle with all black dots inside \p area.

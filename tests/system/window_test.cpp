@@ -9,6 +9,10 @@
 #include <QImage>
 #include <QThread>
 
+#include <atomic>
+
+#include <cups/cups.h>
+
 namespace
 {
 
@@ -246,7 +250,32 @@ TEST_F(WindowJob, PausedQueue_TheWindowSaysSoAndCanBeClosedWithoutEndingTheJob)
     EXPECT_EQ(dialog.windows(), QStringList{dialog.window()});
     dialog.press({u"Escape"_qs});
     EXPECT_EQ(dialog.waitForEnd().output, "Job tape-1 is pending.\n");
-    EXPECT_EQ(cups.jobs().at(0).state, 3); // pending
+    EXPECT_EQ(cups.jobs().at(0).state, IPP_JSTATE_PENDING);
+}
+
+TEST_F(WindowJob, CancelWhileTheServerIsSilentInTheMiddle_CancelsTheJobAndTheWindowPrintsAgain)
+{
+    using tapeprint::test::Meddling;
+    std::atomic<int> documents = 0;
+    const tapeprint::test::MeddlingServer server(
+        folder.path(u"meddling.sock"_qs), cups.socket(), [&documents](const tapeprint::test::SeenRequest &request) {
+            return request.operation == IPP_OP_SEND_DOCUMENT && ++documents == 1 ? Meddling::KeepSilent
+                                                                                 : Meddling::PassOn;
+        });
+    moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"meddling.sock"_qs)}};
+    ASSERT_NO_FATAL_FAILURE(open());
+    dialog.clickPrint();
+    ASSERT_TRUE(systemtest::waitUntil([&documents] { return documents == 1; }));
+    QElapsedTimer sinceCancel;
+    sinceCancel.start();
+    dialog.press({u"Escape"_qs});
+    ASSERT_TRUE(cups.waitForEnd(1).has_value());
+    EXPECT_LT(sinceCancel.elapsed(), 5000); // well before a silent server is given up
+    EXPECT_EQ(cups.jobs().at(0).state, IPP_JSTATE_CANCELED);
+    EXPECT_EQ(dialog.windows(), QStringList{dialog.window()}); // without a word: the person wanted it
+    dialog.clickPrint();
+    EXPECT_EQ(dialog.waitForEnd().output, "Job tape-2 is completed.\n");
+    EXPECT_TRUE(cups.filterCalls(1).empty());
 }
 
 TEST_F(WindowJob, Cancel_PrintsNothing)

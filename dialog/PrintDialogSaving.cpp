@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the window does before anything is printed or saved, and the job that goes into a file. The window stays: a file
+// is no print.
+#include "dialog/AmountLabel.h"
+#include "dialog/JobPage.h"
+#include "dialog/PreviewArea.h"
+#include "dialog/PrintDialog.h"
+
+#include <QComboBox>
+#include <QPushButton>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <utility>
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+/// A document that is read for longer than this is printed without its amount being known.
+constexpr int longestCountingMs = 10000;
+
+} // namespace
+
+bool PrintDialog::isReadyToPrint()
+{
+    const auto isJobPage = [this](const Page &page) { return page.widget == mJobPage; };
+    if (mJobPage && !mJobPage->isReady()) {
+        const auto found = std::find_if(mPageList.begin(), mPageList.end(), isJobPage);
+        pickPage(static_cast<int>(found - mPageList.begin()));
+        mJobPage->isReady(); // shown now, its field takes the focus
+        return false;
+    }
+    job::Problem error;
+    if (!mPanels.saveValues(&error)) {
+        tellProblem(error.sentence);
+        return false;
+    }
+    // A panel that refuses has told the person why; the dialog stays as it is.
+    if (QString panel; !mPanels.shouldPrint(&panel)) {
+        follow();
+        return false;
+    }
+    return true;
+}
+
+bool PrintDialog::isAmountAgreed()
+{
+    // What was pressed before the pages are counted is done when they are.
+    if (mPreview->isCounting() && !mIsCountedOut) {
+        mCountTimer.start(longestCountingMs);
+        return false;
+    }
+    return mAmount->isAgreed();
+}
+
+void PrintDialog::showAmount()
+{
+    mAmount->showAmount(mPreview->amount(), mPreview->isCounting(), mUnit.unit());
+    if (mCountTimer.isActive() && !mPreview->isCounting()) {
+        mCountTimer.start(0);
+    }
+}
+
+void PrintDialog::printCounted()
+{
+    if (mClosed) {
+        return;
+    }
+    const QScopedValueRollback countedOut(mIsCountedOut, true);
+    print();
+}
+
+void PrintDialog::save(SaveButton::Kind kind, const QString &path)
+{
+    if (!isReadyToPrint()) {
+        return;
+    }
+    job::SettledJob job = job::settle(mJob);
+    job.mayReplaceOutput = true; // the person was asked
+    (kind == SaveButton::Kind::Pdf ? job.pdfPath : job.outputPath) = path;
+    if (kind == SaveButton::Kind::PrinterData) {
+        job.pdfPath.clear();
+    }
+    mIsSaving = true;
+    mRun.start([action = mPrintAction, job](const job::PrintWatch &watch,
+                                            job::Problem *problem) { return action(job, watch, problem); },
+               job.page.isTape);
+    showPrinting();
+}
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: Apache-2.0
+// What CUPS's filters make of page-ranges, page-set and outputorder was measured on pdftopdf.
+#include "job/PreparedJob.h"
+
+#include "job/ChosenPages.h"
+#include "job/Conversion.h"
+#include "job/DocumentCheck.h"
+#include "job/LaidOutJob.h"
+#include "job/PageLayout.h"
+#include "job/UsualOptions.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tapeprint::job
+{
+
+namespace
+{
+
+bool selectsOtherThanFilters(const JobOptions &options, qsizetype documents)
+{
+    const bool hasRanges = !options.value(OptionName::pageRanges).isEmpty();
+    const bool hasSheets = pagesPerPaper(layoutChoicesOf(options).pagesPerSheet) > 1;
+    const bool hasSet = pageSetOf(options) != PageSet::All;
+    return (hasRanges && hasSheets) || (documents > 1 && (hasRanges || (hasSet && !hasSheets)));
+}
+
+/// A file of the job's own, which goes with it. \return its path; null, and a sentence in *error, when there is no
+/// room.
+QString newFile(PreparedJob &job, const QString &name, Problem *error)
+{
+    QString reason;
+    std::unique_ptr<PrivateFile> file = PrivateFile::create(name, &reason);
+    if (!file) {
+        *error = noRoomForTemporaryFiles(reason);
+        return {};
+    }
+    job.made.push_back(std::move(file));
+    return job.made.back()->path();
+}
+
+/// Puts the chosen pages of each document in its place; documents without one go.
+bool choosePages(PreparedJob &paper, const SettledJob &job, const std::atomic<bool> &stop, Problem *error)
+{
+    const std::optional<PdfDocuments> documents = collectPdfs(job, paper.files, stop, error);
+    if (!documents) {
+        return false;
+    }
+    std::vector<std::vector<ChosenPage>> chosen(documents->sizes.size());
+    for (const ChosenPage &page : chosenPages(documents->sizes, job.options)) {
+        chosen[page.document].push_back(page);
+    }
+    paper.files.clear();
+    for (const std::vector<ChosenPage> &pages : chosen) {
+        if (pages.empty()) {
+            continue;
+        }
+        const QString file = newFile(paper, QStringLiteral("pages.pdf"), error);
+        if (file.isNull() || !writeChosenPages(pages, documents->pdfs, file, stop, error)) {
+            return false;
+        }
+        paper.files.append(file);
+    }
+    if (paper.files.isEmpty()) {
+        *error = noPageIsChosen();
+        return false;
+    }
+    paper.options.remove(OptionName::pageRanges);
+    if (pagesPerPaper(layoutChoicesOf(job.options).pagesPerSheet) <= 1) {
+        paper.options.remove(OptionName::pageSet);
+    }
+    return true;
+}
+
+bool layOut(PreparedJob &tape, const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
+            Problem *error)
+{
+    const QString labels = newFile(tape, QStringLiteral("labels.pdf"), error);
+    if (labels.isNull()) {
+        return false;
+    }
+    tape.files = QStringList{labels};
+    const std::optional<PdfDocuments> documents = collectPdfs(job, files, stop, error);
+    return documents && layOutJob(job, *documents, labels, stop, error);
+}
+
+} // namespace
+
+std::optional<PreparedJob> prepareJob(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
+                                      Problem *error)
+{
+    PreparedJob prepared{files, job.carried(), {}};
+    if (job.page.isTape) {
+        return layOut(prepared, job, files, stop, error) ? std::optional(std::move(prepared)) : std::nullopt;
+    }
+    if (!areWhole(files, error)) {
+        return std::nullopt;
+    }
+    if (selectsOtherThanFilters(job.options, files.size()) && !choosePages(prepared, job, stop, error)) {
+        return std::nullopt;
+    }
+    if (isReversed(job.options)) {
+        std::reverse(prepared.files.begin(), prepared.files.end()); // the filters reverse each document
+    }
+    return prepared;
+}
+
+} // namespace tapeprint::job
