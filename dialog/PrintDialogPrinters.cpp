@@ -44,6 +44,7 @@ void PrintDialog::startPrinters()
 
 void PrintDialog::pickPrinter(int index)
 {
+    mCountTimer.stop(); // what was pressed was for the printer before
     mPrinters.pick(mPrinterPopUp->itemData(index, PrinterModel::NameRole).toString());
     followPrinters();
 }

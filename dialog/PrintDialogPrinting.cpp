@@ -38,7 +38,7 @@ void PrintDialog::connectPrinting()
 
 void PrintDialog::print()
 {
-    if (!isReadyToPrint() || !isAmountAgreed()) {
+    if (!mPrinters.canPrint() || !isReadyToPrint() || !isAmountAgreed()) {
         return;
     }
     mIsSaving = false;
