@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QResizeEvent>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -27,6 +28,10 @@ NoticesArea::NoticesArea(QWidget *parent) : QScrollArea(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameShape(QFrame::StyledPanel);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::NoFocus);
+    // The keys come here only where something scrolls.
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            [this](int /*least*/, int most) { setFocusPolicy(most > 0 ? Qt::TabFocus : Qt::NoFocus); });
     auto *content = new QWidget;
     mColumn = new QVBoxLayout(content);
     mColumn->setContentsMargins(margin, margin, margin, margin);
@@ -61,7 +66,6 @@ void NoticesArea::notice()
         isAny = isAny || !mColumn->itemAt(i)->isEmpty();
     }
     setVisible(isAny);
-    // A bar that never moves needs no key of its own.
     updateGeometry();
 }
 

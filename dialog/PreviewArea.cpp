@@ -175,14 +175,15 @@ void PreviewArea::showLabel()
     for (const job::PlacedPage &page : shownLabel()) {
         content |= page.place.mapRect(partThatCounts(page)).intersected(page.clip);
     }
-    mPreview->showLabel({mPage, shownLabel(), content, isCutOff(), mLook});
-    askForPages();
-    showWords();
     const auto count = static_cast<int>(mPlan.labels.size());
     const auto number = static_cast<int>(mLabel) + 1;
+    const QString position = tr("Label %1 of %2").arg(number).arg(count);
+    mPreview->showLabel({mPage, shownLabel(), content, isCutOff(), mLook, count > 1 ? position : QString()});
+    askForPages();
+    showWords();
     mPaging->setVisible(count > 1);
     mPosition->setText(tr("%1 / %2", "which label of how many").arg(number).arg(count));
-    mPosition->setAccessibleName(tr("Label %1 of %2").arg(number).arg(count));
+    mPosition->setAccessibleName(position);
     mPrevious->setEnabled(number > 1);
     mNext->setEnabled(number < count);
 }

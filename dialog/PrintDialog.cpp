@@ -12,6 +12,7 @@
 #include "dialog/PlainText.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/SummaryView.h"
+#include "dialog/TabOrder.h"
 #include "dialog/TapeLook.h"
 
 #include <QCheckBox>
@@ -139,7 +140,7 @@ void PrintDialog::makePages()
 
 void PrintDialog::showPages(int first)
 {
-    orderByTab();
+    orderTabsByLayout(*this, mPages);
     assignKeys();
     turnToPage(std::clamp(first, 0, static_cast<int>(mPageList.size()) - 1));
     mPanelArea->updateGeometry();
@@ -153,26 +154,6 @@ void PrintDialog::settlePanels()
     job::Problem error;
     mPanels.settle(&error);
     mAlerts = alerts.lines();
-}
-
-void PrintDialog::orderByTab()
-{
-    // Pages are made after the buttons and would be reached last: the Tab key follows what the eye reads.
-    QWidget *last = mPanelArea;
-    for (QWidget *next = mPages->nextInFocusChain(); next != mPages; next = next->nextInFocusChain()) {
-        if (mPages->isAncestorOf(next) && next->focusPolicy() != Qt::NoFocus) {
-            last = next; // only what takes the focus has a place in the order
-        }
-    }
-    QList<QWidget *> widgets{mSummary, mFitButton, mKeepFitting};
-    for (int i = 0; i < mMoreButtonsPlace->count(); ++i) {
-        widgets.append(mMoreButtonsPlace->itemAt(i)->widget());
-    }
-    widgets << mSaveButton << mCancelButton << mPrintButton;
-    for (QWidget *widget : widgets) {
-        setTabOrder(last, widget);
-        last = widget;
-    }
 }
 
 /// The dialog's own pages show the panels' PPD, and go before it.

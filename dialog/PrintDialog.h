@@ -124,7 +124,6 @@ private:
     void showTapes();
     void makePages();
     void showPages(int first);
-    void orderByTab();
     void assignKeys();
     void settlePanels();
     void removeOwnPages();
@@ -174,6 +173,9 @@ private:
     void showWhetherTape();
     void fitPanel();
     bool isPage(const QObject *object) const;
+    bool isInPanel(const QWidget &widget) const;
+    void helpPeople();
+    QString whyGrey(const QWidget &control) const;
 
     job::Job &mJob;
     Panels &mPanels;

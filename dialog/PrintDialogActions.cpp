@@ -58,6 +58,7 @@ void PrintDialog::connectControls()
     connect(&mRestTimer, &QTimer::timeout, &mPanels, &Panels::tellAreasChanged);
     // Not every act in a panel sends a choice at once, but its summary changes: the summary is read again after it.
     QApplication::instance()->installEventFilter(this);
+    helpPeople();
 }
 
 bool PrintDialog::eventFilter(QObject *watched, QEvent *event)

@@ -10,7 +10,6 @@
 //   mMoreButtonsPlace     mAmountPlace, progress     Cancel, Print
 #include "dialog/AmountLabel.h"
 #include "dialog/JobRow.h"
-#include "dialog/Mnemonics.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/PanelArea.h"
 #include "dialog/PopUp.h"
@@ -113,6 +112,7 @@ QWidget *PrintDialog::makePagesArea()
     layout->addWidget(mChooserRow);
     mPanelArea = new PanelArea(area);
     mPanelArea->setWidgetResizable(true);
+    mPanelArea->setFocusPolicy(Qt::NoFocus); // what is in it takes the keys, and is scrolled to
     mPanelArea->setMinimumSize(smallestPagesArea);
     mPanelArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     mPages = new QStackedWidget;
@@ -191,17 +191,6 @@ QWidget *PrintDialog::makeButtons()
     layout->addWidget(mCancelButton);
     layout->addWidget(mPrintButton);
     return buttons;
-}
-
-void PrintDialog::assignKeys()
-{
-    QList<const QWidget *> views;
-    for (const PanelEntry &entry : mPanels.entries()) {
-        if (entry.view != nullptr) {
-            views.append(entry.view);
-        }
-    }
-    assignMnemonics(*this, views);
 }
 
 } // namespace tapeprint::dialog

@@ -2,6 +2,8 @@
 // Drawing the label: at scale as long as that leaves something to see, with breaks where tape is longer than the room.
 #include "dialog/TapePreview.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -28,6 +30,7 @@ constexpr int breakTeeth = 4;     ///< swings over the tape's width
 constexpr int beforeContent = 8;  ///< to each side of what is printed, in a piece of its own
 constexpr int leastEndPiece = 28; ///< beside such a piece
 constexpr int tapeHeight = 90;
+constexpr int leastHeight = 60;
 constexpr int paperHeight = 190;
 constexpr int usualWidth = 280;
 constexpr int leastWidth = 180;
@@ -67,10 +70,27 @@ QColor lineOn(const QColor &tape)
     return qGray(tape.rgb()) < bright && tape.alpha() == 255 ? QColor(235, 235, 235) : QColor(90, 90, 90);
 }
 
+/// For people who hear the window. The toolkit asks once for each widget that somebody listens to.
+QAccessibleInterface *makeInterface(const QString & /*className*/, QObject *object)
+{
+    auto *preview = qobject_cast<TapePreview *>(object);
+    return preview == nullptr ? nullptr : new QAccessibleWidget(preview, QAccessible::Graphic);
+}
+
+void tellThatItIsAPicture()
+{
+    static const bool isDone = [] {
+        QAccessible::installFactory(makeInterface);
+        return true;
+    }();
+    Q_UNUSED(isDone)
+}
+
 } // namespace
 
 TapePreview::TapePreview(QWidget *parent) : QWidget(parent)
 {
+    tellThatItIsAPicture();
     setObjectName(QStringLiteral("tapePreview"));
     setAccessibleName(tr("Tape preview"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -83,7 +103,7 @@ QSize TapePreview::sizeHint() const
 
 QSize TapePreview::minimumSizeHint() const
 {
-    return {leastWidth, tapeHeight + 2 * fontMetrics().height()};
+    return {leastWidth, leastHeight + 2 * fontMetrics().height()};
 }
 
 void TapePreview::showLabel(ShownLabel label)
@@ -130,8 +150,10 @@ QString TapePreview::describe() const
         return {};
     }
     const bool lies = mShown.page.isTape;
-    const QString measures =
-        tr("Length %1, width %2").arg(lies ? mLengthText : mWidthText, lies ? mWidthText : mLengthText);
+    QString measures = tr("Length %1, width %2").arg(lies ? mLengthText : mWidthText, lies ? mWidthText : mLengthText);
+    if (!mShown.position.isEmpty()) {
+        measures.prepend(mShown.position + QStringLiteral("; "));
+    }
     return mShown.isCutOff ? tr("%1; part of the page is cut off", "length and width").arg(measures) : measures;
 }
 
@@ -335,6 +357,7 @@ void TapePreview::drawLimits(QPainter &painter, const QTransform &fromLabel) con
 void TapePreview::drawMeasures(QPainter &painter, const QRectF &strip) const
 {
     painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setLayoutDirection(Qt::LeftToRight); // the drawing is never mirrored, and neither are "24 mm" beside it
     painter.setPen(palette().color(QPalette::WindowText));
     const auto line = [&painter](const QPointF &from, const QPointF &to, const QPointF &end) {
         painter.drawLine(from, to);

@@ -22,6 +22,7 @@ struct ShownLabel {
     QRectF contentPt;   ///< what of the label they cover
     bool isCutOff = false;
     TapeLook look;
+    QString position = {}; ///< which label of how many, in words; empty for the only one
 };
 
 class TapePreview : public QWidget

@@ -4,6 +4,7 @@
 #include "panel/LengthOption.h"
 #include "panel/PageSettingPDE13_v100_.h"
 #include "panel/PlainLabel.h"
+#include "panel/SpokenLimits.h"
 
 #include "controls/PDEFormatter.h"
 #include "pdekit/CurrentEvent.h"
@@ -136,6 +137,7 @@ void PageSettingPDE13_v100_::fillLengthGroup(const LengthOption &group, const QS
     }
     setText(this->*group.minLabel, minText, enabled);
     setText(this->*group.maxLabel, maxText, enabled);
+    sayLimits(this->*group.field, this->*group.slider, this->*group.title, {minText, maxText, unitText});
 }
 
 // ---- The person's actions -----------------------------------------------------------------------------------------

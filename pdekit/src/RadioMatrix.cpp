@@ -2,6 +2,7 @@
 // The radio matrix: radio buttons in an exclusive group, so that arrow keys move the selection as people expect.
 #include "pdekit/RadioMatrix.h"
 
+#include "AccessibleControls.h"
 #include "InterruptedPress.h"
 
 #include <QButtonGroup>
@@ -39,6 +40,7 @@ protected:
 
 RadioMatrix::RadioMatrix(QWidget *parent) : QWidget(parent), mGroup(new QButtonGroup(this))
 {
+    makeControlsAccessible();
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     mGroup->setExclusive(true);

@@ -3,6 +3,7 @@
 // read back from the knob unless a person has moved it.
 #include "pdekit/Slider.h"
 
+#include "AccessibleControls.h"
 #include "InterruptedPress.h"
 #include "pdekit/Numbers.h"
 
@@ -25,6 +26,7 @@ namespace
 /// Places of the knob: more than a slider has pixels.
 constexpr int kKnobPlaces = 10000;
 constexpr double kIncrementsPerPage = 10.0;
+constexpr const char *kUnitProperty = "pdekitUnit";
 
 } // namespace
 
@@ -32,6 +34,7 @@ Slider::Slider(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
     setRange(0, kKnobPlaces);
     setFocusPolicy(Qt::StrongFocus);
+    makeControlsAccessible();
     // placeKnob() is silent: a knob that tells of a change was moved by a person (or by what reads the screen aloud).
     connect(this, &QSlider::valueChanged, this, &Slider::takeKnob);
 }
@@ -64,6 +67,21 @@ void Slider::setFloatValue(float value)
 QString Slider::stringValue() const
 {
     return shortestText(mValue);
+}
+
+QString Slider::unit() const
+{
+    return property(kUnitProperty).toString();
+}
+
+void Slider::setUnit(const QString &unit)
+{
+    setProperty(kUnitProperty, unit); // no field: other people's panels know the size of this class
+}
+
+void Slider::takeValue(double value)
+{
+    moveTo(value);
 }
 
 void Slider::placeKnob()

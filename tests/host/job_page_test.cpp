@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -42,7 +43,7 @@ class OverTheWindow
 public:
     explicit OverTheWindow(std::function<void(QWidget *)> act)
     {
-        constexpr int tickMs = 20;
+        constexpr int tickMs = 100; // long enough for a dialog to settle
         QObject::connect(&mTimer, &QTimer::timeout, &mTimer, [this, act = std::move(act)] {
             QWidget *modal = QApplication::activeModalWidget();
             if (modal != nullptr && qobject_cast<PrintDialog *>(modal) == nullptr) {
@@ -58,6 +59,23 @@ public:
 private:
     QTimer mTimer;
 };
+
+/// Types a file's name into a file dialog and saves. What is typed once stays, and proposals are put away.
+void nameFile(QWidget *dialog, const QString &path)
+{
+    auto *name = dialog->findChild<QLineEdit *>(u"fileNameEdit"_qs);
+    ASSERT_NE(name, nullptr);
+    if (name->text() != path) {
+        name->selectAll();
+        QTest::keyClicks(name, path);
+    }
+    if (QWidget *proposals = QApplication::activePopupWidget()) {
+        proposals->close();
+    }
+    auto *buttons = dialog->findChild<QDialogButtonBox *>();
+    ASSERT_NE(buttons, nullptr);
+    QTest::mouseClick(buttons->button(QDialogButtonBox::Save), Qt::LeftButton);
+}
 
 class JobPageTest : public testing::Test
 {
@@ -442,10 +460,7 @@ TEST_F(JobPageTest, SaveAsPdf_WritesTheLabelsAndTheWindowStays)
     QString said;
     const OverTheWindow person([&](QWidget *modal) {
         if (auto *chooser = qobject_cast<QFileDialog *>(modal)) {
-            auto *name = chooser->findChild<QLineEdit *>(u"fileNameEdit"_qs);
-            name->selectAll();
-            QTest::keyClicks(name, path);
-            QTest::keyClick(name, Qt::Key_Return);
+            nameFile(chooser, path);
         } else if (auto *box = qobject_cast<QMessageBox *>(modal)) {
             said = box->text();
             QTest::keyClick(box, Qt::Key_Return);
@@ -465,13 +480,7 @@ TEST_F(JobPageTest, SaveAsPdf_WritesTheLabelsAndTheWindowStays)
 TEST_F(JobPageTest, PrinterData_GoToTheFileNamedAndNotToTheQueue)
 {
     open(1);
-    const OverTheWindow person([&](QWidget *modal) {
-        auto *name = modal->findChild<QLineEdit *>(u"fileNameEdit"_qs);
-        ASSERT_NE(name, nullptr);
-        name->selectAll();
-        QTest::keyClicks(name, folder.filePath(u"out.prn"_qs));
-        QTest::keyClick(name, Qt::Key_Return);
-    });
+    const OverTheWindow person([&](QWidget *modal) { nameFile(modal, folder.filePath(u"out.prn"_qs)); });
     pickFromSaveMenu(Qt::Key_Up);
     ASSERT_TRUE(QTest::qWaitFor([this] { return settled.has_value(); }, patienceMs));
     EXPECT_EQ(settled->outputPath, folder.filePath(u"out.prn"_qs));

@@ -9,6 +9,7 @@
 #include "dialog/Translations.h"
 #include "tests/support/TextPrinting.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -401,6 +402,26 @@ TEST_F(TapePreviewTest, ShortPageInTheMiddleOfALongTape_HasAPieceOfItsOwn)
         changes += was != (image.pixel(x, found.center().y()) == windowColour) ? 1 : 0;
     }
     EXPECT_EQ(changes, 4);
+}
+
+TEST_F(TapePreviewTest, TapeWithoutAPageInADarkWindow_HasItsOwnColour)
+{
+    QPalette dark;
+    dark.setColor(QPalette::Window, Qt::black);
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::WindowText, Qt::white);
+    area.setPalette(dark);
+    showTape(36.0, 144.0);
+    EXPECT_NEAR(shape(), 4.0, 0.1);
+    EXPECT_GT(extent(qRgb(255, 255, 255)).width(), 100); // outline and measures are seen
+}
+
+TEST_F(TapePreviewTest, LabelOfSeveral_SaysWhichItIs)
+{
+    showTape(36.0, 144.0);
+    showDocument(pdf({{"/MediaBox[0 0 144 36]", "0 0 9 9 re f"}, {"/MediaBox[0 0 144 36]", "0 0 9 9 re f"}}));
+    EXPECT_EQ(preview->accessibleDescription(), u"Label 1 of 2; Length 50.8 mm, width 12.7 mm"_qs);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(preview)->role(), QAccessible::Graphic);
 }
 
 TEST_F(TapePreviewTest, ClearTape_ShowsWhatIsBehindIt)

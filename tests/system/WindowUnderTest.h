@@ -13,17 +13,17 @@ namespace systemtest
 {
 
 /// The controls of the Page Settings panel for the millimetre printer, by the number of times that a person presses
-/// Tab from the chooser of settings: past the panel area, then as they are read. What is disabled is passed over.
+/// Tab from the chooser of settings: as they are read. What is disabled is passed over.
 enum class PanelControl {
-    tapeLength = 2,
-    tapeLengthSlider = 3,
-    margin = 4,
-    printTapeLength = 6,
-    quality = 8,
-    resolution = 9,
-    tapeMaterial = 10,
-    tapeColour = 11,
-    inkColour = 12
+    tapeLength = 1,
+    tapeLengthSlider = 2,
+    margin = 3,
+    printTapeLength = 5,
+    quality = 7,
+    resolution = 8,
+    tapeMaterial = 9,
+    tapeColour = 10,
+    inkColour = 11
 };
 
 class WindowUnderTest

@@ -182,9 +182,9 @@ TEST_F(WindowJob, GermanSession_SendsPoints)
     moreVariables = {{u"LC_ALL"_qs, u"de_DE.UTF-8"_qs}, {u"LANG"_qs, u"de_DE.UTF-8"_qs}, {u"LANGUAGE"_qs, u"de"_qs}};
     ASSERT_NO_FATAL_FAILURE(open());
     dialog.goTo(PanelControl::tapeLength);
-    dialog.type(u"75.5"_qs);
+    dialog.type(u"75,5"_qs);
     dialog.goTo(PanelControl::margin);
-    dialog.type(u"3.3"_qs);
+    dialog.type(u"3,3"_qs);
     const std::vector<FilterCall> calls = print();
     ASSERT_EQ(calls.size(), 1U);
     EXPECT_EQ(tapeOptions(calls[0]),

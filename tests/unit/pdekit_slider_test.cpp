@@ -4,6 +4,7 @@
 #include "pdekit/CurrentEvent.h"
 #include "pdekit/Slider.h"
 
+#include <QAccessible>
 #include <QSignalSpy>
 #include <QStyle>
 #include <QStyleOptionSlider>
@@ -250,6 +251,33 @@ TEST_F(SliderTest, LimitsThatAreNoNumbers_LeaveTheValue)
     QTest::keyClick(window(), Qt::Key_End);
     QTest::mouseClick(window(), Qt::LeftButton, Qt::NoModifier, atTheMiddle(300));
     EXPECT_EQ(slider.floatValue(), 50.0F);
+}
+
+// A screen reader would otherwise hear 964 of 0 to 10000.
+TEST_F(SliderTest, ScreenReader_HearsTheRealValueItsLimitsAndItsUnit)
+{
+    slider.setFloatValue(12.3F);
+    slider.setUnit(u"mm"_qs);
+    QAccessibleInterface *heard = QAccessible::queryAccessibleInterface(&slider);
+    ASSERT_NE(heard, nullptr);
+    EXPECT_EQ(heard->role(), QAccessible::Slider);
+    EXPECT_EQ(heard->text(QAccessible::Value), u"12.3 mm"_qs);
+    ASSERT_NE(heard->valueInterface(), nullptr);
+    EXPECT_EQ(heard->valueInterface()->currentValue().toDouble(), 12.3); // not 12.300000190734863
+    EXPECT_EQ(heard->valueInterface()->minimumValue().toDouble(), 10.0);
+    EXPECT_EQ(heard->valueInterface()->maximumValue().toDouble(), 110.0);
+    EXPECT_EQ(heard->valueInterface()->minimumStepSize().toDouble(), 1.0);
+}
+
+TEST_F(SliderTest, ValueSetByAScreenReader_IsThePersonsAndWithinTheLimits)
+{
+    QAccessibleInterface *heard = QAccessible::queryAccessibleInterface(&slider);
+    ASSERT_NE(heard, nullptr);
+    heard->valueInterface()->setCurrentValue(70.5);
+    EXPECT_EQ(slider.floatValue(), 70.5F);
+    EXPECT_EQ(actions.count(), 1);
+    heard->valueInterface()->setCurrentValue(2000.0);
+    EXPECT_EQ(slider.floatValue(), 110.0F);
 }
 
 } // namespace

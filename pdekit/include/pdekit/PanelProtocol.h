@@ -84,6 +84,10 @@ public:
 
     /// The panel's view; null when it could not be made. Made at the first call. The dialog puts it into its own widget
     /// tree; from then on whichever of the two goes first, the other may still go safely.
+    ///
+    /// A text field that takes numbers with a point and nothing else says so by Qt::ImhFormattedNumbersOnly among its
+    /// input method hints: the dialog then hands it the decimal key of the person's language, such as a comma, as a
+    /// point.
     virtual QWidget *panelView() = 0;
     /// The name of the panel for the person, in the person's language.
     virtual QString panelName() = 0;

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the window does for everyone: letters of its controls, the decimal key of the person's language, and why
+// something is grey.
+#include "dialog/DecimalKey.h"
+#include "dialog/GreyedReason.h"
+#include "dialog/Mnemonics.h"
+#include "dialog/NoticesArea.h"
+#include "dialog/PrintDialog.h"
+#include "dialog/TabOrder.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QScrollBar>
+#include <QStackedWidget>
+
+#include <algorithm>
+
+namespace tapeprint::dialog
+{
+
+void PrintDialog::helpPeople()
+{
+    auto *decimalKey = new DecimalKey([this](const QWidget &widget) { return isInPanel(widget); }, this);
+    auto *reasons = new GreyedReason(this, [this](const QWidget &control) { return whyGrey(control); });
+    QApplication::instance()->installEventFilter(decimalKey);
+    QApplication::instance()->installEventFilter(reasons);
+    // Notices take the keys as long as they scroll.
+    connect(mNotices->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            [this] { orderTabsByLayout(*this, mPages); });
+}
+
+void PrintDialog::assignKeys()
+{
+    QList<const QWidget *> views;
+    for (const PanelEntry &entry : mPanels.entries()) {
+        if (entry.view != nullptr) {
+            views.append(entry.view);
+        }
+    }
+    assignMnemonics(*this, views);
+}
+
+bool PrintDialog::isInPanel(const QWidget &widget) const
+{
+    return std::any_of(mPageList.begin(), mPageList.end(), [&widget](const Page &page) {
+        return page.panel && page.widget != nullptr && page.widget->isAncestorOf(&widget);
+    });
+}
+
+QString PrintDialog::whyGrey(const QWidget &control) const
+{
+    if (mRun.phase() != PrintRun::Phase::Idle) {
+        return tr("The job is being printed.");
+    }
+    if (&control == mTapePopUp) {
+        return tr("The printer offers no choice here.");
+    }
+    return mPages->isAncestorOf(&control) ? tr("Not available with this printer, this tape or the other settings.")
+                                          : QString();
+}
+
+} // namespace tapeprint::dialog

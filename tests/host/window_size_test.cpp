@@ -1,0 +1,308 @@
+// SPDX-License-Identifier: Apache-2.0
+// The window on small screens, in every language and with names as long as strangers make them: nothing is cut, and the
+// buttons stay.
+#include "TestPrinter.h"
+
+#include "dialog/ElidedLabel.h"
+#include "dialog/NoticesArea.h"
+#include "dialog/PopUp.h"
+#include "dialog/PreviewArea.h"
+#include "dialog/PrintDialog.h"
+#include "dialog/Translations.h"
+#include "tests/support/TextPrinting.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QLocale>
+#include <QScrollBar>
+#include <QSlider>
+#include <QStackedWidget>
+#include <QTest>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace tapeprint;
+using namespace tapeprint::dialog;
+
+/// What is left of a screen of 1366 by 768 at 200 %.
+constexpr QSize smallestScreen(683, 384);
+constexpr QSize smallScreen(800, 600);
+
+const QString longName = QStringLiteral("The label printer beside the window on the third floor, ").repeated(5);
+
+class WindowSize : public testing::TestWithParam<const char *>
+{
+protected:
+    void SetUp() override
+    {
+        QLocale::setDefault(QLocale(QString::fromLatin1(GetParam())));
+        translations = std::make_unique<Translations>();
+    }
+    void TearDown() override
+    {
+        dialog.reset();
+        translations.reset();
+        QLocale::setDefault(mBefore);
+    }
+
+    void open(const QString &printer = u"mm"_qs)
+    {
+        job::Destination destination;
+        job::Problem problem;
+        destination.ppdPath = QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-%1.ppd").arg(printer);
+        destination.ppd = job::openPpdFile(destination.ppdPath, &problem);
+        ASSERT_NE(destination.ppd, nullptr);
+        panels.open(std::move(destination), {});
+        job::PrintQueue queue;
+        queue.name = u"tape"_qs;
+        queue.info = longName;
+        dialog = std::make_unique<PrintDialog>(job, panels, PrintDialog::Setup{{}, u"label"_qs, {}, {queue}},
+                                               [](auto &&...) -> std::optional<job::PrintedJob> { return {}; });
+    }
+
+    void show(QSize size)
+    {
+        dialog->resize(size);
+        dialog->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
+        QApplication::processEvents();
+    }
+
+    /// Texts that do not fit their widgets, each with its widget's name.
+    QStringList cutTexts() const
+    {
+        QStringList cut;
+        const auto look = [&](const QWidget *widget, const QString &text) {
+            if (widget->isVisible() && !text.isEmpty() && widget->width() < widget->sizeHint().width()) {
+                cut.append(QStringLiteral("%1 \"%2\": %3 of %4 pixels")
+                               .arg(widget->objectName(), text, QString::number(widget->width()),
+                                    QString::number(widget->sizeHint().width())));
+            }
+        };
+        for (const QLabel *label : dialog->findChildren<QLabel *>()) {
+            if (label->wordWrap()) {
+                if (label->isVisible() && label->height() < label->heightForWidth(label->width())) {
+                    cut.append(label->objectName() + u": "_qs + label->text());
+                }
+            } else if (qobject_cast<const ElidedLabel *>(label) == nullptr) {
+                look(label, label->text());
+            }
+        }
+        for (const QAbstractButton *button : dialog->findChildren<QAbstractButton *>()) {
+            look(button, button->text());
+        }
+        return cut;
+    }
+
+    job::Job job;
+    Panels panels{job, {QStringLiteral(TAPEPRINT_BUNDLE_DIR)}};
+    std::unique_ptr<Translations> translations;
+    std::unique_ptr<PrintDialog> dialog;
+
+private:
+    QLocale mBefore;
+};
+
+TEST_P(WindowSize, LongNames_LeaveTheWindowSmallEnoughForAScreenAtTwiceTheScale)
+{
+    for (const QString &printer : {u"mm"_qs, u"hn"_qs, u"plain"_qs}) {
+        ASSERT_NO_FATAL_FAILURE(open(printer));
+        dialog->findChild<NoticesArea *>(u"noticesArea"_qs)->setSentences(longName);
+        const QSize least = dialog->minimumSizeHint();
+        EXPECT_LE(least.width(), smallestScreen.width()) << printer.toStdString();
+        EXPECT_LE(least.height(), smallestScreen.height()) << printer.toStdString();
+        ASSERT_NO_FATAL_FAILURE(show(smallestScreen));
+        EXPECT_EQ(dialog->size(), smallestScreen);
+        for (const QString &name : {u"print"_qs, u"cancel"_qs, u"revert"_qs}) {
+            const auto *button = dialog->findChild<QAbstractButton *>(name);
+            const QRect place(button->mapTo(dialog.get(), QPoint()), button->size());
+            EXPECT_TRUE(dialog->rect().contains(place)) << name.toStdString();
+            EXPECT_GE(button->width(), button->sizeHint().width()) << name.toStdString();
+        }
+    }
+}
+
+TEST_P(WindowSize, EveryTextOfEveryPage_FitsASmallScreen)
+{
+    ASSERT_NO_FATAL_FAILURE(open());
+    ASSERT_NO_FATAL_FAILURE(show(smallScreen));
+    auto *chooser = dialog->findChild<QComboBox *>(u"pageChooser"_qs);
+    ASSERT_GE(chooser->count(), 2);
+    for (int page = 0; page < chooser->count(); ++page) {
+        chooser->setCurrentIndex(page);
+        Q_EMIT chooser->activated(page);
+        QApplication::processEvents();
+        EXPECT_EQ(cutTexts(), QStringList()) << chooser->currentText().toStdString();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, WindowSize,
+                         testing::Values("en_GB", "de_DE", "fr_FR", "es_ES", "it_IT", "nl_NL", "pt_PT", "ja_JP",
+                                         "ko_KR", "zh_CN", "ar_EG"),
+                         [](const testing::TestParamInfo<const char *> &tested) { return std::string(tested.param); });
+
+class WindowParts : public WindowSize
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(English, WindowParts, testing::Values("en_GB"));
+
+TEST_P(WindowParts, LargerWindow_MakesThePreviewLarger)
+{
+    ASSERT_NO_FATAL_FAILURE(open());
+    ASSERT_NO_FATAL_FAILURE(show({1000, 700}));
+    const auto *preview = dialog->findChild<PreviewArea *>();
+    const QSize before = preview->size();
+    dialog->resize(1300, 900);
+    QApplication::processEvents();
+    EXPECT_GE(preview->width(), before.width() + 150); // the pages take the other half at most
+    EXPECT_EQ(preview->height(), before.height() + 200);
+}
+
+TEST_P(WindowParts, NameThatIsShortened_IsWholeInTheTooltip)
+{
+    PopUp popUp;
+    popUp.addItem(u"short"_qs);
+    popUp.addItem(longName);
+    popUp.resize(200, popUp.sizeHint().height());
+    popUp.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&popUp));
+    EXPECT_FALSE(popUp.isCut());
+    popUp.setCurrentIndex(1);
+    EXPECT_TRUE(popUp.isCut());
+    QHelpEvent help(QEvent::ToolTip, {5, 5}, popUp.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&popUp, &help);
+    EXPECT_TRUE(QToolTip::text().contains(longName)) << QToolTip::text().toStdString();
+}
+
+TEST_P(WindowParts, LineThatIsShortened_IsReadWhole)
+{
+    ElidedLabel label;
+    label.setText(longName);
+    EXPECT_LT(label.minimumSizeHint().width(), 100);
+    label.resize(150, 20);
+    EXPECT_TRUE(label.isCut());
+    EXPECT_EQ(label.text(), longName);
+    label.resize(label.sizeHint());
+    EXPECT_FALSE(label.isCut());
+}
+
+TEST_P(WindowParts, ManyNotices_ScrollAndTakeTheKeys)
+{
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    auto *notices = new NoticesArea(&window);
+    layout->addWidget(notices);
+    layout->addStretch();
+    window.resize(400, 600);
+    window.show();
+    EXPECT_FALSE(notices->isVisible());
+    notices->setSentences(u"One line."_qs);
+    QApplication::processEvents();
+    EXPECT_TRUE(notices->isVisible());
+    EXPECT_EQ(notices->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(notices->focusPolicy(), Qt::NoFocus);
+    const int lineHeight = notices->height();
+    notices->setSentences(QStringLiteral("Another line.\n").repeated(50));
+    QApplication::processEvents();
+    EXPECT_LT(notices->height(), 5 * lineHeight);
+    EXPECT_GT(notices->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(notices->focusPolicy(), Qt::TabFocus);
+    notices->setSentences({});
+    EXPECT_FALSE(notices->isVisible());
+}
+
+TEST_P(WindowParts, TabKey_GoesAsTheEyeReads)
+{
+    ASSERT_NO_FATAL_FAILURE(open());
+    ASSERT_NO_FATAL_FAILURE(show(smallScreen));
+    QStringList order;
+    const auto *first = dialog->findChild<QWidget *>(u"printer"_qs);
+    const QWidget *next = first;
+    do {
+        if (next->isVisible() && (next->focusPolicy() & Qt::TabFocus) != 0 &&
+            !next->objectName().startsWith(u"qt_"_qs)) {
+            order.append(next->objectName());
+        }
+        next = next->nextInFocusChain();
+    } while (next != first);
+    const QStringList known{u"printer"_qs,      u"tape"_qs,          u"copies"_qs,  u"pageChooser"_qs,
+                            u"mLengthTxFld"_qs, u"mLengthSlider"_qs, u"summary"_qs, u"keepFitting"_qs,
+                            u"revert"_qs,       u"cancel"_qs,        u"print"_qs};
+    QStringList found;
+    for (const QString &name : order) {
+        if (known.contains(name)) {
+            found.append(name);
+        }
+    }
+    EXPECT_EQ(found, known);
+}
+
+TEST_P(WindowParts, ReturnOnASlider_DoesNotPrint)
+{
+    ASSERT_NO_FATAL_FAILURE(open());
+    ASSERT_NO_FATAL_FAILURE(show(smallScreen));
+    auto *slider = dialog->findChild<QSlider *>(u"mLengthSlider"_qs);
+    const auto *print = dialog->findChild<QAbstractButton *>(u"print"_qs);
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_Return);
+    EXPECT_TRUE(print->isEnabled());
+    QTest::keyClick(slider, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(print->isEnabled()); // it prints
+    ASSERT_TRUE(QTest::qWaitFor([&] { return print->isEnabled(); }));
+}
+
+TEST_P(WindowParts, GreyedControl_SaysWhyInItsTooltip)
+{
+    ASSERT_NO_FATAL_FAILURE(open());
+    ASSERT_NO_FATAL_FAILURE(show(smallScreen));
+    auto *popUp = dialog->findChild<QComboBox *>(u"mKsResolutionPUBtn"_qs);
+    ASSERT_FALSE(popUp->isEnabled());
+    QHelpEvent help(QEvent::ToolTip, {5, 5}, popUp->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(popUp, &help);
+    EXPECT_TRUE(QToolTip::text().contains(u"Not available with this printer"_qs)) << QToolTip::text().toStdString();
+    EXPECT_TRUE(popUp->toolTip().isEmpty()); // the panel's own view is left as it is
+}
+
+/// Sets the direction of the whole application, back at the end.
+class Direction
+{
+public:
+    explicit Direction(Qt::LayoutDirection direction) { QApplication::setLayoutDirection(direction); }
+    ~Direction() { QApplication::setLayoutDirection(Qt::LeftToRight); }
+    Direction(const Direction &) = delete;
+    Direction &operator=(const Direction &) = delete;
+};
+
+TEST_P(WindowParts, RightToLeft_MirrorsTheWindowAndNotThePreview)
+{
+    ASSERT_NO_FATAL_FAILURE(open());
+    ASSERT_NO_FATAL_FAILURE(show({1000, 700}));
+    auto *preview = dialog->findChild<QWidget *>(u"tapePreview"_qs);
+    const auto leftOf = [this](const QString &name) {
+        const auto *widget = dialog->findChild<QWidget *>(name);
+        return widget->mapTo(dialog.get(), QPoint()).x();
+    };
+    EXPECT_GT(leftOf(u"print"_qs), leftOf(u"revert"_qs));
+    const QImage before = preview->grab().toImage();
+    const Direction mirrored(Qt::RightToLeft);
+    QApplication::processEvents();
+    for (const auto &[first, second] : {std::pair{u"printer"_qs, u"copies"_qs},
+                                        {u"pageChooser"_qs, u"summary"_qs},
+                                        {u"mLengthTxFld"_qs, u"mLengthSlider"_qs},
+                                        {u"cancel"_qs, u"print"_qs},
+                                        {u"revert"_qs, u"cancel"_qs}}) {
+        EXPECT_GT(leftOf(first), leftOf(second)) << first.toStdString();
+    }
+    EXPECT_EQ(preview->grab().toImage(), before);
+}
+
+} // namespace

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a screen reader finds in the program's real window, on a session bus of the test's own.
+#include "tests/support/TextPrinting.h"
+#include "tests/system/Client.h"
+#include "tests/system/PrivateDisplay.h"
+
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStandardPaths>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+namespace
+{
+
+/// A control as it is heard.
+struct Heard {
+    QString role;
+    QString name;
+    QString description;
+    QStringList labels;
+    QStringList states;
+    std::vector<double> value; ///< the value and its limits; empty when there is none
+
+    bool takesKeys() const { return states.contains(u"focusable"_qs) && states.contains(u"showing"_qs); }
+    QString said() const { return (QStringList{role, name} + labels).join(u'/'); }
+};
+
+QStringList strings(const QJsonValue &list)
+{
+    QStringList found;
+    for (const QJsonValue &entry : list.toArray()) {
+        found.append(entry.toString());
+    }
+    return found;
+}
+
+Heard heardOf(const QJsonObject &line)
+{
+    Heard heard{line[u"role"_qs].toString(), line[u"name"_qs].toString(), line[u"description"_qs].toString(),
+                strings(line[u"labels"_qs]), strings(line[u"states"_qs]), {}};
+    for (const QJsonValue &number : line[u"value"_qs].toArray()) {
+        heard.value.push_back(number.toDouble());
+    }
+    return heard;
+}
+
+class ScreenReader : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        const QString launcher = u"/usr/libexec/at-spi-bus-launcher"_qs;
+        ASSERT_TRUE(QFileInfo::exists(launcher)) << "install at-spi2-core";
+        const QString reason = systemtest::PrivateDisplay::reasonToSkip();
+        ASSERT_TRUE(reason.isNull()) << reason.toStdString();
+        const QString problem = display.start();
+        ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+    }
+
+    /// Opens the window and hears all of it.
+    void listen(const QStringList &arguments)
+    {
+        const QString reader = QStringLiteral(TAPEPRINT_SOURCE_DIR "/tests/system/read_accessible.py");
+        const systemtest::Outcome outcome = systemtest::runClient(
+            {u"dbus-run-session"_qs,
+             QStringList{u"--"_qs, reader, QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), u"--ppd"_qs,
+                         QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd")} +
+                 arguments + QStringList{QStringLiteral(TAPEPRINT_SOURCE_DIR "/docs/sample/address-label.pdf")},
+             {{u"DISPLAY"_qs, display.name()},
+              {u"XDG_RUNTIME_DIR"_qs, folder.makeFolder(u"run"_qs)},
+              {u"XDG_DATA_DIRS"_qs, u"/usr/share"_qs}, // the settings that the bus asks for
+              {u"GSETTINGS_BACKEND"_qs, u"memory"_qs},
+              {u"QT_LINUX_ACCESSIBILITY_ALWAYS_ON"_qs, u"1"_qs}}});
+        ASSERT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+        for (const QByteArray &line : outcome.output.split('\n')) {
+            if (!line.isEmpty()) {
+                all.push_back(heardOf(QJsonDocument::fromJson(line).object()));
+            }
+        }
+    }
+
+    /// The control of a role that has a name, or a label of that name.
+    Heard heard(const QString &role, const QString &name) const
+    {
+        for (const Heard &control : all) {
+            if (control.role == role && (control.name == name || control.labels.contains(name))) {
+                return control;
+            }
+        }
+        ADD_FAILURE() << "nothing is heard of the " << role.toStdString() << " \"" << name.toStdString() << "\"";
+        return {};
+    }
+
+    systemtest::PrivateFolder folder;
+    systemtest::PrivateDisplay display;
+    std::vector<Heard> all;
+};
+
+TEST_F(ScreenReader, HearsNamesValuesUnitsAndLimitsOfTheWindow)
+{
+    ASSERT_NO_FATAL_FAILURE(listen({u"-o"_qs, u"KsTapeLength=12.5"_qs, u"-o"_qs, u"KsMargin=3.3"_qs}));
+
+    const Heard length = heard(u"slider"_qs, u"Tape Length:"_qs);
+    EXPECT_EQ(length.value, (std::vector<double>{12.5, 4.0, 1000.0}));
+    EXPECT_EQ(length.description, u"4.0 – 1000.0 mm"_qs);
+    // A float of 3.3 is heard as it was written.
+    EXPECT_EQ(heard(u"slider"_qs, u"Margin:"_qs).value.at(0), 3.3);
+    EXPECT_EQ(heard(u"text"_qs, u"Tape Length:"_qs).description, u"4.0 – 1000.0 mm"_qs);
+    EXPECT_EQ(heard(u"text"_qs, u"Print Tape Length:"_qs).description, u"0.5 – 8.0 m"_qs);
+    EXPECT_EQ(heard(u"spin button"_qs, u"Copies:"_qs).value, (std::vector<double>{1.0, 1.0, 9999.0}));
+
+    for (const QString &popUp : {u"Printer:"_qs, u"Tape:"_qs, u"Settings:"_qs, u"Tape Colour:"_qs}) {
+        EXPECT_TRUE(heard(u"combo box"_qs, popUp).takesKeys()) << popUp.toStdString();
+    }
+    EXPECT_EQ(heard(u"panel"_qs, u"Print Quality:"_qs).name, u"Print Quality:"_qs);
+    EXPECT_TRUE(heard(u"radio button"_qs, u"Quality"_qs).states.contains(u"checked"_qs));
+    // Greyed: it is heard, and that it cannot be used.
+    EXPECT_FALSE(heard(u"combo box"_qs, u"Print Mode:"_qs).states.contains(u"enabled"_qs));
+    EXPECT_TRUE(heard(u"image"_qs, u"Tape preview"_qs).description.startsWith(u"Length 12.5 mm, width 24.0 mm"_qs));
+    for (const QString &button : {u"Revert"_qs, u"Cancel"_qs, u"Print"_qs, u"Fit Length"_qs}) {
+        EXPECT_TRUE(heard(u"push button"_qs, button).takesKeys()) << button.toStdString();
+    }
+
+    for (const Heard &control : all) {
+        if (control.takesKeys()) {
+            EXPECT_FALSE(control.name.isEmpty() && control.labels.isEmpty()) << control.said().toStdString();
+            EXPECT_NE(control.role, u"filler"_qs) << control.said().toStdString();
+        }
+    }
+}
+
+} // namespace
