@@ -59,6 +59,14 @@ void BackgroundWork::stop()
     }
 }
 
+void BackgroundWork::drop()
+{
+    if (mTask) {
+        mTask->leave();
+        mTask.reset();
+    }
+}
+
 void BackgroundWork::finish(const Task *task, const Delivery &delivery)
 {
     if (task != mTask.get()) {

@@ -29,6 +29,8 @@ public:
     void start(Work work);
     /// Tells running work to stop; its outcome is delivered all the same.
     void stop();
+    /// Tells running work to stop; its outcome is dropped.
+    void drop();
     bool isRunning() const { return mTask != nullptr; }
 
 private:

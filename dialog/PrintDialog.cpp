@@ -34,7 +34,8 @@ namespace tapeprint::dialog
 {
 
 PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction)
-    : mJob(job), mPanels(panels), mSetup(std::move(setup)), mPrintAction(std::move(printAction)), mDesk(mSetup.files)
+    : mJob(job), mPanels(panels), mSetup(std::move(setup)), mPrintAction(std::move(printAction)), mDesk(mSetup.files),
+      mPrinters(mSetup.printers, mSetup.request)
 {
     setWindowTitle(plainTitle(tr("Print %1").arg(mSetup.title)));
     setSizeGripEnabled(true);
@@ -45,43 +46,24 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     mCountTimer.setSingleShot(true);
     buildControls();
     addCommandButton();
-    fillPrinters();
     connectControls();
-    showDestination();
-    // The toolkit by itself opens a window at no more than two thirds of the screen.
-    resize(sizeHint().boundedTo(screen()->availableSize()));
+    startPrinters();
+    if (mPrinters.hasOpen()) {
+        showDestination();
+    } else {
+        showNoDestination();
+    }
+    followPrinters();
+    if (mPrinters.hasOpen()) {
+        growToContents();
+    }
 }
 
 PrintDialog::~PrintDialog() = default;
 
-void PrintDialog::fillPrinters()
-{
-    // The destination that the dialog was opened with comes first when it is none of the server's queues.
-    const job::Destination &destination = mJob.destination();
-    if (!destination.queue) {
-        mPrinterPopUp->addItem(tr("%1 (no print queue)").arg(destination.title()));
-    }
-    // A printer that was named but is not listed, such as one just found on the network, is offered as well.
-    const auto isOpen = [&destination](const job::PrintQueue &queue) {
-        return destination.queue && queue.fullName() == destination.queue->fullName();
-    };
-    if (destination.queue && std::none_of(mSetup.queues.begin(), mSetup.queues.end(), isOpen)) {
-        mSetup.queues.insert(mSetup.queues.begin(), *destination.queue);
-    }
-    for (const job::PrintQueue &queue : mSetup.queues) {
-        mPrinterPopUp->addItem(queue.info.isEmpty() || queue.info == queue.name
-                                   ? queue.fullName()
-                                   : tr("%1 (%2)").arg(queue.fullName(), queue.info),
-                               queue.fullName());
-        if (isOpen(queue)) {
-            mPrinterPopUp->setCurrentIndex(mPrinterPopUp->count() - 1);
-        }
-    }
-    mCurrentPrinter = mPrinterPopUp->currentIndex();
-}
-
 void PrintDialog::showDestination()
 {
+    mPrinters.setIsTape(!mPanels.entries().empty());
     mUnit.setDescribed(describedUnit(mJob.ppd(), mJob.tape()));
     showWhetherTape();
     mPapers->fill();
@@ -96,7 +78,8 @@ void PrintDialog::showDestination()
 
 void PrintDialog::showNotices()
 {
-    mNotices->setSentences((mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts).join(u'\n'));
+    mNotices->setSentences(
+        (mPrinters.notices() + mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts).join(u'\n'));
 }
 
 void PrintDialog::showWhetherTape()

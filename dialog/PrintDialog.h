@@ -11,13 +11,16 @@
 #pragma once
 
 #include "dialog/DocumentDesk.h"
+#include "dialog/GreyedOut.h"
 #include "dialog/MeasureUnit.h"
 #include "dialog/Panels.h"
 #include "dialog/PresetRow.h"
 #include "dialog/PrintRun.h"
+#include "dialog/PrinterDesk.h"
 #include "dialog/SaveButton.h"
 #include "job/Destination.h"
 #include "job/Job.h"
+#include "job/KeptChoices.h"
 #include "job/Printing.h"
 
 #include <QDialog>
@@ -50,6 +53,7 @@ class OptionsPage;
 class PanelArea;
 class PaperMenu;
 class PreviewArea;
+class PrinterPopUp;
 class SummaryView;
 
 class PrintDialog : public QDialog
@@ -59,10 +63,10 @@ class PrintDialog : public QDialog
 public:
     /// What the window is opened with.
     struct Setup {
-        job::JobRequest request;             ///< what was asked for; laid down again when another printer is picked
-        QString title;                       ///< of the job
-        QStringList files;                   ///< the documents to show; none when there is no document yet
-        std::vector<job::PrintQueue> queues; ///< to offer
+        job::JobRequest request; ///< what was asked for; laid down again when another printer is picked
+        QString title;           ///< of the job
+        QStringList files;       ///< the documents to show; none when there is no document yet
+        PrinterSource printers;  ///< to offer
     };
     /// What Print does when the settings are final, away from the window's thread. \param watch its stop flag becomes
     /// true when the person has changed their mind. \return what became of the job; nothing, and a sentence in *error,
@@ -70,10 +74,13 @@ public:
     using PrintAction = std::function<std::optional<job::PrintedJob>(
         const job::SettledJob &job, const job::PrintWatch &watch, job::Problem *error)>;
 
-    /// \param job with a destination opened, and \param panels made for it; both outlive the window.
+    /// \param job and \param panels outlive the window. With a destination opened already, the window shows it; else it
+    /// opens the one of the request, away from its thread, and can be shown meanwhile.
     PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction);
     ~PrintDialog() override;
 
+    /// Whether the first printer is open, or it is known that there is none to open by itself.
+    bool isSettled() const { return !mPrinters.isOpening(); }
     /// What became of the job; nothing when nothing was printed.
     const std::optional<job::PrintedJob> &printed() const { return mRun.printed(); }
 
@@ -81,6 +88,10 @@ public:
     /// server has goes on.
     void reject() override;
     void done(int code) override;
+
+Q_SIGNALS:
+    /// isSettled() has become true.
+    void settled();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -104,7 +115,13 @@ private:
     void addCommandButton();
     void showCommand();
 
-    void fillPrinters();
+    void startPrinters();
+    void takeDestination(job::Destination destination);
+    void followPrinters();
+    void showNoDestination();
+    void growToContents();
+    void showWhetherPrintable();
+    bool isPrinting() const { return mRun.phase() != PrintRun::Phase::Idle; }
     void showDestination();
     void makePages();
     void showPages(int first);
@@ -185,7 +202,12 @@ private:
     bool mIsCountedOut = false;   ///< it does not wait any longer
     QTimer mRestTimer;            ///< a change of the views' areas has come to rest when nothing else waits to be done
 
-    QComboBox *mPrinterPopUp = nullptr;
+    PrinterDesk mPrinters;
+    job::KeptChoices mKept;
+    GreyedOut mGreyed; ///< while no printer is open
+
+    PrinterPopUp *mPrinterPopUp = nullptr;
+    QPushButton *mLoadAnew = nullptr; ///< among the notices, when the printer's PPD has changed
     PresetRow *mPresetRow = nullptr;
     QComboBox *mTapePopUp = nullptr;
     PaperMenu *mPapers = nullptr; ///< what the tape's pop-up offers
@@ -220,7 +242,6 @@ private:
     QPointer<OptionsPage> mOptionsPage;
     QPointer<LayoutPage> mLayoutPage;
     QPointer<JobPage> mJobPage;
-    int mCurrentPrinter = 0;
     int mCurrentPage = -1;
 };
 

@@ -7,6 +7,7 @@
 #include "dialog/PaperMenu.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
+#include "dialog/PrinterPopUp.h"
 #include "dialog/SummaryView.h"
 
 #include <QApplication>
@@ -109,30 +110,6 @@ void PrintDialog::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void PrintDialog::pickPrinter(int index)
-{
-    if (index == mCurrentPrinter) {
-        return;
-    }
-    // What was asked for is opened as it was asked for, with its own PPD and output; any other queue as it is.
-    const QString name = mPrinterPopUp->itemData(index).toString();
-    const job::QueueName queue = job::QueueName::parse(name);
-    job::Problem error;
-    std::optional<job::Destination> destination = name == mSetup.request.fullQueueName()
-                                                      ? job::openDestination(mSetup.request, &error)
-                                                      : job::openDestination(queue.queue, queue.instance, &error);
-    if (!destination) {
-        mPrinterPopUp->setCurrentIndex(mCurrentPrinter);
-        tellProblem(error.sentence);
-        return;
-    }
-    mCurrentPrinter = index;
-    // The old page goes before the panel and the PPD that it shows.
-    removeOwnPages();
-    mPanels.open(std::move(*destination), mSetup.request.options);
-    showDestination();
-}
-
 void PrintDialog::pickTape(const QString &tape)
 {
     // Another tape brings a length along that nobody typed: it is fitted like the one before.
@@ -161,7 +138,7 @@ void PrintDialog::pickPage(int index)
 
 void PrintDialog::follow()
 {
-    if (mClosed) {
+    if (mClosed || !mPrinters.hasOpen()) {
         return;
     }
     showNotices();

@@ -16,6 +16,7 @@
 #include "dialog/PopUp.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
+#include "dialog/PrinterPopUp.h"
 #include "dialog/ScrollingColumn.h"
 #include "dialog/SummaryView.h"
 #include "dialog/UnitButton.h"
@@ -73,7 +74,7 @@ QWidget *PrintDialog::makeDestinationRows()
     auto *rows = new QWidget(this);
     auto *grid = new QGridLayout(rows);
     grid->setContentsMargins({});
-    mPrinterPopUp = new PopUp(rows);
+    mPrinterPopUp = new PrinterPopUp(rows);
     mPrinterPopUp->setObjectName(QStringLiteral("printer"));
     mPrinterPlace = new QHBoxLayout;
     mPrinterPlace->addWidget(mPrinterPopUp, 1);

@@ -52,6 +52,9 @@ QString PrintDialog::whyGrey(const QWidget &control) const
     if (mRun.phase() != PrintRun::Phase::Idle) {
         return tr("The job is being printed.");
     }
+    if (mGreyed.isOn()) {
+        return mPrinters.isOpening() ? tr("The printer is still being connected.") : tr("Choose a printer first.");
+    }
     if (&control == mTapePopUp) {
         return tr("The printer offers no choice here.");
     }

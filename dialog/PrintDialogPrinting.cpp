@@ -38,7 +38,7 @@ void PrintDialog::connectPrinting()
 
 void PrintDialog::print()
 {
-    if (!isReadyToPrint() || !isAmountAgreed() || asksAboutConflicts([this] { print(); })) {
+    if (!mPrinters.canPrint() || !isReadyToPrint() || !isAmountAgreed() || asksAboutConflicts([this] { print(); })) {
         return;
     }
     mIsSaving = false;
@@ -58,7 +58,7 @@ void PrintDialog::print()
 
 void PrintDialog::showPrinting()
 {
-    const bool isPrinting = mRun.phase() != PrintRun::Phase::Idle;
+    const bool isPrinting = this->isPrinting();
     const bool isSent = mRun.phase() == PrintRun::Phase::Following;
     // What is being printed is not to be changed under the person's hands.
     for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -68,7 +68,7 @@ void PrintDialog::showPrinting()
     }
     mRevertButton->setEnabled(!isPrinting);
     mSaveButton->setEnabled(!isPrinting);
-    mPrintButton->setEnabled(!isPrinting);
+    showWhetherPrintable();
     mCancelButton->setEnabled(true);
     mCancelButton->setText(isSent ? tr("Cancel Job") : tr("Cancel"));
     mJobRow->setCanClose(isSent);

@@ -13,11 +13,11 @@ namespace tapeprint::job
 namespace
 {
 
-std::optional<Destination> withQueuePpd(Destination destination, Problem *error)
+std::optional<Destination> withQueuePpd(const ServerConnection &server, Destination destination, Problem *error)
 {
     Problem reason;
-    destination.ppd = openQueuePpd(*destination.queue, &reason);
-    if (!reason.isNull()) {
+    destination.ppd = openQueuePpd(server, *destination.queue, &destination.ppdDigest, &reason);
+    if (!reason.isNull() || server.isStopped()) {
         *error = reason;
         return std::nullopt;
     }
@@ -45,7 +45,7 @@ QString Destination::title() const
     return queue->fullName();
 }
 
-std::optional<Destination> openDestination(const JobRequest &request, Problem *error)
+std::optional<Destination> openDestination(const JobRequest &request, Problem *error, const std::atomic<bool> *stop)
 {
     Destination destination;
     destination.outputPath = request.outputPath;
@@ -70,18 +70,13 @@ std::optional<Destination> openDestination(const JobRequest &request, Problem *e
             return destination;
         }
     }
-    destination.queue = findQueue(request.queue, request.instance, error);
+    const auto server = ServerConnection::open(stop);
+    destination.queue = findQueue(*server, {request.queue, request.instance}, error);
     if (!destination.queue) {
         return std::nullopt;
     }
-    return destination.ppd ? std::optional(std::move(destination)) : withQueuePpd(std::move(destination), error);
-}
-
-std::optional<Destination> openDestination(const QString &queue, const QString &instance, Problem *error)
-{
-    Destination destination;
-    destination.queue = findQueue(queue, instance, error);
-    return destination.queue ? withQueuePpd(std::move(destination), error) : std::nullopt;
+    return destination.ppd ? std::optional(std::move(destination))
+                           : withQueuePpd(*server, std::move(destination), error);
 }
 
 } // namespace tapeprint::job

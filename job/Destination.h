@@ -8,8 +8,10 @@
 #include "job/Printers.h"
 #include "job/Problem.h"
 
+#include <QByteArray>
 #include <QString>
 
+#include <atomic>
 #include <optional>
 
 namespace tapeprint::job
@@ -45,6 +47,7 @@ struct Destination {
     bool mayReplaceOutput = true; ///< as in the request, and so the next
     bool trustsPpd = false;
     FileStamps documents; ///< the PPD file stands among them
+    QByteArray ppdDigest; ///< tells whether the queue's PPD is still the same; empty when the PPD is not the queue's
     PpdFile ppd;          ///< null when the queue has none
 
     /// Whether the job goes through the PPD's filters into a file.
@@ -53,10 +56,9 @@ struct Destination {
     QString title() const;
 };
 
-/// Opens the queue and the PPD that a request names. \param error takes a sentence on failure.
-std::optional<Destination> openDestination(const JobRequest &request, Problem *error);
-
-/// Opens a queue with its own PPD, as when the person picks another printer.
-std::optional<Destination> openDestination(const QString &queue, const QString &instance, Problem *error);
+/// Opens the queue and the PPD that a request names. \param error takes a sentence on failure; none when it was
+/// stopped. \param stop when it becomes true, nobody wants the destination any more; null: nobody stops it.
+std::optional<Destination> openDestination(const JobRequest &request, Problem *error,
+                                           const std::atomic<bool> *stop = nullptr);
 
 } // namespace tapeprint::job

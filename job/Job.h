@@ -85,6 +85,8 @@ public:
 
     /// The job as it stands now is what revert() goes back to.
     void rememberAsOpened() { mOpenedWith = takeSnapshot(); }
+    /// The options of the job that revert() goes back to.
+    const JobOptions &openedWith() const { return mOpenedWith.options; }
     /// Goes back to the remembered job, its instance and its marks. Each option that changes by it is told as a change.
     void revert();
 

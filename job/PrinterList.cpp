@@ -5,6 +5,8 @@
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -199,7 +201,12 @@ PrinterList printersIn(ipp_t *response)
         }
         takeAttribute(attribute, printers.back());
     }
-    std::erase_if(printers, [](const Printer &printer) { return printer.name.isEmpty(); });
+    QSet<QString> seen;
+    std::erase_if(printers, [&seen](const Printer &printer) {
+        const bool isKnown = seen.contains(printer.name);
+        seen.insert(printer.name);
+        return isKnown || printer.name.isEmpty();
+    });
     return printers;
 }
 
@@ -229,18 +236,25 @@ PrinterList withSaved(const PrinterList &printers, const SavedDestinations &save
     return all;
 }
 
-std::optional<PrinterList> readPrinters(http_t *server)
+std::optional<PrinterList> readPrinters(const std::atomic<bool> *stop, Problem *error)
 {
+    // Nobody is asked for a password once a second.
+    const auto server = ServerConnection::open(stop, ServerConnection::Passwords::GoWithout);
+    if (!server->isOpen()) {
+        *error = serverProblem(*server);
+        return std::nullopt;
+    }
     ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
     ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(attributesOfAPrinter.size()), nullptr, attributesOfAPrinter.data());
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    const Response response(cupsDoRequest(server, request, "/"));
+    const Response response(cupsDoRequest(server->http(), request, "/"));
     // A server without a single printer says that it found none.
     if (response && ippGetStatusCode(response.get()) == IPP_STATUS_ERROR_NOT_FOUND) {
         return PrinterList();
     }
     if (!response || ippGetStatusCode(response.get()) > IPP_STATUS_OK_EVENTS_COMPLETE) {
+        *error = serverProblem(*server);
         return std::nullopt;
     }
     return withSaved(printersIn(response.get()), SavedDestinations::read());

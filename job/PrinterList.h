@@ -8,6 +8,7 @@
 
 #include <QString>
 
+#include <atomic>
 #include <optional>
 #include <vector>
 
@@ -48,14 +49,14 @@ struct Printer {
 };
 using PrinterList = std::vector<Printer>;
 
-/// The printers in the answer to CUPS-Get-Printers.
+/// The printers in the answer to CUPS-Get-Printers, each name once.
 PrinterList printersIn(ipp_t *response);
 /// The list with the instances that were saved, each behind its queue, and the default marked.
 PrinterList withSaved(const PrinterList &printers, const SavedDestinations &saved);
 
 /// Asks a server for all printers, by one request however many there are.
-/// \return nothing when it does not answer; libcups's last error says why.
-std::optional<PrinterList> readPrinters(http_t *server);
+/// \return nothing when it does not answer; \param error takes why, without a sentence when it was stopped.
+std::optional<PrinterList> readPrinters(const std::atomic<bool> *stop, Problem *error);
 
 /// One look, of a second or two, at the printers on the network that the server has no queue for.
 PrinterList findOnNetwork();

@@ -8,6 +8,7 @@
 #include "job/Texts.h"
 
 #include <QByteArray>
+#include <QCryptographicHash>
 #include <QFile>
 
 #include <algorithm>
@@ -23,33 +24,6 @@ namespace tapeprint::job
 
 namespace
 {
-
-constexpr int connectTimeoutMs = 5000;
-/// A busy server takes its time; one that says nothing for so long hangs.
-constexpr double answerTimeoutSeconds = 10.0;
-/// Local queues answer at once; printers found on the network are given this long.
-constexpr int discoveryTimeoutMs = 1000;
-
-struct ConnectionDeleter {
-    void operator()(http_t *connection) const { httpClose(connection); }
-};
-using Connection = std::unique_ptr<http_t, ConnectionDeleter>;
-
-/// Whether a server that took the connection also speaks. libcups waits minutes for each request to one that hangs.
-bool saysAnything(http_t *server)
-{
-    httpSetTimeout(
-        server, answerTimeoutSeconds, [](http_t * /*server*/, void * /*data*/) { return 0; }, nullptr);
-    httpClearFields(server);
-    if (httpOptions(server, "*") != 0) {
-        return false;
-    }
-    http_status_t status = HTTP_STATUS_CONTINUE;
-    while (status == HTTP_STATUS_CONTINUE) {
-        status = httpUpdate(server);
-    }
-    return status != HTTP_STATUS_ERROR; // a refusal is an answer as well
-}
 
 struct DestinationDeleter {
     void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
@@ -105,20 +79,24 @@ QString defaultText(ipp_attribute_t *attribute)
     return QString::fromUtf8(text.data());
 }
 
-/// Takes away what the server adds to every job by itself: only what the person saved is laid down by the dialog.
-void removeServerDefaults(PrintQueue &queue)
+/// Asks the server for what it knows of the queue alone. What it adds to every job by itself is taken away: only what
+/// the person saved is laid down by the dialog.
+void completeFromServer(const ServerConnection &server, PrintQueue &queue)
 {
     std::array<char, HTTP_MAX_URI> uri{};
     httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
                      "/printers/%s", queue.name.toUtf8().constData());
     ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
-    const Response response(cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/"));
+    const Response response(cupsDoRequest(server.http(), request, "/"));
 
     static const QLatin1String ending("-default");
     for (ipp_attribute_t *attribute = ippFirstAttribute(response.get()); attribute != nullptr;
          attribute = ippNextAttribute(response.get())) {
         QString name = QString::fromUtf8(ippGetName(attribute));
+        if (name == u"printer-config-change-time") {
+            queue.configuredAt = ippGetInteger(attribute, 0);
+        }
         if (!name.endsWith(ending)) {
             continue;
         }
@@ -129,12 +107,11 @@ void removeServerDefaults(PrintQueue &queue)
     }
 }
 
-int collectQueue(void *queues, unsigned flags, cups_dest_t *destination)
+QByteArray digestOf(const QString &path)
 {
-    if ((flags & CUPS_DEST_FLAGS_REMOVED) == 0U) {
-        static_cast<std::vector<PrintQueue> *>(queues)->push_back(queueFrom(*destination));
-    }
-    return 1;
+    QFile file(path);
+    QCryptographicHash digest(QCryptographicHash::Sha256);
+    return file.open(QIODevice::ReadOnly) && digest.addData(&file) ? digest.result() : QByteArray();
 }
 
 } // namespace
@@ -145,56 +122,45 @@ QueueName QueueName::parse(const QString &text)
     return slash < 0 ? QueueName{text, {}} : QueueName{text.left(slash), text.mid(slash + 1)};
 }
 
-bool serverAnswers(Problem *error)
+Problem serverProblem(const ServerConnection &server)
 {
-    const Connection server(
-        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, connectTimeoutMs, nullptr));
-    if (server && saysAnything(server.get())) {
-        return true;
-    }
-    *error = {Problem::Unreachable,
-              Texts::tr("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
-                        "without one with --ppd FILE.")
-                  .arg(harmless(QString::fromUtf8(cupsServer())))};
-    return false;
+    return {server.isStopped() ? Problem::Cancelled : Problem::Unreachable,
+            server.isOpen() ? server.problem() : ServerConnection::noAnswer()};
 }
 
-std::vector<PrintQueue> listQueues()
+std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueName &wanted, Problem *error)
 {
-    std::vector<PrintQueue> queues;
-    cupsEnumDests(CUPS_DEST_FLAGS_NONE, discoveryTimeoutMs, nullptr, 0, 0, collectQueue, &queues);
-    return queues;
-}
-
-std::optional<PrintQueue> findQueue(const QString &name, const QString &instance, Problem *error)
-{
-    if (!serverAnswers(error)) {
+    const QString &name = wanted.queue;
+    const QString &instance = wanted.instance;
+    if (!server.isOpen()) {
+        *error = serverProblem(server);
         return std::nullopt;
     }
     const QByteArray nameBytes = name.toUtf8();
     const QByteArray instanceBytes = instance.toUtf8();
-    const DestinationPtr destination(cupsGetNamedDest(CUPS_HTTP_DEFAULT,
-                                                      name.isEmpty() ? nullptr : nameBytes.constData(),
+    const DestinationPtr destination(cupsGetNamedDest(server.http(), name.isEmpty() ? nullptr : nameBytes.constData(),
                                                       instance.isEmpty() ? nullptr : instanceBytes.constData()));
     // libcups answers any instance of a queue that exists: whether the person has one of that name is asked apart.
-    if (destination && (instance.isEmpty() || SavedDestinations::read().hasInstance({name, instance}))) {
+    if (destination && (instance.isEmpty() || SavedDestinations::read().hasInstance(wanted))) {
         PrintQueue queue = queueFrom(*destination);
-        removeServerDefaults(queue);
+        completeFromServer(server, queue);
         return queue;
     }
-    if (name.isEmpty()) {
+    if (server.isStopped() || server.isUnreachable()) {
+        *error = serverProblem(server);
+    } else if (name.isEmpty()) {
         *error = {Problem::NoSuchPrinter,
                   Texts::tr("There is no default printer: name a print queue with -d QUEUE, or print without one "
                             "with --ppd FILE.")};
     } else {
         *error = {Problem::NoSuchPrinter,
                   Texts::tr("The print server knows no queue %1: see lpstat -e for the queues there are.")
-                      .arg(harmless(QueueName({name, instance}).text()))};
+                      .arg(harmless(wanted.text()))};
     }
     return std::nullopt;
 }
 
-PpdFile openQueuePpd(const PrintQueue &queue, Problem *error)
+PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QByteArray *digest, Problem *error)
 {
     QString reason;
     const auto file = PrivateFile::create(QStringLiteral("queue.ppd"), &reason);
@@ -209,8 +175,12 @@ PpdFile openQueuePpd(const PrintQueue &queue, Problem *error)
     std::copy(name.begin(), name.end(), path.begin());
     std::time_t modified = 0;
     const http_status_t status =
-        cupsGetPPD3(CUPS_HTTP_DEFAULT, queue.name.toUtf8().constData(), &modified, path.data(), path.size());
+        cupsGetPPD3(server.http(), queue.name.toUtf8().constData(), &modified, path.data(), path.size());
     if (status == HTTP_STATUS_NOT_FOUND) {
+        return nullptr;
+    }
+    if (server.isStopped() || server.isUnreachable()) {
+        *error = serverProblem(server);
         return nullptr;
     }
     if (status != HTTP_STATUS_OK) {
@@ -220,6 +190,7 @@ PpdFile openQueuePpd(const PrintQueue &queue, Problem *error)
                       .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())))};
         return nullptr;
     }
+    *digest = digestOf(QFile::decodeName(path.data()));
     return openPpdFile(QFile::decodeName(path.data()), error, Texts::tr("of queue %1").arg(queue.name));
 }
 

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
-// The print queues of the server: which there are, which is the default, what was laid down for them, their PPDs.
+// One print queue of the server: its name, what was laid down for it, its PPD.
 #pragma once
 
 #include "job/JobOptions.h"
 #include "job/PpdFile.h"
 #include "job/Problem.h"
+#include "job/ServerConnection.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <optional>
-#include <vector>
 
 namespace tapeprint::job
 {
@@ -29,23 +30,22 @@ struct PrintQueue {
     QString instance; ///< empty for the queue itself
     QString info;     ///< the description that the administrator gave it
     QString makeModel;
-    QString deviceUri;  ///< null when the server does not say
-    JobOptions options; ///< what the person saved for the queue or instance
+    QString deviceUri;    ///< null when the server does not say
+    int configuredAt = 0; ///< when its PPD or its settings were changed last, in the server's seconds
+    JobOptions options;   ///< what the person saved for the queue or instance
 
     /// QUEUE or QUEUE/INSTANCE.
     QString fullName() const { return QueueName{name, instance}.text(); }
 };
 
-/// Whether the print server can be reached. \param error takes a sentence that names the server.
-bool serverAnswers(Problem *error);
-
-/// Every queue and instance.
-std::vector<PrintQueue> listQueues();
+/// Why a call on a connection failed. Without a sentence when it was stopped.
+Problem serverProblem(const ServerConnection &server);
 
 /// The queue of a name; an empty name stands for the default printer.
-std::optional<PrintQueue> findQueue(const QString &name, const QString &instance, Problem *error);
+std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueName &wanted, Problem *error);
 
 /// The PPD of a queue, from the server. Null without an error when the queue has none.
-PpdFile openQueuePpd(const PrintQueue &queue, Problem *error);
+/// \param digest takes what tells two PPDs apart.
+PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QByteArray *digest, Problem *error);
 
 } // namespace tapeprint::job

@@ -5,7 +5,7 @@
 #include "job/Destination.h"
 #include "job/PlainText.h"
 #include "job/PpdMarks.h"
-#include "job/Printers.h"
+#include "job/PrinterList.h"
 #include "tapeprint/ExitStatus.h"
 #include "tapeprint/ProgramOptions.h"
 
@@ -73,11 +73,9 @@ std::vector<Completion> arguments()
 std::vector<Completion> queues()
 {
     std::vector<Completion> words;
-    if (job::Problem ignored; !job::serverAnswers(&ignored)) {
-        return words;
-    }
-    for (const job::PrintQueue &queue : job::listQueues()) {
-        words.emplace_back(queue.fullName(), queue.info);
+    job::Problem ignored;
+    for (const job::Printer &printer : job::readPrinters(nullptr, &ignored).value_or(job::PrinterList())) {
+        words.emplace_back(printer.fullName(), printer.info);
     }
     return words;
 }

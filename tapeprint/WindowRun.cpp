@@ -13,11 +13,29 @@
 
 #include <QEventLoop>
 #include <QLocale>
+#include <QTimer>
 
 #include <atomic>
 
 namespace tapeprint
 {
+
+namespace
+{
+
+/// A printer that opens at once is there when the window comes up. One that takes its time is not waited for.
+void waitABit(dialog::PrintDialog &window)
+{
+    constexpr int aBitMs = 250;
+    QEventLoop untilSettled;
+    QObject::connect(&window, &dialog::PrintDialog::settled, &untilSettled, &QEventLoop::quit);
+    QTimer::singleShot(aBitMs, &untilSettled, &QEventLoop::quit);
+    if (!window.isSettled()) {
+        untilSettled.exec();
+    }
+}
+
+} // namespace
 
 RunReport runWindow(const CommandLine &line)
 {
@@ -29,12 +47,13 @@ RunReport runWindow(const CommandLine &line)
     job::JobRequest request = line.request;
     request.documents = documents->sources();
     nameOutput(request, documents->title(QString()));
-    std::optional<job::Destination> destination = job::openDestination(request, &error);
-    if (!destination) {
+    // With a PPD file alone no print server is asked for anything, and what is wrong with the file is said at once. A
+    // queue is opened by the window, which does not wait for it.
+    std::optional<job::Destination> destination;
+    const bool isQueue = request.ppdPath.isEmpty() || !request.queue.isEmpty();
+    if (!isQueue && !(destination = job::openDestination(request, &error))) {
         return failedRun(error);
     }
-    // With a PPD file alone no print server is asked for anything.
-    std::vector<job::PrintQueue> queues = destination->queue ? job::listQueues() : std::vector<job::PrintQueue>();
 
     // The window speaks the person's language; what is said on standard output and standard error does not, because
     // scripts read it.
@@ -43,14 +62,20 @@ RunReport runWindow(const CommandLine &line)
     job::Job job;
     job.setLanguages(QLocale().uiLanguages());
     dialog::Panels panels(job, dialog::bundleSearchPath());
-    panels.open(std::move(*destination), request.options);
+    if (destination) {
+        panels.open(std::move(*destination), request.options);
+    }
     const QString title = documents->title(request.title);
     const auto print = [title, files = documents->files(), sources = documents->sources()](
                            const job::SettledJob &settled, const job::PrintWatch &watch, job::Problem *reason) {
         // The window may have been open for hours, and the document another one by now.
         return job::areUnchanged(sources, reason) ? job::printJob(settled, title, files, watch, reason) : std::nullopt;
     };
-    dialog::PrintDialog window(job, panels, {request, title, documents->files(), std::move(queues)}, print);
+    dialog::PrintDialog window(
+        job, panels,
+        {request, title, documents->files(), isQueue ? dialog::PrinterSource::server() : dialog::PrinterSource()},
+        print);
+    waitABit(window);
     QEventLoop untilClosed;
     QObject::connect(&window, &QDialog::finished, &untilClosed, &QEventLoop::quit);
     window.open();

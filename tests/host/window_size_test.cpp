@@ -61,11 +61,17 @@ protected:
         destination.ppd = job::openPpdFile(destination.ppdPath, &problem);
         ASSERT_NE(destination.ppd, nullptr);
         panels.open(std::move(destination), {});
-        job::PrintQueue queue;
-        queue.name = u"tape"_qs;
-        queue.info = longName;
-        dialog = std::make_unique<PrintDialog>(job, panels, PrintDialog::Setup{{}, u"label"_qs, {}, {queue}},
+        dialog::PrinterSource source;
+        source.list = [](const std::atomic<bool> & /*stop*/, job::Problem * /*problem*/) {
+            job::Printer queue;
+            queue.name = u"tape"_qs;
+            queue.info = longName;
+            return std::optional(job::PrinterList{queue});
+        };
+        dialog = std::make_unique<PrintDialog>(job, panels, PrintDialog::Setup{{}, u"label"_qs, {}, source},
                                                [](auto &&...) -> std::optional<job::PrintedJob> { return {}; });
+        const auto *printers = dialog->findChild<QComboBox *>(u"printer"_qs);
+        ASSERT_TRUE(QTest::qWaitFor([printers] { return printers->count() == 2; }));
     }
 
     void show(QSize size)

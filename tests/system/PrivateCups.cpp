@@ -134,6 +134,12 @@ QString PrivateCups::start()
     const QString server = writeFile(mFolder.path(QStringLiteral("cupsd.conf")),
                                      mMoreConfiguration + filled(serverConfiguration, mFolder.path()), 0640);
 
+    QByteArray queues;
+    for (int i = 0; i < mManyQueues; ++i) {
+        queues += "<Printer many-" + QByteArray::number(i) +
+                  ">\nInfo One of many\nDeviceURI file:///dev/null\nState Idle\nAccepting Yes\n</Printer>\n";
+    }
+    writeFile(mFolder.path(QStringLiteral("etc/printers.conf")), queues, 0600);
     dieWithTest(mServer);
     mServer.setProcessChannelMode(QProcess::MergedChannels);
     mServer.start(serverProgram, {QStringLiteral("-f"), QStringLiteral("-c"), server, QStringLiteral("-s"), files});
@@ -202,13 +208,16 @@ QString PrivateCups::addPlainQueue(const QString &name, const QString &descripti
 
 QString PrivateCups::addQueue(const QString &name, const QString &ppdPath)
 {
-    const Outcome outcome = runClient({QStringLiteral("/usr/sbin/lpadmin"),
-                                       {QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
-                                        QLatin1String("file://") + outputPath(name), QStringLiteral("-P"), ppdPath},
-                                       clientVariables()});
-    return outcome.status == 0
-               ? QString()
-               : QStringLiteral("lpadmin failed: %1").arg(QString::fromUtf8(outcome.messages + errorLog().right(2000)));
+    return run(QStringLiteral("lpadmin"), {QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
+                                           QLatin1String("file://") + outputPath(name), QStringLiteral("-P"), ppdPath});
+}
+
+QString PrivateCups::run(const QString &program, const QStringList &arguments) const
+{
+    const Outcome outcome = runClient({QLatin1String("/usr/sbin/") + program, arguments, clientVariables()});
+    return outcome.status == 0 ? QString()
+                               : QStringLiteral("%1 failed: %2")
+                                     .arg(program, QString::fromUtf8(outcome.messages + errorLog().right(2000)));
 }
 
 QByteArray PrivateCups::printedBy(const QString &queue) const

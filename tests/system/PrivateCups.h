@@ -45,6 +45,8 @@ public:
 
     /// Adds a line to the server's configuration, before it is started.
     void configure(const QByteArray &line) { mMoreConfiguration += line + '\n'; }
+    /// Queues "many-0", "many-1" and so on, without descriptions, before the server is started.
+    void configureManyQueues(int count) { mManyQueues = count; }
     /// Starts the server and waits until it answers. \return null, or why it does not.
     QString start();
 
@@ -60,6 +62,8 @@ public:
     QString addScriptedQueue(const QString &name, const QString &description, const QByteArray &script);
     /// A queue of the description as it is shipped.
     QString addPlainQueue(const QString &name, const QString &description);
+    /// Runs one of the server's commands, such as cupsdisable. \return null, or what it says.
+    QString run(const QString &program, const QStringList &arguments) const;
     /// What the queue's printer got of its last job.
     QByteArray printedBy(const QString &queue) const;
 
@@ -84,6 +88,7 @@ private:
 
     PrivateFolder mFolder;
     QByteArray mMoreConfiguration;
+    int mManyQueues = 0;
     QProcess mServer;
 };
 

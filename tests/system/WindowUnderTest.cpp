@@ -2,6 +2,8 @@
 // Keys and clicks stay in order on their way through the display, so only windows that come and go are waited for.
 #include "tests/system/WindowUnderTest.h"
 
+#include <utility>
+
 namespace systemtest
 {
 
@@ -11,6 +13,17 @@ WindowUnderTest::~WindowUnderTest()
 }
 
 QString WindowUnderTest::open(Client client)
+{
+    if (const QString problem = openUnconnected(std::move(client)); !problem.isNull()) {
+        return problem;
+    }
+    // The title says in every language, by its dots, that something is waited for.
+    return waitUntil([this] { return !title().isEmpty() && !title().contains("\u2026"); })
+               ? QString()
+               : QStringLiteral("The printer is not connected.");
+}
+
+QString WindowUnderTest::openUnconnected(Client client)
 {
     client.variables.emplace_back(QStringLiteral("DISPLAY"), mDisplay.name());
     dieWithTest(mProgram);
@@ -46,6 +59,11 @@ QStringList WindowUnderTest::windows() const
     const QByteArray found = mDisplay.xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
                                                QStringLiteral("--pid"), QString::number(mProgram.processId())});
     return QString::fromLatin1(found).split(u'\n', Qt::SkipEmptyParts);
+}
+
+QByteArray WindowUnderTest::title() const
+{
+    return mDisplay.xdotool({QStringLiteral("getwindowname"), mWindow}).trimmed();
 }
 
 QRect WindowUnderTest::geometry(const QString &window) const

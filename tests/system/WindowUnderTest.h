@@ -34,13 +34,18 @@ public:
     WindowUnderTest(const WindowUnderTest &) = delete;
     WindowUnderTest &operator=(const WindowUnderTest &) = delete;
 
-    /// Starts the program and waits until its window is there and has the keys. \return null, or why there is none.
+    /// Starts the program and waits until its window is there, has the keys and its printer is connected. \return null,
+    /// or why there is none.
     QString open(Client client);
+    /// The same, without waiting for the printer.
+    QString openUnconnected(Client client);
     /// Waits for the program's end.
     Outcome waitForEnd();
 
     /// The window's number on the display.
     QString window() const { return mWindow; }
+    /// Its title, in UTF-8.
+    QByteArray title() const;
     QRect geometry(const QString &window) const;
 
     /// Presses keys, such as "alt+n" or "Tab", one after the other.

@@ -290,4 +290,38 @@ TEST_F(WindowJob, Cancel_PrintsNothing)
     EXPECT_TRUE(cups.jobs().empty());
 }
 
+TEST_F(WindowJob, NoDefaultPrinter_OneIsChosenInTheWindowAndPrinted)
+{
+    ASSERT_TRUE(cups.addPlainQueue(u"zone"_qs, u"inch"_qs).isNull());
+    const QString problem =
+        dialog.open({QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), {document}, variables(), workFolder});
+    ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+    const int emptyWidth = dialog.geometry(dialog.window()).width();
+    dialog.press({u"alt+r"_qs, u"Down"_qs}); // "tape" comes before "zone"
+    ASSERT_TRUE(systemtest::waitUntil([&] { return dialog.geometry(dialog.window()).width() > emptyWidth; }));
+    const std::vector<FilterCall> calls = print();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm());
+}
+
+TEST_F(WindowJob, ServerThatNeverAnswers_TheWindowIsThereAndCancelEndsIt)
+{
+    const QString socket = folder.path(u"silent.sock"_qs);
+    const tapeprint::test::MeddlingServer silent(socket, {}, [](const tapeprint::test::SeenRequest & /*request*/) {
+        return tapeprint::test::Meddling::KeepSilent;
+    });
+    moreVariables = {{u"CUPS_SERVER"_qs, socket}};
+    QElapsedTimer timer;
+    timer.start();
+    const QString problem = dialog.openUnconnected(
+        {QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), {u"-d"_qs, u"tape"_qs, document}, variables(), workFolder});
+    ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+    EXPECT_LT(timer.elapsed(), 5000); // with the start of the program; the server is given 10 s
+    EXPECT_TRUE(dialog.title().contains("\u2026")) << dialog.title().toStdString();
+    timer.restart();
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(dialog.waitForEnd().status, testsupport::cancelled);
+    EXPECT_LT(timer.elapsed(), 3000);
+}
+
 } // namespace

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the window does about its printer: shows which is open or being opened, takes one over when it has been opened
+// in its thread, and keeps what can be kept of the person's choices.
+#include "dialog/LayoutPage.h"
+#include "dialog/NoticesArea.h"
+#include "dialog/OptionsPage.h"
+#include "dialog/PlainText.h"
+#include "dialog/PreviewArea.h"
+#include "dialog/PrintDialog.h"
+#include "dialog/PrinterPopUp.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QThread>
+#include <QTimer>
+
+namespace tapeprint::dialog
+{
+
+void PrintDialog::startPrinters()
+{
+    mPrinterPopUp->setModel(&mPrinters.model());
+    mLoadAnew = new QPushButton(tr("&Load Anew"), mNotices);
+    mLoadAnew->setObjectName(QStringLiteral("loadAnew"));
+    mLoadAnew->setAutoDefault(false);
+    mLoadAnew->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    mLoadAnew->hide();
+    mNotices->addNotice(mLoadAnew);
+    // A panel whose alert stands open is in the middle of a call: it is not to be released under it.
+    const int usualLevel = QThread::currentThread()->loopLevel() + 1;
+    mPrinters.setGate([this, usualLevel] {
+        const QWidget *modal = QApplication::activeModalWidget();
+        return (modal == nullptr || modal == this) && QThread::currentThread()->loopLevel() <= usualLevel &&
+               !isPrinting() && !mIsFitting;
+    });
+    connect(mLoadAnew, &QPushButton::clicked, &mPrinters, &PrinterDesk::takeNewDescription);
+    connect(&mPrinters, &PrinterDesk::changed, this, &PrintDialog::followPrinters);
+    connect(&mPrinters, &PrinterDesk::opened, this,
+            [this](const std::shared_ptr<job::Destination> &destination) { takeDestination(std::move(*destination)); });
+    mPrinters.start(mJob.destination());
+}
+
+void PrintDialog::pickPrinter(int index)
+{
+    mCountTimer.stop(); // what was pressed was for the printer before
+    mPrinters.pick(mPrinterPopUp->itemData(index, PrinterModel::NameRole).toString());
+    followPrinters();
+}
+
+void PrintDialog::takeDestination(job::Destination destination)
+{
+    if (mClosed) {
+        return;
+    }
+    mKept.leave(mJob.openedWith(), mPanels.currentOptions(), mJob.ppd());
+    job::JobOptions asked = mSetup.request.options;
+    const bool isInstance = destination.queue && !destination.queue->instance.isEmpty();
+    const job::JobOptions kept =
+        mKept.fitting(destination.ppd.get(), isInstance ? destination.queue->options : job::JobOptions());
+    for (const auto &[name, value] : kept.entries()) {
+        asked.set(name, value);
+    }
+    // The old pages go before the panels and the PPD that they show.
+    removeOwnPages();
+    mGreyed.undo();
+    mPanels.open(std::move(destination), asked);
+    showDestination();
+    followPrinters();
+    // The layouts hear of the new pages by events.
+    QTimer::singleShot(0, this, [this] {
+        growToContents();
+        Q_EMIT settled();
+    });
+}
+
+void PrintDialog::growToContents()
+{
+    // The toolkit by itself opens a window at no more than two thirds of the screen.
+    resize((isVisible() ? size() : QSize()).expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
+}
+
+void PrintDialog::showNoDestination()
+{
+    constexpr QSize usualSize(640, 480);
+    showWhetherTape();
+    mChooserRow->hide();
+    mPreview->hide();
+    resize(usualSize.boundedTo(screen()->availableSize()));
+}
+
+void PrintDialog::followPrinters()
+{
+    if (mClosed) {
+        return;
+    }
+    const QString title = mSetup.title;
+    setWindowTitle(
+        plainTitle(mPrinters.isOpening() ? tr("Print %1 – connecting…").arg(title) : tr("Print %1").arg(title)));
+    mPrinterPopUp->setPlaceholderText(mPrinters.isOpening() ? tr("Connecting…") : tr("Choose a printer"));
+    const int row = mPrinters.currentRow();
+    mPrinterPopUp->setCurrentIndex(row);
+    mPrinterPopUp->setToolTip(mPrinterPopUp->itemData(row, Qt::ToolTipRole).toString());
+    mPrinterPopUp->setAccessibleDescription(mPrinterPopUp->itemData(row, Qt::AccessibleTextRole).toString());
+    const bool isUsable = mPrinters.hasOpen() && !mPrinters.isOpening();
+    if (!isUsable && !mGreyed.isOn()) {
+        mGreyed.greyAllBut({mPrinterPopUp, mNotices, mCancelButton, mPrintButton}, this);
+    } else if (isUsable && mGreyed.isOn()) {
+        mGreyed.undo();
+    }
+    mLoadAnew->setVisible(mPrinters.hasNewDescription());
+    showWhetherPrintable();
+    showNotices();
+    if (!isUsable && !mPrinters.isOpening()) {
+        Q_EMIT settled();
+    }
+}
+
+void PrintDialog::showWhetherPrintable()
+{
+    const bool canPrint = mPrinters.canPrint() && !isPrinting();
+    mPrintButton->setEnabled(canPrint);
+    mPrintButton->setToolTip(canPrint || isPrinting() ? QString()
+                             : mPrinters.isOpening()  ? tr("The printer is still being connected.")
+                             : mPrinters.hasOpen()    ? tr("The printer is not there any more.")
+                                                      : tr("Choose a printer first."));
+}
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,364 @@
+// SPDX-License-Identifier: Apache-2.0
+// One reading at a time, the next a while after it: a server that says nothing piles nothing up.
+#include "dialog/PrinterDesk.h"
+
+#include "job/PlainText.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tapeprint::dialog
+{
+
+namespace
+{
+
+constexpr int lookPauseMs = 10000;
+constexpr int gatePauseMs = 50;
+
+PrinterRow rowOfDestination(const job::Destination &destination)
+{
+    PrinterRow row;
+    if (destination.queue) {
+        row.printer.name = destination.queue->name;
+        row.printer.instance = destination.queue->instance;
+        row.printer.info = destination.queue->info;
+    } else {
+        row.printer.info = destination.title();
+    }
+    return row;
+}
+
+} // namespace
+
+PrinterDesk::PrinterDesk(PrinterSource source, job::JobRequest request, QObject *parent)
+    : QObject(parent), mSource(std::move(source)), mRequest(std::move(request))
+{
+    for (QTimer *timer : {&mReadTimer, &mLookTimer, &mGateTimer}) {
+        timer->setSingleShot(true);
+    }
+    mReadTimer.setInterval(mSource.pause);
+    mLookTimer.setInterval(lookPauseMs);
+    mGateTimer.setInterval(gatePauseMs);
+    connect(&mReadTimer, &QTimer::timeout, this, &PrinterDesk::read);
+    connect(&mLookTimer, &QTimer::timeout, this, &PrinterDesk::look);
+    connect(&mGateTimer, &QTimer::timeout, this, &PrinterDesk::deliver);
+}
+
+void PrinterDesk::start(const job::Destination &destination)
+{
+    if (destination.queue || destination.ppd) {
+        take(destination);
+    } else if (mSource.open) {
+        pick(mRequest.fullQueueName());
+    }
+    fillRows();
+    read();
+    look();
+}
+
+job::JobRequest PrinterDesk::requestFor(const QString &name) const
+{
+    // What was asked for is opened as it was asked for, with its own PPD and output; any other queue as it is.
+    if (name.compare(mRequest.fullQueueName(), Qt::CaseInsensitive) == 0) {
+        return mRequest;
+    }
+    const job::QueueName queue = job::QueueName::parse(name);
+    job::JobRequest request;
+    request.queue = queue.queue;
+    request.instance = queue.instance;
+    return request;
+}
+
+void PrinterDesk::pick(const QString &name)
+{
+    if (!mSource.open || name == mWanted) {
+        return;
+    }
+    mArrived = nullptr;
+    mOpenProblem = {};
+    if (name == mOpen) {
+        mOpening.drop();
+        mWanted.reset();
+    } else {
+        mWanted = name;
+        open(requestFor(name));
+    }
+    fillRows();
+    Q_EMIT changed();
+}
+
+void PrinterDesk::open(const job::JobRequest &request)
+{
+    mOpening.start([this, request, open = mSource.open](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
+        job::Problem problem;
+        std::optional<job::Destination> opened = open(request, stop, &problem);
+        Arrival destination = opened ? std::make_shared<job::Destination>(std::move(*opened)) : nullptr;
+        return [this, destination, problem] { finishOpening(destination, problem); };
+    });
+}
+
+void PrinterDesk::finishOpening(const Arrival &destination, const job::Problem &problem)
+{
+    if (destination != nullptr) {
+        mArrived = destination;
+        deliver();
+        return;
+    }
+    mWanted.reset();
+    mOpenProblem = problem;
+    fillRows();
+    Q_EMIT changed();
+    openTheOnlyPrinter();
+}
+
+void PrinterDesk::deliver()
+{
+    if (mArrived == nullptr) {
+        return; // another printer was picked meanwhile
+    }
+    if (mGate && !mGate()) {
+        mGateTimer.start();
+        return;
+    }
+    const Arrival destination = std::exchange(mArrived, nullptr);
+    take(*destination);
+    fillRows();
+    Q_EMIT opened(destination);
+    Q_EMIT changed();
+}
+
+void PrinterDesk::take(const job::Destination &destination)
+{
+    mChecking.drop();
+    mFresh = nullptr;
+    mWanted.reset();
+    mOpenProblem = {};
+    mOpen = destination.queue ? destination.queue->fullName() : QString(QLatin1String(""));
+    mConfiguredAt = destination.queue ? destination.queue->configuredAt : 0;
+    mDigest = destination.ppdDigest;
+    mWasListed = false;
+    mLastKnown = rowOfDestination(destination).printer;
+    followOpenPrinter();
+    // A destination that is no queue stays on offer, whatever is picked.
+    if (!destination.queue) {
+        mFirst = rowOfDestination(destination);
+    }
+}
+
+void PrinterDesk::takeNewDescription()
+{
+    if (mFresh != nullptr && !isOpening()) {
+        mWanted = mOpen;
+        mArrived = std::exchange(mFresh, nullptr);
+        deliver();
+    }
+}
+
+void PrinterDesk::read()
+{
+    if (!mSource.list) {
+        return;
+    }
+    mReading.start([this, list = mSource.list](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
+        job::Problem problem;
+        std::optional<job::PrinterList> printers = list(stop, &problem);
+        return [this, printers = std::move(printers), problem] { takeList(printers, problem); };
+    });
+}
+
+void PrinterDesk::takeList(const std::optional<job::PrinterList> &printers, const job::Problem &problem)
+{
+    mReadTimer.start();
+    const bool wasSilent = !mServerProblem.isNull();
+    if (printers ? !wasSilent && printers == mPrinters : problem.sentence == mServerProblem.sentence) {
+        return; // as a rule
+    }
+    mServerProblem = problem;
+    if (printers) {
+        mServerProblem = {};
+        mPrinters = printers;
+    }
+    followOpenPrinter();
+    fillRows();
+    Q_EMIT changed();
+    if (printers) {
+        openWhatTheServerAllows();
+        openTheOnlyPrinter();
+    }
+}
+
+void PrinterDesk::followOpenPrinter()
+{
+    if (const job::Printer *printer = openPrinter()) {
+        mWasListed = true;
+        mLastKnown = *printer;
+        mLastKnown.instance = job::QueueName::parse(*mOpen).instance;
+        // A reading from before the printer was opened may be older than what was opened.
+        if (printer->configuredAt > mConfiguredAt) {
+            checkDescription();
+        }
+    }
+}
+
+void PrinterDesk::look()
+{
+    if (!mSource.network) {
+        return;
+    }
+    mLooking.start([this, network = mSource.network](const std::atomic<bool> & /*stop*/) -> BackgroundWork::Delivery {
+        return [this, found = network()] {
+            mLookTimer.start();
+            if (mOnNetwork != found) {
+                mOnNetwork = found;
+                fillRows();
+                Q_EMIT changed();
+            }
+        };
+    });
+}
+
+void PrinterDesk::openWhatTheServerAllows()
+{
+    if (hasOpen() || isOpening() || !mSource.open) {
+        return;
+    }
+    // The server was silent when the printer was to be opened, or the printer was not there.
+    const QString asked = mRequest.fullQueueName();
+    const bool isThere = std::any_of(mPrinters->begin(), mPrinters->end(),
+                                     [&asked](const job::Printer &printer) { return printer.fullName() == asked; });
+    if (mOpenProblem.kind == job::Problem::Unreachable ||
+        (isThere && mOpenProblem.kind == job::Problem::NoSuchPrinter)) {
+        pick(asked);
+    }
+}
+
+void PrinterDesk::openTheOnlyPrinter()
+{
+    // Nobody named a default, but there is nothing to choose either.
+    if (lacksDefault() && !isOpening() && mPrinters && mPrinters->size() == 1 && !std::exchange(mTriedTheOnly, true)) {
+        pick(mPrinters->front().fullName());
+    }
+}
+
+bool PrinterDesk::lacksDefault() const
+{
+    return !hasOpen() && mRequest.queue.isEmpty() && mOpenProblem.kind == job::Problem::NoSuchPrinter;
+}
+
+void PrinterDesk::checkDescription()
+{
+    if (!mSource.open || mChecking.isRunning()) {
+        return;
+    }
+    mChecking.start([this, request = requestFor(*mOpen),
+                     open = mSource.open](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
+        job::Problem problem;
+        std::optional<job::Destination> opened = open(request, stop, &problem);
+        Arrival destination = opened ? std::make_shared<job::Destination>(std::move(*opened)) : nullptr;
+        return [this, destination] { takeCheck(destination); };
+    });
+}
+
+void PrinterDesk::takeCheck(const Arrival &destination)
+{
+    if (destination == nullptr || !destination->queue) {
+        return; // the next reading asks again
+    }
+    mConfiguredAt = destination->queue->configuredAt;
+    mFresh = destination->ppdDigest == mDigest ? nullptr : destination;
+    Q_EMIT changed();
+}
+
+const job::Printer *PrinterDesk::openPrinter() const
+{
+    if (!mPrinters || !mOpen) {
+        return nullptr;
+    }
+    // An instance stands and falls with its queue: presets are deleted while they are in use.
+    const QString queue = job::QueueName::parse(*mOpen).queue;
+    const auto found = std::find_if(mPrinters->begin(), mPrinters->end(),
+                                    [&queue](const job::Printer &printer) { return printer.name == queue; });
+    return found == mPrinters->end() ? nullptr : &*found;
+}
+
+bool PrinterDesk::isGone() const
+{
+    // A printer that was named without being listed, such as one on the network, may be there all the same.
+    return mWasListed && mPrinters && openPrinter() == nullptr;
+}
+
+void PrinterDesk::fillRows()
+{
+    std::vector<PrinterRow> rows;
+    const auto isListed = [&rows](const QString &name) {
+        return std::any_of(rows.begin(), rows.end(),
+                           [&name](const PrinterRow &row) { return row.printer.fullName() == name; });
+    };
+    if (mFirst) {
+        rows.push_back(*mFirst);
+    }
+    for (const job::Printer &printer : mPrinters ? *mPrinters : job::PrinterList()) {
+        rows.push_back({printer, false});
+    }
+    for (const job::Printer &printer : mOnNetwork) {
+        if (!isListed(printer.fullName())) {
+            rows.push_back({printer, false});
+        }
+    }
+    // The open printer stays on offer, and so does the one that is being opened.
+    if (mOpen && !isListed(*mOpen)) {
+        rows.insert(rows.begin(), PrinterRow{mLastKnown, isGone()});
+    }
+    if (mWanted && !mWanted->isEmpty() && !isListed(*mWanted)) {
+        PrinterRow row;
+        const job::QueueName name = job::QueueName::parse(*mWanted);
+        row.printer.name = name.queue;
+        row.printer.instance = name.instance;
+        rows.insert(rows.begin(), row);
+    }
+    mModel.setRows(rows);
+}
+
+int PrinterDesk::currentRow() const
+{
+    if (mWanted) {
+        return mWanted->isEmpty() && !mFirst ? -1 : mModel.rowOf(*mWanted);
+    }
+    return mOpen ? mModel.rowOf(*mOpen) : -1;
+}
+
+void PrinterDesk::setIsTape(bool isTape)
+{
+    mIsTape = isTape;
+    mModel.setIsTape(isTape);
+}
+
+QStringList PrinterDesk::notices() const
+{
+    QStringList notices;
+    const bool isSilent = !mServerProblem.isNull();
+    if (isSilent) {
+        notices.append(tr("The print server does not answer. Its printers come back when it does."));
+    }
+    if (!mOpenProblem.isNull() && !(isSilent && mOpenProblem.kind == job::Problem::Unreachable)) {
+        notices.append(lacksDefault() ? tr("There is no default printer. Choose a printer.") : mOpenProblem.sentence);
+    }
+    if (isGone()) {
+        notices.append(tr("The printer %1 is not there any more. Choose another, or wait until it is back: what you "
+                          "have set is kept.")
+                           .arg(job::harmless(*mOpen)));
+    } else if (const job::Printer *printer = openPrinter()) {
+        if (const QString notice = printer->notice(mIsTape); !notice.isNull()) {
+            notices.append(notice);
+        }
+    }
+    if (hasNewDescription()) {
+        notices.append(tr("The description of the printer %1 has changed on the print server. Load it anew before you "
+                          "print.")
+                           .arg(job::harmless(*mOpen)));
+    }
+    return notices;
+}
+
+} // namespace tapeprint::dialog
