@@ -143,9 +143,14 @@ void CustomFields::fill()
 void CustomFields::showValue(const QString &value)
 {
     if (job::isCustomValue(value) && value != mShown && !isEdited()) {
-        mShown = value;
-        fill();
+        setValue(value);
     }
+}
+
+void CustomFields::setValue(const QString &value)
+{
+    mShown = value;
+    fill();
 }
 
 void CustomFields::begin()
@@ -156,7 +161,7 @@ void CustomFields::begin()
     mFields.front().edit->selectAll();
 }
 
-void CustomFields::commit()
+bool CustomFields::commit()
 {
     QStringList values;
     for (std::size_t i = 0; i < mFields.size(); ++i) {
@@ -168,7 +173,7 @@ void CustomFields::commit()
                     ? problem
                     : tr("%1: %2", "name of a value, and what is wrong with it").arg(mParameters[i].text, problem));
             mProblem->show();
-            return;
+            return false;
         }
     }
     mProblem->hide();
@@ -179,6 +184,7 @@ void CustomFields::commit()
         mShown = value;
         Q_EMIT entered(value);
     }
+    return true;
 }
 
 } // namespace tapeprint::dialog

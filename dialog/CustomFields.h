@@ -28,10 +28,14 @@ public:
 
     /// The fields show a job's value, unless the person is typing. A value that is none of its own leaves them alone.
     void showValue(const QString &value);
+    /// The fields show a value, whatever the person has typed.
+    void setValue(const QString &value);
     /// The person wants a value of their own: the job gets what the fields show, and the first of them the focus.
     void begin();
-    /// The person is done with a field: takes over what stands there, when every parameter takes it.
-    void commit();
+    /// The person is done with a field: takes over what stands there. \return whether every parameter takes it.
+    bool commit();
+    /// What the fields showed or took last.
+    const QString &value() const { return mShown; }
 
 Q_SIGNALS:
     /// A value that every parameter takes.

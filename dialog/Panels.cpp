@@ -209,6 +209,17 @@ void Panels::changePaper(const QString &paper)
     tellPaperAgain();
 }
 
+void Panels::apply(const job::Resolution &resolution)
+{
+    for (const job::Resolution::Change &change : resolution.changes) {
+        if (change.key == job::OptionName::pageSize) {
+            changePaper(change.choice);
+        } else {
+            mJob.changeOption(change.key, change.choice);
+        }
+    }
+}
+
 void Panels::tellPaperAgain()
 {
     if (const QString paper = mJob.options().value(job::OptionName::pageSize); !paper.isEmpty()) {

@@ -9,6 +9,7 @@
 
 #include "dialog/PanelHost.h"
 #include "dialog/PluginLoader.h"
+#include "job/Conflicts.h"
 #include "job/Job.h"
 #include "job/Problem.h"
 #include "job/ReplacedOptions.h"
@@ -73,6 +74,9 @@ public:
     /// The person picks another paper. Panels hand over what was typed before the change, and hear of it once more when
     /// they have been shown with the new paper: what they learn by that shows in every control.
     void changePaper(const QString &paper);
+
+    /// The job's options change as a resolution of conflicts says; panels hear of it.
+    void apply(const job::Resolution &resolution);
 
     /// Every panel's controls are to follow the job's objects.
     void showAll();

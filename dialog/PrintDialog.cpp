@@ -2,13 +2,13 @@
 // The window's printers and pages. Values live in the dialog's objects; the controls only show them.
 #include "dialog/PrintDialog.h"
 
-#include "dialog/ChoicePopUp.h"
 #include "dialog/GatheredAlerts.h"
 #include "dialog/JobPage.h"
 #include "dialog/LayoutPage.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PaperMenu.h"
 #include "dialog/PlainText.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/SummaryView.h"
@@ -66,7 +66,7 @@ void PrintDialog::showDestination()
     mPrinters.setIsTape(!mPanels.entries().empty());
     mUnit.setDescribed(describedUnit(mJob.ppd(), mJob.tape()));
     showWhetherTape();
-    showTapes();
+    mPapers->fill();
     makePages();
     settlePanels();
     showPages(0);
@@ -91,16 +91,6 @@ void PrintDialog::showWhetherTape()
     mSummary->parentWidget()->setVisible(isTape); // it is the panels' summary
     mFitControls->setVisible(isTape);
     mSaveButton->setHasPrinterData(mJob.ppd() != nullptr);
-}
-
-void PrintDialog::showTapes()
-{
-    const ppd_option_t *tapes = job::findOption(mJob.ppd(), job::OptionName::pageSize);
-    mTapePopUp->clear();
-    mTapePopUp->setEnabled(tapes != nullptr);
-    if (tapes != nullptr) {
-        fillWithChoices(mTapePopUp, *tapes);
-    }
 }
 
 void PrintDialog::makePages()

@@ -44,12 +44,14 @@ namespace tapeprint::dialog
 {
 
 class AmountLabel;
+class ConflictNotice;
 class JobPage;
 class JobRow;
 class LayoutPage;
 class NoticesArea;
 class OptionsPage;
 class PanelArea;
+class PaperMenu;
 class PreviewArea;
 class PrinterPopUp;
 class SummaryView;
@@ -121,7 +123,6 @@ private:
     void showWhetherPrintable();
     bool isPrinting() const { return mRun.phase() != PrintRun::Phase::Idle; }
     void showDestination();
-    void showTapes();
     void makePages();
     void showPages(int first);
     void assignKeys();
@@ -138,6 +139,12 @@ private:
     void pickPage(int index);
     void follow();
     void followInThePreview();
+    void makeConflictNotice();
+    void followConflicts();
+    void resolveConflicts();
+    /// \return whether there are conflicts and the person is being asked what to do about them.
+    /// \param again what is done then, when it is not given up.
+    bool asksAboutConflicts(const std::function<void()> &again);
     void revert();
     void remakePanels();
     bool isReadyToPrint();
@@ -203,9 +210,12 @@ private:
     QPushButton *mLoadAnew = nullptr; ///< among the notices, when the printer's PPD has changed
     PresetRow *mPresetRow = nullptr;
     QComboBox *mTapePopUp = nullptr;
+    PaperMenu *mPapers = nullptr; ///< what the tape's pop-up offers
     QSpinBox *mCopiesField = nullptr;
     QLabel *mTapeLabel = nullptr;
     NoticesArea *mNotices = nullptr;
+    ConflictNotice *mConflicts = nullptr;
+    bool mConflictsAreSeen = false; ///< the person said to print all the same
     QWidget *mChooserRow = nullptr; ///< hidden while there is one page alone
     QComboBox *mPageChooser = nullptr;
     PanelArea *mPanelArea = nullptr;

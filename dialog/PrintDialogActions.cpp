@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the window does when the person acts: picks, Revert, Print, Cancel, and the live summary.
-#include "dialog/ChoicePopUp.h"
 #include "dialog/JobPage.h"
 #include "dialog/LayoutPage.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PaperMenu.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/PrinterPopUp.h"
@@ -31,7 +31,8 @@ void PrintDialog::connectControls()
 {
     // "activated" is the person's act alone; setting a control from code sends nothing.
     connect(mPrinterPopUp, &QComboBox::activated, this, &PrintDialog::pickPrinter);
-    connect(mTapePopUp, &QComboBox::activated, this, [this] { pickTape(mTapePopUp->currentData().toString()); });
+    connect(mPapers, &PaperMenu::picked, this, &PrintDialog::pickTape);
+    connect(mPapers, &PaperMenu::problem, this, &PrintDialog::tellProblem);
     connect(mCopiesField, &QSpinBox::valueChanged, this, [this](int copies) {
         if (copies != mJob.copies()) {
             mJob.setCopies(copies);
@@ -144,7 +145,7 @@ void PrintDialog::follow()
     mSummary->showSummary(mPanels.summary());
     followInThePreview();
     followInThePresets();
-    selectChoice(mTapePopUp, job::markedChoice(mJob.ppd(), job::OptionName::pageSize));
+    mPapers->follow();
     mCopiesField->setValue(mJob.copies());
     if (mLayoutPage) {
         mLayoutPage->follow();
@@ -155,6 +156,7 @@ void PrintDialog::follow()
     if (mOptionsPage) {
         mOptionsPage->follow();
     }
+    followConflicts();
 }
 
 void PrintDialog::followInThePreview()

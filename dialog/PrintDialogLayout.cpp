@@ -12,6 +12,7 @@
 #include "dialog/JobRow.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/PanelArea.h"
+#include "dialog/PaperMenu.h"
 #include "dialog/PopUp.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
@@ -57,6 +58,7 @@ void PrintDialog::buildControls()
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(makeDestinationRows());
     mNotices = new NoticesArea(this);
+    makeConflictNotice();
     layout->addWidget(mNotices);
     auto *middle = new QHBoxLayout;
     middle->addWidget(makePagesArea());
@@ -85,6 +87,7 @@ QWidget *PrintDialog::makeDestinationRows()
 
     mTapePopUp = new PopUp(rows);
     mTapePopUp->setObjectName(QStringLiteral("tape"));
+    mPapers = new PaperMenu(*mTapePopUp, mJob, mUnit, this);
     mTapeLabel = makeLabel({}, mTapePopUp);
     mCopiesField = new QSpinBox(rows);
     mCopiesField->setObjectName(QStringLiteral("copies"));

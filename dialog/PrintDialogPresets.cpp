@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the window does about presets: it lays a chosen one down on a job opened anew, and hands over what is to be
 // saved.
+#include "dialog/PaperMenu.h"
 #include "dialog/PresetRow.h"
 #include "dialog/PrintDialog.h"
 #include "job/LastSettings.h"
@@ -49,7 +50,7 @@ void PrintDialog::pickPreset(const PresetRow::Settings &settings)
     removeOwnPages();
     mPanels.reopen(settings.instance, settings.saved, asked);
     showWhetherTape();
-    showTapes();
+    mPapers->fill();
     makePages();
     settlePanels();
     showPages(shown);

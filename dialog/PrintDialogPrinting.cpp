@@ -38,7 +38,7 @@ void PrintDialog::connectPrinting()
 
 void PrintDialog::print()
 {
-    if (!mPrinters.canPrint() || !isReadyToPrint() || !isAmountAgreed()) {
+    if (!mPrinters.canPrint() || !isReadyToPrint() || !isAmountAgreed() || asksAboutConflicts([this] { print(); })) {
         return;
     }
     mIsSaving = false;

@@ -3,6 +3,7 @@
 // is no print.
 #include "dialog/AmountLabel.h"
 #include "dialog/JobPage.h"
+#include "dialog/OptionsPage.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 
@@ -32,6 +33,9 @@ bool PrintDialog::isReadyToPrint()
         pickPage(static_cast<int>(found - mPageList.begin()));
         mJobPage->isReady(); // shown now, its field takes the focus
         return false;
+    }
+    if (mOptionsPage) {
+        mOptionsPage->commit();
     }
     job::Problem error;
     if (!mPanels.saveValues(&error)) {
@@ -75,7 +79,9 @@ void PrintDialog::printCounted()
 
 void PrintDialog::save(SaveButton::Kind kind, const QString &path)
 {
-    if (!isReadyToPrint()) {
+    // A PDF is for no printer, whatever goes together there.
+    if (!isReadyToPrint() ||
+        (kind != SaveButton::Kind::Pdf && asksAboutConflicts([this, kind, path] { save(kind, path); }))) {
         return;
     }
     job::SettledJob job = job::settle(mJob);

@@ -248,6 +248,19 @@ QString customProblem(const CustomParameter &parameter, const QString &value, bo
     return parameter.isText() ? textProblem(parameter, value) : numberProblem(parameter, value, inInches);
 }
 
+QStringList bracedForNobody(ppd_file_t *ppd, const JobOptions &options)
+{
+    QStringList sentences;
+    for (const auto &[key, value] : options.entries()) {
+        if (value.startsWith(u'{') && customParameters(ppd, key).empty()) {
+            sentences.append(Texts::tr("The value of option %1 is in braces, which the print server drops: give %1 a "
+                                       "plain value.")
+                                 .arg(key));
+        }
+    }
+    return sentences;
+}
+
 QString withoutSecret(ppd_file_t *ppd, const QString &key, const QString &value)
 {
     const std::vector<CustomParameter> parameters =

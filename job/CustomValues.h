@@ -56,6 +56,10 @@ QString customLimits(const CustomParameter &parameter, bool inInches);
 /// Why a parameter does not take a value, as a sentence; null when it does.
 QString customProblem(const CustomParameter &parameter, const QString &value, bool inInches);
 
+/// A sentence for each option whose value stands in braces though the PPD has no own values of several parameters for
+/// it: no filter would see it. \param ppd may be null.
+QStringList bracedForNobody(ppd_file_t *ppd, const JobOptions &options);
+
 /// A job's options as they may be shown: passwords and passcodes in asterisks.
 JobOptions withoutSecrets(ppd_file_t *ppd, const JobOptions &options);
 /// The same for one value.

@@ -2,6 +2,7 @@
 // The objects of one job are changed here and nowhere else, so that they always agree.
 #include "job/Job.h"
 
+#include "job/CustomValues.h"
 #include "job/FilterOptions.h"
 #include "job/FilterRun.h"
 #include "job/LaidDownOptions.h"
@@ -64,6 +65,7 @@ void Job::clearOptions()
     mLaidDown = {};
     mTape = {};
     mChosen = {};
+    mLastChanged.clear();
 }
 
 void Job::describePrinter()
@@ -122,8 +124,8 @@ void Job::layDownPages()
 
 QStringList Job::notices() const
 {
-    QStringList notices =
-        unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen) + optionsWithoutEffect(mChosen, page());
+    QStringList notices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen) +
+                          bracedForNobody(ppd(), mOptions) + optionsWithoutEffect(mChosen, page());
     if (mDestination.isFile() && ppd() != nullptr) {
         notices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
     }
@@ -174,6 +176,9 @@ void Job::dropOption(const QString &key)
 
 void Job::record(const QString &key, const QString &choice)
 {
+    if (mOptions.value(key) != choice) {
+        mLastChanged = key;
+    }
     markChoice(ppd(), key, choice);
     mOptions.set(key, choice);
     if (key == OptionName::pageSize) {

@@ -69,6 +69,8 @@ public:
     bool takeChoice(const QString &key, const QString &choice);
     /// The person changes an option in the dialog itself: the paper follows, too.
     void changeOption(const QString &key, const QString &choice);
+    /// The option that was changed last; null when none was.
+    const QString &lastChanged() const { return mLastChanged; }
     /// The person takes a choice back: the job does not say anything of the option any more. For options of print
     /// servers and filters alone, which no panel hears of.
     void dropOption(const QString &key);
@@ -127,6 +129,7 @@ private:
     JobOptions mLaidDown;
     TapeKeywords mTape;
     JobOptions mChosen; ///< what was laid down, and what the person changed in the dialog since
+    QString mLastChanged;
     Snapshot mOpenedWith;
 };
 

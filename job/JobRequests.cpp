@@ -120,6 +120,20 @@ bool holdJob(const ServerConnection &server, int jobId, const QString &until)
     return isAccepted(response.get());
 }
 
+bool addBracedOptions(const ServerConnection &server, int jobId, const JobOptions &options)
+{
+    if (options.entries().empty()) {
+        return true;
+    }
+    ipp_t *request = aboutJob(IPP_OP_SET_JOB_ATTRIBUTES, jobId);
+    for (const auto &[name, value] : options.entries()) {
+        ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, name.toUtf8().constData(), nullptr,
+                     value.toUtf8().constData());
+    }
+    const Response response(cupsDoRequest(server.http(), request, "/jobs"));
+    return isAccepted(response.get());
+}
+
 std::optional<std::vector<int>> emptyJobs(const ServerConnection &server, const QString &queue, const QString &title)
 {
     static constexpr std::array attributes{"job-id", "job-name", "number-of-documents"};

@@ -2,6 +2,7 @@
 // What is asked of the print server about one job: how it is, that it may print, that it may not.
 #pragma once
 
+#include "job/JobOptions.h"
 #include "job/ServerConnection.h"
 
 #include <QString>
@@ -49,6 +50,10 @@ std::optional<JobStatus> readJob(const ServerConnection &server, const QString &
 
 /// Holds a job, or lets it go on. \param until when, as IPP's job-hold-until says it; "no-hold" for now.
 bool holdJob(const ServerConnection &server, int jobId, const QString &until);
+
+/// Gives a job options whose values stand in braces. Those of a new job are made collections on the way, which no
+/// filter ever sees; as names they arrive as they are. \return whether the server took them all.
+bool addBracedOptions(const ServerConnection &server, int jobId, const JobOptions &options);
 
 /// The person's own jobs of a title on a queue that wait for their first document; nothing when the server does not
 /// say.

@@ -109,7 +109,11 @@ private:
 
     bool create(Problem *error)
     {
-        JobOptions options = mSubmission.options;
+        JobOptions options;
+        JobOptions braced;
+        for (const auto &[name, value] : mSubmission.options.entries()) {
+            (value.startsWith(u'{') ? braced : options).set(name, value); // own values of several parameters
+        }
         if (mSubmission.files.size() > 1 && canBeHeld()) {
             mHoldUntil = options.contains(holdOption) ? options.value(holdOption) : queuesHold();
             options.remove(holdOption);
@@ -121,6 +125,11 @@ private:
         if (!isOk(created) || mJobId == 0) {
             *error = problem(notTaken());
             cancelWithoutNumber();
+            return false;
+        }
+        if (!addBracedOptions(*mServer, mJobId, braced)) {
+            *error = problem(notTaken());
+            abandon(error);
             return false;
         }
         // Held only now: a job whose number is lost on the way is not held for good.

@@ -153,6 +153,12 @@ private:
 
 } // namespace
 
+OfferedOption offeredOption(ppd_file_t *ppd, const QString &key)
+{
+    const ppd_option_t *option = findOption(ppd, key);
+    return option == nullptr ? OfferedOption() : offered(ppd, *option);
+}
+
 std::vector<OptionGroup> optionGroups(ppd_file_t *ppd, const QSet<QString> &shownElsewhere)
 {
     if (ppd == nullptr) {

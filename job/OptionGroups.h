@@ -39,6 +39,9 @@ struct OptionGroup {
     std::vector<OfferedOption> options;
 };
 
+/// One option with its choices; without any when the PPD lacks it. \param ppd may be null.
+OfferedOption offeredOption(ppd_file_t *ppd, const QString &key);
+
 /// The PPD's groups in its order. Options and choices of the same wording have their keyword added in brackets.
 /// \param ppd may be null: there are no groups. \param shownElsewhere keywords of options that others show.
 std::vector<OptionGroup> optionGroups(ppd_file_t *ppd, const QSet<QString> &shownElsewhere);

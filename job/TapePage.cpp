@@ -3,6 +3,8 @@
 // measured on the chain of pdftopdf and gstoraster and stand beside what they cause.
 #include "job/TapePage.h"
 
+#include "job/CustomSizes.h"
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -20,8 +22,6 @@ constexpr double pointsPerInch = 72.0;
 constexpr double mmPerInch = 25.4;
 /// A custom size is written in thousandths of a millimetre: an eightieth of a dot at 300 dots an inch.
 constexpr int customDecimals = 3;
-/// libcups keeps limits and sizes as floats, which may lie this far beside what a PPD says.
-constexpr double limitSlackPt = 0.01;
 
 std::span<const ppd_size_t> sizesOf(const ppd_file_t *ppd)
 {
@@ -46,30 +46,6 @@ double roundedMm(double points)
 {
     const double step = std::pow(10.0, customDecimals);
     return std::round(mmFromPoints(points) * step) / step;
-}
-
-QString shortNumber(double value)
-{
-    QString text = pdekit::fixedDecimals(value, customDecimals);
-    while (text.endsWith(u'0')) {
-        text.chop(1);
-    }
-    return text.endsWith(u'.') ? text.chopped(1) : text;
-}
-
-QString customName(const QSizeF &sizePt)
-{
-    return QStringLiteral("Custom.%1x%2mm")
-        .arg(shortNumber(roundedMm(sizePt.width())), shortNumber(roundedMm(sizePt.height())));
-}
-
-bool takesCustomSize(const ppd_file_t *ppd, const QSizeF &sizePt)
-{
-    const auto holds = [](double value, float least, float most) {
-        return value >= static_cast<double>(least) - limitSlackPt && value <= static_cast<double>(most) + limitSlackPt;
-    };
-    return ppd->variable_sizes != 0 && holds(sizePt.width(), ppd->custom_min[0], ppd->custom_max[0]) &&
-           holds(sizePt.height(), ppd->custom_min[1], ppd->custom_max[1]);
 }
 
 QSizeF wholeOf(const ppd_size_t &size)
@@ -177,7 +153,7 @@ void takeNamedSize(TapePage &page, const ppd_size_t &named, const ppd_size_t &pa
     }
     takePaper(page, named);
     page.length = isPapersOwn(lengthPt, named) ? PageLength::Chosen : PageLength::NamedForNear;
-    page.pageSize = customName(page.sizePt);
+    page.pageSize = customSizeName(page.sizePt);
 }
 
 void takeChosenLength(TapePage &page, const ppd_file_t *ppd, const ppd_size_t &paper, double lengthPt)
@@ -201,7 +177,7 @@ void takeChosenLength(TapePage &page, const ppd_file_t *ppd, const ppd_size_t &p
     page.sizePt = *taken;
     page.unprintablePt = customMargins(ppd);
     page.unprintablePt.setRight(page.unprintablePt.right() + taken->width() - wanted.width());
-    page.pageSize = customName(page.sizePt);
+    page.pageSize = customSizeName(page.sizePt);
 }
 
 } // namespace

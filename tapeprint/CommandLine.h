@@ -37,9 +37,10 @@ struct CommandLine {
     QString deletePreset;     ///< the preset of this name is deleted; empty: none is
     bool listPresets = false; ///< the names of the queue's presets are shown
 
-    bool check = false; ///< see whether the job would be printed
-    bool json = false;  ///< everything that is said is one JSON object
-    QString complete;   ///< what a shell asks for to complete a line; null: nothing
+    bool check = false;   ///< see whether the job would be printed
+    bool resolve = false; ///< options that do not go together are changed
+    bool json = false;    ///< everything that is said is one JSON object
+    QString complete;     ///< what a shell asks for to complete a line; null: nothing
 
     /// Whether presets are looked at or deleted, and nothing else is done.
     bool onlyManagesPresets() const { return listPresets || !deletePreset.isEmpty(); }

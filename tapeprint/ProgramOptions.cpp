@@ -72,12 +72,6 @@ bool takeOptions(CommandLine &line, const QString &value, Problem *error)
     for (const cups_option_t &option : parsed) {
         const QString name = QString::fromUtf8(option.name);
         const QString text = QString::fromUtf8(option.value);
-        // The print server drops collections without a word: the filter would never see them.
-        if (text.startsWith(u'{')) {
-            return refuse(error, QStringLiteral("The value of option %1 is in braces, which the print server drops: "
-                                                "give %1 a plain value.")
-                                     .arg(name));
-        }
         line.request.options.set(name, text);
     }
     return true;
@@ -214,6 +208,8 @@ constexpr std::array options{
                   "with --ppd: run programs and commands of its own that the PPD file names"},
     ProgramOption{"--fit-length", nullptr, ValueKind::None, raise<&CommandLine::fitLength>,
                   "make the tape as long as what is drawn on the document needs, with both margins"},
+    ProgramOption{"--resolve", nullptr, ValueKind::None, raise<&CommandLine::resolve>,
+                  "change options that do not go together, and say which"},
     ProgramOption{"--adjust", nullptr, ValueKind::None, raise<&CommandLine::adjusts>,
                   "print also when a value given is not taken as it is, with what takes its place"},
     ProgramOption{"--save-preset", "NAME", ValueKind::Text, takeSavePreset,

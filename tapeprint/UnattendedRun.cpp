@@ -4,6 +4,7 @@
 
 #include "dialog/GatheredAlerts.h"
 #include "dialog/Panels.h"
+#include "job/Conflicts.h"
 #include "job/CustomValues.h"
 #include "job/DocumentSpool.h"
 #include "job/LaidDownOptions.h"
@@ -17,6 +18,8 @@
 #include "tapeprint/JobWait.h"
 #include "tapeprint/JsonReport.h"
 #include "tapeprint/OutputPath.h"
+
+#include <QJsonArray>
 
 #include <atomic>
 
@@ -113,8 +116,9 @@ public:
 
     RunReport run()
     {
-        const bool isDone = open() && settle() && show() && (mLine.savePreset.isEmpty() || save()) &&
-                            (!mLine.check || check()) && (!mLine.submits() || print());
+        const bool isDone = open() && settle() && settleConflicts() && show() &&
+                            (mLine.savePreset.isEmpty() || save()) && (!mLine.check || check()) &&
+                            (!mLine.submits() || print());
         if (mIsOpen) { // however it ends, the panels hear of it
             addNotices();
             mPanels.windowWillClose(mIsPrinted);
@@ -153,6 +157,10 @@ private:
         mReport.data.insert(QStringLiteral("printer"), jsonPrinter(*destination));
         mPanels.open(std::move(*destination), request.options);
         mIsOpen = true;
+        if (const QStringList dropped = job::bracedForNobody(mJob.ppd(), mJob.options()); !dropped.isEmpty()) {
+            mProblem = {job::Problem::BadUsage, dropped.join(u' ')};
+            return false;
+        }
         return !fitsLength || fitLength(mJob, mDocuments->files(), mReport.messages, &mProblem);
     }
 
@@ -167,6 +175,36 @@ private:
             return false;
         }
         return true;
+    }
+
+    /// Names the options that do not go together, and resolves them when that is asked for.
+    bool settleConflicts()
+    {
+        QStringList sentences = job::sentencesOf(job::conflictsOf(mJob.ppd()));
+        if (sentences.isEmpty()) {
+            return true;
+        }
+        mReport.data.insert(QStringLiteral("conflicts"), QJsonArray::fromStringList(sentences));
+        const std::optional<job::Resolution> resolution =
+            mLine.resolve ? job::resolutionOf(mJob.ppd(), mJob.lastChanged()) : std::nullopt;
+        if (resolution) {
+            mPanels.apply(*resolution);
+            if (!mPanels.saveValues(&mProblem)) {
+                return false;
+            }
+            mReport.messages += sentences + QStringList{resolution->sentence()};
+            sentences = job::sentencesOf(job::conflictsOf(mJob.ppd())); // a panel may hold on to its own value
+        } else if (mLine.onlyShows()) {
+            mReport.messages += sentences;
+            return true;
+        }
+        if (sentences.isEmpty()) {
+            return true;
+        }
+        sentences.append(mLine.resolve ? QStringLiteral("There is no way out of it: choose others with -o.")
+                                       : QStringLiteral("Choose others with -o, or let --resolve change them."));
+        mProblem = {job::Problem::Conflict, sentences.join(u' ')};
+        return false;
     }
 
     bool show()

@@ -175,7 +175,7 @@ TEST_F(Program, BadInput_IsOneLineAndTheStatusOfItsKind)
     expectFailure(testsupport::badDocument, {u"--no-dialog"_qs, u"--ppd"_qs, ppd}, "Standard input is empty");
     expectFailure(testsupport::unreachable, {u"--no-dialog"_qs, u"-d"_qs, u"tape"_qs, document}, "does not answer");
     expectFailure(testsupport::unreachable, {u"--no-dialog"_qs, document}, "does not answer");
-    expectFailure(testsupport::badUsage, {u"-o"_qs, u"a={b=c}"_qs, document}, "braces");
+    expectFailure(testsupport::badUsage, {u"-o"_qs, u"a={b=c}"_qs, u"--ppd"_qs, ppd, u"--show-options"_qs}, "braces");
     expectFailure(testsupport::badUsage, {u"--unknown"_qs}, "--unknown is no option");
 }
 

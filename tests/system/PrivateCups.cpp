@@ -177,9 +177,9 @@ QString PrivateCups::recordingFilter()
                      filled(recordingScript, mFolder.path(QStringLiteral("record")), labelFilter), 0755);
 }
 
-QString PrivateCups::addRecordedQueue(const QString &name, const QString &description)
+QString PrivateCups::addRecordedQueue(const QString &name, const QString &description, const QByteArray &more)
 {
-    return addFilteredQueue(name, description, recordingFilter());
+    return addFilteredQueue(name, description, recordingFilter(), more);
 }
 
 QString PrivateCups::addScriptedQueue(const QString &name, const QString &description, const QByteArray &script)
@@ -189,7 +189,8 @@ QString PrivateCups::addScriptedQueue(const QString &name, const QString &descri
                             writeFile(folder + u'/' + name + QLatin1String("-filter"), "#!/bin/sh\n" + script, 0755));
 }
 
-QString PrivateCups::addFilteredQueue(const QString &name, const QString &description, const QString &filter)
+QString PrivateCups::addFilteredQueue(const QString &name, const QString &description, const QString &filter,
+                                      const QByteArray &more)
 {
     QByteArray ppd = contentsOf(describedBy(description));
     const QByteArray shipped = " rastertolabel\"";
@@ -197,7 +198,7 @@ QString PrivateCups::addFilteredQueue(const QString &name, const QString &descri
         return QStringLiteral("The description %1 does not name the filter rastertolabel once.").arg(description);
     }
     ppd.replace(shipped, " " + QFile::encodeName(filter) + '"');
-    return addQueue(name, writeFile(mFolder.path(name + QLatin1String(".ppd")), ppd));
+    return addQueue(name, writeFile(mFolder.path(name + QLatin1String(".ppd")), ppd + more));
 }
 
 QString PrivateCups::addPlainQueue(const QString &name, const QString &description)

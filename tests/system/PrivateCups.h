@@ -56,7 +56,8 @@ public:
 
     /// A queue of one of our descriptions, "mm" for tapeprint-mm.ppd, whose filter is recorded and then run.
     /// \return null, or what lpadmin says.
-    QString addRecordedQueue(const QString &name, const QString &description);
+    /// \param more lines added to the description.
+    QString addRecordedQueue(const QString &name, const QString &description, const QByteArray &more = {});
     /// A queue whose printer's filter is a shell script of the test's own.
     QString addScriptedQueue(const QString &name, const QString &description, const QByteArray &script);
     /// A queue of the description as it is shipped.
@@ -82,7 +83,8 @@ private:
     QString addQueue(const QString &name, const QString &ppdPath);
     QString outputPath(const QString &queue) const { return mFolder.path(QStringLiteral("out/%1.prn").arg(queue)); }
     QString recordingFilter();
-    QString addFilteredQueue(const QString &name, const QString &description, const QString &filter);
+    QString addFilteredQueue(const QString &name, const QString &description, const QString &filter,
+                             const QByteArray &more = {});
 
     PrivateFolder mFolder;
     QByteArray mMoreConfiguration;

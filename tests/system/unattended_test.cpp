@@ -7,6 +7,8 @@
 
 #include <cmath>
 
+#include <cups/cups.h>
+
 namespace
 {
 
@@ -45,6 +47,29 @@ TEST_F(UnattendedJob, UntouchedPanel_EveryKeywordReachesTheFilterAndALabelThePri
     EXPECT_EQ(labels[0].bytesPerRow, 34);
     expectDots(labels[0].rows, 100.0, 300.0);
     EXPECT_EQ(labels[0].copies, 1);
+}
+
+TEST_F(UnattendedJob, OwnValueOfSeveralParameters_ArrivesAsItWasGiven)
+{
+    ASSERT_TRUE(cups.addRecordedQueue(u"stamping"_qs, u"mm"_qs,
+                                      "*OpenUI *Stamp/Stamp: PickOne\n*OrderDependency: 20 AnySetup *Stamp\n"
+                                      "*DefaultStamp: None\n*Stamp None/None: \"\"\n*CloseUI: *Stamp\n"
+                                      "*CustomStamp True: \"\"\n*ParamCustomStamp Words/Words: 1 string 0 40\n"
+                                      "*ParamCustomStamp Gray/Gray: 2 real 0 1\n")
+                    .isNull());
+    const std::vector<FilterCall> calls = filterCallsOf(tapeprint(
+        {u"-d"_qs, u"stamping"_qs, u"-o"_qs, u"Stamp={Words=\"it's, it\" Gray=0.5}"_qs, u"--no-dialog"_qs, document}));
+    ASSERT_EQ(calls.size(), 1U);
+    // Read as filters read it: the words of the line, and then those in the braces.
+    cups_option_t *options = nullptr;
+    int count = cupsParseOptions(calls[0].options().constData(), 0, &options);
+    const QByteArray value(cupsGetOption("Stamp", count, options));
+    cupsFreeOptions(count, options);
+    options = nullptr;
+    count = cupsParseOptions(value.constData(), 0, &options);
+    EXPECT_STREQ(cupsGetOption("Words", count, options), "it's, it") << value.toStdString();
+    EXPECT_STREQ(cupsGetOption("Gray", count, options), "0.5");
+    cupsFreeOptions(count, options);
 }
 
 TEST_F(UnattendedJob, ShippedDescription_TheServersLogShowsTheSameOptions)
