@@ -25,6 +25,21 @@ namespace tapeprint::job
 namespace
 {
 
+/// Whether a server that took the connection also speaks. Looking for a queue, libcups connects again and again to one
+/// that does not, and each time may take it half a minute.
+bool saysAnything(const ServerConnection &server)
+{
+    httpClearFields(server.http());
+    if (httpOptions(server.http(), "*") != 0) {
+        return false;
+    }
+    http_status_t status = HTTP_STATUS_CONTINUE;
+    while (status == HTTP_STATUS_CONTINUE) {
+        status = httpUpdate(server.http());
+    }
+    return status != HTTP_STATUS_ERROR; // a refusal is an answer as well
+}
+
 struct DestinationDeleter {
     void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
 };
@@ -132,8 +147,9 @@ std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueN
 {
     const QString &name = wanted.queue;
     const QString &instance = wanted.instance;
-    if (!server.isOpen()) {
-        *error = serverProblem(server);
+    if (!server.isOpen() || !saysAnything(server)) {
+        *error = {server.isStopped() ? Problem::Cancelled : Problem::Unreachable,
+                  server.isStopped() ? QString() : ServerConnection::noAnswer()};
         return std::nullopt;
     }
     const QByteArray nameBytes = name.toUtf8();

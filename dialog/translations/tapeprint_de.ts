@@ -3,12 +3,225 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>tapeprint::dialog::LayoutPage</name>
+    <name>tapeprint::dialog::AmountLabel</name>
     <message>
-        <source>Size:</source>
-        <comment>of a page on the tape</comment>
-        <translation>Größe:</translation>
+        <source>No page is chosen</source>
+        <translation>Keine Seite gewählt</translation>
     </message>
+    <message>
+        <source>Counting…</source>
+        <translation>Wird gezählt …</translation>
+    </message>
+    <message>
+        <source>Amount not known</source>
+        <translation>Menge unbekannt</translation>
+    </message>
+    <message>
+        <source>This is an unusual amount: %1.</source>
+        <translation>Das ist eine ungewöhnliche Menge: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Label(s)</source>
+        <translation>
+            <numerusform>%Ln Etikett drucken</numerusform>
+            <numerusform>%Ln Etiketten drucken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Sheet(s)</source>
+        <translation>
+            <numerusform>%Ln Blatt drucken</numerusform>
+            <numerusform>%Ln Blätter drucken</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ChoiceModel</name>
+    <message>
+        <source>Custom…</source>
+        <comment>a choice that opens fields for a value of one&apos;s own</comment>
+        <translation>Eigener Wert …</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ConflictNotice</name>
+    <message>
+        <source>Re&amp;solve</source>
+        <translation>Lö&amp;sen</translation>
+    </message>
+    <message>
+        <source>Resolve: %1</source>
+        <comment>the button, and what it changes</comment>
+        <translation>Lösen: %1</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>Wählen Sie für eines davon etwas anderes.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomFields</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of a value</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a value, and what is wrong with it</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomSizeSheet</name>
+    <message>
+        <source>Custom Size</source>
+        <translation>Eigene Größe</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>Neue Größe</translation>
+    </message>
+    <message>
+        <source>Remem&amp;bered:</source>
+        <comment>page sizes with names</comment>
+        <translation>&amp;Gemerkt:</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>To remember it</source>
+        <translation>Zum Merken</translation>
+    </message>
+    <message>
+        <source>N&amp;ame:</source>
+        <translation>N&amp;ame:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobPage</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titel:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Write pages as 1-3,7</source>
+        <translation>Seiten so schreiben: 1-3,7</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Seiten:</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Ungerade und gerade</translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <translation>Nur ungerade</translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <translation>Nur gerade</translation>
+    </message>
+    <message>
+        <source>Of these:</source>
+        <comment>of the chosen pages, the odd and even ones</comment>
+        <translation>Davon:</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Letzte Seite zuerst</translation>
+    </message>
+    <message>
+        <source>Copies one after the other</source>
+        <translation>Exemplare nacheinander</translation>
+    </message>
+    <message>
+        <source>1, 2, 3, 1, 2, 3 in place of 1, 1, 2, 2, 3, 3</source>
+        <translation>1, 2, 3, 1, 2, 3 statt 1, 1, 2, 2, 3, 3</translation>
+    </message>
+    <message>
+        <source>1 is the lowest, 100 the highest</source>
+        <translation>1 ist die niedrigste, 100 die höchste</translation>
+    </message>
+    <message>
+        <source>Priority:</source>
+        <translation>Priorität:</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>Nach Freigabe</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Tagsüber</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Abends</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Nachts</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>In der zweiten Schicht</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>In der dritten Schicht</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Am Wochenende</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>Zu einer Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Time of printing</source>
+        <translation>Uhrzeit des Drucks</translation>
+    </message>
+    <message>
+        <source>Print it:</source>
+        <comment>when the job is printed</comment>
+        <translation>Drucken:</translation>
+    </message>
+    <message>
+        <source>Billing:</source>
+        <translation>Abrechnung:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobRow</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>The job goes on without this window</source>
+        <translation>Der Auftrag läuft ohne dieses Fenster weiter</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::LayoutPage</name>
     <message>
         <source>Shrink when too large</source>
         <translation>Verkleinern, wenn zu groß</translation>
@@ -24,11 +237,6 @@
     <message>
         <source>Original size</source>
         <translation>Originalgröße</translation>
-    </message>
-    <message>
-        <source>Direction:</source>
-        <comment>in which a page lies on the tape</comment>
-        <translation>Richtung:</translation>
     </message>
     <message>
         <source>Longer side along the tape</source>
@@ -80,6 +288,102 @@
         <source>Bottom</source>
         <translation>Unten</translation>
     </message>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape or paper</comment>
+        <translation>Größe:</translation>
+    </message>
+    <message>
+        <source>Fit to the paper</source>
+        <translation>An das Papier anpassen</translation>
+    </message>
+    <message>
+        <source>Fill the paper, cut off the rest</source>
+        <translation>Papier füllen, Rest abschneiden</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape or paper</comment>
+        <translation>Richtung:</translation>
+    </message>
+    <message>
+        <source>As it fits best</source>
+        <translation>Wie es am besten passt</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Turned to the left</source>
+        <translation>Nach links gedreht</translation>
+    </message>
+    <message>
+        <source>Turned to the right</source>
+        <translation>Nach rechts gedreht</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>Kopfstehend</translation>
+    </message>
+    <message>
+        <source>Pages on a label:</source>
+        <translation>Seiten je Etikett:</translation>
+    </message>
+    <message>
+        <source>Pages on a sheet:</source>
+        <translation>Seiten je Blatt:</translation>
+    </message>
+    <message>
+        <source>Their order:</source>
+        <comment>of the pages on a label or sheet</comment>
+        <translation>Reihenfolge:</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>Von links nach rechts, dann abwärts</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>Von rechts nach links, dann abwärts</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Abwärts, dann von links nach rechts</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Abwärts, dann von rechts nach links</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <comment>around each of several pages on a sheet</comment>
+        <translation>Rahmen:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no frame</comment>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>Single line</source>
+        <translation>Einfache Linie</translation>
+    </message>
+    <message>
+        <source>Double line</source>
+        <translation>Doppelte Linie</translation>
+    </message>
+    <message>
+        <source>This is about several pages on one</source>
+        <translation>Gilt für mehrere Seiten auf einem Blatt oder Etikett</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::NoticesArea</name>
+    <message>
+        <source>Notices</source>
+        <translation>Hinweise</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::OptionsPage</name>
@@ -87,6 +391,10 @@
         <source>%1:</source>
         <comment>name of an option</comment>
         <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Installed in the printer</source>
+        <translation>Im Drucker eingebaut</translation>
     </message>
 </context>
 <context>
@@ -106,6 +414,150 @@
     <message>
         <source>The panel &quot;%1&quot; could not restore its values: %2</source>
         <translation>Der Bereich „%1“ konnte seine Werte nicht wiederherstellen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PaperMenu</name>
+    <message>
+        <source>%1 × %2</source>
+        <comment>width and height of a page</comment>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description names no paper.</source>
+        <translation>Die Beschreibung des Druckers nennt kein Papier.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a size&apos;s name and its measures</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>opens a sheet for a page size of one&apos;s own</comment>
+        <translation>Eigener Wert …</translation>
+    </message>
+    <message>
+        <source>Custom (%1)</source>
+        <comment>a page size of one&apos;s own</comment>
+        <translation>Eigene (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints.</source>
+        <translation>Der Druckserver %1 möchte wissen, wer druckt.</translation>
+    </message>
+    <message>
+        <source>That was not accepted.</source>
+        <translation>Das wurde nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>Ben&amp;utzer:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetNameDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation>Die Voreinstellung %1 wird ersetzt.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>Eine Voreinstellung %1 gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Take &quot;%1&quot;</source>
+        <translation>„%1“ nehmen</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetRow</name>
+    <message>
+        <source>Printer&apos;s Defaults</source>
+        <translation>Vorgaben des Druckers</translation>
+    </message>
+    <message>
+        <source>As Last Time</source>
+        <translation>Wie zuletzt</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation>&amp;Voreinstellung:</translation>
+    </message>
+    <message>
+        <source>Save, rename or delete presets</source>
+        <translation>Voreinstellungen speichern, umbenennen oder löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Save as…</source>
+        <translation>&amp;Speichern unter …</translation>
+    </message>
+    <message>
+        <source>Save &amp;over</source>
+        <translation>&amp;Überschreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Umbenennen …</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Löschen …</translation>
+    </message>
+    <message>
+        <source>&amp;Make default</source>
+        <translation>Als Standar&amp;d festlegen</translation>
+    </message>
+    <message>
+        <source>Print with it when no printer is named</source>
+        <translation>Damit drucken, wenn kein Drucker genannt ist</translation>
+    </message>
+    <message>
+        <source>Presets are kept for a print queue, and here is none.</source>
+        <translation>Voreinstellungen gehören zu einer Warteschlange, und hier ist keine.</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (geändert)</translation>
+    </message>
+    <message>
+        <source>There is no preset %1 any more.</source>
+        <translation>Die Voreinstellung %1 gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>Voreinstellung speichern</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Voreinstellung umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Voreinstellung löschen</translation>
+    </message>
+    <message>
+        <source>Delete the preset %1? Other programs have it, too, and will lose it.</source>
+        <translation>Die Voreinstellung %1 löschen? Andere Programme haben sie auch und verlieren sie.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>
@@ -182,10 +634,6 @@
         <translation>&amp;Kopien:</translation>
     </message>
     <message>
-        <source>Pa&amp;nel:</source>
-        <translation>Be&amp;reich:</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>Übersicht</translation>
     </message>
@@ -204,14 +652,6 @@
     <message>
         <source>&amp;Print</source>
         <translation>Dr&amp;ucken</translation>
-    </message>
-    <message>
-        <source>%1 (no print queue)</source>
-        <translation>%1 (keine Druckerwarteschlange)</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>This panel has no view.</source>
@@ -238,14 +678,6 @@
         <translation>&amp;Angepasst halten</translation>
     </message>
     <message>
-        <source>Printing</source>
-        <translation>Druckvorgang</translation>
-    </message>
-    <message>
-        <source>Printing…</source>
-        <translation>Wird gedruckt …</translation>
-    </message>
-    <message>
         <source>Layout</source>
         <translation>Anordnung</translation>
     </message>
@@ -258,8 +690,237 @@
         <translation>Das Dokument braucht mehr Band, als der Drucker nimmt: Es wird verkleinert.</translation>
     </message>
     <message>
-        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
-        <translation>Die Bandlänge wurde von Hand auf %1 mm gesetzt. Durch die passende Länge ersetzen?</translation>
+        <source>Printer Options</source>
+        <translation>Druckeroptionen</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Command…</source>
+        <translation>Befehl an&amp;zeigen …</translation>
+    </message>
+    <message>
+        <source>The same job as a command for a shell</source>
+        <translation>Derselbe Auftrag als Befehl für die Shell</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>Wählen Sie für eines davon etwas anderes.</translation>
+    </message>
+    <message>
+        <source>Change and &amp;Print</source>
+        <translation>Ändern und &amp;drucken</translation>
+    </message>
+    <message>
+        <source>Print All the &amp;Same</source>
+        <translation>Trotzdem dru&amp;cken</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 by hand. Replace it by the length that fits?</source>
+        <translation>Die Bandlänge wurde von Hand auf %1 gesetzt. Durch die passende Länge ersetzen?</translation>
+    </message>
+    <message>
+        <source>Setti&amp;ngs:</source>
+        <comment>which page of them</comment>
+        <translation>Ei&amp;nstellungen:</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>Der Auftrag wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>The printer is still being connected.</source>
+        <translation>Der Drucker wird noch verbunden.</translation>
+    </message>
+    <message>
+        <source>Choose a printer first.</source>
+        <translation>Wählen Sie zuerst einen Drucker.</translation>
+    </message>
+    <message>
+        <source>The printer offers no choice here.</source>
+        <translation>Der Drucker lässt hier keine Wahl.</translation>
+    </message>
+    <message>
+        <source>Not available with this printer, this tape or the other settings.</source>
+        <translation>Mit diesem Drucker, diesem Band oder den anderen Einstellungen nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>&amp;Load Anew</source>
+        <translation>Neu &amp;laden</translation>
+    </message>
+    <message>
+        <source>Print %1 – connecting…</source>
+        <translation>%1 drucken – wird verbunden …</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Wird verbunden …</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Drucker wählen</translation>
+    </message>
+    <message>
+        <source>The printer is not there any more.</source>
+        <translation>Der Drucker ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintRun</name>
+    <message>
+        <source>Printing…</source>
+        <translation>Wird gedruckt …</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Wird abgebrochen …</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <translation>Wird gesendet …</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterDesk</name>
+    <message>
+        <source>The print server does not answer. Its printers come back when it does.</source>
+        <translation>Der Druckserver antwortet nicht. Seine Drucker kommen wieder, wenn er es tut.</translation>
+    </message>
+    <message>
+        <source>There is no default printer. Choose a printer.</source>
+        <translation>Es gibt keinen Standarddrucker. Wählen Sie einen Drucker.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is not there any more. Choose another, or wait until it is back: what you have set is kept.</source>
+        <translation>Der Drucker %1 ist nicht mehr da. Wählen Sie einen anderen oder warten Sie, bis er zurück ist. Ihre Einstellungen bleiben.</translation>
+    </message>
+    <message>
+        <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
+        <translation>Die Beschreibung des Druckers %1 hat sich auf dem Druckserver geändert. Laden Sie sie vor dem Drucken neu.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterModel</name>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (keine Warteschlange)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (Standard)</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>nicht mehr da</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Standort: %1</translation>
+    </message>
+    <message>
+        <source>A class: whichever of its printers is free prints the job.</source>
+        <translation>Eine Klasse: Der Auftrag geht an einen ihrer Drucker, der frei ist.</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Im Netzwerk gefunden</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a printer and its state</comment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterPopUp</name>
+    <message>
+        <source>Search by name, description or location</source>
+        <translation>Suche nach Name, Beschreibung oder Standort</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>Drucker suchen</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Drucker</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SaveButton</name>
+    <message>
+        <source>labels</source>
+        <comment>the name of a file</comment>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save the job in a file in place of printing it</source>
+        <translation>Den Auftrag in einer Datei speichern, statt ihn zu drucken</translation>
+    </message>
+    <message>
+        <source>Save as &amp;PDF…</source>
+        <translation>Als &amp;PDF speichern …</translation>
+    </message>
+    <message>
+        <source>Save Printer &amp;Data…</source>
+        <translation>Drucker&amp;daten speichern …</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>Save Printer Data</source>
+        <translation>Druckerdaten speichern</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF-Dokumente (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Printer data (*.prn)</source>
+        <translation>Druckerdaten (*.prn)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ShowCommand</name>
+    <message>
+        <source>Commands for a Shell</source>
+        <translation>Befehle für die Shell</translation>
+    </message>
+    <message>
+        <source>The same job by &amp;tapeprint:</source>
+        <translation>Derselbe Auftrag mit &amp;tapeprint:</translation>
+    </message>
+    <message>
+        <source>The same options by &amp;lp, which lays nothing out:</source>
+        <translation>Dieselben Optionen mit &amp;lp, das nichts anordnet:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the command of %1</source>
+        <translation>Den Befehl von %1 kopieren</translation>
     </message>
 </context>
 <context>
@@ -287,6 +948,33 @@
         <source>%1; part of the page is cut off</source>
         <comment>length and width</comment>
         <translation>%1; ein Teil der Seite wird abgeschnitten</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::UnitButton</name>
+    <message>
+        <source>The unit of the lengths shown here</source>
+        <translation>Die Einheit der Längen, die hier stehen</translation>
+    </message>
+    <message>
+        <source>&amp;Millimetres</source>
+        <translation>&amp;Millimeter</translation>
+    </message>
+    <message>
+        <source>&amp;Inches</source>
+        <translation>&amp;Zoll</translation>
+    </message>
+    <message>
+        <source>Unit of length</source>
+        <translation>Längeneinheit</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimeter</translation>
     </message>
 </context>
 <context>
@@ -552,11 +1240,6 @@
         <translation>Der Bereich „%1“ bietet %2=%3 nicht an, obwohl der Drucker es hat. Der Auftrag enthält %4=%5.</translation>
     </message>
     <message>
-        <source>%1 in</source>
-        <comment>a length in inches</comment>
-        <translation>%1 Zoll</translation>
-    </message>
-    <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
         <translation>Das Dokument %1 ist nicht mehr da: Es wurde nichts gedruckt. Legen Sie es zurück, oder öffnen Sie ein anderes.</translation>
     </message>
@@ -639,6 +1322,424 @@
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
         <translation>Die PPD-Datei %1 ist abgeschnitten: Ihr Ende fehlt. Kopieren Sie sie neu.</translation>
+    </message>
+    <message>
+        <source>The chosen pages cannot be put together (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>Die gewählten Seiten lassen sich nicht zusammenstellen (%1). Prüfen Sie, ob das Dokument heil ist und Platz für temporäre Dateien da ist.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>an option and its choice</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; becomes &quot;%2&quot;.</source>
+        <translation>„%1“ wird „%2“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; changes from &quot;%2&quot; to &quot;%3&quot;.</source>
+        <translation>„%1“ wechselt von „%2“ zu „%3“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not go with &quot;%2&quot;.</source>
+        <translation>„%1“ passt nicht zu „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 do not go together.</source>
+        <translation>%1 passen nicht zusammen.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <comment>of a page</comment>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <comment>of a page</comment>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>The sizes are not remembered, because %1 cannot be written.</source>
+        <translation>Die Größen werden nicht gemerkt, weil %1 nicht geschrieben werden kann.</translation>
+    </message>
+    <message>
+        <source>Leave out single braces and characters that cannot be seen.</source>
+        <translation>Einzelne geschweifte Klammern und unsichtbare Zeichen weglassen.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 characters.</source>
+        <translation>%1 bis %2 Zeichen angeben.</translation>
+    </message>
+    <message>
+        <source>Give %1 characters or more.</source>
+        <translation>Mindestens %1 Zeichen angeben.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 digits.</source>
+        <translation>%1 bis %2 Ziffern angeben.</translation>
+    </message>
+    <message>
+        <source>Give %1 digits or more.</source>
+        <translation>Mindestens %1 Ziffern angeben.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 in.</source>
+        <translation>Eine Länge von %1 bis %2 Zoll angeben.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 mm.</source>
+        <translation>Eine Länge von %1 bis %2 mm angeben.</translation>
+    </message>
+    <message>
+        <source>Give a whole number from %1 to %2.</source>
+        <translation>Eine ganze Zahl von %1 bis %2 angeben.</translation>
+    </message>
+    <message>
+        <source>Give a number from %1 to %2.</source>
+        <translation>Eine Zahl von %1 bis %2 angeben.</translation>
+    </message>
+    <message>
+        <source>The value of option %1 is in braces, which the print server drops: give %1 a plain value.</source>
+        <translation>Der Wert der Option %1 steht in geschweiften Klammern, die der Druckserver weglässt. Geben Sie %1 einen einfachen Wert.</translation>
+    </message>
+    <message>
+        <source>number-up=%1 is none of the numbers that the print system knows: each page has a sheet of its own.</source>
+        <translation>number-up=%1 kennt das Drucksystem nicht: Jede Seite kommt auf ein eigenes Blatt.</translation>
+    </message>
+    <message>
+        <source>Option %1 changes nothing on tape: say how pages lie on it by print-scaling, orientation-requested, position and number-up.</source>
+        <translation>Die Option %1 ändert auf Band nichts. Wie Seiten darauf liegen, sagen print-scaling, orientation-requested, position und number-up.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>the print server does not say why</source>
+        <translation>der Druckserver sagt nicht, warum</translation>
+    </message>
+    <message>
+        <source>The print server tells no more of job %1.</source>
+        <translation>Der Druckserver sagt nichts mehr zum Auftrag %1.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2.</source>
+        <translation>Der Auftrag %1 ist fehlgeschlagen: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
+        <translation>Der Auftrag %1 ist fehlgeschlagen: %2. Er bleibt in der Warteschlange. Abbrechen mit: cancel %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>Der Auftrag %1 wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printed.</source>
+        <translation>Der Auftrag %1 ist gedruckt.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held: it waits until it is released.</source>
+        <translation>Der Auftrag %1 wird zurückgehalten, bis er freigegeben wird.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits: %2.</source>
+        <translation>Der Auftrag %1 wartet: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 is being printed.</source>
+        <translation>Der Auftrag %1 wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits behind others: %2.</source>
+        <translation>Der Auftrag %1 wartet hinter anderen: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for the printer.</source>
+        <translation>Der Auftrag %1 wartet auf den Drucker.</translation>
+    </message>
+    <message>
+        <source>What became of job %1 is not known.</source>
+        <translation>Was aus dem Auftrag %1 wurde, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Job %1 cannot be cancelled (%2).</source>
+        <translation>Der Auftrag %1 lässt sich nicht abbrechen (%2).</translation>
+    </message>
+    <message>
+        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
+        <translation>Der Auftrag %1 liegt vielleicht halb gesendet auf dem Server. Abbrechen mit: cancel %2-%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
+        <translation>Die Einstellungen lassen sich nicht fürs nächste Mal merken: %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be read (%2).</source>
+        <translation>Die Datei mit Ihren Voreinstellungen, %1, kann nicht gelesen werden (%2).</translation>
+    </message>
+    <message>
+        <source>These are more options than CUPS keeps in a preset.</source>
+        <translation>Das sind mehr Optionen, als CUPS in einer Voreinstellung behält.</translation>
+    </message>
+    <message>
+        <source>An option has a value that CUPS cannot keep in a preset.</source>
+        <translation>Eine Option hat einen Wert, den CUPS in keiner Voreinstellung behalten kann.</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be written (%2): it stays as it was.</source>
+        <translation>Die Datei mit Ihren Voreinstellungen, %1, kann nicht geschrieben werden (%2). Sie bleibt, wie sie war.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a text and the keyword that tells it from another of the same wording</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <comment>options that the printer&apos;s description puts in no group</comment>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a group of options and a group within it</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is too large for one: name a PPD file.</source>
+        <translation>Die Datei %1 ist zu groß für eine PPD-Datei. Nennen Sie eine PPD-Datei.</translation>
+    </message>
+    <message>
+        <source>%1 has no preset %2 of yours.</source>
+        <translation>%1 hat keine Voreinstellung %2 von Ihnen.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>Eine Voreinstellung %1 gibt es schon.</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Eine Voreinstellung braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>CUPS cannot keep a preset whose name has blanks, slashes, quotes or one of # &lt; &gt;.</source>
+        <translation>CUPS kann keine Voreinstellung behalten, deren Name Leerzeichen, Schrägstriche, Anführungszeichen oder eines von # &lt; &gt; enthält.</translation>
+    </message>
+    <message>
+        <source>This name is longer than CUPS can keep.</source>
+        <translation>Dieser Name ist länger, als CUPS behalten kann.</translation>
+    </message>
+    <message>
+        <source>The preset&apos;s option %1=%2 is none of this printer&apos;s any more. The preset keeps it until you save over it.</source>
+        <translation>Die Option %1=%2 der Voreinstellung hat dieser Drucker nicht mehr. Die Voreinstellung behält sie, bis Sie sie überschreiben.</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <comment>state of a printer</comment>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a state and its reasons</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs.</source>
+        <translation>Der Drucker %1 nimmt keine Aufträge an.</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs: %2.</source>
+        <translation>Der Drucker %1 nimmt keine Aufträge an: %2.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped. A job waits until it goes on.</source>
+        <translation>Der Drucker %1 ist angehalten. Ein Auftrag wartet, bis es weitergeht.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped: %2. A job waits until it goes on.</source>
+        <translation>Der Drucker %1 ist angehalten: %2. Ein Auftrag wartet, bis es weitergeht.</translation>
+    </message>
+    <message>
+        <source>The printer %1 says: %2.</source>
+        <translation>Der Drucker %1 meldet: %2.</translation>
+    </message>
+    <message>
+        <source>The queue %1 has no printer description by which bytes for the printer could be made: save a PDF instead.</source>
+        <translation>Die Warteschlange %1 hat keine Druckerbeschreibung, mit der sich Druckerdaten erzeugen ließen. Speichern Sie stattdessen eine PDF-Datei.</translation>
+    </message>
+    <message>
+        <source>The PDF is in %1 (%2 bytes).</source>
+        <translation>Die PDF-Datei ist %1 (%2 Byte).</translation>
+    </message>
+    <message>
+        <source>The queue %1 takes no jobs: see lpstat -a %1.</source>
+        <translation>Die Warteschlange %1 nimmt keine Aufträge an. Näheres zeigt „lpstat -a %1“.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no size: write it as Custom.WIDTHxLENGTHmm, or with in, cm or pt.</source>
+        <translation>%1=%2 ist keine Größe. Schreiben Sie Custom.BREITExLÄNGEmm oder mit in, cm oder pt.</translation>
+    </message>
+    <message>
+        <source>%1=%2: the printer takes no sizes other than those that it has.</source>
+        <translation>%1=%2: Der Drucker nimmt keine anderen Größen als seine eigenen.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is smaller or larger than the printer can take.</source>
+        <translation>%1=%2 ist kleiner oder größer, als der Drucker es nehmen kann.</translation>
+    </message>
+    <message>
+        <source>%1=%2: %3</source>
+        <translation>%1=%2: %3</translation>
+    </message>
+    <message>
+        <source>media=%1 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>media=%1 gehört nicht zu den Werten, die die PPD-Datei des Druckers aufführt.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no value that CUPS knows for %1.</source>
+        <translation>%1=%2: Diesen Wert kennt CUPS für %1 nicht.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user&apos;s name and password, and was given none that it accepts.</source>
+        <translation>Der Druckserver %1 verlangt Benutzernamen und Passwort und bekam keine, die er annimmt.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has stopped answering: try again when it is back.</source>
+        <translation>Der Druckserver %1 antwortet nicht mehr. Versuchen Sie es wieder, wenn er zurück ist.</translation>
+    </message>
+    <message>
+        <source>out of tape</source>
+        <translation>kein Band mehr</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>kein Papier mehr</translation>
+    </message>
+    <message>
+        <source>other tape is needed</source>
+        <translation>anderes Band nötig</translation>
+    </message>
+    <message>
+        <source>other paper is needed</source>
+        <translation>anderes Papier nötig</translation>
+    </message>
+    <message>
+        <source>little tape is left</source>
+        <translation>wenig Band übrig</translation>
+    </message>
+    <message>
+        <source>little paper is left</source>
+        <translation>wenig Papier übrig</translation>
+    </message>
+    <message>
+        <source>the tape is jammed</source>
+        <translation>Bandstau</translation>
+    </message>
+    <message>
+        <source>the paper is jammed</source>
+        <translation>Papierstau</translation>
+    </message>
+    <message>
+        <source>the cover is open</source>
+        <translation>die Klappe ist offen</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>eine Tür ist offen</translation>
+    </message>
+    <message>
+        <source>no cassette is in it</source>
+        <translation>keine Kassette eingelegt</translation>
+    </message>
+    <message>
+        <source>the paper tray is missing</source>
+        <translation>das Papierfach fehlt</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>das Ausgabefach ist voll</translation>
+    </message>
+    <message>
+        <source>little ink is left</source>
+        <translation>wenig Tinte übrig</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>keine Tinte mehr</translation>
+    </message>
+    <message>
+        <source>little toner is left</source>
+        <translation>wenig Toner übrig</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>kein Toner mehr</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>paused after this job</source>
+        <translation>nach diesem Auftrag angehalten</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>neue Aufträge werden zurückgehalten</translation>
+    </message>
+    <message>
+        <source>switched off or not connected</source>
+        <translation>ausgeschaltet oder nicht verbunden</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>er antwortet nicht</translation>
+    </message>
+    <message>
+        <source>being connected</source>
+        <translation>wird verbunden</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s disk is full</source>
+        <translation>die Platte des Druckservers ist voll</translation>
+    </message>
+    <message>
+        <source>a part of its driver is missing</source>
+        <translation>ein Teil des Treibers fehlt</translation>
+    </message>
+    <message>
+        <source>the print server does not trust its driver</source>
+        <translation>der Druckserver traut seinem Treiber nicht</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>the sign of the inch</comment>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <comment>a length in feet</comment>
+        <translation>%1 Fuß</translation>
     </message>
 </context>
 </TS>

@@ -3,12 +3,225 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>tapeprint::dialog::LayoutPage</name>
+    <name>tapeprint::dialog::AmountLabel</name>
     <message>
-        <source>Size:</source>
-        <comment>of a page on the tape</comment>
-        <translation>Taille&#xa0;:</translation>
+        <source>No page is chosen</source>
+        <translation>Aucune page choisie</translation>
     </message>
+    <message>
+        <source>Counting…</source>
+        <translation>Comptage…</translation>
+    </message>
+    <message>
+        <source>Amount not known</source>
+        <translation>Quantité inconnue</translation>
+    </message>
+    <message>
+        <source>This is an unusual amount: %1.</source>
+        <translation>C’est une quantité inhabituelle : %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Label(s)</source>
+        <translation>
+            <numerusform>Imprimer %Ln étiquette</numerusform>
+            <numerusform>Imprimer %Ln étiquettes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Sheet(s)</source>
+        <translation>
+            <numerusform>Imprimer %Ln feuille</numerusform>
+            <numerusform>Imprimer %Ln feuilles</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ChoiceModel</name>
+    <message>
+        <source>Custom…</source>
+        <comment>a choice that opens fields for a value of one&apos;s own</comment>
+        <translation>Personnalisé…</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ConflictNotice</name>
+    <message>
+        <source>Re&amp;solve</source>
+        <translation>Ré&amp;soudre</translation>
+    </message>
+    <message>
+        <source>Resolve: %1</source>
+        <comment>the button, and what it changes</comment>
+        <translation>Résoudre : %1</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>Choisissez autre chose pour l’une d’elles.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomFields</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of a value</comment>
+        <translation>%1 :</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a value, and what is wrong with it</comment>
+        <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomSizeSheet</name>
+    <message>
+        <source>Custom Size</source>
+        <translation>Format personnalisé</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>Nouveau format</translation>
+    </message>
+    <message>
+        <source>Remem&amp;bered:</source>
+        <comment>page sizes with names</comment>
+        <translation>Mémo&amp;risés :</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>Reti&amp;rer</translation>
+    </message>
+    <message>
+        <source>To remember it</source>
+        <translation>Pour le mémoriser</translation>
+    </message>
+    <message>
+        <source>N&amp;ame:</source>
+        <translation>N&amp;om :</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobPage</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titre :</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Write pages as 1-3,7</source>
+        <translation>Écrivez les pages ainsi : 1-3,7</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pages :</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Impaires et paires</translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <translation>Impaires seulement</translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <translation>Paires seulement</translation>
+    </message>
+    <message>
+        <source>Of these:</source>
+        <comment>of the chosen pages, the odd and even ones</comment>
+        <translation>Parmi elles :</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Dernière page d’abord</translation>
+    </message>
+    <message>
+        <source>Copies one after the other</source>
+        <translation>Copies l’une après l’autre</translation>
+    </message>
+    <message>
+        <source>1, 2, 3, 1, 2, 3 in place of 1, 1, 2, 2, 3, 3</source>
+        <translation>1, 2, 3, 1, 2, 3 au lieu de 1, 1, 2, 2, 3, 3</translation>
+    </message>
+    <message>
+        <source>1 is the lowest, 100 the highest</source>
+        <translation>1 est la plus basse, 100 la plus haute</translation>
+    </message>
+    <message>
+        <source>Priority:</source>
+        <translation>Priorité :</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Tout de suite</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>Quand elle sera libérée</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>De jour</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Le soir</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>La nuit</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Pendant la deuxième équipe</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Pendant la troisième équipe</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Le week-end</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>À une heure donnée</translation>
+    </message>
+    <message>
+        <source>Time of printing</source>
+        <translation>Heure d’impression</translation>
+    </message>
+    <message>
+        <source>Print it:</source>
+        <comment>when the job is printed</comment>
+        <translation>Imprimer :</translation>
+    </message>
+    <message>
+        <source>Billing:</source>
+        <translation>Facturation :</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobRow</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression en cours</translation>
+    </message>
+    <message>
+        <source>The job goes on without this window</source>
+        <translation>La tâche continue sans cette fenêtre</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::LayoutPage</name>
     <message>
         <source>Shrink when too large</source>
         <translation>Réduire si trop grand</translation>
@@ -24,11 +237,6 @@
     <message>
         <source>Original size</source>
         <translation>Taille d’origine</translation>
-    </message>
-    <message>
-        <source>Direction:</source>
-        <comment>in which a page lies on the tape</comment>
-        <translation>Sens&#xa0;:</translation>
     </message>
     <message>
         <source>Longer side along the tape</source>
@@ -80,6 +288,102 @@
         <source>Bottom</source>
         <translation>En bas</translation>
     </message>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape or paper</comment>
+        <translation>Taille :</translation>
+    </message>
+    <message>
+        <source>Fit to the paper</source>
+        <translation>Adapter au papier</translation>
+    </message>
+    <message>
+        <source>Fill the paper, cut off the rest</source>
+        <translation>Remplir le papier, couper le reste</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape or paper</comment>
+        <translation>Sens :</translation>
+    </message>
+    <message>
+        <source>As it fits best</source>
+        <translation>Au mieux</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Turned to the left</source>
+        <translation>Tournée à gauche</translation>
+    </message>
+    <message>
+        <source>Turned to the right</source>
+        <translation>Tournée à droite</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>À l’envers</translation>
+    </message>
+    <message>
+        <source>Pages on a label:</source>
+        <translation>Pages par étiquette :</translation>
+    </message>
+    <message>
+        <source>Pages on a sheet:</source>
+        <translation>Pages par feuille :</translation>
+    </message>
+    <message>
+        <source>Their order:</source>
+        <comment>of the pages on a label or sheet</comment>
+        <translation>Leur ordre :</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>De gauche à droite, puis vers le bas</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>De droite à gauche, puis vers le bas</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Vers le bas, puis de gauche à droite</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Vers le bas, puis de droite à gauche</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <comment>around each of several pages on a sheet</comment>
+        <translation>Cadre :</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no frame</comment>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Single line</source>
+        <translation>Ligne simple</translation>
+    </message>
+    <message>
+        <source>Double line</source>
+        <translation>Ligne double</translation>
+    </message>
+    <message>
+        <source>This is about several pages on one</source>
+        <translation>Concerne plusieurs pages sur une seule</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::NoticesArea</name>
+    <message>
+        <source>Notices</source>
+        <translation>Avis</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::OptionsPage</name>
@@ -87,6 +391,10 @@
         <source>%1:</source>
         <comment>name of an option</comment>
         <translation>%1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Installed in the printer</source>
+        <translation>Installé dans l’imprimante</translation>
     </message>
 </context>
 <context>
@@ -106,6 +414,150 @@
     <message>
         <source>The panel &quot;%1&quot; could not restore its values: %2</source>
         <translation>Le volet «&#xa0;%1&#xa0;» n’a pas pu rétablir ses valeurs&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PaperMenu</name>
+    <message>
+        <source>%1 × %2</source>
+        <comment>width and height of a page</comment>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description names no paper.</source>
+        <translation>La description de l’imprimante ne nomme aucun papier.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a size&apos;s name and its measures</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>opens a sheet for a page size of one&apos;s own</comment>
+        <translation>Personnalisé…</translation>
+    </message>
+    <message>
+        <source>Custom (%1)</source>
+        <comment>a page size of one&apos;s own</comment>
+        <translation>Personnalisé (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints.</source>
+        <translation>Le serveur d’impression %1 veut savoir qui imprime.</translation>
+    </message>
+    <message>
+        <source>That was not accepted.</source>
+        <translation>Cela n’a pas été accepté.</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Utilisateur :</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Mot de passe :</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetNameDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation>Le préréglage %1 sera remplacé.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>Il existe déjà un préréglage %1.</translation>
+    </message>
+    <message>
+        <source>Take &quot;%1&quot;</source>
+        <translation>Prendre « %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetRow</name>
+    <message>
+        <source>Printer&apos;s Defaults</source>
+        <translation>Réglages de l’imprimante</translation>
+    </message>
+    <message>
+        <source>As Last Time</source>
+        <translation>Comme la dernière fois</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation>Pré&amp;réglage :</translation>
+    </message>
+    <message>
+        <source>Save, rename or delete presets</source>
+        <translation>Enregistrer, renommer ou supprimer des préréglages</translation>
+    </message>
+    <message>
+        <source>&amp;Save as…</source>
+        <translation>&amp;Enregistrer sous…</translation>
+    </message>
+    <message>
+        <source>Save &amp;over</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>Reno&amp;mmer…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Supprimer…</translation>
+    </message>
+    <message>
+        <source>&amp;Make default</source>
+        <translation>Utiliser par &amp;défaut</translation>
+    </message>
+    <message>
+        <source>Print with it when no printer is named</source>
+        <translation>Imprimer avec lui si aucune imprimante n’est indiquée</translation>
+    </message>
+    <message>
+        <source>Presets are kept for a print queue, and here is none.</source>
+        <translation>Les préréglages appartiennent à une file d’impression, et il n’y en a pas ici.</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modifié)</translation>
+    </message>
+    <message>
+        <source>There is no preset %1 any more.</source>
+        <translation>Le préréglage %1 n’existe plus.</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>Enregistrer le préréglage</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Renommer le préréglage</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Supprimer le préréglage</translation>
+    </message>
+    <message>
+        <source>Delete the preset %1? Other programs have it, too, and will lose it.</source>
+        <translation>Supprimer le préréglage %1 ? D’autres programmes l’ont aussi et le perdront.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
     </message>
 </context>
 <context>
@@ -182,10 +634,6 @@
         <translation>&amp;Copies&#xa0;:</translation>
     </message>
     <message>
-        <source>Pa&amp;nel:</source>
-        <translation>&amp;Volet&#xa0;:</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>Résumé</translation>
     </message>
@@ -204,14 +652,6 @@
     <message>
         <source>&amp;Print</source>
         <translation>I&amp;mprimer</translation>
-    </message>
-    <message>
-        <source>%1 (no print queue)</source>
-        <translation>%1 (sans file d’impression)</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>This panel has no view.</source>
@@ -238,14 +678,6 @@
         <translation>&amp;Garder ajustée</translation>
     </message>
     <message>
-        <source>Printing</source>
-        <translation>Impression</translation>
-    </message>
-    <message>
-        <source>Printing…</source>
-        <translation>Impression…</translation>
-    </message>
-    <message>
         <source>Layout</source>
         <translation>Disposition</translation>
     </message>
@@ -258,8 +690,237 @@
         <translation>Le document demande plus de ruban que l’imprimante n’en prend&#xa0;: il est réduit.</translation>
     </message>
     <message>
-        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
-        <translation>La longueur du ruban a été réglée à la main sur %1 mm. La remplacer par la longueur qui convient&#xa0;?</translation>
+        <source>Printer Options</source>
+        <translation>Options de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Tâche</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Command…</source>
+        <translation>Afficher la c&amp;ommande…</translation>
+    </message>
+    <message>
+        <source>The same job as a command for a shell</source>
+        <translation>La même tâche comme commande d’interpréteur</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>Choisissez autre chose pour l’une d’elles.</translation>
+    </message>
+    <message>
+        <source>Change and &amp;Print</source>
+        <translation>Modifier et im&amp;primer</translation>
+    </message>
+    <message>
+        <source>Print All the &amp;Same</source>
+        <translation>Imprimer &amp;quand même</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 by hand. Replace it by the length that fits?</source>
+        <translation>La longueur du ruban a été réglée à la main sur %1. La remplacer par la longueur qui convient ?</translation>
+    </message>
+    <message>
+        <source>Setti&amp;ngs:</source>
+        <comment>which page of them</comment>
+        <translation>Réglage&amp;s :</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>La tâche est en cours d’impression.</translation>
+    </message>
+    <message>
+        <source>The printer is still being connected.</source>
+        <translation>La connexion à l’imprimante est encore en cours.</translation>
+    </message>
+    <message>
+        <source>Choose a printer first.</source>
+        <translation>Choisissez d’abord une imprimante.</translation>
+    </message>
+    <message>
+        <source>The printer offers no choice here.</source>
+        <translation>L’imprimante n’offre pas de choix ici.</translation>
+    </message>
+    <message>
+        <source>Not available with this printer, this tape or the other settings.</source>
+        <translation>Non disponible avec cette imprimante, ce ruban ou les autres réglages.</translation>
+    </message>
+    <message>
+        <source>&amp;Load Anew</source>
+        <translation>Rec&amp;harger</translation>
+    </message>
+    <message>
+        <source>Print %1 – connecting…</source>
+        <translation>Imprimer %1 – connexion…</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Connexion…</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Choisissez une imprimante</translation>
+    </message>
+    <message>
+        <source>The printer is not there any more.</source>
+        <translation>L’imprimante n’est plus là.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annuler la tâche</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintRun</name>
+    <message>
+        <source>Printing…</source>
+        <translation>Impression…</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Annulation…</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <translation>Envoi…</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterDesk</name>
+    <message>
+        <source>The print server does not answer. Its printers come back when it does.</source>
+        <translation>Le serveur d’impression ne répond pas. Ses imprimantes reviendront avec lui.</translation>
+    </message>
+    <message>
+        <source>There is no default printer. Choose a printer.</source>
+        <translation>Il n’y a pas d’imprimante par défaut. Choisissez une imprimante.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is not there any more. Choose another, or wait until it is back: what you have set is kept.</source>
+        <translation>L’imprimante %1 n’est plus là. Choisissez-en une autre ou attendez son retour : vos réglages sont conservés.</translation>
+    </message>
+    <message>
+        <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
+        <translation>La description de l’imprimante %1 a changé sur le serveur. Rechargez-la avant d’imprimer.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterModel</name>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (aucune file d’impression)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (par défaut)</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>n’est plus là</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Emplacement : %1</translation>
+    </message>
+    <message>
+        <source>A class: whichever of its printers is free prints the job.</source>
+        <translation>Une classe : l’imprimante libre imprime la tâche.</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Trouvée sur le réseau</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a printer and its state</comment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterPopUp</name>
+    <message>
+        <source>Search by name, description or location</source>
+        <translation>Chercher par nom, description ou emplacement</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>Chercher des imprimantes</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Imprimantes</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SaveButton</name>
+    <message>
+        <source>labels</source>
+        <comment>the name of a file</comment>
+        <translation>etiquettes</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save the job in a file in place of printing it</source>
+        <translation>Enregistrer la tâche dans un fichier au lieu de l’imprimer</translation>
+    </message>
+    <message>
+        <source>Save as &amp;PDF…</source>
+        <translation>Enregistrer en &amp;PDF…</translation>
+    </message>
+    <message>
+        <source>Save Printer &amp;Data…</source>
+        <translation>Enregistrer les &amp;données d’impression…</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Enregistrer en PDF</translation>
+    </message>
+    <message>
+        <source>Save Printer Data</source>
+        <translation>Enregistrer les données d’impression</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>Documents PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Printer data (*.prn)</source>
+        <translation>Données d’impression (*.prn)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ShowCommand</name>
+    <message>
+        <source>Commands for a Shell</source>
+        <translation>Commandes d’interpréteur</translation>
+    </message>
+    <message>
+        <source>The same job by &amp;tapeprint:</source>
+        <translation>La même tâche avec &amp;tapeprint :</translation>
+    </message>
+    <message>
+        <source>The same options by &amp;lp, which lays nothing out:</source>
+        <translation>Les mêmes options avec &amp;lp, qui ne met rien en page :</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy the command of %1</source>
+        <translation>Copier la commande de %1</translation>
     </message>
 </context>
 <context>
@@ -287,6 +948,33 @@
         <source>%1; part of the page is cut off</source>
         <comment>length and width</comment>
         <translation>%1 ; une partie de la page est coupée</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::UnitButton</name>
+    <message>
+        <source>The unit of the lengths shown here</source>
+        <translation>L’unité des longueurs affichées ici</translation>
+    </message>
+    <message>
+        <source>&amp;Millimetres</source>
+        <translation>&amp;Millimètres</translation>
+    </message>
+    <message>
+        <source>&amp;Inches</source>
+        <translation>&amp;Pouces</translation>
+    </message>
+    <message>
+        <source>Unit of length</source>
+        <translation>Unité de longueur</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Pouces</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimètres</translation>
     </message>
 </context>
 <context>
@@ -552,11 +1240,6 @@
         <translation>Le volet «&#xa0;%1&#xa0;» ne propose pas %2=%3, que l’imprimante possède&#xa0;: la tâche porte %4=%5.</translation>
     </message>
     <message>
-        <source>%1 in</source>
-        <comment>a length in inches</comment>
-        <translation>%1 po</translation>
-    </message>
-    <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
         <translation>Le document %1 a disparu : rien n’a été imprimé. Remettez-le en place ou ouvrez-en un autre.</translation>
     </message>
@@ -639,6 +1322,424 @@
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
         <translation>Le fichier PPD %1 est tronqué&#xa0;: sa fin manque. Copiez-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>The chosen pages cannot be put together (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>Les pages choisies ne peuvent pas être réunies (%1) : vérifiez que le document est entier et qu’il y a de la place pour des fichiers temporaires.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>an option and its choice</comment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; becomes &quot;%2&quot;.</source>
+        <translation>« %1 » devient « %2 ».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; changes from &quot;%2&quot; to &quot;%3&quot;.</source>
+        <translation>« %1 » passe de « %2 » à « %3 ».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not go with &quot;%2&quot;.</source>
+        <translation>« %1 » ne va pas avec « %2 ».</translation>
+    </message>
+    <message>
+        <source>%1 do not go together.</source>
+        <translation>%1 ne vont pas ensemble.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <comment>of a page</comment>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <comment>of a page</comment>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>The sizes are not remembered, because %1 cannot be written.</source>
+        <translation>Les formats ne sont pas mémorisés, car %1 ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>Leave out single braces and characters that cannot be seen.</source>
+        <translation>N’utilisez ni accolade isolée ni caractère invisible.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 characters.</source>
+        <translation>Indiquez de %1 à %2 caractères.</translation>
+    </message>
+    <message>
+        <source>Give %1 characters or more.</source>
+        <translation>Indiquez au moins %1 caractères.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 digits.</source>
+        <translation>Indiquez de %1 à %2 chiffres.</translation>
+    </message>
+    <message>
+        <source>Give %1 digits or more.</source>
+        <translation>Indiquez au moins %1 chiffres.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 in.</source>
+        <translation>Indiquez une longueur de %1 à %2 pouces.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 mm.</source>
+        <translation>Indiquez une longueur de %1 à %2 mm.</translation>
+    </message>
+    <message>
+        <source>Give a whole number from %1 to %2.</source>
+        <translation>Indiquez un nombre entier de %1 à %2.</translation>
+    </message>
+    <message>
+        <source>Give a number from %1 to %2.</source>
+        <translation>Indiquez un nombre de %1 à %2.</translation>
+    </message>
+    <message>
+        <source>The value of option %1 is in braces, which the print server drops: give %1 a plain value.</source>
+        <translation>La valeur de l’option %1 est entre accolades, que le serveur supprime : donnez à %1 une valeur simple.</translation>
+    </message>
+    <message>
+        <source>number-up=%1 is none of the numbers that the print system knows: each page has a sheet of its own.</source>
+        <translation>number-up=%1 n’est pas un nombre connu du système d’impression : chaque page a sa propre feuille.</translation>
+    </message>
+    <message>
+        <source>Option %1 changes nothing on tape: say how pages lie on it by print-scaling, orientation-requested, position and number-up.</source>
+        <translation>L’option %1 ne change rien sur ruban : indiquez la mise en page par print-scaling, orientation-requested, position et number-up.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>the print server does not say why</source>
+        <translation>le serveur d’impression ne dit pas pourquoi</translation>
+    </message>
+    <message>
+        <source>The print server tells no more of job %1.</source>
+        <translation>Le serveur d’impression ne dit plus rien de la tâche %1.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2.</source>
+        <translation>La tâche %1 a échoué : %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
+        <translation>La tâche %1 a échoué : %2. Elle reste dans la file ; annulez-la avec : cancel %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>La tâche %1 a été annulée.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printed.</source>
+        <translation>La tâche %1 est imprimée.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held: it waits until it is released.</source>
+        <translation>La tâche %1 est retenue : elle attend d’être libérée.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits: %2.</source>
+        <translation>La tâche %1 attend : %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 is being printed.</source>
+        <translation>La tâche %1 est en cours d’impression.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits behind others: %2.</source>
+        <translation>La tâche %1 attend derrière d’autres : %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for the printer.</source>
+        <translation>La tâche %1 attend l’imprimante.</translation>
+    </message>
+    <message>
+        <source>What became of job %1 is not known.</source>
+        <translation>On ne sait pas ce qu’est devenue la tâche %1.</translation>
+    </message>
+    <message>
+        <source>Job %1 cannot be cancelled (%2).</source>
+        <translation>La tâche %1 ne peut pas être annulée (%2).</translation>
+    </message>
+    <message>
+        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
+        <translation>La tâche %1 est peut-être restée à moitié envoyée sur le serveur ; annulez-la avec : cancel %2-%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
+        <translation>Les réglages ne peuvent pas être gardés pour la prochaine fois : %1 ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop grand</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be read (%2).</source>
+        <translation>Le fichier de vos préréglages, %1, ne peut pas être lu (%2).</translation>
+    </message>
+    <message>
+        <source>These are more options than CUPS keeps in a preset.</source>
+        <translation>C’est plus d’options que CUPS n’en garde dans un préréglage.</translation>
+    </message>
+    <message>
+        <source>An option has a value that CUPS cannot keep in a preset.</source>
+        <translation>Une option a une valeur que CUPS ne peut pas garder dans un préréglage.</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be written (%2): it stays as it was.</source>
+        <translation>Le fichier de vos préréglages, %1, ne peut pas être écrit (%2) : il reste inchangé.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a text and the keyword that tells it from another of the same wording</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <comment>options that the printer&apos;s description puts in no group</comment>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a group of options and a group within it</comment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is too large for one: name a PPD file.</source>
+        <translation>Le fichier %1 est trop grand pour un PPD : indiquez un fichier PPD.</translation>
+    </message>
+    <message>
+        <source>%1 has no preset %2 of yours.</source>
+        <translation>%1 n’a pas de préréglage %2 à vous.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>Il existe déjà un préréglage %1.</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Un préréglage doit avoir un nom.</translation>
+    </message>
+    <message>
+        <source>CUPS cannot keep a preset whose name has blanks, slashes, quotes or one of # &lt; &gt;.</source>
+        <translation>CUPS ne peut pas garder un préréglage dont le nom contient des espaces, des barres obliques, des guillemets ou l’un de # &lt; &gt;.</translation>
+    </message>
+    <message>
+        <source>This name is longer than CUPS can keep.</source>
+        <translation>Ce nom est plus long que CUPS ne peut le garder.</translation>
+    </message>
+    <message>
+        <source>The preset&apos;s option %1=%2 is none of this printer&apos;s any more. The preset keeps it until you save over it.</source>
+        <translation>Cette imprimante n’a plus l’option %1=%2 du préréglage. Le préréglage la garde jusqu’à ce que vous le remplaciez.</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Prête</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <comment>state of a printer</comment>
+        <translation>Impression en cours</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Arrêtée</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>n’accepte pas de tâches</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a state and its reasons</comment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs.</source>
+        <translation>L’imprimante %1 n’accepte pas de tâches.</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs: %2.</source>
+        <translation>L’imprimante %1 n’accepte pas de tâches : %2.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped. A job waits until it goes on.</source>
+        <translation>L’imprimante %1 est arrêtée. Une tâche attend qu’elle reprenne.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped: %2. A job waits until it goes on.</source>
+        <translation>L’imprimante %1 est arrêtée : %2. Une tâche attend qu’elle reprenne.</translation>
+    </message>
+    <message>
+        <source>The printer %1 says: %2.</source>
+        <translation>L’imprimante %1 signale : %2.</translation>
+    </message>
+    <message>
+        <source>The queue %1 has no printer description by which bytes for the printer could be made: save a PDF instead.</source>
+        <translation>La file %1 n’a pas de description d’imprimante pour produire des données : enregistrez plutôt un PDF.</translation>
+    </message>
+    <message>
+        <source>The PDF is in %1 (%2 bytes).</source>
+        <translation>Le PDF est dans %1 (%2 octets).</translation>
+    </message>
+    <message>
+        <source>The queue %1 takes no jobs: see lpstat -a %1.</source>
+        <translation>La file %1 n’accepte pas de tâches : voyez lpstat -a %1.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no size: write it as Custom.WIDTHxLENGTHmm, or with in, cm or pt.</source>
+        <translation>%1=%2 n’est pas un format : écrivez Custom.LARGEURxLONGUEURmm, ou avec in, cm ou pt.</translation>
+    </message>
+    <message>
+        <source>%1=%2: the printer takes no sizes other than those that it has.</source>
+        <translation>%1=%2 : l’imprimante n’accepte que les formats qu’elle a.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is smaller or larger than the printer can take.</source>
+        <translation>%1=%2 est plus petit ou plus grand que ce que l’imprimante accepte.</translation>
+    </message>
+    <message>
+        <source>%1=%2: %3</source>
+        <translation>%1=%2 : %3</translation>
+    </message>
+    <message>
+        <source>media=%1 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>media=%1 ne figure pas parmi les choix du fichier PPD de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no value that CUPS knows for %1.</source>
+        <translation>%1=%2 : CUPS ne connaît pas cette valeur pour %1.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user&apos;s name and password, and was given none that it accepts.</source>
+        <translation>Le serveur d’impression %1 demande un nom d’utilisateur et un mot de passe, et n’en a reçu aucun qu’il accepte.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has stopped answering: try again when it is back.</source>
+        <translation>Le serveur d’impression %1 ne répond plus : réessayez quand il sera revenu.</translation>
+    </message>
+    <message>
+        <source>out of tape</source>
+        <translation>plus de ruban</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>plus de papier</translation>
+    </message>
+    <message>
+        <source>other tape is needed</source>
+        <translation>un autre ruban est nécessaire</translation>
+    </message>
+    <message>
+        <source>other paper is needed</source>
+        <translation>un autre papier est nécessaire</translation>
+    </message>
+    <message>
+        <source>little tape is left</source>
+        <translation>il reste peu de ruban</translation>
+    </message>
+    <message>
+        <source>little paper is left</source>
+        <translation>il reste peu de papier</translation>
+    </message>
+    <message>
+        <source>the tape is jammed</source>
+        <translation>le ruban est coincé</translation>
+    </message>
+    <message>
+        <source>the paper is jammed</source>
+        <translation>bourrage papier</translation>
+    </message>
+    <message>
+        <source>the cover is open</source>
+        <translation>le capot est ouvert</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>une porte est ouverte</translation>
+    </message>
+    <message>
+        <source>no cassette is in it</source>
+        <translation>aucune cassette n’est en place</translation>
+    </message>
+    <message>
+        <source>the paper tray is missing</source>
+        <translation>le bac à papier manque</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>le bac de sortie est plein</translation>
+    </message>
+    <message>
+        <source>little ink is left</source>
+        <translation>il reste peu d’encre</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>plus d’encre</translation>
+    </message>
+    <message>
+        <source>little toner is left</source>
+        <translation>il reste peu de toner</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>plus de toner</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pause</translation>
+    </message>
+    <message>
+        <source>paused after this job</source>
+        <translation>en pause après cette tâche</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>les nouvelles tâches sont retenues</translation>
+    </message>
+    <message>
+        <source>switched off or not connected</source>
+        <translation>éteinte ou non connectée</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>elle ne répond pas</translation>
+    </message>
+    <message>
+        <source>being connected</source>
+        <translation>connexion en cours</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s disk is full</source>
+        <translation>le disque du serveur d’impression est plein</translation>
+    </message>
+    <message>
+        <source>a part of its driver is missing</source>
+        <translation>une partie de son pilote manque</translation>
+    </message>
+    <message>
+        <source>the print server does not trust its driver</source>
+        <translation>le serveur d’impression ne fait pas confiance à son pilote</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>the sign of the inch</comment>
+        <translation>po</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <comment>a length in feet</comment>
+        <translation>%1 pi</translation>
     </message>
 </context>
 </TS>

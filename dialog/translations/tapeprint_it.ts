@@ -3,12 +3,225 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
-    <name>tapeprint::dialog::LayoutPage</name>
+    <name>tapeprint::dialog::AmountLabel</name>
     <message>
-        <source>Size:</source>
-        <comment>of a page on the tape</comment>
-        <translation>Dimensione:</translation>
+        <source>No page is chosen</source>
+        <translation>Nessuna pagina scelta</translation>
     </message>
+    <message>
+        <source>Counting…</source>
+        <translation>Conteggio…</translation>
+    </message>
+    <message>
+        <source>Amount not known</source>
+        <translation>Quantità non nota</translation>
+    </message>
+    <message>
+        <source>This is an unusual amount: %1.</source>
+        <translation>È una quantità insolita: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Label(s)</source>
+        <translation>
+            <numerusform>Stampa %Ln etichetta</numerusform>
+            <numerusform>Stampa %Ln etichette</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Sheet(s)</source>
+        <translation>
+            <numerusform>Stampa %Ln foglio</numerusform>
+            <numerusform>Stampa %Ln fogli</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ChoiceModel</name>
+    <message>
+        <source>Custom…</source>
+        <comment>a choice that opens fields for a value of one&apos;s own</comment>
+        <translation>Personalizzato…</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ConflictNotice</name>
+    <message>
+        <source>Re&amp;solve</source>
+        <translation>Ri&amp;solvi</translation>
+    </message>
+    <message>
+        <source>Resolve: %1</source>
+        <comment>the button, and what it changes</comment>
+        <translation>Risolvi: %1</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>Scegliere altro per una di esse.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomFields</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of a value</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a value, and what is wrong with it</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomSizeSheet</name>
+    <message>
+        <source>Custom Size</source>
+        <translation>Misura personalizzata</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>Nuova misura</translation>
+    </message>
+    <message>
+        <source>Remem&amp;bered:</source>
+        <comment>page sizes with names</comment>
+        <translation>Memori&amp;zzate:</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>Ri&amp;muovi</translation>
+    </message>
+    <message>
+        <source>To remember it</source>
+        <translation>Per ricordarla</translation>
+    </message>
+    <message>
+        <source>N&amp;ame:</source>
+        <translation>N&amp;ome:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobPage</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titolo:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutte</translation>
+    </message>
+    <message>
+        <source>Write pages as 1-3,7</source>
+        <translation>Scrivere le pagine così: 1-3,7</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pagine:</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Dispari e pari</translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <translation>Solo dispari</translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <translation>Solo pari</translation>
+    </message>
+    <message>
+        <source>Of these:</source>
+        <comment>of the chosen pages, the odd and even ones</comment>
+        <translation>Di queste:</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Prima l’ultima pagina</translation>
+    </message>
+    <message>
+        <source>Copies one after the other</source>
+        <translation>Copie una dopo l’altra</translation>
+    </message>
+    <message>
+        <source>1, 2, 3, 1, 2, 3 in place of 1, 1, 2, 2, 3, 3</source>
+        <translation>1, 2, 3, 1, 2, 3 invece di 1, 1, 2, 2, 3, 3</translation>
+    </message>
+    <message>
+        <source>1 is the lowest, 100 the highest</source>
+        <translation>1 è la più bassa, 100 la più alta</translation>
+    </message>
+    <message>
+        <source>Priority:</source>
+        <translation>Priorità:</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Subito</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>Quando viene rilasciato</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Di giorno</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Di sera</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Di notte</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Nel secondo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Nel terzo turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Nel fine settimana</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>A un’ora</translation>
+    </message>
+    <message>
+        <source>Time of printing</source>
+        <translation>Ora di stampa</translation>
+    </message>
+    <message>
+        <source>Print it:</source>
+        <comment>when the job is printed</comment>
+        <translation>Stampare:</translation>
+    </message>
+    <message>
+        <source>Billing:</source>
+        <translation>Addebito:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobRow</name>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>In stampa</translation>
+    </message>
+    <message>
+        <source>The job goes on without this window</source>
+        <translation>Il lavoro prosegue senza questa finestra</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::LayoutPage</name>
     <message>
         <source>Shrink when too large</source>
         <translation>Riduci se troppo grande</translation>
@@ -24,11 +237,6 @@
     <message>
         <source>Original size</source>
         <translation>Dimensione originale</translation>
-    </message>
-    <message>
-        <source>Direction:</source>
-        <comment>in which a page lies on the tape</comment>
-        <translation>Direzione:</translation>
     </message>
     <message>
         <source>Longer side along the tape</source>
@@ -80,6 +288,102 @@
         <source>Bottom</source>
         <translation>In basso</translation>
     </message>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape or paper</comment>
+        <translation>Dimensione:</translation>
+    </message>
+    <message>
+        <source>Fit to the paper</source>
+        <translation>Adatta alla carta</translation>
+    </message>
+    <message>
+        <source>Fill the paper, cut off the rest</source>
+        <translation>Riempi la carta, taglia il resto</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape or paper</comment>
+        <translation>Direzione:</translation>
+    </message>
+    <message>
+        <source>As it fits best</source>
+        <translation>Come sta meglio</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Verticale</translation>
+    </message>
+    <message>
+        <source>Turned to the left</source>
+        <translation>Ruotata a sinistra</translation>
+    </message>
+    <message>
+        <source>Turned to the right</source>
+        <translation>Ruotata a destra</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>Capovolta</translation>
+    </message>
+    <message>
+        <source>Pages on a label:</source>
+        <translation>Pagine per etichetta:</translation>
+    </message>
+    <message>
+        <source>Pages on a sheet:</source>
+        <translation>Pagine per foglio:</translation>
+    </message>
+    <message>
+        <source>Their order:</source>
+        <comment>of the pages on a label or sheet</comment>
+        <translation>Ordine:</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>Da sinistra a destra, poi in giù</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>Da destra a sinistra, poi in giù</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>In giù, poi da sinistra a destra</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>In giù, poi da destra a sinistra</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <comment>around each of several pages on a sheet</comment>
+        <translation>Cornice:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no frame</comment>
+        <translation>Nessuna</translation>
+    </message>
+    <message>
+        <source>Single line</source>
+        <translation>Linea singola</translation>
+    </message>
+    <message>
+        <source>Double line</source>
+        <translation>Linea doppia</translation>
+    </message>
+    <message>
+        <source>This is about several pages on one</source>
+        <translation>Vale per più pagine su una</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::NoticesArea</name>
+    <message>
+        <source>Notices</source>
+        <translation>Avvisi</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::OptionsPage</name>
@@ -87,6 +391,10 @@
         <source>%1:</source>
         <comment>name of an option</comment>
         <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Installed in the printer</source>
+        <translation>Installato nella stampante</translation>
     </message>
 </context>
 <context>
@@ -106,6 +414,150 @@
     <message>
         <source>The panel &quot;%1&quot; could not restore its values: %2</source>
         <translation>Il pannello &quot;%1&quot; non ha potuto ripristinare i suoi valori: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PaperMenu</name>
+    <message>
+        <source>%1 × %2</source>
+        <comment>width and height of a page</comment>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description names no paper.</source>
+        <translation>La descrizione della stampante non indica alcuna carta.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a size&apos;s name and its measures</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>opens a sheet for a page size of one&apos;s own</comment>
+        <translation>Personalizzato…</translation>
+    </message>
+    <message>
+        <source>Custom (%1)</source>
+        <comment>a page size of one&apos;s own</comment>
+        <translation>Personalizzata (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints.</source>
+        <translation>Il server di stampa %1 vuole sapere chi stampa.</translation>
+    </message>
+    <message>
+        <source>That was not accepted.</source>
+        <translation>Non è stato accettato.</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Utente:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Password:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetNameDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nome:</translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation>La preimpostazione %1 verrà sostituita.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>Esiste già una preimpostazione %1.</translation>
+    </message>
+    <message>
+        <source>Take &quot;%1&quot;</source>
+        <translation>Usa “%1”</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetRow</name>
+    <message>
+        <source>Printer&apos;s Defaults</source>
+        <translation>Valori della stampante</translation>
+    </message>
+    <message>
+        <source>As Last Time</source>
+        <translation>Come l’ultima volta</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation>Preim&amp;postazione:</translation>
+    </message>
+    <message>
+        <source>Save, rename or delete presets</source>
+        <translation>Salvare, rinominare o eliminare preimpostazioni</translation>
+    </message>
+    <message>
+        <source>&amp;Save as…</source>
+        <translation>&amp;Salva con nome…</translation>
+    </message>
+    <message>
+        <source>Save &amp;over</source>
+        <translation>S&amp;ovrascrivi</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Rinomina…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Elimina…</translation>
+    </message>
+    <message>
+        <source>&amp;Make default</source>
+        <translation>Rendi pre&amp;definita</translation>
+    </message>
+    <message>
+        <source>Print with it when no printer is named</source>
+        <translation>Stampa con questa se non si indica una stampante</translation>
+    </message>
+    <message>
+        <source>Presets are kept for a print queue, and here is none.</source>
+        <translation>Le preimpostazioni appartengono a una coda di stampa, e qui non ce n’è.</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modificata)</translation>
+    </message>
+    <message>
+        <source>There is no preset %1 any more.</source>
+        <translation>La preimpostazione %1 non esiste più.</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>Salva preimpostazione</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Rinomina preimpostazione</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Elimina preimpostazione</translation>
+    </message>
+    <message>
+        <source>Delete the preset %1? Other programs have it, too, and will lose it.</source>
+        <translation>Eliminare la preimpostazione %1? Anche altri programmi la usano e la perderanno.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
     </message>
 </context>
 <context>
@@ -182,10 +634,6 @@
         <translation>&amp;Copie:</translation>
     </message>
     <message>
-        <source>Pa&amp;nel:</source>
-        <translation>Pann&amp;ello:</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>Riepilogo</translation>
     </message>
@@ -204,14 +652,6 @@
     <message>
         <source>&amp;Print</source>
         <translation>&amp;Stampa</translation>
-    </message>
-    <message>
-        <source>%1 (no print queue)</source>
-        <translation>%1 (nessuna coda di stampa)</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>This panel has no view.</source>
@@ -238,14 +678,6 @@
         <translation>&amp;Mantieni adattata</translation>
     </message>
     <message>
-        <source>Printing</source>
-        <translation>Stampa in corso</translation>
-    </message>
-    <message>
-        <source>Printing…</source>
-        <translation>Stampa in corso…</translation>
-    </message>
-    <message>
         <source>Layout</source>
         <translation>Disposizione</translation>
     </message>
@@ -258,8 +690,237 @@
         <translation>Il documento richiede più nastro di quanto la stampante accetti: viene ridotto.</translation>
     </message>
     <message>
-        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
-        <translation>La lunghezza del nastro è stata impostata a mano su %1 mm. Sostituirla con quella adatta?</translation>
+        <source>Printer Options</source>
+        <translation>Opzioni della stampante</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Lavoro</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Command…</source>
+        <translation>Mostra c&amp;omando…</translation>
+    </message>
+    <message>
+        <source>The same job as a command for a shell</source>
+        <translation>Lo stesso lavoro come comando per la shell</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>Scegliere altro per una di esse.</translation>
+    </message>
+    <message>
+        <source>Change and &amp;Print</source>
+        <translation>Modifica e &amp;stampa</translation>
+    </message>
+    <message>
+        <source>Print All the &amp;Same</source>
+        <translation>Stampa &amp;comunque</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 by hand. Replace it by the length that fits?</source>
+        <translation>La lunghezza del nastro è stata impostata a mano su %1. Sostituirla con quella adatta?</translation>
+    </message>
+    <message>
+        <source>Setti&amp;ngs:</source>
+        <comment>which page of them</comment>
+        <translation>Impostazio&amp;ni:</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>Il lavoro è in stampa.</translation>
+    </message>
+    <message>
+        <source>The printer is still being connected.</source>
+        <translation>La connessione alla stampante è ancora in corso.</translation>
+    </message>
+    <message>
+        <source>Choose a printer first.</source>
+        <translation>Scegliere prima una stampante.</translation>
+    </message>
+    <message>
+        <source>The printer offers no choice here.</source>
+        <translation>La stampante non offre scelte qui.</translation>
+    </message>
+    <message>
+        <source>Not available with this printer, this tape or the other settings.</source>
+        <translation>Non disponibile con questa stampante, questo nastro o le altre impostazioni.</translation>
+    </message>
+    <message>
+        <source>&amp;Load Anew</source>
+        <translation>Ricar&amp;ica</translation>
+    </message>
+    <message>
+        <source>Print %1 – connecting…</source>
+        <translation>Stampa %1 – connessione…</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Connessione…</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Scegliere una stampante</translation>
+    </message>
+    <message>
+        <source>The printer is not there any more.</source>
+        <translation>La stampante non c’è più.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annulla lavoro</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintRun</name>
+    <message>
+        <source>Printing…</source>
+        <translation>Stampa in corso…</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Annullamento…</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <translation>Invio…</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterDesk</name>
+    <message>
+        <source>The print server does not answer. Its printers come back when it does.</source>
+        <translation>Il server di stampa non risponde. Le sue stampanti torneranno quando risponderà.</translation>
+    </message>
+    <message>
+        <source>There is no default printer. Choose a printer.</source>
+        <translation>Non c’è una stampante predefinita. Scegliere una stampante.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is not there any more. Choose another, or wait until it is back: what you have set is kept.</source>
+        <translation>La stampante %1 non c’è più. Sceglierne un’altra o attendere che torni: le impostazioni restano.</translation>
+    </message>
+    <message>
+        <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
+        <translation>La descrizione della stampante %1 è cambiata sul server. Ricaricarla prima di stampare.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterModel</name>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (nessuna coda di stampa)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (predefinita)</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>non c’è più</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Posizione: %1</translation>
+    </message>
+    <message>
+        <source>A class: whichever of its printers is free prints the job.</source>
+        <translation>Una classe: stampa il lavoro la stampante libera.</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Trovata in rete</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a printer and its state</comment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterPopUp</name>
+    <message>
+        <source>Search by name, description or location</source>
+        <translation>Cerca per nome, descrizione o posizione</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>Cerca stampanti</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Stampanti</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SaveButton</name>
+    <message>
+        <source>labels</source>
+        <comment>the name of a file</comment>
+        <translation>etichette</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Save the job in a file in place of printing it</source>
+        <translation>Salva il lavoro in un file invece di stamparlo</translation>
+    </message>
+    <message>
+        <source>Save as &amp;PDF…</source>
+        <translation>Salva come &amp;PDF…</translation>
+    </message>
+    <message>
+        <source>Save Printer &amp;Data…</source>
+        <translation>Salva &amp;dati di stampa…</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Salva come PDF</translation>
+    </message>
+    <message>
+        <source>Save Printer Data</source>
+        <translation>Salva dati di stampa</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>Documenti PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Printer data (*.prn)</source>
+        <translation>Dati di stampa (*.prn)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tutti i file (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ShowCommand</name>
+    <message>
+        <source>Commands for a Shell</source>
+        <translation>Comandi per la shell</translation>
+    </message>
+    <message>
+        <source>The same job by &amp;tapeprint:</source>
+        <translation>Lo stesso lavoro con &amp;tapeprint:</translation>
+    </message>
+    <message>
+        <source>The same options by &amp;lp, which lays nothing out:</source>
+        <translation>Le stesse opzioni con &amp;lp, che non impagina nulla:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Copy the command of %1</source>
+        <translation>Copia il comando di %1</translation>
     </message>
 </context>
 <context>
@@ -287,6 +948,33 @@
         <source>%1; part of the page is cut off</source>
         <comment>length and width</comment>
         <translation>%1; una parte della pagina viene tagliata</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::UnitButton</name>
+    <message>
+        <source>The unit of the lengths shown here</source>
+        <translation>L’unità delle lunghezze mostrate qui</translation>
+    </message>
+    <message>
+        <source>&amp;Millimetres</source>
+        <translation>&amp;Millimetri</translation>
+    </message>
+    <message>
+        <source>&amp;Inches</source>
+        <translation>&amp;Pollici</translation>
+    </message>
+    <message>
+        <source>Unit of length</source>
+        <translation>Unità di lunghezza</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Pollici</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimetri</translation>
     </message>
 </context>
 <context>
@@ -552,11 +1240,6 @@
         <translation>Il pannello &quot;%1&quot; non offre %2=%3, che la stampante possiede: il lavoro contiene %4=%5.</translation>
     </message>
     <message>
-        <source>%1 in</source>
-        <comment>a length in inches</comment>
-        <translation>%1 pollici</translation>
-    </message>
-    <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
         <translation>Il documento %1 non c’è più: non è stato stampato nulla. Rimetterlo al suo posto o aprirne un altro.</translation>
     </message>
@@ -639,6 +1322,424 @@
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
         <translation>Il file PPD %1 è troncato: manca la fine. Copiarlo di nuovo.</translation>
+    </message>
+    <message>
+        <source>The chosen pages cannot be put together (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>Impossibile riunire le pagine scelte (%1): controllare che il documento sia integro e che ci sia spazio per i file temporanei.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>an option and its choice</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; becomes &quot;%2&quot;.</source>
+        <translation>“%1” diventa “%2”.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; changes from &quot;%2&quot; to &quot;%3&quot;.</source>
+        <translation>“%1” passa da “%2” a “%3”.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not go with &quot;%2&quot;.</source>
+        <translation>“%1” non va d’accordo con “%2”.</translation>
+    </message>
+    <message>
+        <source>%1 do not go together.</source>
+        <translation>%1 non vanno d’accordo tra loro.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <comment>of a page</comment>
+        <translation>Larghezza</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <comment>of a page</comment>
+        <translation>Altezza</translation>
+    </message>
+    <message>
+        <source>The sizes are not remembered, because %1 cannot be written.</source>
+        <translation>Le misure non vengono ricordate perché non si può scrivere %1.</translation>
+    </message>
+    <message>
+        <source>Leave out single braces and characters that cannot be seen.</source>
+        <translation>Tralasciare parentesi graffe singole e caratteri invisibili.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 characters.</source>
+        <translation>Inserire da %1 a %2 caratteri.</translation>
+    </message>
+    <message>
+        <source>Give %1 characters or more.</source>
+        <translation>Inserire almeno %1 caratteri.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 digits.</source>
+        <translation>Inserire da %1 a %2 cifre.</translation>
+    </message>
+    <message>
+        <source>Give %1 digits or more.</source>
+        <translation>Inserire almeno %1 cifre.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 in.</source>
+        <translation>Inserire una lunghezza da %1 a %2 pollici.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 mm.</source>
+        <translation>Inserire una lunghezza da %1 a %2 mm.</translation>
+    </message>
+    <message>
+        <source>Give a whole number from %1 to %2.</source>
+        <translation>Inserire un numero intero da %1 a %2.</translation>
+    </message>
+    <message>
+        <source>Give a number from %1 to %2.</source>
+        <translation>Inserire un numero da %1 a %2.</translation>
+    </message>
+    <message>
+        <source>The value of option %1 is in braces, which the print server drops: give %1 a plain value.</source>
+        <translation>Il valore dell’opzione %1 è tra graffe, che il server di stampa toglie: dare a %1 un valore semplice.</translation>
+    </message>
+    <message>
+        <source>number-up=%1 is none of the numbers that the print system knows: each page has a sheet of its own.</source>
+        <translation>number-up=%1 non è un numero noto al sistema di stampa: ogni pagina ha il proprio foglio.</translation>
+    </message>
+    <message>
+        <source>Option %1 changes nothing on tape: say how pages lie on it by print-scaling, orientation-requested, position and number-up.</source>
+        <translation>L’opzione %1 non cambia nulla sul nastro: indicare la disposizione con print-scaling, orientation-requested, position e number-up.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>the print server does not say why</source>
+        <translation>il server di stampa non dice perché</translation>
+    </message>
+    <message>
+        <source>The print server tells no more of job %1.</source>
+        <translation>Il server di stampa non dice più nulla del lavoro %1.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2.</source>
+        <translation>Il lavoro %1 non è riuscito: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
+        <translation>Il lavoro %1 non è riuscito: %2. Resta in coda; annullarlo con: cancel %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>Il lavoro %1 è stato annullato.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printed.</source>
+        <translation>Il lavoro %1 è stampato.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held: it waits until it is released.</source>
+        <translation>Il lavoro %1 è trattenuto: attende il rilascio.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits: %2.</source>
+        <translation>Il lavoro %1 attende: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 is being printed.</source>
+        <translation>Il lavoro %1 è in stampa.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits behind others: %2.</source>
+        <translation>Il lavoro %1 attende dietro ad altri: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for the printer.</source>
+        <translation>Il lavoro %1 attende la stampante.</translation>
+    </message>
+    <message>
+        <source>What became of job %1 is not known.</source>
+        <translation>Non si sa che fine abbia fatto il lavoro %1.</translation>
+    </message>
+    <message>
+        <source>Job %1 cannot be cancelled (%2).</source>
+        <translation>Impossibile annullare il lavoro %1 (%2).</translation>
+    </message>
+    <message>
+        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
+        <translation>Il lavoro %1 potrebbe essere rimasto inviato a metà sul server; annullarlo con: cancel %2-%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
+        <translation>Le impostazioni non possono essere conservate per la prossima volta: impossibile scrivere %1.</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>non è un file</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>è troppo grande</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be read (%2).</source>
+        <translation>Impossibile leggere il file delle preimpostazioni, %1 (%2).</translation>
+    </message>
+    <message>
+        <source>These are more options than CUPS keeps in a preset.</source>
+        <translation>Sono più opzioni di quante CUPS ne conservi in una preimpostazione.</translation>
+    </message>
+    <message>
+        <source>An option has a value that CUPS cannot keep in a preset.</source>
+        <translation>Un’opzione ha un valore che CUPS non può conservare in una preimpostazione.</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be written (%2): it stays as it was.</source>
+        <translation>Impossibile scrivere il file delle preimpostazioni, %1 (%2): resta com’era.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a text and the keyword that tells it from another of the same wording</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <comment>options that the printer&apos;s description puts in no group</comment>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a group of options and a group within it</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is too large for one: name a PPD file.</source>
+        <translation>Il file %1 è troppo grande per un PPD: indicare un file PPD.</translation>
+    </message>
+    <message>
+        <source>%1 has no preset %2 of yours.</source>
+        <translation>%1 non ha una vostra preimpostazione %2.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>Esiste già una preimpostazione %1.</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Una preimpostazione deve avere un nome.</translation>
+    </message>
+    <message>
+        <source>CUPS cannot keep a preset whose name has blanks, slashes, quotes or one of # &lt; &gt;.</source>
+        <translation>CUPS non può conservare una preimpostazione il cui nome contiene spazi, barre, virgolette o uno di # &lt; &gt;.</translation>
+    </message>
+    <message>
+        <source>This name is longer than CUPS can keep.</source>
+        <translation>Questo nome è più lungo di quanto CUPS possa conservare.</translation>
+    </message>
+    <message>
+        <source>The preset&apos;s option %1=%2 is none of this printer&apos;s any more. The preset keeps it until you save over it.</source>
+        <translation>Questa stampante non ha più l’opzione %1=%2 della preimpostazione. La preimpostazione la conserva finché non viene sovrascritta.</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Pronta</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <comment>state of a printer</comment>
+        <translation>In stampa</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>non accetta lavori</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a state and its reasons</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs.</source>
+        <translation>La stampante %1 non accetta lavori.</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs: %2.</source>
+        <translation>La stampante %1 non accetta lavori: %2.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped. A job waits until it goes on.</source>
+        <translation>La stampante %1 è ferma. Il lavoro attende che riprenda.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped: %2. A job waits until it goes on.</source>
+        <translation>La stampante %1 è ferma: %2. Il lavoro attende che riprenda.</translation>
+    </message>
+    <message>
+        <source>The printer %1 says: %2.</source>
+        <translation>La stampante %1 segnala: %2.</translation>
+    </message>
+    <message>
+        <source>The queue %1 has no printer description by which bytes for the printer could be made: save a PDF instead.</source>
+        <translation>La coda %1 non ha una descrizione della stampante con cui creare i dati: salvare invece un PDF.</translation>
+    </message>
+    <message>
+        <source>The PDF is in %1 (%2 bytes).</source>
+        <translation>Il PDF è in %1 (%2 byte).</translation>
+    </message>
+    <message>
+        <source>The queue %1 takes no jobs: see lpstat -a %1.</source>
+        <translation>La coda %1 non accetta lavori: vedere lpstat -a %1.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no size: write it as Custom.WIDTHxLENGTHmm, or with in, cm or pt.</source>
+        <translation>%1=%2 non è una misura: scrivere Custom.LARGHEZZAxLUNGHEZZAmm, oppure con in, cm o pt.</translation>
+    </message>
+    <message>
+        <source>%1=%2: the printer takes no sizes other than those that it has.</source>
+        <translation>%1=%2: la stampante accetta solo le misure che ha.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is smaller or larger than the printer can take.</source>
+        <translation>%1=%2 è più piccolo o più grande di quanto accetti la stampante.</translation>
+    </message>
+    <message>
+        <source>%1=%2: %3</source>
+        <translation>%1=%2: %3</translation>
+    </message>
+    <message>
+        <source>media=%1 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>media=%1 non è tra le scelte elencate nel file PPD della stampante.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no value that CUPS knows for %1.</source>
+        <translation>%1=%2: CUPS non conosce questo valore per %1.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user&apos;s name and password, and was given none that it accepts.</source>
+        <translation>Il server di stampa %1 richiede nome utente e password, e non ne ha ricevuti di validi.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has stopped answering: try again when it is back.</source>
+        <translation>Il server di stampa %1 ha smesso di rispondere: riprovare quando sarà tornato.</translation>
+    </message>
+    <message>
+        <source>out of tape</source>
+        <translation>nastro esaurito</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>carta esaurita</translation>
+    </message>
+    <message>
+        <source>other tape is needed</source>
+        <translation>serve un altro nastro</translation>
+    </message>
+    <message>
+        <source>other paper is needed</source>
+        <translation>serve altra carta</translation>
+    </message>
+    <message>
+        <source>little tape is left</source>
+        <translation>poco nastro rimasto</translation>
+    </message>
+    <message>
+        <source>little paper is left</source>
+        <translation>poca carta rimasta</translation>
+    </message>
+    <message>
+        <source>the tape is jammed</source>
+        <translation>nastro inceppato</translation>
+    </message>
+    <message>
+        <source>the paper is jammed</source>
+        <translation>carta inceppata</translation>
+    </message>
+    <message>
+        <source>the cover is open</source>
+        <translation>il coperchio è aperto</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>uno sportello è aperto</translation>
+    </message>
+    <message>
+        <source>no cassette is in it</source>
+        <translation>nessuna cassetta inserita</translation>
+    </message>
+    <message>
+        <source>the paper tray is missing</source>
+        <translation>manca il vassoio della carta</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>il vassoio di uscita è pieno</translation>
+    </message>
+    <message>
+        <source>little ink is left</source>
+        <translation>poco inchiostro rimasto</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>inchiostro esaurito</translation>
+    </message>
+    <message>
+        <source>little toner is left</source>
+        <translation>poco toner rimasto</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>toner esaurito</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>in pausa</translation>
+    </message>
+    <message>
+        <source>paused after this job</source>
+        <translation>in pausa dopo questo lavoro</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>i nuovi lavori vengono trattenuti</translation>
+    </message>
+    <message>
+        <source>switched off or not connected</source>
+        <translation>spenta o non collegata</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>non risponde</translation>
+    </message>
+    <message>
+        <source>being connected</source>
+        <translation>connessione in corso</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s disk is full</source>
+        <translation>il disco del server di stampa è pieno</translation>
+    </message>
+    <message>
+        <source>a part of its driver is missing</source>
+        <translation>manca una parte del driver</translation>
+    </message>
+    <message>
+        <source>the print server does not trust its driver</source>
+        <translation>il server di stampa non si fida del suo driver</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>the sign of the inch</comment>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <comment>a length in feet</comment>
+        <translation>%1 ft</translation>
     </message>
 </context>
 </TS>

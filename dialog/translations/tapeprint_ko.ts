@@ -3,12 +3,223 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
-    <name>tapeprint::dialog::LayoutPage</name>
+    <name>tapeprint::dialog::AmountLabel</name>
     <message>
-        <source>Size:</source>
-        <comment>of a page on the tape</comment>
-        <translation>크기:</translation>
+        <source>No page is chosen</source>
+        <translation>선택한 페이지 없음</translation>
     </message>
+    <message>
+        <source>Counting…</source>
+        <translation>세는 중…</translation>
+    </message>
+    <message>
+        <source>Amount not known</source>
+        <translation>양을 알 수 없음</translation>
+    </message>
+    <message>
+        <source>This is an unusual amount: %1.</source>
+        <translation>평소와 다른 양입니다: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Label(s)</source>
+        <translation>
+            <numerusform>레이블 %Ln장 인쇄</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Sheet(s)</source>
+        <translation>
+            <numerusform>%Ln장 인쇄</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ChoiceModel</name>
+    <message>
+        <source>Custom…</source>
+        <comment>a choice that opens fields for a value of one&apos;s own</comment>
+        <translation>사용자 지정…</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ConflictNotice</name>
+    <message>
+        <source>Re&amp;solve</source>
+        <translation>해결(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Resolve: %1</source>
+        <comment>the button, and what it changes</comment>
+        <translation>해결: %1</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>그중 하나를 다른 것으로 선택하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomFields</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of a value</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a value, and what is wrong with it</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomSizeSheet</name>
+    <message>
+        <source>Custom Size</source>
+        <translation>사용자 지정 크기</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>새 크기</translation>
+    </message>
+    <message>
+        <source>Remem&amp;bered:</source>
+        <comment>page sizes with names</comment>
+        <translation>기억된 크기(&amp;B):</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>제거(&amp;M)</translation>
+    </message>
+    <message>
+        <source>To remember it</source>
+        <translation>기억하려면</translation>
+    </message>
+    <message>
+        <source>N&amp;ame:</source>
+        <translation>이름(&amp;A):</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobPage</name>
+    <message>
+        <source>Title:</source>
+        <translation>제목:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>모두</translation>
+    </message>
+    <message>
+        <source>Write pages as 1-3,7</source>
+        <translation>1-3,7처럼 쓰십시오</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>페이지:</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>홀수와 짝수</translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <translation>홀수만</translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <translation>짝수만</translation>
+    </message>
+    <message>
+        <source>Of these:</source>
+        <comment>of the chosen pages, the odd and even ones</comment>
+        <translation>그중:</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>마지막 페이지부터</translation>
+    </message>
+    <message>
+        <source>Copies one after the other</source>
+        <translation>한 부씩 인쇄</translation>
+    </message>
+    <message>
+        <source>1, 2, 3, 1, 2, 3 in place of 1, 1, 2, 2, 3, 3</source>
+        <translation>1, 1, 2, 2, 3, 3 대신 1, 2, 3, 1, 2, 3</translation>
+    </message>
+    <message>
+        <source>1 is the lowest, 100 the highest</source>
+        <translation>1이 가장 낮고 100이 가장 높습니다</translation>
+    </message>
+    <message>
+        <source>Priority:</source>
+        <translation>우선순위:</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>바로</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>해제될 때</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>낮에</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>저녁에</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>밤에</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>2교대에</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>3교대에</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>주말에</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>정한 시각에</translation>
+    </message>
+    <message>
+        <source>Time of printing</source>
+        <translation>인쇄 시각</translation>
+    </message>
+    <message>
+        <source>Print it:</source>
+        <comment>when the job is printed</comment>
+        <translation>인쇄 시점:</translation>
+    </message>
+    <message>
+        <source>Billing:</source>
+        <translation>청구:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobRow</name>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>인쇄 중</translation>
+    </message>
+    <message>
+        <source>The job goes on without this window</source>
+        <translation>이 창이 없어도 작업은 계속됩니다</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::LayoutPage</name>
     <message>
         <source>Shrink when too large</source>
         <translation>너무 크면 축소</translation>
@@ -24,11 +235,6 @@
     <message>
         <source>Original size</source>
         <translation>원본 크기</translation>
-    </message>
-    <message>
-        <source>Direction:</source>
-        <comment>in which a page lies on the tape</comment>
-        <translation>방향:</translation>
     </message>
     <message>
         <source>Longer side along the tape</source>
@@ -80,6 +286,102 @@
         <source>Bottom</source>
         <translation>아래</translation>
     </message>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape or paper</comment>
+        <translation>크기:</translation>
+    </message>
+    <message>
+        <source>Fit to the paper</source>
+        <translation>용지에 맞춤</translation>
+    </message>
+    <message>
+        <source>Fill the paper, cut off the rest</source>
+        <translation>용지를 채우고 나머지는 자름</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape or paper</comment>
+        <translation>방향:</translation>
+    </message>
+    <message>
+        <source>As it fits best</source>
+        <translation>가장 잘 맞게</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>세로</translation>
+    </message>
+    <message>
+        <source>Turned to the left</source>
+        <translation>왼쪽으로 회전</translation>
+    </message>
+    <message>
+        <source>Turned to the right</source>
+        <translation>오른쪽으로 회전</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>거꾸로</translation>
+    </message>
+    <message>
+        <source>Pages on a label:</source>
+        <translation>레이블당 페이지:</translation>
+    </message>
+    <message>
+        <source>Pages on a sheet:</source>
+        <translation>장당 페이지:</translation>
+    </message>
+    <message>
+        <source>Their order:</source>
+        <comment>of the pages on a label or sheet</comment>
+        <translation>순서:</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>왼쪽에서 오른쪽, 다음 아래</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>오른쪽에서 왼쪽, 다음 아래</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>아래, 다음 왼쪽에서 오른쪽</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>아래, 다음 오른쪽에서 왼쪽</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <comment>around each of several pages on a sheet</comment>
+        <translation>테두리:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no frame</comment>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>Single line</source>
+        <translation>한 줄</translation>
+    </message>
+    <message>
+        <source>Double line</source>
+        <translation>두 줄</translation>
+    </message>
+    <message>
+        <source>This is about several pages on one</source>
+        <translation>한 장에 여러 페이지를 놓을 때의 설정입니다</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::NoticesArea</name>
+    <message>
+        <source>Notices</source>
+        <translation>알림</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::OptionsPage</name>
@@ -87,6 +389,10 @@
         <source>%1:</source>
         <comment>name of an option</comment>
         <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Installed in the printer</source>
+        <translation>프린터에 설치된 것</translation>
     </message>
 </context>
 <context>
@@ -106,6 +412,150 @@
     <message>
         <source>The panel &quot;%1&quot; could not restore its values: %2</source>
         <translation>패널 ‘%1’이(가) 값을 되돌리지 못했습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PaperMenu</name>
+    <message>
+        <source>%1 × %2</source>
+        <comment>width and height of a page</comment>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description names no paper.</source>
+        <translation>프린터 설명에 용지가 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a size&apos;s name and its measures</comment>
+        <translation>%1(%2)</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>opens a sheet for a page size of one&apos;s own</comment>
+        <translation>사용자 지정…</translation>
+    </message>
+    <message>
+        <source>Custom (%1)</source>
+        <comment>a page size of one&apos;s own</comment>
+        <translation>사용자 지정(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>암호</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints.</source>
+        <translation>인쇄 서버 %1이(가) 누가 인쇄하는지 묻습니다.</translation>
+    </message>
+    <message>
+        <source>That was not accepted.</source>
+        <translation>받아들여지지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>사용자(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>암호(&amp;P):</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetNameDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>이름(&amp;N):</translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation>사전 설정 %1이(가) 바뀝니다.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>사전 설정 %1이(가) 이미 있습니다.</translation>
+    </message>
+    <message>
+        <source>Take &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 사용</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetRow</name>
+    <message>
+        <source>Printer&apos;s Defaults</source>
+        <translation>프린터 기본값</translation>
+    </message>
+    <message>
+        <source>As Last Time</source>
+        <translation>지난번처럼</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation>사전 설정(&amp;S):</translation>
+    </message>
+    <message>
+        <source>Save, rename or delete presets</source>
+        <translation>사전 설정 저장, 이름 바꾸기, 삭제</translation>
+    </message>
+    <message>
+        <source>&amp;Save as…</source>
+        <translation>다른 이름으로 저장(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Save &amp;over</source>
+        <translation>덮어쓰기(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>이름 바꾸기(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>삭제(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>&amp;Make default</source>
+        <translation>기본값으로 지정(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Print with it when no printer is named</source>
+        <translation>프린터를 지정하지 않으면 이것으로 인쇄합니다</translation>
+    </message>
+    <message>
+        <source>Presets are kept for a print queue, and here is none.</source>
+        <translation>사전 설정은 인쇄 대기열에 속하는데 여기에는 대기열이 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1(변경됨)</translation>
+    </message>
+    <message>
+        <source>There is no preset %1 any more.</source>
+        <translation>사전 설정 %1이(가) 더 이상 없습니다.</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>사전 설정 저장</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>사전 설정 이름 바꾸기</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>사전 설정 삭제</translation>
+    </message>
+    <message>
+        <source>Delete the preset %1? Other programs have it, too, and will lose it.</source>
+        <translation>사전 설정 %1을(를) 삭제할까요? 다른 프로그램에서도 사라집니다.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
     </message>
 </context>
 <context>
@@ -180,10 +630,6 @@
         <translation>매수(&amp;C):</translation>
     </message>
     <message>
-        <source>Pa&amp;nel:</source>
-        <translation>패널(&amp;N):</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>요약</translation>
     </message>
@@ -202,14 +648,6 @@
     <message>
         <source>&amp;Print</source>
         <translation>인쇄(&amp;P)</translation>
-    </message>
-    <message>
-        <source>%1 (no print queue)</source>
-        <translation>%1(인쇄 대기열 없음)</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1(%2)</translation>
     </message>
     <message>
         <source>This panel has no view.</source>
@@ -236,14 +674,6 @@
         <translation>계속 맞춤(&amp;K)</translation>
     </message>
     <message>
-        <source>Printing</source>
-        <translation>인쇄 중</translation>
-    </message>
-    <message>
-        <source>Printing…</source>
-        <translation>인쇄하는 중…</translation>
-    </message>
-    <message>
         <source>Layout</source>
         <translation>배치</translation>
     </message>
@@ -256,8 +686,237 @@
         <translation>문서에 필요한 테이프가 프린터 한도보다 길어 축소합니다.</translation>
     </message>
     <message>
-        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
-        <translation>테이프 길이가 직접 %1 mm로 설정되었습니다. 맞는 길이로 바꿀까요?</translation>
+        <source>Printer Options</source>
+        <translation>프린터 옵션</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Command…</source>
+        <translation>명령 표시(&amp;W)…</translation>
+    </message>
+    <message>
+        <source>The same job as a command for a shell</source>
+        <translation>같은 작업을 셸 명령으로 보여 줍니다</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>그중 하나를 다른 것으로 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Change and &amp;Print</source>
+        <translation>바꾸고 인쇄(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Print All the &amp;Same</source>
+        <translation>그래도 인쇄(&amp;S)</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 by hand. Replace it by the length that fits?</source>
+        <translation>테이프 길이가 직접 %1(으)로 설정되었습니다. 맞는 길이로 바꿀까요?</translation>
+    </message>
+    <message>
+        <source>Setti&amp;ngs:</source>
+        <comment>which page of them</comment>
+        <translation>설정(&amp;N):</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>작업을 인쇄하는 중입니다.</translation>
+    </message>
+    <message>
+        <source>The printer is still being connected.</source>
+        <translation>아직 프린터에 연결하는 중입니다.</translation>
+    </message>
+    <message>
+        <source>Choose a printer first.</source>
+        <translation>먼저 프린터를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>The printer offers no choice here.</source>
+        <translation>프린터가 여기서 선택을 제공하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Not available with this printer, this tape or the other settings.</source>
+        <translation>이 프린터, 이 테이프 또는 다른 설정에서는 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Load Anew</source>
+        <translation>다시 불러오기(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Print %1 – connecting…</source>
+        <translation>%1 인쇄 – 연결하는 중…</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>연결하는 중…</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>프린터를 선택하십시오</translation>
+    </message>
+    <message>
+        <source>The printer is not there any more.</source>
+        <translation>프린터가 더 이상 없습니다.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>작업 취소</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintRun</name>
+    <message>
+        <source>Printing…</source>
+        <translation>인쇄하는 중…</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>취소하는 중…</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <translation>보내는 중…</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterDesk</name>
+    <message>
+        <source>The print server does not answer. Its printers come back when it does.</source>
+        <translation>인쇄 서버가 응답하지 않습니다. 응답하면 프린터가 다시 나타납니다.</translation>
+    </message>
+    <message>
+        <source>There is no default printer. Choose a printer.</source>
+        <translation>기본 프린터가 없습니다. 프린터를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is not there any more. Choose another, or wait until it is back: what you have set is kept.</source>
+        <translation>프린터 %1이(가) 더 이상 없습니다. 다른 프린터를 선택하거나 돌아올 때까지 기다리십시오. 설정은 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
+        <translation>프린터 %1의 설명이 서버에서 바뀌었습니다. 인쇄하기 전에 다시 불러오십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterModel</name>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1(인쇄 대기열 없음)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1(%2)</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1(기본)</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>더 이상 없음</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>위치: %1</translation>
+    </message>
+    <message>
+        <source>A class: whichever of its printers is free prints the job.</source>
+        <translation>클래스: 비어 있는 프린터가 작업을 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>네트워크에서 찾음</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a printer and its state</comment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterPopUp</name>
+    <message>
+        <source>Search by name, description or location</source>
+        <translation>이름, 설명, 위치로 찾기</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>프린터 찾기</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>프린터</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SaveButton</name>
+    <message>
+        <source>labels</source>
+        <comment>the name of a file</comment>
+        <translation>레이블</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Save the job in a file in place of printing it</source>
+        <translation>인쇄하는 대신 작업을 파일에 저장합니다</translation>
+    </message>
+    <message>
+        <source>Save as &amp;PDF…</source>
+        <translation>&amp;PDF로 저장…</translation>
+    </message>
+    <message>
+        <source>Save Printer &amp;Data…</source>
+        <translation>프린터 데이터 저장(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>PDF로 저장</translation>
+    </message>
+    <message>
+        <source>Save Printer Data</source>
+        <translation>프린터 데이터 저장</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF 문서 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Printer data (*.prn)</source>
+        <translation>프린터 데이터 (*.prn)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>모든 파일 (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ShowCommand</name>
+    <message>
+        <source>Commands for a Shell</source>
+        <translation>셸 명령</translation>
+    </message>
+    <message>
+        <source>The same job by &amp;tapeprint:</source>
+        <translation>tapeprint로 같은 작업(&amp;T):</translation>
+    </message>
+    <message>
+        <source>The same options by &amp;lp, which lays nothing out:</source>
+        <translation>lp로 같은 옵션(배치하지 않음)(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>Copy the command of %1</source>
+        <translation>%1 명령 복사</translation>
     </message>
 </context>
 <context>
@@ -285,6 +944,33 @@
         <source>%1; part of the page is cut off</source>
         <comment>length and width</comment>
         <translation>%1, 페이지의 일부가 잘림</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::UnitButton</name>
+    <message>
+        <source>The unit of the lengths shown here</source>
+        <translation>여기에 표시되는 길이의 단위</translation>
+    </message>
+    <message>
+        <source>&amp;Millimetres</source>
+        <translation>밀리미터(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Inches</source>
+        <translation>인치(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Unit of length</source>
+        <translation>길이 단위</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>인치</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>밀리미터</translation>
     </message>
 </context>
 <context>
@@ -550,11 +1236,6 @@
         <translation>프린터에는 %2=%3이(가) 있지만 패널 ‘%1’에서는 선택할 수 없습니다. 작업에는 %4=%5이(가) 들어갑니다.</translation>
     </message>
     <message>
-        <source>%1 in</source>
-        <comment>a length in inches</comment>
-        <translation>%1 인치</translation>
-    </message>
-    <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
         <translation>문서 %1이(가) 없어졌습니다. 아무것도 인쇄되지 않았습니다. 되돌려 놓거나 다른 문서를 여십시오.</translation>
     </message>
@@ -637,6 +1318,424 @@
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
         <translation>PPD 파일 %1이(가) 잘려 끝부분이 없습니다. 다시 복사하십시오.</translation>
+    </message>
+    <message>
+        <source>The chosen pages cannot be put together (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>선택한 페이지를 모을 수 없습니다(%1). 문서가 온전한지, 임시 파일을 둘 공간이 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>an option and its choice</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; becomes &quot;%2&quot;.</source>
+        <translation>&quot;%1&quot;이(가) &quot;%2&quot;(으)로 바뀝니다.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; changes from &quot;%2&quot; to &quot;%3&quot;.</source>
+        <translation>&quot;%1&quot;이(가) &quot;%2&quot;에서 &quot;%3&quot;(으)로 바뀝니다.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not go with &quot;%2&quot;.</source>
+        <translation>&quot;%1&quot;은(는) &quot;%2&quot;와(과) 함께 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 do not go together.</source>
+        <translation>%1은(는) 함께 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <comment>of a page</comment>
+        <translation>너비</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <comment>of a page</comment>
+        <translation>높이</translation>
+    </message>
+    <message>
+        <source>The sizes are not remembered, because %1 cannot be written.</source>
+        <translation>%1에 쓸 수 없어 크기를 기억하지 못합니다.</translation>
+    </message>
+    <message>
+        <source>Leave out single braces and characters that cannot be seen.</source>
+        <translation>짝이 없는 중괄호와 보이지 않는 문자는 빼십시오.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 characters.</source>
+        <translation>%1~%2자로 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Give %1 characters or more.</source>
+        <translation>%1자 이상 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 digits.</source>
+        <translation>%1~%2자리 숫자로 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Give %1 digits or more.</source>
+        <translation>%1자리 이상 숫자로 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 in.</source>
+        <translation>%1~%2인치의 길이를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 mm.</source>
+        <translation>%1~%2 mm의 길이를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Give a whole number from %1 to %2.</source>
+        <translation>%1~%2의 정수를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>Give a number from %1 to %2.</source>
+        <translation>%1~%2의 수를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>The value of option %1 is in braces, which the print server drops: give %1 a plain value.</source>
+        <translation>옵션 %1의 값이 중괄호 안에 있는데 인쇄 서버가 이를 없앱니다. %1에 일반 값을 주십시오.</translation>
+    </message>
+    <message>
+        <source>number-up=%1 is none of the numbers that the print system knows: each page has a sheet of its own.</source>
+        <translation>number-up=%1은(는) 인쇄 시스템이 모르는 수입니다. 페이지마다 한 장을 씁니다.</translation>
+    </message>
+    <message>
+        <source>Option %1 changes nothing on tape: say how pages lie on it by print-scaling, orientation-requested, position and number-up.</source>
+        <translation>옵션 %1은(는) 테이프에서 아무것도 바꾸지 않습니다. 페이지 배치는 print-scaling, orientation-requested, position, number-up으로 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1(%2)</translation>
+    </message>
+    <message>
+        <source>the print server does not say why</source>
+        <translation>인쇄 서버가 이유를 알리지 않음</translation>
+    </message>
+    <message>
+        <source>The print server tells no more of job %1.</source>
+        <translation>인쇄 서버가 작업 %1에 대해 더 알리지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2.</source>
+        <translation>작업 %1이(가) 실패했습니다: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
+        <translation>작업 %1이(가) 실패했습니다: %2. 대기열에 남아 있습니다. 취소하려면: cancel %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>작업 %1이(가) 취소되었습니다.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printed.</source>
+        <translation>작업 %1이(가) 인쇄되었습니다.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held: it waits until it is released.</source>
+        <translation>작업 %1이(가) 보류되었습니다. 해제될 때까지 기다립니다.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits: %2.</source>
+        <translation>작업 %1이(가) 기다립니다: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 is being printed.</source>
+        <translation>작업 %1을(를) 인쇄하는 중입니다.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits behind others: %2.</source>
+        <translation>작업 %1이(가) 다른 작업 뒤에서 기다립니다: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for the printer.</source>
+        <translation>작업 %1이(가) 프린터를 기다립니다.</translation>
+    </message>
+    <message>
+        <source>What became of job %1 is not known.</source>
+        <translation>작업 %1이(가) 어떻게 되었는지 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Job %1 cannot be cancelled (%2).</source>
+        <translation>작업 %1을(를) 취소할 수 없습니다(%2).</translation>
+    </message>
+    <message>
+        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
+        <translation>작업 %1이(가) 일부만 전송된 채 서버에 남아 있을 수 있습니다. 취소하려면: cancel %2-%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
+        <translation>설정을 다음에 쓰도록 보관할 수 없습니다: %1에 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>너무 큽니다</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be read (%2).</source>
+        <translation>사전 설정 파일 %1을(를) 읽을 수 없습니다(%2).</translation>
+    </message>
+    <message>
+        <source>These are more options than CUPS keeps in a preset.</source>
+        <translation>CUPS가 사전 설정에 보관하는 것보다 옵션이 많습니다.</translation>
+    </message>
+    <message>
+        <source>An option has a value that CUPS cannot keep in a preset.</source>
+        <translation>CUPS가 사전 설정에 보관할 수 없는 값을 가진 옵션이 있습니다.</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be written (%2): it stays as it was.</source>
+        <translation>사전 설정 파일 %1에 쓸 수 없습니다(%2). 파일은 그대로 남습니다.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a text and the keyword that tells it from another of the same wording</comment>
+        <translation>%1(%2)</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <comment>options that the printer&apos;s description puts in no group</comment>
+        <translation>일반</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a group of options and a group within it</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is too large for one: name a PPD file.</source>
+        <translation>PPD 파일 %1은(는) PPD로는 너무 큽니다. PPD 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 has no preset %2 of yours.</source>
+        <translation>%1에 사용자의 사전 설정 %2이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>사전 설정 %1이(가) 이미 있습니다.</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>사전 설정에는 이름이 필요합니다.</translation>
+    </message>
+    <message>
+        <source>CUPS cannot keep a preset whose name has blanks, slashes, quotes or one of # &lt; &gt;.</source>
+        <translation>이름에 공백, 빗금, 따옴표 또는 # &lt; &gt; 중 하나가 있는 사전 설정은 CUPS가 보관할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This name is longer than CUPS can keep.</source>
+        <translation>이 이름은 CUPS가 보관할 수 있는 것보다 깁니다.</translation>
+    </message>
+    <message>
+        <source>The preset&apos;s option %1=%2 is none of this printer&apos;s any more. The preset keeps it until you save over it.</source>
+        <translation>사전 설정의 옵션 %1=%2은(는) 이 프린터에 더 이상 없습니다. 덮어쓸 때까지 사전 설정에 남습니다.</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>준비됨</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <comment>state of a printer</comment>
+        <translation>인쇄 중</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>중지됨</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>작업을 받지 않음</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a state and its reasons</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs.</source>
+        <translation>프린터 %1이(가) 작업을 받지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs: %2.</source>
+        <translation>프린터 %1이(가) 작업을 받지 않습니다: %2.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped. A job waits until it goes on.</source>
+        <translation>프린터 %1이(가) 중지되었습니다. 작업은 다시 시작될 때까지 기다립니다.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped: %2. A job waits until it goes on.</source>
+        <translation>프린터 %1이(가) 중지되었습니다: %2. 작업은 다시 시작될 때까지 기다립니다.</translation>
+    </message>
+    <message>
+        <source>The printer %1 says: %2.</source>
+        <translation>프린터 %1의 알림: %2.</translation>
+    </message>
+    <message>
+        <source>The queue %1 has no printer description by which bytes for the printer could be made: save a PDF instead.</source>
+        <translation>대기열 %1에는 프린터 데이터를 만들 프린터 설명이 없습니다. 대신 PDF를 저장하십시오.</translation>
+    </message>
+    <message>
+        <source>The PDF is in %1 (%2 bytes).</source>
+        <translation>PDF는 %1에 있습니다(%2바이트).</translation>
+    </message>
+    <message>
+        <source>The queue %1 takes no jobs: see lpstat -a %1.</source>
+        <translation>대기열 %1이(가) 작업을 받지 않습니다. lpstat -a %1을 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no size: write it as Custom.WIDTHxLENGTHmm, or with in, cm or pt.</source>
+        <translation>%1=%2은(는) 크기가 아닙니다. Custom.너비x길이mm 또는 in, cm, pt로 쓰십시오.</translation>
+    </message>
+    <message>
+        <source>%1=%2: the printer takes no sizes other than those that it has.</source>
+        <translation>%1=%2: 프린터는 가지고 있는 크기만 받습니다.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is smaller or larger than the printer can take.</source>
+        <translation>%1=%2은(는) 프린터가 받을 수 있는 것보다 작거나 큽니다.</translation>
+    </message>
+    <message>
+        <source>%1=%2: %3</source>
+        <translation>%1=%2: %3</translation>
+    </message>
+    <message>
+        <source>media=%1 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>media=%1은(는) 프린터의 PPD에 있는 선택 항목이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no value that CUPS knows for %1.</source>
+        <translation>%1=%2: CUPS가 %1에 대해 모르는 값입니다.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user&apos;s name and password, and was given none that it accepts.</source>
+        <translation>인쇄 서버 %1이(가) 사용자 이름과 암호를 요구하지만 받아들일 수 있는 것을 받지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has stopped answering: try again when it is back.</source>
+        <translation>인쇄 서버 %1이(가) 응답을 멈췄습니다. 돌아오면 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>out of tape</source>
+        <translation>테이프 없음</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>용지 없음</translation>
+    </message>
+    <message>
+        <source>other tape is needed</source>
+        <translation>다른 테이프 필요</translation>
+    </message>
+    <message>
+        <source>other paper is needed</source>
+        <translation>다른 용지 필요</translation>
+    </message>
+    <message>
+        <source>little tape is left</source>
+        <translation>테이프 부족</translation>
+    </message>
+    <message>
+        <source>little paper is left</source>
+        <translation>용지 부족</translation>
+    </message>
+    <message>
+        <source>the tape is jammed</source>
+        <translation>테이프 걸림</translation>
+    </message>
+    <message>
+        <source>the paper is jammed</source>
+        <translation>용지 걸림</translation>
+    </message>
+    <message>
+        <source>the cover is open</source>
+        <translation>덮개 열림</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>문 열림</translation>
+    </message>
+    <message>
+        <source>no cassette is in it</source>
+        <translation>카세트 없음</translation>
+    </message>
+    <message>
+        <source>the paper tray is missing</source>
+        <translation>용지함 없음</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>출력함 가득 참</translation>
+    </message>
+    <message>
+        <source>little ink is left</source>
+        <translation>잉크 부족</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>잉크 없음</translation>
+    </message>
+    <message>
+        <source>little toner is left</source>
+        <translation>토너 부족</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>토너 없음</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>일시 중지됨</translation>
+    </message>
+    <message>
+        <source>paused after this job</source>
+        <translation>이 작업 후 일시 중지</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>새 작업은 보류됨</translation>
+    </message>
+    <message>
+        <source>switched off or not connected</source>
+        <translation>꺼져 있거나 연결되지 않음</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>응답 없음</translation>
+    </message>
+    <message>
+        <source>being connected</source>
+        <translation>연결 중</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s disk is full</source>
+        <translation>인쇄 서버의 디스크가 가득 참</translation>
+    </message>
+    <message>
+        <source>a part of its driver is missing</source>
+        <translation>드라이버 일부가 없음</translation>
+    </message>
+    <message>
+        <source>the print server does not trust its driver</source>
+        <translation>인쇄 서버가 드라이버를 신뢰하지 않음</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>the sign of the inch</comment>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <comment>a length in feet</comment>
+        <translation>%1 ft</translation>
     </message>
 </context>
 </TS>

@@ -3,12 +3,225 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
-    <name>tapeprint::dialog::LayoutPage</name>
+    <name>tapeprint::dialog::AmountLabel</name>
     <message>
-        <source>Size:</source>
-        <comment>of a page on the tape</comment>
-        <translation>Grootte:</translation>
+        <source>No page is chosen</source>
+        <translation>Geen pagina gekozen</translation>
     </message>
+    <message>
+        <source>Counting…</source>
+        <translation>Tellen…</translation>
+    </message>
+    <message>
+        <source>Amount not known</source>
+        <translation>Aantal onbekend</translation>
+    </message>
+    <message>
+        <source>This is an unusual amount: %1.</source>
+        <translation>Dit is een ongewone hoeveelheid: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Label(s)</source>
+        <translation>
+            <numerusform>%Ln etiket afdrukken</numerusform>
+            <numerusform>%Ln etiketten afdrukken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Sheet(s)</source>
+        <translation>
+            <numerusform>%Ln vel afdrukken</numerusform>
+            <numerusform>%Ln vellen afdrukken</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ChoiceModel</name>
+    <message>
+        <source>Custom…</source>
+        <comment>a choice that opens fields for a value of one&apos;s own</comment>
+        <translation>Aangepast…</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ConflictNotice</name>
+    <message>
+        <source>Re&amp;solve</source>
+        <translation>Oplo&amp;ssen</translation>
+    </message>
+    <message>
+        <source>Resolve: %1</source>
+        <comment>the button, and what it changes</comment>
+        <translation>Oplossen: %1</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>Kies voor een ervan iets anders.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomFields</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of a value</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a value, and what is wrong with it</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomSizeSheet</name>
+    <message>
+        <source>Custom Size</source>
+        <translation>Aangepast formaat</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>Nieuw formaat</translation>
+    </message>
+    <message>
+        <source>Remem&amp;bered:</source>
+        <comment>page sizes with names</comment>
+        <translation>&amp;Bewaard:</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>Ver&amp;wijderen</translation>
+    </message>
+    <message>
+        <source>To remember it</source>
+        <translation>Om te bewaren</translation>
+    </message>
+    <message>
+        <source>N&amp;ame:</source>
+        <translation>N&amp;aam:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobPage</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titel:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Write pages as 1-3,7</source>
+        <translation>Schrijf pagina’s als 1-3,7</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pagina’s:</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Oneven en even</translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <translation>Alleen oneven</translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <translation>Alleen even</translation>
+    </message>
+    <message>
+        <source>Of these:</source>
+        <comment>of the chosen pages, the odd and even ones</comment>
+        <translation>Daarvan:</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Laatste pagina eerst</translation>
+    </message>
+    <message>
+        <source>Copies one after the other</source>
+        <translation>Kopieën na elkaar</translation>
+    </message>
+    <message>
+        <source>1, 2, 3, 1, 2, 3 in place of 1, 1, 2, 2, 3, 3</source>
+        <translation>1, 2, 3, 1, 2, 3 in plaats van 1, 1, 2, 2, 3, 3</translation>
+    </message>
+    <message>
+        <source>1 is the lowest, 100 the highest</source>
+        <translation>1 is de laagste, 100 de hoogste</translation>
+    </message>
+    <message>
+        <source>Priority:</source>
+        <translation>Prioriteit:</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Meteen</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>Na vrijgave</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Overdag</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>’s Avonds</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>’s Nachts</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>In de tweede ploeg</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>In de derde ploeg</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>In het weekend</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>Op een tijdstip</translation>
+    </message>
+    <message>
+        <source>Time of printing</source>
+        <translation>Tijdstip van afdrukken</translation>
+    </message>
+    <message>
+        <source>Print it:</source>
+        <comment>when the job is printed</comment>
+        <translation>Afdrukken:</translation>
+    </message>
+    <message>
+        <source>Billing:</source>
+        <translation>Facturering:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobRow</name>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drukt af</translation>
+    </message>
+    <message>
+        <source>The job goes on without this window</source>
+        <translation>De taak gaat door zonder dit venster</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::LayoutPage</name>
     <message>
         <source>Shrink when too large</source>
         <translation>Verkleinen indien te groot</translation>
@@ -24,11 +237,6 @@
     <message>
         <source>Original size</source>
         <translation>Oorspronkelijke grootte</translation>
-    </message>
-    <message>
-        <source>Direction:</source>
-        <comment>in which a page lies on the tape</comment>
-        <translation>Richting:</translation>
     </message>
     <message>
         <source>Longer side along the tape</source>
@@ -80,6 +288,102 @@
         <source>Bottom</source>
         <translation>Onder</translation>
     </message>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape or paper</comment>
+        <translation>Grootte:</translation>
+    </message>
+    <message>
+        <source>Fit to the paper</source>
+        <translation>Passend op het papier</translation>
+    </message>
+    <message>
+        <source>Fill the paper, cut off the rest</source>
+        <translation>Papier vullen, rest afsnijden</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape or paper</comment>
+        <translation>Richting:</translation>
+    </message>
+    <message>
+        <source>As it fits best</source>
+        <translation>Zoals het het beste past</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Staand</translation>
+    </message>
+    <message>
+        <source>Turned to the left</source>
+        <translation>Naar links gedraaid</translation>
+    </message>
+    <message>
+        <source>Turned to the right</source>
+        <translation>Naar rechts gedraaid</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>Ondersteboven</translation>
+    </message>
+    <message>
+        <source>Pages on a label:</source>
+        <translation>Pagina’s per etiket:</translation>
+    </message>
+    <message>
+        <source>Pages on a sheet:</source>
+        <translation>Pagina’s per vel:</translation>
+    </message>
+    <message>
+        <source>Their order:</source>
+        <comment>of the pages on a label or sheet</comment>
+        <translation>Volgorde:</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>Van links naar rechts, dan omlaag</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>Van rechts naar links, dan omlaag</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Omlaag, dan van links naar rechts</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Omlaag, dan van rechts naar links</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <comment>around each of several pages on a sheet</comment>
+        <translation>Kader:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no frame</comment>
+        <translation>Geen</translation>
+    </message>
+    <message>
+        <source>Single line</source>
+        <translation>Enkele lijn</translation>
+    </message>
+    <message>
+        <source>Double line</source>
+        <translation>Dubbele lijn</translation>
+    </message>
+    <message>
+        <source>This is about several pages on one</source>
+        <translation>Dit gaat over meer pagina’s op één</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::NoticesArea</name>
+    <message>
+        <source>Notices</source>
+        <translation>Meldingen</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::OptionsPage</name>
@@ -87,6 +391,10 @@
         <source>%1:</source>
         <comment>name of an option</comment>
         <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Installed in the printer</source>
+        <translation>In de printer geïnstalleerd</translation>
     </message>
 </context>
 <context>
@@ -106,6 +414,150 @@
     <message>
         <source>The panel &quot;%1&quot; could not restore its values: %2</source>
         <translation>Het paneel ‘%1’ kon zijn waarden niet herstellen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PaperMenu</name>
+    <message>
+        <source>%1 × %2</source>
+        <comment>width and height of a page</comment>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description names no paper.</source>
+        <translation>De beschrijving van de printer noemt geen papier.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a size&apos;s name and its measures</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>opens a sheet for a page size of one&apos;s own</comment>
+        <translation>Aangepast…</translation>
+    </message>
+    <message>
+        <source>Custom (%1)</source>
+        <comment>a page size of one&apos;s own</comment>
+        <translation>Aangepast (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Wachtwoord</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints.</source>
+        <translation>De afdrukserver %1 wil weten wie er afdrukt.</translation>
+    </message>
+    <message>
+        <source>That was not accepted.</source>
+        <translation>Dat is niet aangenomen.</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>Gebr&amp;uiker:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Wachtwoord:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetNameDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Naam:</translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation>De voorinstelling %1 wordt vervangen.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>Er is al een voorinstelling %1.</translation>
+    </message>
+    <message>
+        <source>Take &quot;%1&quot;</source>
+        <translation>“%1” gebruiken</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetRow</name>
+    <message>
+        <source>Printer&apos;s Defaults</source>
+        <translation>Standaard van de printer</translation>
+    </message>
+    <message>
+        <source>As Last Time</source>
+        <translation>Zoals de vorige keer</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation>Voorin&amp;stelling:</translation>
+    </message>
+    <message>
+        <source>Save, rename or delete presets</source>
+        <translation>Voorinstellingen opslaan, hernoemen of verwijderen</translation>
+    </message>
+    <message>
+        <source>&amp;Save as…</source>
+        <translation>Op&amp;slaan als…</translation>
+    </message>
+    <message>
+        <source>Save &amp;over</source>
+        <translation>&amp;Overschrijven</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Hernoemen…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Verwijderen…</translation>
+    </message>
+    <message>
+        <source>&amp;Make default</source>
+        <translation>Als stan&amp;daard instellen</translation>
+    </message>
+    <message>
+        <source>Print with it when no printer is named</source>
+        <translation>Hiermee afdrukken als er geen printer is genoemd</translation>
+    </message>
+    <message>
+        <source>Presets are kept for a print queue, and here is none.</source>
+        <translation>Voorinstellingen horen bij een wachtrij, en hier is er geen.</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (gewijzigd)</translation>
+    </message>
+    <message>
+        <source>There is no preset %1 any more.</source>
+        <translation>Er is geen voorinstelling %1 meer.</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>Voorinstelling opslaan</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Voorinstelling hernoemen</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Voorinstelling verwijderen</translation>
+    </message>
+    <message>
+        <source>Delete the preset %1? Other programs have it, too, and will lose it.</source>
+        <translation>De voorinstelling %1 verwijderen? Andere programma’s hebben die ook en raken die kwijt.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
     </message>
 </context>
 <context>
@@ -182,10 +634,6 @@
         <translation>&amp;Kopieën:</translation>
     </message>
     <message>
-        <source>Pa&amp;nel:</source>
-        <translation>Pa&amp;neel:</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>Overzicht</translation>
     </message>
@@ -204,14 +652,6 @@
     <message>
         <source>&amp;Print</source>
         <translation>&amp;Afdrukken</translation>
-    </message>
-    <message>
-        <source>%1 (no print queue)</source>
-        <translation>%1 (geen afdrukwachtrij)</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>This panel has no view.</source>
@@ -238,14 +678,6 @@
         <translation>&amp;Passend houden</translation>
     </message>
     <message>
-        <source>Printing</source>
-        <translation>Bezig met afdrukken</translation>
-    </message>
-    <message>
-        <source>Printing…</source>
-        <translation>Afdrukken…</translation>
-    </message>
-    <message>
         <source>Layout</source>
         <translation>Indeling</translation>
     </message>
@@ -258,8 +690,237 @@
         <translation>Het document heeft meer tape nodig dan de printer aankan: het wordt verkleind.</translation>
     </message>
     <message>
-        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
-        <translation>De tapelengte is met de hand op %1 mm gezet. Vervangen door de passende lengte?</translation>
+        <source>Printer Options</source>
+        <translation>Printeropties</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Taak</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Command…</source>
+        <translation>O&amp;pdracht tonen…</translation>
+    </message>
+    <message>
+        <source>The same job as a command for a shell</source>
+        <translation>Dezelfde taak als opdracht voor de shell</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>Kies voor een ervan iets anders.</translation>
+    </message>
+    <message>
+        <source>Change and &amp;Print</source>
+        <translation>Wijzigen en afdru&amp;kken</translation>
+    </message>
+    <message>
+        <source>Print All the &amp;Same</source>
+        <translation>&amp;Toch afdrukken</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 by hand. Replace it by the length that fits?</source>
+        <translation>De tapelengte is met de hand op %1 gezet. Vervangen door de passende lengte?</translation>
+    </message>
+    <message>
+        <source>Setti&amp;ngs:</source>
+        <comment>which page of them</comment>
+        <translation>I&amp;nstellingen:</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>De taak wordt afgedrukt.</translation>
+    </message>
+    <message>
+        <source>The printer is still being connected.</source>
+        <translation>De printer wordt nog verbonden.</translation>
+    </message>
+    <message>
+        <source>Choose a printer first.</source>
+        <translation>Kies eerst een printer.</translation>
+    </message>
+    <message>
+        <source>The printer offers no choice here.</source>
+        <translation>De printer biedt hier geen keuze.</translation>
+    </message>
+    <message>
+        <source>Not available with this printer, this tape or the other settings.</source>
+        <translation>Niet beschikbaar met deze printer, deze tape of de andere instellingen.</translation>
+    </message>
+    <message>
+        <source>&amp;Load Anew</source>
+        <translation>Opnieuw &amp;laden</translation>
+    </message>
+    <message>
+        <source>Print %1 – connecting…</source>
+        <translation>%1 afdrukken – verbinden…</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Verbinden…</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Kies een printer</translation>
+    </message>
+    <message>
+        <source>The printer is not there any more.</source>
+        <translation>De printer is er niet meer.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Taak annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintRun</name>
+    <message>
+        <source>Printing…</source>
+        <translation>Afdrukken…</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Annuleren…</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <translation>Verzenden…</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterDesk</name>
+    <message>
+        <source>The print server does not answer. Its printers come back when it does.</source>
+        <translation>De afdrukserver antwoordt niet. Zijn printers komen terug zodra hij antwoordt.</translation>
+    </message>
+    <message>
+        <source>There is no default printer. Choose a printer.</source>
+        <translation>Er is geen standaardprinter. Kies een printer.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is not there any more. Choose another, or wait until it is back: what you have set is kept.</source>
+        <translation>De printer %1 is er niet meer. Kies een andere of wacht tot die terug is: uw instellingen blijven bewaard.</translation>
+    </message>
+    <message>
+        <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
+        <translation>De beschrijving van de printer %1 is op de server gewijzigd. Laad die opnieuw voor u afdrukt.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterModel</name>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (geen wachtrij)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (standaard)</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>niet meer aanwezig</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Locatie: %1</translation>
+    </message>
+    <message>
+        <source>A class: whichever of its printers is free prints the job.</source>
+        <translation>Een klasse: welke printer ervan ook vrij is, drukt de taak af.</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Op het netwerk gevonden</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a printer and its state</comment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterPopUp</name>
+    <message>
+        <source>Search by name, description or location</source>
+        <translation>Zoeken op naam, beschrijving of locatie</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>Printers zoeken</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Printers</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SaveButton</name>
+    <message>
+        <source>labels</source>
+        <comment>the name of a file</comment>
+        <translation>etiketten</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Save the job in a file in place of printing it</source>
+        <translation>De taak in een bestand opslaan in plaats van afdrukken</translation>
+    </message>
+    <message>
+        <source>Save as &amp;PDF…</source>
+        <translation>Opslaan als &amp;PDF…</translation>
+    </message>
+    <message>
+        <source>Save Printer &amp;Data…</source>
+        <translation>Printer&amp;gegevens opslaan…</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Opslaan als PDF</translation>
+    </message>
+    <message>
+        <source>Save Printer Data</source>
+        <translation>Printergegevens opslaan</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF-documenten (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Printer data (*.prn)</source>
+        <translation>Printergegevens (*.prn)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle bestanden (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ShowCommand</name>
+    <message>
+        <source>Commands for a Shell</source>
+        <translation>Opdrachten voor de shell</translation>
+    </message>
+    <message>
+        <source>The same job by &amp;tapeprint:</source>
+        <translation>Dezelfde taak met &amp;tapeprint:</translation>
+    </message>
+    <message>
+        <source>The same options by &amp;lp, which lays nothing out:</source>
+        <translation>Dezelfde opties met &amp;lp, dat niets opmaakt:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Copy the command of %1</source>
+        <translation>De opdracht van %1 kopiëren</translation>
     </message>
 </context>
 <context>
@@ -287,6 +948,33 @@
         <source>%1; part of the page is cut off</source>
         <comment>length and width</comment>
         <translation>%1; een deel van de pagina valt weg</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::UnitButton</name>
+    <message>
+        <source>The unit of the lengths shown here</source>
+        <translation>De eenheid van de lengten die hier staan</translation>
+    </message>
+    <message>
+        <source>&amp;Millimetres</source>
+        <translation>&amp;Millimeter</translation>
+    </message>
+    <message>
+        <source>&amp;Inches</source>
+        <translation>&amp;Inch</translation>
+    </message>
+    <message>
+        <source>Unit of length</source>
+        <translation>Lengte-eenheid</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Inch</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimeter</translation>
     </message>
 </context>
 <context>
@@ -552,11 +1240,6 @@
         <translation>Het paneel ‘%1’ biedt %2=%3 niet aan, hoewel de printer het heeft: de taak bevat %4=%5.</translation>
     </message>
     <message>
-        <source>%1 in</source>
-        <comment>a length in inches</comment>
-        <translation>%1 inch</translation>
-    </message>
-    <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
         <translation>Het document %1 is verdwenen: er is niets afgedrukt. Zet het terug of open een ander.</translation>
     </message>
@@ -639,6 +1322,424 @@
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
         <translation>Het PPD-bestand %1 is afgebroken: het einde ontbreekt. Kopieer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The chosen pages cannot be put together (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>De gekozen pagina’s kunnen niet worden samengevoegd (%1): kijk of het document heel is en of er ruimte is voor tijdelijke bestanden.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>an option and its choice</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; becomes &quot;%2&quot;.</source>
+        <translation>“%1” wordt “%2”.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; changes from &quot;%2&quot; to &quot;%3&quot;.</source>
+        <translation>“%1” gaat van “%2” naar “%3”.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not go with &quot;%2&quot;.</source>
+        <translation>“%1” gaat niet samen met “%2”.</translation>
+    </message>
+    <message>
+        <source>%1 do not go together.</source>
+        <translation>%1 gaan niet samen.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <comment>of a page</comment>
+        <translation>Breedte</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <comment>of a page</comment>
+        <translation>Hoogte</translation>
+    </message>
+    <message>
+        <source>The sizes are not remembered, because %1 cannot be written.</source>
+        <translation>De formaten worden niet bewaard, omdat %1 niet kan worden geschreven.</translation>
+    </message>
+    <message>
+        <source>Leave out single braces and characters that cannot be seen.</source>
+        <translation>Laat losse accolades en onzichtbare tekens weg.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 characters.</source>
+        <translation>Geef %1 tot %2 tekens op.</translation>
+    </message>
+    <message>
+        <source>Give %1 characters or more.</source>
+        <translation>Geef minstens %1 tekens op.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 digits.</source>
+        <translation>Geef %1 tot %2 cijfers op.</translation>
+    </message>
+    <message>
+        <source>Give %1 digits or more.</source>
+        <translation>Geef minstens %1 cijfers op.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 in.</source>
+        <translation>Geef een lengte van %1 tot %2 inch op.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 mm.</source>
+        <translation>Geef een lengte van %1 tot %2 mm op.</translation>
+    </message>
+    <message>
+        <source>Give a whole number from %1 to %2.</source>
+        <translation>Geef een geheel getal van %1 tot %2 op.</translation>
+    </message>
+    <message>
+        <source>Give a number from %1 to %2.</source>
+        <translation>Geef een getal van %1 tot %2 op.</translation>
+    </message>
+    <message>
+        <source>The value of option %1 is in braces, which the print server drops: give %1 a plain value.</source>
+        <translation>De waarde van optie %1 staat tussen accolades, die de afdrukserver weglaat: geef %1 een gewone waarde.</translation>
+    </message>
+    <message>
+        <source>number-up=%1 is none of the numbers that the print system knows: each page has a sheet of its own.</source>
+        <translation>number-up=%1 is geen aantal dat het afdruksysteem kent: elke pagina krijgt een eigen vel.</translation>
+    </message>
+    <message>
+        <source>Option %1 changes nothing on tape: say how pages lie on it by print-scaling, orientation-requested, position and number-up.</source>
+        <translation>De optie %1 verandert niets op tape: geef met print-scaling, orientation-requested, position en number-up aan hoe pagina’s liggen.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>the print server does not say why</source>
+        <translation>de afdrukserver zegt niet waarom</translation>
+    </message>
+    <message>
+        <source>The print server tells no more of job %1.</source>
+        <translation>De afdrukserver meldt niets meer over taak %1.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2.</source>
+        <translation>Taak %1 is mislukt: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
+        <translation>Taak %1 is mislukt: %2. De taak blijft in de wachtrij; annuleer die met: cancel %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>Taak %1 is geannuleerd.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printed.</source>
+        <translation>Taak %1 is afgedrukt.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held: it waits until it is released.</source>
+        <translation>Taak %1 wordt vastgehouden tot die wordt vrijgegeven.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits: %2.</source>
+        <translation>Taak %1 wacht: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 is being printed.</source>
+        <translation>Taak %1 wordt afgedrukt.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits behind others: %2.</source>
+        <translation>Taak %1 wacht achter andere: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for the printer.</source>
+        <translation>Taak %1 wacht op de printer.</translation>
+    </message>
+    <message>
+        <source>What became of job %1 is not known.</source>
+        <translation>Wat er van taak %1 is geworden, is niet bekend.</translation>
+    </message>
+    <message>
+        <source>Job %1 cannot be cancelled (%2).</source>
+        <translation>Taak %1 kan niet worden geannuleerd (%2).</translation>
+    </message>
+    <message>
+        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
+        <translation>Taak %1 staat misschien half verstuurd op de server; annuleer die met: cancel %2-%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
+        <translation>De instellingen kunnen niet voor de volgende keer worden bewaard: %1 kan niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>het is geen bestand</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>het is te groot</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be read (%2).</source>
+        <translation>Het bestand met uw voorinstellingen, %1, kan niet worden gelezen (%2).</translation>
+    </message>
+    <message>
+        <source>These are more options than CUPS keeps in a preset.</source>
+        <translation>Dit zijn meer opties dan CUPS in een voorinstelling bewaart.</translation>
+    </message>
+    <message>
+        <source>An option has a value that CUPS cannot keep in a preset.</source>
+        <translation>Een optie heeft een waarde die CUPS niet in een voorinstelling kan bewaren.</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be written (%2): it stays as it was.</source>
+        <translation>Het bestand met uw voorinstellingen, %1, kan niet worden geschreven (%2): het blijft zoals het was.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a text and the keyword that tells it from another of the same wording</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <comment>options that the printer&apos;s description puts in no group</comment>
+        <translation>Algemeen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a group of options and a group within it</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is too large for one: name a PPD file.</source>
+        <translation>Het bestand %1 is te groot voor een PPD: noem een PPD-bestand.</translation>
+    </message>
+    <message>
+        <source>%1 has no preset %2 of yours.</source>
+        <translation>%1 heeft geen voorinstelling %2 van u.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>Er is al een voorinstelling %1.</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Een voorinstelling heeft een naam nodig.</translation>
+    </message>
+    <message>
+        <source>CUPS cannot keep a preset whose name has blanks, slashes, quotes or one of # &lt; &gt;.</source>
+        <translation>CUPS kan geen voorinstelling bewaren waarvan de naam spaties, schuine strepen, aanhalingstekens of een van # &lt; &gt; bevat.</translation>
+    </message>
+    <message>
+        <source>This name is longer than CUPS can keep.</source>
+        <translation>Deze naam is langer dan CUPS kan bewaren.</translation>
+    </message>
+    <message>
+        <source>The preset&apos;s option %1=%2 is none of this printer&apos;s any more. The preset keeps it until you save over it.</source>
+        <translation>Deze printer heeft de optie %1=%2 van de voorinstelling niet meer. De voorinstelling houdt die tot u haar overschrijft.</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Gereed</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <comment>state of a printer</comment>
+        <translation>Drukt af</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Gestopt</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>neemt geen taken aan</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a state and its reasons</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs.</source>
+        <translation>De printer %1 neemt geen taken aan.</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs: %2.</source>
+        <translation>De printer %1 neemt geen taken aan: %2.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped. A job waits until it goes on.</source>
+        <translation>De printer %1 is gestopt. Een taak wacht tot die verdergaat.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped: %2. A job waits until it goes on.</source>
+        <translation>De printer %1 is gestopt: %2. Een taak wacht tot die verdergaat.</translation>
+    </message>
+    <message>
+        <source>The printer %1 says: %2.</source>
+        <translation>De printer %1 meldt: %2.</translation>
+    </message>
+    <message>
+        <source>The queue %1 has no printer description by which bytes for the printer could be made: save a PDF instead.</source>
+        <translation>De wachtrij %1 heeft geen printerbeschrijving om gegevens mee te maken: sla in plaats daarvan een PDF op.</translation>
+    </message>
+    <message>
+        <source>The PDF is in %1 (%2 bytes).</source>
+        <translation>De PDF staat in %1 (%2 bytes).</translation>
+    </message>
+    <message>
+        <source>The queue %1 takes no jobs: see lpstat -a %1.</source>
+        <translation>De wachtrij %1 neemt geen taken aan: zie lpstat -a %1.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no size: write it as Custom.WIDTHxLENGTHmm, or with in, cm or pt.</source>
+        <translation>%1=%2 is geen formaat: schrijf Custom.BREEDTExLENGTEmm, of met in, cm of pt.</translation>
+    </message>
+    <message>
+        <source>%1=%2: the printer takes no sizes other than those that it has.</source>
+        <translation>%1=%2: de printer neemt alleen de formaten die hij heeft.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is smaller or larger than the printer can take.</source>
+        <translation>%1=%2 is kleiner of groter dan de printer aankan.</translation>
+    </message>
+    <message>
+        <source>%1=%2: %3</source>
+        <translation>%1=%2: %3</translation>
+    </message>
+    <message>
+        <source>media=%1 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>media=%1 komt niet voor in de keuzes van het PPD-bestand van de printer.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no value that CUPS knows for %1.</source>
+        <translation>%1=%2: CUPS kent deze waarde niet voor %1.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user&apos;s name and password, and was given none that it accepts.</source>
+        <translation>De afdrukserver %1 vraagt een gebruikersnaam en wachtwoord, en kreeg er geen die hij aanneemt.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has stopped answering: try again when it is back.</source>
+        <translation>De afdrukserver %1 antwoordt niet meer: probeer het opnieuw als hij terug is.</translation>
+    </message>
+    <message>
+        <source>out of tape</source>
+        <translation>tape is op</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>papier is op</translation>
+    </message>
+    <message>
+        <source>other tape is needed</source>
+        <translation>andere tape nodig</translation>
+    </message>
+    <message>
+        <source>other paper is needed</source>
+        <translation>ander papier nodig</translation>
+    </message>
+    <message>
+        <source>little tape is left</source>
+        <translation>weinig tape over</translation>
+    </message>
+    <message>
+        <source>little paper is left</source>
+        <translation>weinig papier over</translation>
+    </message>
+    <message>
+        <source>the tape is jammed</source>
+        <translation>de tape zit vast</translation>
+    </message>
+    <message>
+        <source>the paper is jammed</source>
+        <translation>papier zit vast</translation>
+    </message>
+    <message>
+        <source>the cover is open</source>
+        <translation>het deksel is open</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>een klep is open</translation>
+    </message>
+    <message>
+        <source>no cassette is in it</source>
+        <translation>er zit geen cassette in</translation>
+    </message>
+    <message>
+        <source>the paper tray is missing</source>
+        <translation>de papierlade ontbreekt</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>de uitvoerlade is vol</translation>
+    </message>
+    <message>
+        <source>little ink is left</source>
+        <translation>weinig inkt over</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>inkt is op</translation>
+    </message>
+    <message>
+        <source>little toner is left</source>
+        <translation>weinig toner over</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>toner is op</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>gepauzeerd</translation>
+    </message>
+    <message>
+        <source>paused after this job</source>
+        <translation>gepauzeerd na deze taak</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>nieuwe taken worden vastgehouden</translation>
+    </message>
+    <message>
+        <source>switched off or not connected</source>
+        <translation>uitgeschakeld of niet verbonden</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>hij antwoordt niet</translation>
+    </message>
+    <message>
+        <source>being connected</source>
+        <translation>wordt verbonden</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s disk is full</source>
+        <translation>de schijf van de afdrukserver is vol</translation>
+    </message>
+    <message>
+        <source>a part of its driver is missing</source>
+        <translation>een deel van het stuurprogramma ontbreekt</translation>
+    </message>
+    <message>
+        <source>the print server does not trust its driver</source>
+        <translation>de afdrukserver vertrouwt het stuurprogramma niet</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>the sign of the inch</comment>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <comment>a length in feet</comment>
+        <translation>%1 ft</translation>
     </message>
 </context>
 </TS>

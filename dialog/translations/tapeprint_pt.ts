@@ -3,12 +3,225 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
-    <name>tapeprint::dialog::LayoutPage</name>
+    <name>tapeprint::dialog::AmountLabel</name>
     <message>
-        <source>Size:</source>
-        <comment>of a page on the tape</comment>
-        <translation>Tamanho:</translation>
+        <source>No page is chosen</source>
+        <translation>Nenhuma página escolhida</translation>
     </message>
+    <message>
+        <source>Counting…</source>
+        <translation>A contar…</translation>
+    </message>
+    <message>
+        <source>Amount not known</source>
+        <translation>Quantidade desconhecida</translation>
+    </message>
+    <message>
+        <source>This is an unusual amount: %1.</source>
+        <translation>É uma quantidade invulgar: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Label(s)</source>
+        <translation>
+            <numerusform>Imprimir %Ln etiqueta</numerusform>
+            <numerusform>Imprimir %Ln etiquetas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Print %Ln Sheet(s)</source>
+        <translation>
+            <numerusform>Imprimir %Ln folha</numerusform>
+            <numerusform>Imprimir %Ln folhas</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ChoiceModel</name>
+    <message>
+        <source>Custom…</source>
+        <comment>a choice that opens fields for a value of one&apos;s own</comment>
+        <translation>Personalizado…</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ConflictNotice</name>
+    <message>
+        <source>Re&amp;solve</source>
+        <translation>Re&amp;solver</translation>
+    </message>
+    <message>
+        <source>Resolve: %1</source>
+        <comment>the button, and what it changes</comment>
+        <translation>Resolver: %1</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>Escolha outra coisa para uma delas.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomFields</name>
+    <message>
+        <source>%1:</source>
+        <comment>name of a value</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name of a value, and what is wrong with it</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::CustomSizeSheet</name>
+    <message>
+        <source>Custom Size</source>
+        <translation>Tamanho personalizado</translation>
+    </message>
+    <message>
+        <source>New size</source>
+        <translation>Tamanho novo</translation>
+    </message>
+    <message>
+        <source>Remem&amp;bered:</source>
+        <comment>page sizes with names</comment>
+        <translation>&amp;Guardados:</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>Re&amp;mover</translation>
+    </message>
+    <message>
+        <source>To remember it</source>
+        <translation>Para o guardar</translation>
+    </message>
+    <message>
+        <source>N&amp;ame:</source>
+        <translation>N&amp;ome:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobPage</name>
+    <message>
+        <source>Title:</source>
+        <translation>Título:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>Write pages as 1-3,7</source>
+        <translation>Escreva as páginas assim: 1-3,7</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Páginas:</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Ímpares e pares</translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <translation>Só ímpares</translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <translation>Só pares</translation>
+    </message>
+    <message>
+        <source>Of these:</source>
+        <comment>of the chosen pages, the odd and even ones</comment>
+        <translation>Destas:</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Última página primeiro</translation>
+    </message>
+    <message>
+        <source>Copies one after the other</source>
+        <translation>Cópias uma a seguir à outra</translation>
+    </message>
+    <message>
+        <source>1, 2, 3, 1, 2, 3 in place of 1, 1, 2, 2, 3, 3</source>
+        <translation>1, 2, 3, 1, 2, 3 em vez de 1, 1, 2, 2, 3, 3</translation>
+    </message>
+    <message>
+        <source>1 is the lowest, 100 the highest</source>
+        <translation>1 é a mais baixa, 100 a mais alta</translation>
+    </message>
+    <message>
+        <source>Priority:</source>
+        <translation>Prioridade:</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>De imediato</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>Quando for libertado</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>De dia</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Ao fim do dia</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>À noite</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>No segundo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>No terceiro turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>No fim de semana</translation>
+    </message>
+    <message>
+        <source>At a time</source>
+        <translation>A uma hora</translation>
+    </message>
+    <message>
+        <source>Time of printing</source>
+        <translation>Hora de impressão</translation>
+    </message>
+    <message>
+        <source>Print it:</source>
+        <comment>when the job is printed</comment>
+        <translation>Imprimir:</translation>
+    </message>
+    <message>
+        <source>Billing:</source>
+        <translation>Faturação:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::JobRow</name>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>A imprimir</translation>
+    </message>
+    <message>
+        <source>The job goes on without this window</source>
+        <translation>O trabalho continua sem esta janela</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::LayoutPage</name>
     <message>
         <source>Shrink when too large</source>
         <translation>Reduzir se for demasiado grande</translation>
@@ -24,11 +237,6 @@
     <message>
         <source>Original size</source>
         <translation>Tamanho original</translation>
-    </message>
-    <message>
-        <source>Direction:</source>
-        <comment>in which a page lies on the tape</comment>
-        <translation>Direção:</translation>
     </message>
     <message>
         <source>Longer side along the tape</source>
@@ -80,6 +288,102 @@
         <source>Bottom</source>
         <translation>Em baixo</translation>
     </message>
+    <message>
+        <source>Size:</source>
+        <comment>of a page on the tape or paper</comment>
+        <translation>Tamanho:</translation>
+    </message>
+    <message>
+        <source>Fit to the paper</source>
+        <translation>Ajustar ao papel</translation>
+    </message>
+    <message>
+        <source>Fill the paper, cut off the rest</source>
+        <translation>Encher o papel e cortar o resto</translation>
+    </message>
+    <message>
+        <source>Direction:</source>
+        <comment>in which a page lies on the tape or paper</comment>
+        <translation>Direção:</translation>
+    </message>
+    <message>
+        <source>As it fits best</source>
+        <translation>Como melhor couber</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Turned to the left</source>
+        <translation>Rodada para a esquerda</translation>
+    </message>
+    <message>
+        <source>Turned to the right</source>
+        <translation>Rodada para a direita</translation>
+    </message>
+    <message>
+        <source>Upside down</source>
+        <translation>De pernas para o ar</translation>
+    </message>
+    <message>
+        <source>Pages on a label:</source>
+        <translation>Páginas por etiqueta:</translation>
+    </message>
+    <message>
+        <source>Pages on a sheet:</source>
+        <translation>Páginas por folha:</translation>
+    </message>
+    <message>
+        <source>Their order:</source>
+        <comment>of the pages on a label or sheet</comment>
+        <translation>Ordem:</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>Da esquerda para a direita, depois para baixo</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>Da direita para a esquerda, depois para baixo</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Para baixo, depois da esquerda para a direita</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Para baixo, depois da direita para a esquerda</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <comment>around each of several pages on a sheet</comment>
+        <translation>Moldura:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no frame</comment>
+        <translation>Nenhuma</translation>
+    </message>
+    <message>
+        <source>Single line</source>
+        <translation>Linha simples</translation>
+    </message>
+    <message>
+        <source>Double line</source>
+        <translation>Linha dupla</translation>
+    </message>
+    <message>
+        <source>This is about several pages on one</source>
+        <translation>Diz respeito a várias páginas numa só</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::NoticesArea</name>
+    <message>
+        <source>Notices</source>
+        <translation>Avisos</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::OptionsPage</name>
@@ -87,6 +391,10 @@
         <source>%1:</source>
         <comment>name of an option</comment>
         <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Installed in the printer</source>
+        <translation>Instalado na impressora</translation>
     </message>
 </context>
 <context>
@@ -106,6 +414,150 @@
     <message>
         <source>The panel &quot;%1&quot; could not restore its values: %2</source>
         <translation>O painel “%1” não conseguiu repor os seus valores: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PaperMenu</name>
+    <message>
+        <source>%1 × %2</source>
+        <comment>width and height of a page</comment>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description names no paper.</source>
+        <translation>A descrição da impressora não indica papel.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a size&apos;s name and its measures</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>opens a sheet for a page size of one&apos;s own</comment>
+        <translation>Personalizado…</translation>
+    </message>
+    <message>
+        <source>Custom (%1)</source>
+        <comment>a page size of one&apos;s own</comment>
+        <translation>Personalizado (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Palavra-passe</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints.</source>
+        <translation>O servidor de impressão %1 quer saber quem imprime.</translation>
+    </message>
+    <message>
+        <source>That was not accepted.</source>
+        <translation>Isso não foi aceite.</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Utilizador:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Palavra-passe:</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetNameDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nome:</translation>
+    </message>
+    <message>
+        <source>The preset %1 will be replaced.</source>
+        <translation>A predefinição %1 será substituída.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>Já existe uma predefinição %1.</translation>
+    </message>
+    <message>
+        <source>Take &quot;%1&quot;</source>
+        <translation>Usar “%1”</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PresetRow</name>
+    <message>
+        <source>Printer&apos;s Defaults</source>
+        <translation>Valores da impressora</translation>
+    </message>
+    <message>
+        <source>As Last Time</source>
+        <translation>Como da última vez</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation>Pre&amp;definição:</translation>
+    </message>
+    <message>
+        <source>Save, rename or delete presets</source>
+        <translation>Guardar, mudar o nome ou eliminar predefinições</translation>
+    </message>
+    <message>
+        <source>&amp;Save as…</source>
+        <translation>&amp;Guardar como…</translation>
+    </message>
+    <message>
+        <source>Save &amp;over</source>
+        <translation>S&amp;ubstituir</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Mudar o nome…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Eliminar…</translation>
+    </message>
+    <message>
+        <source>&amp;Make default</source>
+        <translation>Tornar pre&amp;definida</translation>
+    </message>
+    <message>
+        <source>Print with it when no printer is named</source>
+        <translation>Imprimir com ela quando não se indica impressora</translation>
+    </message>
+    <message>
+        <source>Presets are kept for a print queue, and here is none.</source>
+        <translation>As predefinições pertencem a uma fila de impressão, e aqui não há nenhuma.</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (alterada)</translation>
+    </message>
+    <message>
+        <source>There is no preset %1 any more.</source>
+        <translation>A predefinição %1 já não existe.</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>Guardar predefinição</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Mudar o nome da predefinição</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Eliminar predefinição</translation>
+    </message>
+    <message>
+        <source>Delete the preset %1? Other programs have it, too, and will lose it.</source>
+        <translation>Eliminar a predefinição %1? Outros programas também a têm e vão perdê-la.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
     </message>
 </context>
 <context>
@@ -182,10 +634,6 @@
         <translation>&amp;Cópias:</translation>
     </message>
     <message>
-        <source>Pa&amp;nel:</source>
-        <translation>Pai&amp;nel:</translation>
-    </message>
-    <message>
         <source>Summary</source>
         <translation>Resumo</translation>
     </message>
@@ -204,14 +652,6 @@
     <message>
         <source>&amp;Print</source>
         <translation>&amp;Imprimir</translation>
-    </message>
-    <message>
-        <source>%1 (no print queue)</source>
-        <translation>%1 (sem fila de impressão)</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>This panel has no view.</source>
@@ -238,14 +678,6 @@
         <translation>Man&amp;ter ajustado</translation>
     </message>
     <message>
-        <source>Printing</source>
-        <translation>Impressão</translation>
-    </message>
-    <message>
-        <source>Printing…</source>
-        <translation>A imprimir…</translation>
-    </message>
-    <message>
         <source>Layout</source>
         <translation>Disposição</translation>
     </message>
@@ -258,8 +690,237 @@
         <translation>O documento precisa de mais fita do que a impressora aceita: é reduzido.</translation>
     </message>
     <message>
-        <source>The tape length was set to %1 mm by hand. Replace it by the length that fits?</source>
-        <translation>O comprimento da fita foi definido à mão em %1 mm. Substituí-lo pelo que se ajusta?</translation>
+        <source>Printer Options</source>
+        <translation>Opções da impressora</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Trabalho</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w Command…</source>
+        <translation>Mostrar c&amp;omando…</translation>
+    </message>
+    <message>
+        <source>The same job as a command for a shell</source>
+        <translation>O mesmo trabalho como comando para a linha de comandos</translation>
+    </message>
+    <message>
+        <source>Choose something else for one of them.</source>
+        <translation>Escolha outra coisa para uma delas.</translation>
+    </message>
+    <message>
+        <source>Change and &amp;Print</source>
+        <translation>Alterar e im&amp;primir</translation>
+    </message>
+    <message>
+        <source>Print All the &amp;Same</source>
+        <translation>Imprimir me&amp;smo assim</translation>
+    </message>
+    <message>
+        <source>The tape length was set to %1 by hand. Replace it by the length that fits?</source>
+        <translation>O comprimento da fita foi definido à mão em %1. Substituí-lo pelo que se ajusta?</translation>
+    </message>
+    <message>
+        <source>Setti&amp;ngs:</source>
+        <comment>which page of them</comment>
+        <translation>Defi&amp;nições:</translation>
+    </message>
+    <message>
+        <source>The job is being printed.</source>
+        <translation>O trabalho está a ser impresso.</translation>
+    </message>
+    <message>
+        <source>The printer is still being connected.</source>
+        <translation>Ainda se está a ligar à impressora.</translation>
+    </message>
+    <message>
+        <source>Choose a printer first.</source>
+        <translation>Escolha primeiro uma impressora.</translation>
+    </message>
+    <message>
+        <source>The printer offers no choice here.</source>
+        <translation>A impressora não oferece escolha aqui.</translation>
+    </message>
+    <message>
+        <source>Not available with this printer, this tape or the other settings.</source>
+        <translation>Não disponível com esta impressora, esta fita ou as outras definições.</translation>
+    </message>
+    <message>
+        <source>&amp;Load Anew</source>
+        <translation>Recarre&amp;gar</translation>
+    </message>
+    <message>
+        <source>Print %1 – connecting…</source>
+        <translation>Imprimir %1 – a ligar…</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>A ligar…</translation>
+    </message>
+    <message>
+        <source>Choose a printer</source>
+        <translation>Escolha uma impressora</translation>
+    </message>
+    <message>
+        <source>The printer is not there any more.</source>
+        <translation>A impressora já não existe.</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Cancelar trabalho</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrintRun</name>
+    <message>
+        <source>Printing…</source>
+        <translation>A imprimir…</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>A cancelar…</translation>
+    </message>
+    <message>
+        <source>Sending…</source>
+        <translation>A enviar…</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterDesk</name>
+    <message>
+        <source>The print server does not answer. Its printers come back when it does.</source>
+        <translation>O servidor de impressão não responde. As impressoras voltam quando ele responder.</translation>
+    </message>
+    <message>
+        <source>There is no default printer. Choose a printer.</source>
+        <translation>Não há impressora predefinida. Escolha uma impressora.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is not there any more. Choose another, or wait until it is back: what you have set is kept.</source>
+        <translation>A impressora %1 já não existe. Escolha outra ou espere que volte: o que definiu mantém-se.</translation>
+    </message>
+    <message>
+        <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
+        <translation>A descrição da impressora %1 mudou no servidor. Recarregue-a antes de imprimir.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterModel</name>
+    <message>
+        <source>%1 (no print queue)</source>
+        <translation>%1 (sem fila de impressão)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (predefinida)</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>já não existe</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Localização: %1</translation>
+    </message>
+    <message>
+        <source>A class: whichever of its printers is free prints the job.</source>
+        <translation>Uma classe: imprime a impressora que estiver livre.</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Encontrada na rede</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a printer and its state</comment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::PrinterPopUp</name>
+    <message>
+        <source>Search by name, description or location</source>
+        <translation>Procurar por nome, descrição ou localização</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>Procurar impressoras</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Impressoras</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::SaveButton</name>
+    <message>
+        <source>labels</source>
+        <comment>the name of a file</comment>
+        <translation>etiquetas</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save the job in a file in place of printing it</source>
+        <translation>Guardar o trabalho num ficheiro em vez de o imprimir</translation>
+    </message>
+    <message>
+        <source>Save as &amp;PDF…</source>
+        <translation>Guardar como &amp;PDF…</translation>
+    </message>
+    <message>
+        <source>Save Printer &amp;Data…</source>
+        <translation>Guardar &amp;dados da impressora…</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Guardar como PDF</translation>
+    </message>
+    <message>
+        <source>Save Printer Data</source>
+        <translation>Guardar dados da impressora</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>Documentos PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Printer data (*.prn)</source>
+        <translation>Dados da impressora (*.prn)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos os ficheiros (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::ShowCommand</name>
+    <message>
+        <source>Commands for a Shell</source>
+        <translation>Comandos para a linha de comandos</translation>
+    </message>
+    <message>
+        <source>The same job by &amp;tapeprint:</source>
+        <translation>O mesmo trabalho com &amp;tapeprint:</translation>
+    </message>
+    <message>
+        <source>The same options by &amp;lp, which lays nothing out:</source>
+        <translation>As mesmas opções com &amp;lp, que não compõe nada:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copy the command of %1</source>
+        <translation>Copiar o comando de %1</translation>
     </message>
 </context>
 <context>
@@ -287,6 +948,33 @@
         <source>%1; part of the page is cut off</source>
         <comment>length and width</comment>
         <translation>%1; parte da página é cortada</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::dialog::UnitButton</name>
+    <message>
+        <source>The unit of the lengths shown here</source>
+        <translation>A unidade dos comprimentos aqui mostrados</translation>
+    </message>
+    <message>
+        <source>&amp;Millimetres</source>
+        <translation>&amp;Milímetros</translation>
+    </message>
+    <message>
+        <source>&amp;Inches</source>
+        <translation>&amp;Polegadas</translation>
+    </message>
+    <message>
+        <source>Unit of length</source>
+        <translation>Unidade de comprimento</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Polegadas</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Milímetros</translation>
     </message>
 </context>
 <context>
@@ -552,11 +1240,6 @@
         <translation>O painel “%1” não oferece %2=%3, que a impressora tem: o trabalho leva %4=%5.</translation>
     </message>
     <message>
-        <source>%1 in</source>
-        <comment>a length in inches</comment>
-        <translation>%1 pol.</translation>
-    </message>
-    <message>
         <source>The document %1 is gone: nothing was printed. Put it back, or open another.</source>
         <translation>O documento %1 desapareceu: nada foi impresso. Reponha-o ou abra outro.</translation>
     </message>
@@ -639,6 +1322,424 @@
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
         <translation>O ficheiro PPD %1 está truncado: falta o fim. Copie-o de novo.</translation>
+    </message>
+    <message>
+        <source>The chosen pages cannot be put together (%1): see that the document is whole and that there is room for temporary files.</source>
+        <translation>Não é possível juntar as páginas escolhidas (%1): verifique se o documento está inteiro e se há espaço para ficheiros temporários.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>an option and its choice</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; becomes &quot;%2&quot;.</source>
+        <translation>“%1” passa a “%2”.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; changes from &quot;%2&quot; to &quot;%3&quot;.</source>
+        <translation>“%1” muda de “%2” para “%3”.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not go with &quot;%2&quot;.</source>
+        <translation>“%1” não é compatível com “%2”.</translation>
+    </message>
+    <message>
+        <source>%1 do not go together.</source>
+        <translation>%1 não são compatíveis entre si.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <comment>of a page</comment>
+        <translation>Largura</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <comment>of a page</comment>
+        <translation>Altura</translation>
+    </message>
+    <message>
+        <source>The sizes are not remembered, because %1 cannot be written.</source>
+        <translation>Os tamanhos não são guardados porque não se pode escrever em %1.</translation>
+    </message>
+    <message>
+        <source>Leave out single braces and characters that cannot be seen.</source>
+        <translation>Omita chavetas soltas e caracteres invisíveis.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 characters.</source>
+        <translation>Indique de %1 a %2 caracteres.</translation>
+    </message>
+    <message>
+        <source>Give %1 characters or more.</source>
+        <translation>Indique %1 caracteres ou mais.</translation>
+    </message>
+    <message>
+        <source>Give %1 to %2 digits.</source>
+        <translation>Indique de %1 a %2 algarismos.</translation>
+    </message>
+    <message>
+        <source>Give %1 digits or more.</source>
+        <translation>Indique %1 algarismos ou mais.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 in.</source>
+        <translation>Indique um comprimento de %1 a %2 polegadas.</translation>
+    </message>
+    <message>
+        <source>Give a length from %1 to %2 mm.</source>
+        <translation>Indique um comprimento de %1 a %2 mm.</translation>
+    </message>
+    <message>
+        <source>Give a whole number from %1 to %2.</source>
+        <translation>Indique um número inteiro de %1 a %2.</translation>
+    </message>
+    <message>
+        <source>Give a number from %1 to %2.</source>
+        <translation>Indique um número de %1 a %2.</translation>
+    </message>
+    <message>
+        <source>The value of option %1 is in braces, which the print server drops: give %1 a plain value.</source>
+        <translation>O valor da opção %1 está entre chavetas, que o servidor retira: dê a %1 um valor simples.</translation>
+    </message>
+    <message>
+        <source>number-up=%1 is none of the numbers that the print system knows: each page has a sheet of its own.</source>
+        <translation>number-up=%1 não é um número que o sistema de impressão conheça: cada página fica na sua folha.</translation>
+    </message>
+    <message>
+        <source>Option %1 changes nothing on tape: say how pages lie on it by print-scaling, orientation-requested, position and number-up.</source>
+        <translation>A opção %1 não altera nada na fita: indique a disposição com print-scaling, orientation-requested, position e number-up.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>the print server does not say why</source>
+        <translation>o servidor de impressão não diz porquê</translation>
+    </message>
+    <message>
+        <source>The print server tells no more of job %1.</source>
+        <translation>O servidor de impressão já não informa sobre o trabalho %1.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2.</source>
+        <translation>O trabalho %1 falhou: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
+        <translation>O trabalho %1 falhou: %2. Fica na fila; cancele-o com: cancel %1</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>O trabalho %1 foi cancelado.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printed.</source>
+        <translation>O trabalho %1 está impresso.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held: it waits until it is released.</source>
+        <translation>O trabalho %1 está retido: espera até ser libertado.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits: %2.</source>
+        <translation>O trabalho %1 espera: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 is being printed.</source>
+        <translation>O trabalho %1 está a ser impresso.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits behind others: %2.</source>
+        <translation>O trabalho %1 espera atrás de outros: %2.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for the printer.</source>
+        <translation>O trabalho %1 espera pela impressora.</translation>
+    </message>
+    <message>
+        <source>What became of job %1 is not known.</source>
+        <translation>Não se sabe o que aconteceu ao trabalho %1.</translation>
+    </message>
+    <message>
+        <source>Job %1 cannot be cancelled (%2).</source>
+        <translation>Não é possível cancelar o trabalho %1 (%2).</translation>
+    </message>
+    <message>
+        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
+        <translation>O trabalho %1 pode ter ficado meio enviado no servidor; cancele-o com: cancel %2-%1</translation>
+    </message>
+    <message>
+        <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
+        <translation>Não é possível guardar as definições para a próxima vez: não se pode escrever em %1.</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>não é um ficheiro</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>é demasiado grande</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be read (%2).</source>
+        <translation>Não é possível ler o ficheiro das suas predefinições, %1 (%2).</translation>
+    </message>
+    <message>
+        <source>These are more options than CUPS keeps in a preset.</source>
+        <translation>São mais opções do que o CUPS guarda numa predefinição.</translation>
+    </message>
+    <message>
+        <source>An option has a value that CUPS cannot keep in a preset.</source>
+        <translation>Uma opção tem um valor que o CUPS não pode guardar numa predefinição.</translation>
+    </message>
+    <message>
+        <source>The file with your presets, %1, cannot be written (%2): it stays as it was.</source>
+        <translation>Não é possível escrever o ficheiro das suas predefinições, %1 (%2): fica como estava.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a text and the keyword that tells it from another of the same wording</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <comment>options that the printer&apos;s description puts in no group</comment>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a group of options and a group within it</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The PPD file %1 is too large for one: name a PPD file.</source>
+        <translation>O ficheiro %1 é demasiado grande para um PPD: indique um ficheiro PPD.</translation>
+    </message>
+    <message>
+        <source>%1 has no preset %2 of yours.</source>
+        <translation>%1 não tem nenhuma predefinição %2 sua.</translation>
+    </message>
+    <message>
+        <source>There is a preset %1 already.</source>
+        <translation>Já existe uma predefinição %1.</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Uma predefinição precisa de um nome.</translation>
+    </message>
+    <message>
+        <source>CUPS cannot keep a preset whose name has blanks, slashes, quotes or one of # &lt; &gt;.</source>
+        <translation>O CUPS não pode guardar uma predefinição cujo nome tenha espaços, barras, aspas ou um de # &lt; &gt;.</translation>
+    </message>
+    <message>
+        <source>This name is longer than CUPS can keep.</source>
+        <translation>Este nome é mais comprido do que o CUPS pode guardar.</translation>
+    </message>
+    <message>
+        <source>The preset&apos;s option %1=%2 is none of this printer&apos;s any more. The preset keeps it until you save over it.</source>
+        <translation>Esta impressora já não tem a opção %1=%2 da predefinição. A predefinição conserva-a até a substituir.</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Pronta</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <comment>state of a printer</comment>
+        <translation>A imprimir</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Parada</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>não aceita trabalhos</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a state and its reasons</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs.</source>
+        <translation>A impressora %1 não aceita trabalhos.</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs: %2.</source>
+        <translation>A impressora %1 não aceita trabalhos: %2.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped. A job waits until it goes on.</source>
+        <translation>A impressora %1 está parada. O trabalho espera até que continue.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped: %2. A job waits until it goes on.</source>
+        <translation>A impressora %1 está parada: %2. O trabalho espera até que continue.</translation>
+    </message>
+    <message>
+        <source>The printer %1 says: %2.</source>
+        <translation>A impressora %1 indica: %2.</translation>
+    </message>
+    <message>
+        <source>The queue %1 has no printer description by which bytes for the printer could be made: save a PDF instead.</source>
+        <translation>A fila %1 não tem uma descrição de impressora para criar dados: guarde antes um PDF.</translation>
+    </message>
+    <message>
+        <source>The PDF is in %1 (%2 bytes).</source>
+        <translation>O PDF está em %1 (%2 bytes).</translation>
+    </message>
+    <message>
+        <source>The queue %1 takes no jobs: see lpstat -a %1.</source>
+        <translation>A fila %1 não aceita trabalhos: consulte lpstat -a %1.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no size: write it as Custom.WIDTHxLENGTHmm, or with in, cm or pt.</source>
+        <translation>%1=%2 não é um tamanho: escreva Custom.LARGURAxCOMPRIMENTOmm, ou com in, cm ou pt.</translation>
+    </message>
+    <message>
+        <source>%1=%2: the printer takes no sizes other than those that it has.</source>
+        <translation>%1=%2: a impressora só aceita os tamanhos que tem.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is smaller or larger than the printer can take.</source>
+        <translation>%1=%2 é menor ou maior do que a impressora aceita.</translation>
+    </message>
+    <message>
+        <source>%1=%2: %3</source>
+        <translation>%1=%2: %3</translation>
+    </message>
+    <message>
+        <source>media=%1 is none of the choices that the printer&apos;s PPD lists.</source>
+        <translation>media=%1 não consta das escolhas do ficheiro PPD da impressora.</translation>
+    </message>
+    <message>
+        <source>%1=%2 is no value that CUPS knows for %1.</source>
+        <translation>%1=%2: o CUPS não conhece este valor para %1.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user&apos;s name and password, and was given none that it accepts.</source>
+        <translation>O servidor de impressão %1 pede um nome de utilizador e uma palavra-passe, e não recebeu nenhuns que aceite.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has stopped answering: try again when it is back.</source>
+        <translation>O servidor de impressão %1 deixou de responder: tente de novo quando ele voltar.</translation>
+    </message>
+    <message>
+        <source>out of tape</source>
+        <translation>sem fita</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>sem papel</translation>
+    </message>
+    <message>
+        <source>other tape is needed</source>
+        <translation>é preciso outra fita</translation>
+    </message>
+    <message>
+        <source>other paper is needed</source>
+        <translation>é preciso outro papel</translation>
+    </message>
+    <message>
+        <source>little tape is left</source>
+        <translation>resta pouca fita</translation>
+    </message>
+    <message>
+        <source>little paper is left</source>
+        <translation>resta pouco papel</translation>
+    </message>
+    <message>
+        <source>the tape is jammed</source>
+        <translation>fita encravada</translation>
+    </message>
+    <message>
+        <source>the paper is jammed</source>
+        <translation>papel encravado</translation>
+    </message>
+    <message>
+        <source>the cover is open</source>
+        <translation>a tampa está aberta</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>uma porta está aberta</translation>
+    </message>
+    <message>
+        <source>no cassette is in it</source>
+        <translation>sem cassete colocada</translation>
+    </message>
+    <message>
+        <source>the paper tray is missing</source>
+        <translation>falta o tabuleiro de papel</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>o tabuleiro de saída está cheio</translation>
+    </message>
+    <message>
+        <source>little ink is left</source>
+        <translation>resta pouca tinta</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>sem tinta</translation>
+    </message>
+    <message>
+        <source>little toner is left</source>
+        <translation>resta pouco toner</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>sem toner</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>em pausa</translation>
+    </message>
+    <message>
+        <source>paused after this job</source>
+        <translation>em pausa depois deste trabalho</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>os trabalhos novos ficam retidos</translation>
+    </message>
+    <message>
+        <source>switched off or not connected</source>
+        <translation>desligada ou sem ligação</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>não responde</translation>
+    </message>
+    <message>
+        <source>being connected</source>
+        <translation>a ligar</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s disk is full</source>
+        <translation>o disco do servidor de impressão está cheio</translation>
+    </message>
+    <message>
+        <source>a part of its driver is missing</source>
+        <translation>falta uma parte do controlador</translation>
+    </message>
+    <message>
+        <source>the print server does not trust its driver</source>
+        <translation>o servidor de impressão não confia no controlador</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>the sign of the inch</comment>
+        <translation>pol</translation>
+    </message>
+    <message>
+        <source>%1 ft</source>
+        <comment>a length in feet</comment>
+        <translation>%1 pés</translation>
     </message>
 </context>
 </TS>
