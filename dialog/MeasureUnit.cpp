@@ -9,6 +9,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <cmath>
+
 namespace tapeprint::dialog
 {
 
@@ -36,9 +38,12 @@ std::optional<LengthUnit> remembered(const QString &settingsPath)
                                     : std::nullopt;
 }
 
+/// Half of the last place is rounded up, as a person does it: 22.65 is a hair less as a binary fraction.
 QString number(double value, int decimals)
 {
-    return QLocale().toString(value, 'f', decimals);
+    constexpr double hair = 1e-6;
+    const double places = std::pow(10.0, decimals);
+    return QLocale().toString(std::floor(value * places + 0.5 + hair) / places, 'f', decimals);
 }
 
 } // namespace

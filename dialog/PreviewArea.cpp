@@ -276,7 +276,7 @@ void PreviewArea::showWords()
     const std::optional<Amount> printed = amount();
     const bool isKnown = printed && printed->pieces > 0;
     mTapeUsed->setText(isKnown ? amountText(*printed, mLook.unit) : QString());
-    mTapeUsed->setVisible(isKnown);
+    mTapeUsed->setVisible(isKnown && mShowsAmount);
     Q_EMIT amountChanged();
 }
 

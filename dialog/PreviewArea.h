@@ -41,6 +41,8 @@ public:
     void addBesideWords(QWidget *control);
     /// Whether the printer is one that is loaded with tape, whatever the page in it.
     void setIsTapePrinter(bool isTapePrinter);
+    /// Whether the amount that comes out of the printer is told here; it is where nobody else tells it.
+    void setShowsAmount(bool shows) { mShowsAmount = shows; }
     /// Follows the job. \param options its options as they stand this moment.
     void follow(const job::TapePage &page, const job::JobOptions &options, const TapeLook &look);
 
@@ -84,6 +86,7 @@ private:
     TapeLook mLook;
     QString mProblem;
     bool mExpectsDocuments = false;
+    bool mShowsAmount = true;
     std::vector<job::PageSizes> mSizes; ///< of the documents that are shown, or were until others are read
     std::vector<job::DrawnRects> mDrawn;
     job::LabelPlan mPlan;

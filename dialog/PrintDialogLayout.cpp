@@ -11,6 +11,7 @@
 #include "dialog/AmountLabel.h"
 #include "dialog/JobRow.h"
 #include "dialog/NoticesArea.h"
+#include "dialog/PageStack.h"
 #include "dialog/PanelArea.h"
 #include "dialog/PaperMenu.h"
 #include "dialog/PopUp.h"
@@ -118,7 +119,7 @@ QWidget *PrintDialog::makePagesArea()
     mPanelArea->setFocusPolicy(Qt::NoFocus); // what is in it takes the keys, and is scrolled to
     mPanelArea->setMinimumSize(smallestPagesArea);
     mPanelArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    mPages = new QStackedWidget;
+    mPages = new PageStack;
     mPanelArea->setWidget(mPages);
     layout->addWidget(mPanelArea, 1);
     return area;
@@ -132,6 +133,7 @@ QWidget *PrintDialog::makeResultArea()
     area->setMinimumSize(smallestResultArea);
     area->column()->addWidget(makeSummary(area));
     mPreview = new PreviewArea(area);
+    mPreview->setShowsAmount(false); // it stands beside Print
     mPreview->addBesideWords(new UnitButton(mUnit, mPreview));
     area->column()->addWidget(mPreview, 1);
     area->column()->addWidget(makeFitControls(area));

@@ -13,7 +13,7 @@ endfunction()
 
 # The sorted place markers of a text.
 function(read_markers text result)
-  string(REGEX MATCHALL "%[0-9n]" markers "${text}")
+  string(REGEX MATCHALL "%L?[0-9n]" markers "${text}")
   list(SORT markers)
   list(REMOVE_DUPLICATES markers)
   set(${result} "${markers}" PARENT_SCOPE)
@@ -45,7 +45,7 @@ function(check_translations language)
   string(REPLACE ";" "," text "${text}")
   # Of a text with plural forms the first stands for all; one of the others that is empty or lacks its number stays, and
   # leaves the entry unfinished.
-  string(REGEX REPLACE "</numerusform>[ \n]*<numerusform>[^<]*%n[^<]*" "" text "${text}")
+  string(REGEX REPLACE "</numerusform>[ \n]*<numerusform>[^<]*%L?n[^<]*" "" text "${text}")
   string(REGEX REPLACE "<translation>[ \n]*<numerusform>([^<]*)</numerusform>[ \n]*</translation>"
     "<translation>\\1</translation>" text "${text}")
   string(REGEX MATCHALL "<message[ >]" messages "${text}")

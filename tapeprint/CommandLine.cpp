@@ -111,11 +111,6 @@ private:
 
 bool fitsTogether(const CommandLine &line, Problem *error)
 {
-    if (!line.request.outputPath.isEmpty() && line.request.ppdPath.isEmpty()) {
-        *error = {Problem::BadUsage,
-                  QStringLiteral("--output goes with --ppd: without a PPD file the job goes to a print queue.")};
-        return false;
-    }
     if (line.trustPpd && line.request.ppdPath.isEmpty()) {
         *error = {Problem::BadUsage,
                   QStringLiteral("--trust-ppd goes with --ppd: it is about the programs of that PPD file.")};
@@ -177,7 +172,7 @@ QString commandLineHelp()
 {
     QString text =
         QStringLiteral("Usage: tapeprint [-d QUEUE[/INSTANCE]] [-n COPIES] [-o NAME=VALUE]... [-P PAGES] [-t TITLE]\n"
-                       "                 [--ppd FILE [--output FILE] [--trust-ppd]] [OPTION]... [--] [FILE]...\n"
+                       "                 [--ppd FILE [--trust-ppd]] [--output FILE] [OPTION]... [--] [FILE]...\n"
                        "\n"
                        "Opens the print dialog for tape and label printers. Without FILE, standard input is printed.\n"
                        "\n");

@@ -202,8 +202,8 @@ constexpr std::array options{
                   "save the job as a PDF in place of printing it, - for standard output: the\n"
                   "labels of a tape, or the chosen pages"},
     ProgramOption{"--output", "FILE", ValueKind::File, takeOutput,
-                  "with --ppd: where the printer's bytes go, - for standard output; no print queue is\n"
-                  "used"},
+                  "make the printer's bytes here and write them to FILE, - for standard output, by the\n"
+                  "PPD of --ppd or of the print queue, which gets no job"},
     ProgramOption{"--trust-ppd", nullptr, ValueKind::None, raise<&CommandLine::trustPpd>,
                   "with --ppd: run programs and commands of its own that the PPD file names"},
     ProgramOption{"--fit-length", nullptr, ValueKind::None, raise<&CommandLine::fitLength>,

@@ -73,17 +73,16 @@ INSTANTIATE_TEST_SUITE_P(
                     ErrorCase{{u"-d"_qs, u"/inst"_qs}, u"-d needs"_qs}, ErrorCase{{u"-n"_qs, u"0"_qs}, u"\"0\""_qs},
                     ErrorCase{{u"-n"_qs, u"two"_qs}, u"\"two\""_qs}, ErrorCase{{u"-n"_qs, u"2.5"_qs}, u"\"2.5\""_qs},
                     ErrorCase{{u"-P"_qs, u"0-2"_qs}, u"\"0-2\""_qs}, ErrorCase{{u"-P"_qs, u"1,,2"_qs}, u"\"1,,2\""_qs},
-                    ErrorCase{{u"-o"_qs, u""_qs}, u"NAME=VALUE"_qs},
-                    ErrorCase{{u"--ppd="_qs}, u"--ppd needs"_qs}, ErrorCase{{u"--ppdx"_qs, u"a"_qs}, u"--ppdx"_qs},
-                    ErrorCase{{u"-Z"_qs}, u"-Z is no option"_qs}, ErrorCase{{u"--no-such"_qs}, u"--no-such"_qs},
-                    ErrorCase{{u"-sZ"_qs}, u"-Z is no option"_qs}, ErrorCase{{u"--help=x"_qs}, u"--help=x"_qs},
-                    ErrorCase{{u"-q"_qs, u"0"_qs}, u"from 1 to 100"_qs}, ErrorCase{{u"-q101"_qs}, u"\"101\""_qs},
-                    ErrorCase{{u"-H"_qs, u"24:00"_qs}, u"\"24:00\""_qs}, ErrorCase{{u"-H"_qs, u""_qs}, u"\"\""_qs},
+                    ErrorCase{{u"-o"_qs, u""_qs}, u"NAME=VALUE"_qs}, ErrorCase{{u"--ppd="_qs}, u"--ppd needs"_qs},
+                    ErrorCase{{u"--ppdx"_qs, u"a"_qs}, u"--ppdx"_qs}, ErrorCase{{u"-Z"_qs}, u"-Z is no option"_qs},
+                    ErrorCase{{u"--no-such"_qs}, u"--no-such"_qs}, ErrorCase{{u"-sZ"_qs}, u"-Z is no option"_qs},
+                    ErrorCase{{u"--help=x"_qs}, u"--help=x"_qs}, ErrorCase{{u"-q"_qs, u"0"_qs}, u"from 1 to 100"_qs},
+                    ErrorCase{{u"-q101"_qs}, u"\"101\""_qs}, ErrorCase{{u"-H"_qs, u"24:00"_qs}, u"\"24:00\""_qs},
+                    ErrorCase{{u"-H"_qs, u""_qs}, u"\"\""_qs},
                     ErrorCase{{u"-H"_qs, u"resume"_qs}, u"use lp -i QUEUE-NUMBER -H resume"_qs},
                     ErrorCase{{u"-i"_qs, u"tape-7"_qs}, u"use lp -i"_qs},
                     ErrorCase{{u"-sm"_qs}, u"-m asks for a mail"_qs}, ErrorCase{{u"-h"_qs, u""_qs}, u"-h HOST"_qs},
                     ErrorCase{{u"-U"_qs}, u"-U needs a value"_qs},
-                    ErrorCase{{u"--output"_qs, u"x"_qs}, u"goes with --ppd"_qs},
                     ErrorCase{{u"--trust-ppd"_qs}, u"--trust-ppd goes with --ppd"_qs}));
 
 TEST(CommandLineQueue, WithInstance_IsCutAtTheFirstSlash)

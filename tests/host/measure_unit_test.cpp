@@ -50,6 +50,7 @@ TEST_F(MeasureUnitTest, MuchTape_IsToldInMetresOrFeet)
     EXPECT_EQ(tapeText(35.96 * inchPt, LengthUnit::Inch), u"3.0 ft"_qs); // not 36.0 in
     EXPECT_EQ(tapeText(120.0 * inchPt, LengthUnit::Inch), u"10.0 ft"_qs);
     EXPECT_EQ(tapeText(10.0 * inchPt, LengthUnit::Millimetre), u"25.4 cm"_qs);
+    EXPECT_EQ(tapeText(3 * 75.5 / 25.4 * inchPt, LengthUnit::Millimetre), u"22.7 cm"_qs); // 226.5 mm
     EXPECT_EQ(tapeText(100.0 * inchPt, LengthUnit::Millimetre), u"2.54 m"_qs);
 }
 

@@ -5,6 +5,7 @@
 
 #include "dialog/ElidedLabel.h"
 #include "dialog/NoticesArea.h"
+#include "dialog/PageStack.h"
 #include "dialog/PopUp.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
@@ -160,6 +161,19 @@ class WindowParts : public WindowSize
 };
 
 INSTANTIATE_TEST_SUITE_P(English, WindowParts, testing::Values("en_GB"));
+
+TEST(PageStackTest, NarrowPage_NeedsNoMoreRoomThanItsOwnForAWideOne)
+{
+    PageStack stack;
+    for (const int width : {600, 200}) {
+        auto *page = new QWidget;
+        page->setMinimumSize(width, 100);
+        stack.addWidget(page);
+    }
+    EXPECT_EQ(stack.minimumSizeHint(), QSize(600, 100));
+    stack.setCurrentIndex(1);
+    EXPECT_EQ(stack.minimumSizeHint(), QSize(200, 100));
+}
 
 TEST_P(WindowParts, LargerWindow_MakesThePreviewLarger)
 {

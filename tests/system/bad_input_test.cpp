@@ -158,8 +158,9 @@ TEST_F(BadInput, OptionsThatAreNone_AreNamed)
                   "copies");
     expectFailure(testsupport::badUsage, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-P"_qs, u"x"_qs, document},
                   "pages");
-    expectFailure(testsupport::badUsage,
-                  {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-o"_qs, u"KsMargin={a=1}"_qs, document}, "braces");
+    expectFailure(testsupport::refusedValue,
+                  {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-o"_qs, u"KsMargin={a=1}"_qs, document},
+                  "KsMargin={a=1} is none of the choices");
 }
 
 } // namespace

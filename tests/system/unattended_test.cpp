@@ -49,6 +49,18 @@ TEST_F(UnattendedJob, UntouchedPanel_EveryKeywordReachesTheFilterAndALabelThePri
     EXPECT_EQ(labels[0].copies, 1);
 }
 
+TEST_F(UnattendedJob, OutputOfAQueue_IsThePrintersBytesByTheQueuesPpdAndNoJob)
+{
+    ASSERT_TRUE(cups.addPlainQueue(u"shipped"_qs, u"mm"_qs).isNull());
+    const Outcome outcome = tapeprint({u"-d"_qs, u"shipped"_qs, u"--no-dialog"_qs, u"-o"_qs, u"KsTapeLength=50.0"_qs,
+                                       u"--output"_qs, u"out.prn"_qs, document});
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    const std::vector<Label> labels = labelsIn(systemtest::contentsOf(workFolder + u"/out.prn"_qs));
+    ASSERT_EQ(labels.size(), 1U);
+    expectDots(labels[0].rows, 50.0, 300.0);
+    EXPECT_TRUE(cups.jobs().empty());
+}
+
 TEST_F(UnattendedJob, OwnValueOfSeveralParameters_ArrivesAsItWasGiven)
 {
     ASSERT_TRUE(cups.addRecordedQueue(u"stamping"_qs, u"mm"_qs,

@@ -14,7 +14,8 @@ namespace pdekit
 /// only the knob is kept within them. In an interface file: class "pdekit::Slider".
 ///
 /// Arrow keys and the wheel move by the alternate increment, page keys by ten of it, Home and End go to the limits; a
-/// value that a person makes is always within the limits. A screen reader hears the real value, its limits and its unit.
+/// value that a person makes is always within the limits. A screen reader hears the real value, its limits and its
+/// unit.
 class PDEKIT_EXPORT Slider : public QSlider
 {
     Q_OBJECT
@@ -36,8 +37,8 @@ public:
     void setFloatValue(float value);
     /// The value as text: the shortest that reads back as the same float.
     QString stringValue() const;
-    /// A person sets the value otherwise than by the knob, such as through a screen reader. Within the limits; sends the
-    /// action.
+    /// A person sets the value otherwise than by the knob, such as through a screen reader. Within the limits; sends
+    /// the action.
     void takeValue(double value);
 
     /// The unit of the value in the person's language, for people who hear it; empty at first.
