@@ -108,7 +108,7 @@ QString CustomFields::firstValue(const job::CustomParameter &parameter) const
 QString CustomFields::valueOf(std::size_t index) const
 {
     const job::CustomParameter &parameter = mParameters[index];
-    const QString text = mFields[index].edit->text();
+    QString text = mFields[index].edit->text();
     if (parameter.isText()) {
         return text;
     }

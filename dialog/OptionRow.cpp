@@ -77,7 +77,7 @@ void OptionRow::pickRow(int row)
     if (mFields != nullptr) {
         mFields->setVisible(mWantsOwn);
     }
-    if (mWantsOwn) {
+    if (mWantsOwn && mFields != nullptr) {
         mFields->begin();
     } else {
         Q_EMIT picked(mKey, mPopUp->itemData(row).toString());

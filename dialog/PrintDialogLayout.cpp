@@ -41,6 +41,7 @@ namespace
 constexpr int mostCopies = 9999;
 /// On half of a screen of 1366 by 768, which is what is left of it at 200 %, the window is still whole.
 constexpr QSize smallestPagesArea(280, 64);
+constexpr int smallGap = 4;
 constexpr QSize smallestResultArea(250, 64);
 
 constexpr int summaryMargin = 4;
@@ -57,11 +58,15 @@ QLabel *makeLabel(const QString &text, QWidget *buddy)
 void PrintDialog::buildControls()
 {
     auto *layout = new QVBoxLayout(this);
+    // A panel is as wide as its vendor made it: on a screen of 800 pixels the window's own gaps leave it the room.
+    const QMargins usual = layout->contentsMargins();
+    layout->setContentsMargins(smallGap, usual.top(), smallGap, usual.bottom());
     layout->addWidget(makeDestinationRows());
     mNotices = new NoticesArea(this);
     makeConflictNotice();
     layout->addWidget(mNotices);
     auto *middle = new QHBoxLayout;
+    middle->setSpacing(smallGap);
     middle->addWidget(makePagesArea());
     middle->addWidget(makeResultArea());
     layout->addLayout(middle, 1);
