@@ -38,6 +38,7 @@ std::vector<QLayoutItem *> itemsOf(QLayout &layout)
         return left.row != right.row ? left.row < right.row : left.column < right.column;
     });
     std::vector<QLayoutItem *> items;
+    items.reserve(placed.size());
     for (const Placed &next : placed) {
         items.push_back(next.item);
     }

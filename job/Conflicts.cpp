@@ -256,7 +256,7 @@ bool helps(ppd_file_t *ppd, const Choices &choices, const QString &keptKey)
 
 std::optional<Choices> wayOut(ppd_file_t *ppd, const QString &keptKey)
 {
-    const std::optional<Choices> known = libcupsWayOut(ppd, keptKey);
+    std::optional<Choices> known = libcupsWayOut(ppd, keptKey);
     if (known && helps(ppd, *known, keptKey)) {
         return known;
     }

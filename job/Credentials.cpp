@@ -43,7 +43,9 @@ Secret &Secret::operator=(Secret &&other) noexcept
 
 void Secret::wipe()
 {
-    explicit_bzero(mBytes.data(), mBytes.size());
+    if (!mBytes.empty()) { // an empty one may have no address
+        explicit_bzero(mBytes.data(), mBytes.size());
+    }
     mBytes.clear();
 }
 

@@ -88,7 +88,7 @@ QString KeptChoices::fittingPaper(ppd_file_t *ppd, const QString &name) const
         return name;
     }
     for (const ppd_size_t &size : sizesOf(ppd)) {
-        const QString other = QString::fromUtf8(size.name);
+        QString other = QString::fromUtf8(size.name);
         if (isSameSize(size, *mPaper) && !listedChoice(ppd, OptionName::pageSize, other).isNull()) {
             return other;
         }
