@@ -11,7 +11,6 @@ namespace
 {
 
 constexpr QStringView pauses = u".,;:\u3002";
-constexpr QStringView ends = u".!?\u2026\u3002\uFF01\uFF1F";
 
 } // namespace
 
@@ -22,15 +21,6 @@ QString reasonText(const QString &reason)
         text.chop(1);
     }
     return text;
-}
-
-QString reasonSentence(const QString &reason)
-{
-    const QString text = harmless(reason.simplified());
-    if (text.isEmpty() || (ends.contains(text.back()) && !text.endsWith(QLatin1String("..")))) {
-        return text;
-    }
-    return reasonText(text) + u'.';
 }
 
 } // namespace tapeprint::job

@@ -11,7 +11,4 @@ namespace tapeprint::job
 /// A reason as it stands within a sentence: harmless, in one line, without blanks and marks at its end.
 QString reasonText(const QString &reason);
 
-/// A reason that stands as a sentence of its own: it ends as one.
-QString reasonSentence(const QString &reason);
-
 } // namespace tapeprint::job

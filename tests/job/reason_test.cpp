@@ -8,7 +8,6 @@
 namespace
 {
 
-using tapeprint::job::reasonSentence;
 using tapeprint::job::reasonText;
 
 TEST(Reason, WithinASentence_HasNoEndOfItsOwn)
@@ -19,16 +18,6 @@ TEST(Reason, WithinASentence_HasNoEndOfItsOwn)
     EXPECT_EQ(reasonText(u"Really?"_qs), u"Really?"_qs);
     EXPECT_EQ(reasonText(u"\u3042\u3002"_qs), u"\u3042"_qs);
     EXPECT_EQ(reasonText(u"a\nb\x1B[31m"_qs), u"a b\\x1B[31m"_qs);
-}
-
-TEST(Reason, AsASentence_EndsWithOneFullStop)
-{
-    EXPECT_EQ(reasonSentence(u"No such file"_qs), u"No such file."_qs);
-    EXPECT_EQ(reasonSentence(u"No such file."_qs), u"No such file."_qs);
-    EXPECT_EQ(reasonSentence(u"No such file.."_qs), u"No such file."_qs);
-    EXPECT_EQ(reasonSentence(u"Really?"_qs), u"Really?"_qs);
-    EXPECT_EQ(reasonSentence(u"\u3042\u3002"_qs), u"\u3042\u3002"_qs);
-    EXPECT_TRUE(reasonSentence(u" "_qs).isEmpty());
 }
 
 } // namespace
