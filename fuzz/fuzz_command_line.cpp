@@ -33,9 +33,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         require(!error.sentence.isEmpty());
         return 0;
     }
-    require(line->request.outputPath.isEmpty() || !line->request.ppdPath.isEmpty());
+    require(line->request.outputPath.isEmpty() || line->request.pdfPath.isEmpty());
     require(line->files.size() <= arguments.size());
-    require(line->submits() == !(line->showOptions || line->summary || line->check));
+    require(line->submits() == !(line->showOptions || line->summary || line->check || !line->savePreset.isEmpty() ||
+                                 line->onlyManagesPresets()));
     checkOptions(line->request.options);
     return 0;
 }
