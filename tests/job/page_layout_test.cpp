@@ -29,7 +29,12 @@ void expectRect(const QRectF &rect, const QRectF &expected)
 LayoutChoices choices(Scaling scaling, Turn turn = Turn::None, Place across = Place::Middle,
                       Place along = Place::Middle)
 {
-    return {scaling, turn, across, along, 1, false};
+    LayoutChoices chosen;
+    chosen.scaling = scaling;
+    chosen.turn = turn;
+    chosen.across = across;
+    chosen.along = along;
+    return chosen;
 }
 
 /// Where the page as a whole goes.

@@ -254,7 +254,11 @@ private:
             return false;
         case Meddling::CutShort:
             mPassed += bytes.size();
-            return mPassed < cutAfter && !isOver ? passOn(bytes) : passOn(bytes.left(bytes.size() / 2)) && false;
+            if (mPassed < cutAfter && !isOver) {
+                return passOn(bytes);
+            }
+            passOn(bytes.left(bytes.size() / 2));
+            return false;
         case Meddling::PassOn:
         case Meddling::LoseReply:
             return passOn(bytes);
