@@ -499,7 +499,7 @@ TEST_F(JobPageTest, TextSetAnew_LeavesWordsAndPreviewUntilItIsThere)
     preview->setDocuments({other}, {u"other.pdf"_qs});
     EXPECT_TRUE(preview->isCounting());
     EXPECT_EQ(used->text(), u"1 label(s), 10.0 cm of tape"_qs); // of the earlier one
-    EXPECT_FALSE(used->isVisible()); // the amount is told once, beside Print
+    EXPECT_FALSE(used->isVisible());                            // the amount is told once, beside Print
     EXPECT_EQ(preview->plan().labels.size(), 1U);
     ASSERT_TRUE(QTest::qWaitFor([&] { return used->text() == u"2 label(s), 20.0 cm of tape"_qs; }, patienceMs));
     EXPECT_FALSE(preview->isCounting());
