@@ -3,6 +3,7 @@
 #include "job/QueueCheck.h"
 
 #include "job/PlainText.h"
+#include "job/ServerConnection.h"
 #include "job/Texts.h"
 
 #include <memory>
@@ -28,12 +29,19 @@ QString attributeOf(const cups_dest_t &destination, const char *name)
 
 bool takesJobs(const PrintQueue &queue, Problem *error)
 {
+    const std::unique_ptr<ServerConnection> server = ServerConnection::open(nullptr);
+    if (!server->isOpen()) {
+        *error = {Problem::Unreachable, server->problem()};
+        return false;
+    }
     const std::unique_ptr<cups_dest_t, DestinationDeleter> destination(
-        cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.name.toUtf8().constData(), nullptr));
+        cupsGetNamedDest(server->http(), queue.name.toUtf8().constData(), nullptr));
     if (!destination) {
-        *error = {Problem::NoSuchPrinter,
-                  Texts::tr("The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.")
-                      .arg(queue.name, harmless(QString::fromUtf8(cupsLastErrorString())))};
+        *error = server->isUnreachable()
+                     ? Problem(Problem::Unreachable, server->problem())
+                     : Problem(Problem::NoSuchPrinter,
+                               Texts::tr("The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.")
+                                   .arg(harmless(queue.name), server->problem()));
         return false;
     }
     if (attributeOf(*destination, "printer-is-accepting-jobs") == u"false") {
