@@ -161,6 +161,9 @@ TEST_F(BadInput, OptionsThatAreNone_AreNamed)
     expectFailure(testsupport::refusedValue,
                   {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-o"_qs, u"KsMargin={a=1}"_qs, document},
                   "KsMargin={a=1} is none of the choices");
+    // Of an option that neither panel nor description knows, nobody but the print server would see the braces.
+    expectFailure(testsupport::badUsage,
+                  {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-o"_qs, u"Stranger={a=1}"_qs, document}, "braces");
 }
 
 } // namespace
