@@ -114,6 +114,8 @@ private:
     void connectControls();
     void addCommandButton();
     void showCommand();
+    void addHelpButton();
+    void showWhetherHelp();
 
     void startPrinters();
     void takeDestination(job::Destination destination);
@@ -124,6 +126,8 @@ private:
     bool isPrinting() const { return mRun.phase() != PrintRun::Phase::Idle; }
     void showDestination();
     void makePages();
+    static QWidget *makeWordsForNoView();
+    void replaceLostView();
     void showPages(int first);
     void assignKeys();
     void settlePanels();
@@ -148,6 +152,7 @@ private:
     void revert();
     void remakePanels();
     bool isReadyToPrint();
+    bool isAcceptedByPanels();
     bool isAmountAgreed();
     void showAmount();
     void printCounted();
@@ -231,13 +236,16 @@ private:
     QHBoxLayout *mAmountPlace = nullptr;      ///< before Cancel, for what is said beside Print; it gives way first
     AmountLabel *mAmount = nullptr;
     SaveButton *mSaveButton = nullptr;
-    JobRow *mJobRow = nullptr; ///< shown while it prints
+    JobRow *mJobRow = nullptr;          ///< shown while it prints
+    QPushButton *mHelpButton = nullptr; ///< there while a panel that has help is in front
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;
 
     QSize mWishedSize;   ///< that a panel gave its view and waits to be fitted; invalid when there is none
     QStringList mAlerts; ///< what panels said of the values that were laid down
+    QString mRefusal;    ///< that a panel refused the last time Print was pressed; empty when none did
+    int mAlertsSeen = 0; ///< how many alerts had been run by then
     std::vector<Page> mPageList;
     QPointer<OptionsPage> mOptionsPage;
     QPointer<LayoutPage> mLayoutPage;

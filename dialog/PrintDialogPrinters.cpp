@@ -33,7 +33,7 @@ void PrintDialog::startPrinters()
     mPrinters.setGate([this, usualLevel] {
         const QWidget *modal = QApplication::activeModalWidget();
         return (modal == nullptr || modal == this) && QThread::currentThread()->loopLevel() <= usualLevel &&
-               !isPrinting() && !mIsFitting;
+               !isPrinting() && !mIsFitting && !mPanels.isInCall();
     });
     connect(mLoadAnew, &QPushButton::clicked, &mPrinters, &PrinterDesk::takeNewDescription);
     connect(&mPrinters, &PrinterDesk::changed, this, &PrintDialog::followPrinters);

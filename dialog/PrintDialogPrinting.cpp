@@ -38,7 +38,8 @@ void PrintDialog::connectPrinting()
 
 void PrintDialog::print()
 {
-    if (!mPrinters.canPrint() || !isReadyToPrint() || !isAmountAgreed() || asksAboutConflicts([this] { print(); })) {
+    if (!mPrinters.canPrint() || mPanels.isInCall() || !isReadyToPrint() || !isAmountAgreed() ||
+        asksAboutConflicts([this] { print(); })) {
         return;
     }
     mIsSaving = false;

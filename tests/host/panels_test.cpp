@@ -160,6 +160,9 @@ TEST_F(PanelsTest, PanelsChoice_IsToldToEveryPanelTheSenderIncluded)
     takeCalls();
     job.takeChoice(u"KsMargin"_qs, u"5.0"_qs);
     EXPECT_EQ(takeCalls(), QStringList{u"changed KsMargin=5.0, tape W12"_qs});
+    // Sent again it is no change.
+    job.takeChoice(u"KsMargin"_qs, u"5.0"_qs);
+    EXPECT_EQ(takeCalls(), QStringList());
 }
 
 TEST_F(PanelsTest, PanelsChoice_WithoutKeywordOrValueOrInBraces_IsRefused)
@@ -366,7 +369,7 @@ TEST_F(PanelsTest, Refusal_NamesThePanel)
     EXPECT_FALSE(panels.shouldPrint(&refusedBy));
     pdekit::setAlertHandler({});
     qApp->setProperty("hostTestRefuse", QVariant());
-    EXPECT_EQ(refusedBy, u"Test Panel"_qs);
+    EXPECT_EQ(refusedBy, u"The panel \"Test Panel\" of "_qs + hosttest::goodBundles().first() + u"/HostTest.bundle"_qs);
     EXPECT_TRUE(panels.shouldPrint(&refusedBy));
 }
 
