@@ -11,6 +11,7 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <array>
 #include <exception>
 
 namespace tapeprint::dialog
@@ -27,6 +28,30 @@ constexpr qint64 longestSilenceMs = 2000;
 constexpr qint64 msPerSecond = 1000;
 /// A panel that fails otherwise each time is not listed for ever.
 constexpr qsizetype mostSentences = 20;
+
+/// Who is in a call, kept where a handler of signals can read it.
+class InCall
+{
+public:
+    explicit InCall(const QString &who) : mBefore(text())
+    {
+        const QByteArray bytes = who.toLocal8Bit().left(static_cast<qsizetype>(text().size()) - 1);
+        text().fill('\0');
+        std::copy(bytes.begin(), bytes.end(), text().begin());
+    }
+    InCall(const InCall &) = delete;
+    InCall &operator=(const InCall &) = delete;
+    ~InCall() { text() = mBefore; }
+
+    static std::array<char, 512> &text()
+    {
+        static std::array<char, 512> who{};
+        return who;
+    }
+
+private:
+    std::array<char, 512> mBefore;
+};
 
 /// How long a thread went without looking for events. What a person is asked meanwhile does not count.
 class Silence
@@ -67,21 +92,32 @@ bool PanelCalls::make(const QString &who, const std::function<void()> &call)
     }
     ++mDepth;
     const auto leave = qScopeGuard([this] { --mDepth; });
+    const InCall inCall(who);
     Silence silence;
     bool isDone = false;
     try {
         call();
         isDone = true;
     } catch (const std::exception &thrown) {
-        const QString reason = job::reasonText(QString::fromLocal8Bit(thrown.what()));
-        tell(job::Texts::tr("%1 failed: %2.").arg(who, reason));
+        tellThrown(who, QString::fromLocal8Bit(thrown.what()));
     } catch (...) {
-        tell(job::Texts::tr("%1 failed.").arg(who));
+        tellThrown(who, QString());
     }
     if (const qint64 ms = silence.longestMs(); mDepth == 1 && ms >= longestSilenceMs) {
         tell(job::Texts::tr("%1 kept the window waiting for %2 s.").arg(who).arg(ms / msPerSecond));
     }
     return isDone;
+}
+
+const char *PanelCalls::whoIsInCall()
+{
+    return InCall::text().data();
+}
+
+void PanelCalls::tellThrown(const QString &who, const QString &reason)
+{
+    const QString text = job::reasonText(reason);
+    tell(text.isEmpty() ? job::Texts::tr("%1 failed.").arg(who) : job::Texts::tr("%1 failed: %2.").arg(who, text));
 }
 
 void PanelCalls::tell(const QString &sentence)

@@ -21,6 +21,11 @@ public:
     /// anything; what frees a panel has to wait.
     bool isUnderWay() const { return mDepth > 0; }
 
+    /// The panel whose call is under way in this process, for a handler of signals; empty when there is none.
+    static const char *whoIsInCall();
+
+    /// Keeps the sentence about a panel that threw. \param reason may be empty.
+    void tellThrown(const QString &who, const QString &reason);
     /// Keeps a sentence about a panel or a plug-in. Said once, however often it is kept.
     void tell(const QString &sentence);
     /// What went wrong until now.

@@ -42,10 +42,18 @@ bool hasControlCharacters(const QString &text)
                        [](QChar letter) { return letter.category() == QChar::Other_Control; });
 }
 
+/// The panels of all windows of the program.
+std::vector<Panels *> &allPanels()
+{
+    static std::vector<Panels *> all;
+    return all;
+}
+
 } // namespace
 
 Panels::Panels(job::Job &job, QStringList bundleFolders) : mJob(job), mBundleFolders(std::move(bundleFolders))
 {
+    allPanels().push_back(this);
     // Every panel hears of every change once, the sender of it too: a panel that takes its state from what the dialog
     // reports stays right. A choice that it was told already is no change.
     connect(&mJob, &job::Job::optionChanged, this, &Panels::tell, Qt::DirectConnection);
@@ -54,6 +62,7 @@ Panels::Panels(job::Job &job, QStringList bundleFolders) : mJob(job), mBundleFol
 Panels::~Panels()
 {
     release();
+    allPanels().erase(std::remove(allPanels().begin(), allPanels().end(), this), allPanels().end());
 }
 
 void Panels::release()
@@ -147,6 +156,21 @@ void Panels::addPanel(const std::shared_ptr<pdekit::Panel> &panel, const QString
                             .arg(entry.name, bundlePath));
     }
     mPanels.push_back(std::move(entry));
+}
+
+bool Panels::takeThrow(const QObject *receiver, const QString &reason)
+{
+    for (Panels *panels : allPanels()) {
+        for (const PanelEntry &entry : panels->mPanels) {
+            for (const QObject *object = receiver; object != nullptr; object = object->parent()) {
+                if (object == entry.view) {
+                    panels->mCalls.tellThrown(entry.who, reason);
+                    return true;
+                }
+            }
+        }
+    }
+    return false;
 }
 
 bool Panels::takeChoice(const QString &key, const QString &choice, const QString &bundlePath)

@@ -114,6 +114,9 @@ public:
 
     /// Tells every panel that the window closes.
     void windowWillClose(bool userPrinted);
+    /// Something in a panel's view threw: kept as a sentence. \param receiver who was handed an event; may be null.
+    /// \param reason may be empty. \return whether it was in a panel's view.
+    static bool takeThrow(const QObject *receiver, const QString &reason);
     /// From the callback: a panel sends a choice. One that no job can carry is left out, and that is said.
     bool takeChoice(const QString &key, const QString &choice, const QString &bundlePath);
     /// From the callback: a panel changed the size of its view.

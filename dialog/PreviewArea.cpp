@@ -50,11 +50,11 @@ PreviewArea::PreviewArea(QWidget *parent) : QWidget(parent)
     mTapeUsed = makeWords(QStringLiteral("tapeUsed"), this);
     layout->addWidget(mPreview, 1);
     layout->addWidget(mMessages);
-    mWordsRow = new QHBoxLayout;
-    mWordsRow->addWidget(mTapeUsed, 1);
-    mWordsRow->addStretch();
-    mWordsRow->addWidget(makePaging());
-    layout->addLayout(mWordsRow);
+    auto *words = new QHBoxLayout;
+    words->addWidget(mTapeUsed, 1);
+    words->addStretch();
+    words->addWidget(makePaging());
+    layout->addLayout(words);
 
     mPreview->setPictures([this](const job::PlacedPage &page) {
         const PagePicture *picture = mRenderer.picture(page.document, page.page);
@@ -116,11 +116,6 @@ void PreviewArea::setProblem(const QString &problem)
     mExpectsDocuments = false;
     mProblem = problem;
     showWords();
-}
-
-void PreviewArea::addBesideWords(QWidget *control)
-{
-    mWordsRow->addWidget(control);
 }
 
 void PreviewArea::setIsTapePrinter(bool isTapePrinter)

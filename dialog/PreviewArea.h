@@ -14,7 +14,6 @@
 #include <optional>
 #include <vector>
 
-class QHBoxLayout;
 class QLabel;
 class QToolButton;
 
@@ -37,8 +36,6 @@ public:
     void expectDocuments() { mExpectsDocuments = true; }
     /// Why the documents cannot be shown, in a sentence; null when they can.
     void setProblem(const QString &problem);
-    /// Puts a small control beside the words about the tape used.
-    void addBesideWords(QWidget *control);
     /// Whether the printer is one that is loaded with tape, whatever the page in it.
     void setIsTapePrinter(bool isTapePrinter);
     /// Whether the amount that comes out of the printer is told here; it is where nobody else tells it.
@@ -94,7 +91,6 @@ private:
 
     PageRenderer mRenderer;
     TapePreview *mPreview = nullptr;
-    QHBoxLayout *mWordsRow = nullptr;
     QWidget *mPaging = nullptr;
     QToolButton *mPrevious = nullptr;
     QToolButton *mNext = nullptr;

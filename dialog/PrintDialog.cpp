@@ -81,9 +81,15 @@ void PrintDialog::showDestination()
 
 void PrintDialog::showNotices()
 {
-    mNotices->setSentences((QStringList(mRefusal.isEmpty() ? QStringList() : QStringList(mRefusal)) +
-                            mPrinters.notices() + mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts)
-                               .join(u'\n'));
+    QStringList own;
+    if (!mRefusal.isEmpty()) {
+        own.append(mRefusal);
+    }
+    if (hasLostSettings()) {
+        own.append(mKeepProblem->sentence);
+    }
+    own += mPrinters.notices() + mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts;
+    mNotices->setSentences(own.join(u'\n'));
 }
 
 void PrintDialog::showWhetherTape()
@@ -91,6 +97,7 @@ void PrintDialog::showWhetherTape()
     // A printer that a panel serves is loaded with tape.
     const bool isTape = !mPanels.entries().empty();
     mTapeLabel->setText(isTape ? tr("&Tape:") : tr("P&aper:"));
+    alignLabels();
     mPreview->setIsTapePrinter(isTape);
     mSummary->parentWidget()->setVisible(isTape); // it is the panels' summary
     mFitControls->setVisible(isTape);

@@ -30,6 +30,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <vector>
 
 class QCheckBox;
@@ -54,6 +55,7 @@ class PanelArea;
 class PaperMenu;
 class PreviewArea;
 class PrinterPopUp;
+class SameWidth;
 class SummaryView;
 
 class PrintDialog : public QDialog
@@ -83,6 +85,8 @@ public:
     bool isSettled() const { return !mPrinters.isOpening(); }
     /// What became of the job; nothing when nothing was printed.
     const std::optional<job::PrintedJob> &printed() const { return mRun.printed(); }
+    /// Whether the settings of the printed job could not be kept for the next time.
+    bool hasLostSettings() const { return printed() && mKeepProblem && !mKeepProblem->isNull(); }
 
     /// Escape: the window closes, or, while a job is laid out and sent, that ends and the window stays. A job that the
     /// server has goes on.
@@ -108,6 +112,7 @@ private:
     QWidget *makeDestinationRows();
     QWidget *makePagesArea();
     QWidget *makeResultArea();
+    QWidget *makeBelowPreview(QWidget *parent);
     QWidget *makeSummary(QWidget *parent);
     QWidget *makeFitControls(QWidget *parent);
     QWidget *makeButtons();
@@ -163,7 +168,7 @@ private:
     void pickPreset(const PresetRow::Settings &settings);
     void followInThePresets();
     std::optional<job::JobOptions> optionsToSave();
-    std::function<void()> keepingForNextTime() const;
+    std::function<void()> keepingForNextTime();
     void connectPrinting();
     void print();
     void cancel();
@@ -183,6 +188,7 @@ private:
     void say(QMessageBox::Icon icon, const QString &sentence);
     void showNotices();
     void showWhetherTape();
+    void alignLabels();
     void fitPanel();
     bool isPage(const QObject *object) const;
     bool isInPanel(const QWidget &widget) const;
@@ -214,10 +220,13 @@ private:
     PrinterPopUp *mPrinterPopUp = nullptr;
     QPushButton *mLoadAnew = nullptr; ///< among the notices, when the printer's PPD has changed
     PresetRow *mPresetRow = nullptr;
+    SameWidth *mRightColumn = nullptr; ///< what stands right in the rows is as wide as what stands right below them
     QComboBox *mTapePopUp = nullptr;
     PaperMenu *mPapers = nullptr; ///< what the tape's pop-up offers
     QSpinBox *mCopiesField = nullptr;
+    QLabel *mPrinterLabel = nullptr;
     QLabel *mTapeLabel = nullptr;
+    QLabel *mChooserLabel = nullptr;
     NoticesArea *mNotices = nullptr;
     ConflictNotice *mConflicts = nullptr;
     bool mConflictsAreSeen = false; ///< the person said to print all the same
@@ -246,6 +255,7 @@ private:
     QStringList mAlerts; ///< what panels said of the values that were laid down
     QString mRefusal;    ///< that a panel refused the last time Print was pressed; empty when none did
     int mAlertsSeen = 0; ///< how many alerts had been run by then
+    std::shared_ptr<job::Problem> mKeepProblem; ///< of the last job's settings; its thread's until the job is printed
     std::vector<Page> mPageList;
     QPointer<OptionsPage> mOptionsPage;
     QPointer<LayoutPage> mLayoutPage;

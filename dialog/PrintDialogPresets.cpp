@@ -85,16 +85,17 @@ std::optional<job::JobOptions> PrintDialog::optionsToSave()
 }
 
 /// Done away from the window's thread, when the job was printed.
-std::function<void()> PrintDialog::keepingForNextTime() const
+std::function<void()> PrintDialog::keepingForNextTime()
 {
     if (!mJob.destination().queue) {
         return [] {};
     }
-    return [queue = mJob.destination().queue->name, tape = mJob.options().value(job::OptionName::pageSize),
+    mKeepProblem = std::make_shared<job::Problem>();
+    return [problem = mKeepProblem, queue = mJob.destination().queue->name,
+            tape = mJob.options().value(job::OptionName::pageSize),
             options = job::optionsForNextTime(mJob.options(), mJob.ppd())] {
-        // The label is printed; that the next time begins elsewhere is no problem to put before the person.
-        job::Problem ignored;
-        job::keepLastSettings(queue, tape, options, &ignored);
+        // The label is printed: that the next time begins elsewhere is said, and nothing more.
+        job::keepLastSettings(queue, tape, options, problem.get());
     };
 }
 

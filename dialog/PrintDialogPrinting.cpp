@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Print, and what the window shows until the printer's last word.
 #include "dialog/JobRow.h"
+#include "dialog/NoticesArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/SaveButton.h"
 
@@ -63,9 +64,12 @@ void PrintDialog::showPrinting()
     const bool isSent = mRun.phase() == PrintRun::Phase::Following;
     // What is being printed is not to be changed under the person's hands.
     for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (widget != mCancelButton->parentWidget() && widget != mJobRow && !widget->isWindow()) {
+        if (widget != mCancelButton->parentWidget() && widget != mJobRow && widget != mNotices && !widget->isWindow()) {
             widget->setEnabled(!isPrinting);
         }
+    }
+    for (QPushButton *button : mNotices->findChildren<QPushButton *>()) { // what the notices say stays readable
+        button->setEnabled(!isPrinting);
     }
     mRevertButton->setEnabled(!isPrinting);
     mSaveButton->setEnabled(!isPrinting);
@@ -104,6 +108,7 @@ void PrintDialog::failPrinting(const job::Problem &problem)
 
 void PrintDialog::endPrinting()
 {
+    showNotices();
     const std::optional<job::JobNews> &news = mRun.news();
     if (!news) { // there is a file, whose name the person wants to know
         showPrinting();

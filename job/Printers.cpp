@@ -2,8 +2,10 @@
 // Print queues through libcups: the server, the saved options of the person, PPDs of local and remote queues.
 #include "job/Printers.h"
 
+#include "job/Advice.h"
 #include "job/PlainText.h"
 #include "job/PrivateFile.h"
+#include "job/Reason.h"
 #include "job/SavedDestinations.h"
 #include "job/Texts.h"
 
@@ -166,11 +168,13 @@ std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueN
         *error = serverProblem(server);
     } else if (name.isEmpty()) {
         *error = {Problem::NoSuchPrinter,
-                  Texts::tr("There is no default printer: name a print queue with -d QUEUE, or print without one "
-                            "with --ppd FILE.")};
+                  advice(Texts::tr("There is no default printer: choose one."),
+                         QStringLiteral("There is no default printer: name a print queue with -d QUEUE, or print "
+                                        "without one with --ppd FILE."))};
     } else {
         *error = {Problem::NoSuchPrinter,
-                  Texts::tr("The print server knows no queue %1: see lpstat -e for the queues there are.")
+                  advice(Texts::tr("The print server knows no queue %1: choose another printer."),
+                         QStringLiteral("The print server knows no queue %1: see lpstat -e for the queues there are."))
                       .arg(harmless(wanted.text()))};
     }
     return std::nullopt;
@@ -183,7 +187,7 @@ PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QB
     std::array<char, 1024> path{};
     if (!file || static_cast<std::size_t>(QFile::encodeName(file->path()).size()) >= path.size()) {
         *error = Texts::tr("The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.")
-                     .arg(harmless(queue.name), reason);
+                     .arg(harmless(queue.name), reasonText(reason));
         return nullptr;
     }
     // libcups fills the file that it is given a name of; without one it would make a file that outlives this program.
@@ -203,7 +207,7 @@ PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QB
         *error = {Problem::Unreachable,
                   Texts::tr("The PPD of queue %1 cannot be had from the print server (%2): see that the queue is "
                             "set up.")
-                      .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())))};
+                      .arg(harmless(queue.name), reasonText(QString::fromUtf8(cupsLastErrorString())))};
         return nullptr;
     }
     *digest = digestOf(QFile::decodeName(path.data()));

@@ -91,6 +91,9 @@ RunReport runWindow(const CommandLine &line)
     report.data.insert(QStringLiteral("options"),
                        jsonOptions(job::withoutSecrets(job.ppd(), job::settle(job).carried())));
     report.data.insert(QStringLiteral("job"), jsonJob(*window.printed()));
+    if (window.hasLostSettings()) {
+        report.messages.append(QStringLiteral("The settings could not be kept for the next time."));
+    }
     if (!line.silent) {
         report.output.append(
             window.printed()->sentence()); // scripts read it: in English, now that the window is closed

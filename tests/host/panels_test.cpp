@@ -62,6 +62,11 @@ TEST_F(PanelsTest, Open_LaysDownBeforeThePanelIsMade)
     ASSERT_TRUE(job.pageFormat().paper.has_value());
     EXPECT_EQ(job.pageFormat().paper->ppdPaperName, u"W24"_qs);
     EXPECT_DOUBLE_EQ(job.pageFormat().paper->widthPt, 72.0);
+    // The plug-in of the tests says nothing of tapes.
+    EXPECT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 144.0);
+    TapeKeywords tape;
+    tape.lengthOption = u"KsTapeLength"_qs;
+    job.setTape(tape);
     // 100 mm x 0.0393701 inch/mm x 72 points/inch
     EXPECT_NEAR(job.pageFormat().paper->heightPt, 283.46472, 1e-9);
 }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // Panels that do wrong in every call of the protocol: printing goes on, or ends with a sentence that names the bundle.
+#include "ProgramTest.h"
 #include "TestPrinter.h"
 
+#include "dialog/Application.h"
 #include "dialog/PrintDialog.h"
 #include "job/Printing.h"
 #include "tests/support/TextPrinting.h"
@@ -15,6 +17,8 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+
+#include <stdexcept>
 
 #include <gtest/gtest.h>
 
@@ -253,6 +257,20 @@ TEST_F(RoguePanelTest, ViewThatGrows_EnlargesTheWindow)
     EXPECT_GE(words->visibleRegion().boundingRect().height(), 400) << dialog->height();
 }
 
+TEST_F(RoguePanelTest, ThrowOutOfItsView_IsSaidAndAnyOtherThrownOn)
+{
+    openWindow();
+    auto *words = dialog->findChild<QLabel *>(u"rogueWords"_qs);
+    const auto fail = []() -> bool { throw std::runtime_error("no ink left"); };
+    EXPECT_TRUE(Application::deliver(words, fail));
+    ASSERT_EQ(panels.notices().size(), 1);
+    EXPECT_TRUE(panels.notices().first().endsWith(u"HostTestRogue.bundle failed: no ink left."_qs))
+        << panels.notices().first().toStdString();
+    EXPECT_THROW(Application::deliver(dialog->findChild<QPushButton *>(u"print"_qs), fail), std::runtime_error);
+    EXPECT_TRUE(Application::deliver(words, [] { return true; }));
+    EXPECT_EQ(panels.notices().size(), 1);
+}
+
 TEST_F(RoguePanelTest, HelpButton_IsThereForAPanelWithHelpAloneAndLeadsToIt)
 {
     openWindow();
@@ -277,6 +295,54 @@ TEST_F(RoguePanelTest, RestoringThatFailsWithoutAReason_NamesTheBundleInAWholeSe
     EXPECT_FALSE(panels.revert(&problem));
     EXPECT_TRUE(problem.sentence.endsWith(u"HostTestRogue.bundle could not restore its values."_qs))
         << problem.sentence.toStdString();
+}
+
+class RogueProgram : public hosttest::Program
+{
+protected:
+    void SetUp() override
+    {
+        Program::SetUp();
+        bundles = rogueBundles.first();
+        rogueFile = hosttest::writeFile(folder, u"rogue.ppd"_qs, hosttest::testPpd(roguePrinter));
+    }
+
+    /// What the program writes on standard error while its panel does as it is told.
+    QByteArray wordsAfter(const char *deeds)
+    {
+        QProcess program;
+        variables.emplace_back(u"HOST_TEST_DEEDS"_qs, QLatin1String(deeds));
+        start(program, programPath(),
+              {u"--no-dialog"_qs, u"--ppd"_qs, rogueFile, u"--output"_qs, u"out.prn"_qs, document});
+        EXPECT_TRUE(program.waitForFinished(30000));
+        crashed = program.exitStatus() == QProcess::CrashExit;
+        return program.readAllStandardError();
+    }
+
+    QString rogueFile;
+    bool crashed = false;
+};
+
+TEST_F(RogueProgram, PanelThatCrashes_IsNamed)
+{
+    const QByteArray words = wordsAfter("saveValuesAndReturnError=crash");
+    EXPECT_TRUE(crashed);
+    EXPECT_TRUE(words.contains("HostTestRogue.bundle has crashed")) << words.toStdString();
+}
+
+TEST_F(RogueProgram, PanelThatUsesTheStackUp_IsNamed)
+{
+    const QByteArray words = wordsAfter("willShow=recurse");
+    EXPECT_TRUE(crashed);
+    EXPECT_TRUE(words.contains("HostTestRogue.bundle has crashed")) << words.toStdString();
+}
+
+TEST_F(RogueProgram, PanelThatThrows_IsNamedAndTheJobPrinted)
+{
+    const QByteArray words = wordsAfter("summaryInfo=throw,willShow=throw");
+    EXPECT_FALSE(crashed);
+    EXPECT_TRUE(words.contains("HostTestRogue.bundle failed: no ink left.")) << words.toStdString();
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"out.prn"_qs)));
 }
 
 } // namespace
