@@ -18,6 +18,8 @@
 
 #include <atomic>
 
+#include <pdekit/BundleLoading.h>
+
 namespace tapeprint
 {
 
@@ -62,7 +64,7 @@ RunReport runWindow(const CommandLine &line)
     const dialog::PasswordDesk passwords;
     job::Job job;
     job.setLanguages(QLocale().uiLanguages());
-    dialog::Panels panels(job, dialog::bundleSearchPath());
+    dialog::Panels panels(job, pdekit::bundleSearchPath());
     if (destination) {
         panels.open(std::move(*destination), request.options);
     }
