@@ -100,21 +100,29 @@ void Panels::reopen(const QString &instance, const job::JobOptions &saved, const
 void Panels::make()
 {
     mCalls.forget();
-    LoadedBundles loaded = loadBundles(mBundleFolders, mJob.ppd());
-    mNotices += loaded.problems;
+    pdekit::LoadedBundles loaded = pdekit::loadBundles(mBundleFolders, mJob.ppd());
+    for (const QString &problem : loaded.problems) {
+        mNotices.append(job::harmless(problem));
+    }
     mBundles = std::move(loaded.bundles);
-    for (const LoadedBundle &bundle : mBundles) {
+    for (const pdekit::LoadedBundle &bundle : mBundles) {
         if (mJob.tape().isEmpty()) {
-            mJob.setTape(bundle.tape);
+            mJob.setTape(job::TapeKeywords::fromMetadata(bundle.metadata));
         }
     }
-    for (const LoadedBundle &bundle : mBundles) {
+    for (const pdekit::LoadedBundle &bundle : mBundles) {
         makePanelsOf(bundle);
     }
 }
 
-void Panels::makePanelsOf(const LoadedBundle &bundle)
+void Panels::makePanelsOf(const pdekit::LoadedBundle &bundle)
 {
+    const pdekit::BundleGuard guard(bundle.path, pdekit::BundleGuard::Step::MakingPanels);
+    if (!guard.reasonToSkip().isNull()) {
+        mNotices.append(tr("The plug-in %1 is not used: %2. Printing works without it.")
+                            .arg(bundle.path, job::reasonText(guard.reasonToSkip())));
+        return;
+    }
     const auto host = mHosts.emplace_back(std::make_shared<PanelHost>(mJob, *this, bundle.path));
     // A copy: the array is the plug-in's, and its panels are called before all of it is read.
     pdekit::PanelArray panels;

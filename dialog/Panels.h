@@ -2,14 +2,13 @@
 // The panels that work on a job, and the order in which job and panels are told of each other's changes.
 //
 //   Panels
-//     ├─ LoadedBundle ...      principal objects
-//     ├─ PanelHost ...         what the panels of each see of the job's objects
-//     └─ PanelEntry ...        panels, released before everything that they borrow
+//     ├─ pdekit::LoadedBundle ...   principal objects
+//     ├─ PanelHost ...              what the panels of each see of the job's objects
+//     └─ PanelEntry ...             panels, released before everything that they borrow
 #pragma once
 
 #include "dialog/PanelCalls.h"
 #include "dialog/PanelHost.h"
-#include "dialog/PluginLoader.h"
 #include "job/Conflicts.h"
 #include "job/Job.h"
 #include "job/Problem.h"
@@ -26,6 +25,7 @@
 #include <utility>
 #include <vector>
 
+#include <pdekit/BundleLoading.h>
 #include <pdekit/PanelProtocol.h>
 
 namespace tapeprint::dialog
@@ -131,7 +131,7 @@ Q_SIGNALS:
 private:
     void release();
     void make();
-    void makePanelsOf(const LoadedBundle &bundle);
+    void makePanelsOf(const pdekit::LoadedBundle &bundle);
     void addPanel(const std::shared_ptr<pdekit::Panel> &panel, const QString &bundlePath);
     void tell(const QString &key, const QString &choice);
     void tellPaperAgain();
@@ -146,7 +146,7 @@ private:
     std::vector<job::ReplacedOption> mReplaced; ///< as the panels settled
     mutable PanelCalls mCalls; ///< asking a panel leaves the panels as they are, whatever the panel does
     std::vector<std::shared_ptr<PanelHost>> mHosts;
-    std::vector<LoadedBundle> mBundles;
+    std::vector<pdekit::LoadedBundle> mBundles;
     std::vector<PanelEntry> mPanels;
     std::map<QString, QString> mSenders;             ///< of each option that panels sent, the bundle that sent it last
     std::deque<std::pair<QString, QString>> mToTell; ///< changes that wait until the panels heard of the one before

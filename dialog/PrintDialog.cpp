@@ -85,9 +85,6 @@ void PrintDialog::showNotices()
     if (!mRefusal.isEmpty()) {
         own.append(mRefusal);
     }
-    if (hasLostSettings()) {
-        own.append(mKeepProblem->sentence);
-    }
     own += mPrinters.notices() + mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts;
     mNotices->setSentences(own.join(u'\n'));
 }

@@ -30,7 +30,6 @@
 
 #include <atomic>
 #include <functional>
-#include <memory>
 #include <vector>
 
 class QCheckBox;
@@ -85,8 +84,6 @@ public:
     bool isSettled() const { return !mPrinters.isOpening(); }
     /// What became of the job; nothing when nothing was printed.
     const std::optional<job::PrintedJob> &printed() const { return mRun.printed(); }
-    /// Whether the settings of the printed job could not be kept for the next time.
-    bool hasLostSettings() const { return printed() && mKeepProblem && !mKeepProblem->isNull(); }
 
     /// Escape: the window closes, or, while a job is laid out and sent, that ends and the window stays. A job that the
     /// server has goes on.
@@ -168,7 +165,7 @@ private:
     void pickPreset(const PresetRow::Settings &settings);
     void followInThePresets();
     std::optional<job::JobOptions> optionsToSave();
-    std::function<void()> keepingForNextTime();
+    std::function<bool()> keepingForNextTime() const;
     void connectPrinting();
     void print();
     void cancel();
@@ -255,7 +252,6 @@ private:
     QStringList mAlerts; ///< what panels said of the values that were laid down
     QString mRefusal;    ///< that a panel refused the last time Print was pressed; empty when none did
     int mAlertsSeen = 0; ///< how many alerts had been run by then
-    std::shared_ptr<job::Problem> mKeepProblem; ///< of the last job's settings; its thread's until the job is printed
     std::vector<Page> mPageList;
     QPointer<OptionsPage> mOptionsPage;
     QPointer<LayoutPage> mLayoutPage;

@@ -84,18 +84,17 @@ std::optional<job::JobOptions> PrintDialog::optionsToSave()
     return job::withoutGone(job::optionsForPreset(mJob.options(), mJob.ppd()), mJob.ppd());
 }
 
-/// Done away from the window's thread, when the job was printed.
-std::function<void()> PrintDialog::keepingForNextTime()
+/// Done away from the window's thread, when the job was printed. \return by the function: whether they are kept.
+std::function<bool()> PrintDialog::keepingForNextTime() const
 {
     if (!mJob.destination().queue) {
-        return [] {};
+        return [] { return true; };
     }
-    mKeepProblem = std::make_shared<job::Problem>();
-    return [problem = mKeepProblem, queue = mJob.destination().queue->name,
-            tape = mJob.options().value(job::OptionName::pageSize),
+    return [queue = mJob.destination().queue->name, tape = mJob.options().value(job::OptionName::pageSize),
             options = job::optionsForNextTime(mJob.options(), mJob.ppd())] {
-        // The label is printed: that the next time begins elsewhere is said, and nothing more.
-        job::keepLastSettings(queue, tape, options, problem.get());
+        // The label is printed; that the next time begins elsewhere does not keep the window open. The program says so.
+        job::Problem ignored;
+        return job::keepLastSettings(queue, tape, options, &ignored);
     };
 }
 

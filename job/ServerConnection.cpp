@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // libcups waits in steps of a fifth of a second and asks after each whether to wait on: that is where a stop and a
-// silence are noticed.
+// silence are noticed; LineCutter is for servers that never let it wait so long.
 #include "job/ServerConnection.h"
 
 #include "job/Advice.h"
@@ -47,6 +47,7 @@ ServerConnection::ServerConnection(const std::atomic<bool> *stop, Passwords pass
 
 ServerConnection::~ServerConnection()
 {
+    mCutter.reset();
     httpClose(mHttp);
     cupsSetUser(mThreadsUser.constData());
     current = mOuter;
@@ -80,6 +81,7 @@ bool ServerConnection::reconnect()
         const Clock::time_point attempt = Clock::now();
         if (httpReconnect2(mHttp, static_cast<int>(connectAttempt.count()), nullptr) == 0) {
             mHasBeenOpen = true;
+            watchLine();
             return true;
         }
         if (Clock::now() - attempt < connectAttempt / 2) {
@@ -95,6 +97,15 @@ void ServerConnection::allowOnly(milliseconds time)
     mStop = nullptr;
     mPasswords = Passwords::GoWithout;
     mIsSilent = false;
+    watchLine();
+}
+
+void ServerConnection::watchLine()
+{
+    mCutter.reset();
+    if (isOpen() && (mStop != nullptr || mEnd)) {
+        mCutter = std::make_unique<LineCutter>(mHttp, mStop, mEnd);
+    }
 }
 
 bool ServerConnection::isStopped() const

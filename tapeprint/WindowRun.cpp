@@ -7,6 +7,7 @@
 #include "dialog/Translations.h"
 #include "job/CustomValues.h"
 #include "job/DocumentSpool.h"
+#include "job/LastSettings.h"
 #include "job/Printing.h"
 #include "tapeprint/JsonReport.h"
 #include "tapeprint/OutputPath.h"
@@ -16,6 +17,8 @@
 #include <QTimer>
 
 #include <atomic>
+
+#include <pdekit/BundleLoading.h>
 
 namespace tapeprint
 {
@@ -61,7 +64,7 @@ RunReport runWindow(const CommandLine &line)
     const dialog::PasswordDesk passwords;
     job::Job job;
     job.setLanguages(QLocale().uiLanguages());
-    dialog::Panels panels(job, dialog::bundleSearchPath());
+    dialog::Panels panels(job, pdekit::bundleSearchPath());
     if (destination) {
         panels.open(std::move(*destination), request.options);
     }
@@ -91,8 +94,8 @@ RunReport runWindow(const CommandLine &line)
     report.data.insert(QStringLiteral("options"),
                        jsonOptions(job::withoutSecrets(job.ppd(), job::settle(job).carried())));
     report.data.insert(QStringLiteral("job"), jsonJob(*window.printed()));
-    if (window.hasLostSettings()) {
-        report.messages.append(QStringLiteral("The settings could not be kept for the next time."));
+    if (!window.printed()->isKept) {
+        report.messages.append(job::lastSettingsNotKept());
     }
     if (!line.silent) {
         report.output.append(

@@ -84,6 +84,7 @@ int main(int argc, char **argv)
     tapeprint::dialog::nameCrashingPanels();
     start.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
+    QApplication::setDesktopFileName(QStringLiteral("org.tapeprint.TapePrint")); // whose icon a Wayland desktop shows
 
     if (!wantsWindow) {
         tapeprint::job::setPasswordAsker(tapeprint::askOnTerminal); // the window has its own
