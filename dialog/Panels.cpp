@@ -124,16 +124,18 @@ void Panels::makePanelsOf(const pdekit::LoadedBundle &bundle)
         return;
     }
     const auto host = mHosts.emplace_back(std::make_shared<PanelHost>(mJob, *this, bundle.path));
-    // A copy: the array is the plug-in's, and its panels are called before all of it is read.
-    pdekit::PanelArray panels;
+    // A copy: the array is the plug-in's, and its panels are called before all of it is read. An empty one is an
+    // answer.
+    pdekit::PanelArray panels{nullptr};
     mCalls.make(tr("The plug-in %1").arg(bundle.path), [&] {
         if (const pdekit::PanelArray *made =
                 bundle.principal->PDEPanelsForType(pdekit::kPrinterModulePanelType, host)) {
             panels = *made;
         }
     });
-    panels.erase(std::remove(panels.begin(), panels.end(), nullptr), panels.end());
-    if (panels.empty()) {
+    const auto missing = std::remove(panels.begin(), panels.end(), nullptr);
+    if (missing != panels.end()) {
+        panels.erase(missing, panels.end());
         mNotices.append(tr("The plug-in %1 could not make its panel: printing works without it.").arg(bundle.path));
     }
     for (const std::shared_ptr<pdekit::Panel> &panel : panels) {

@@ -109,7 +109,6 @@ private:
     QWidget *makeDestinationRows();
     QWidget *makePagesArea();
     QWidget *makeResultArea();
-    QWidget *makeBelowPreview(QWidget *parent);
     QWidget *makeSummary(QWidget *parent);
     QWidget *makeFitControls(QWidget *parent);
     QWidget *makeButtons();

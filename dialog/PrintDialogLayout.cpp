@@ -105,7 +105,10 @@ QWidget *PrintDialog::makeDestinationRows()
     grid->addWidget(mTapeLabel, 1, 0);
     grid->addWidget(mTapePopUp, 1, 1);
     grid->addWidget(makeLabel(tr("&Copies:"), mCopiesField), 1, 2);
-    grid->addWidget(mCopiesField, 1, 3);
+    auto *copiesPlace = new QHBoxLayout;
+    copiesPlace->addWidget(mCopiesField, 1);
+    copiesPlace->addWidget(new UnitButton(mUnit, rows));
+    grid->addLayout(copiesPlace, 1, 3);
     mRightColumn = new SameWidth(rows);
     grid->addWidget(mRightColumn, 0, 2, 1, 2);
     grid->setColumnStretch(1, 1);
@@ -156,26 +159,15 @@ QWidget *PrintDialog::makeResultArea()
     auto *area = new ScrollingColumn(this);
     // What the pages do not need makes the preview larger.
     area->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    area->setMinimumSize(smallestResultArea);
+    area->setLeastSize(smallestResultArea);
     area->column()->addWidget(makeSummary(area));
     mPreview = new PreviewArea(area);
     mPreview->setShowsAmount(false); // it stands beside Print
     area->column()->addWidget(mPreview, 1);
-    area->column()->addWidget(makeBelowPreview(area));
+    area->column()->addWidget(makeFitControls(area));
     area->column()->addStretch(); // where nothing is previewed
     mRightColumn->follow(area);
     return area;
-}
-
-QWidget *PrintDialog::makeBelowPreview(QWidget *parent)
-{
-    auto *below = new QWidget(parent);
-    auto *layout = new QHBoxLayout(below);
-    layout->setContentsMargins({});
-    layout->addWidget(makeFitControls(below));
-    layout->addStretch();
-    layout->addWidget(new UnitButton(mUnit, below));
-    return below;
 }
 
 QWidget *PrintDialog::makeSummary(QWidget *parent)
@@ -201,6 +193,7 @@ QWidget *PrintDialog::makeFitControls(QWidget *parent)
     mKeepFitting->setObjectName(QStringLiteral("keepFitting"));
     layout->addWidget(mFitButton);
     layout->addWidget(mKeepFitting);
+    layout->addStretch();
     return mFitControls;
 }
 

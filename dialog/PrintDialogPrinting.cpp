@@ -108,7 +108,6 @@ void PrintDialog::failPrinting(const job::Problem &problem)
 
 void PrintDialog::endPrinting()
 {
-    showNotices();
     const std::optional<job::JobNews> &news = mRun.news();
     if (!news) { // there is a file, whose name the person wants to know
         showPrinting();

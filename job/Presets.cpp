@@ -91,15 +91,15 @@ std::vector<OwnedEntry> entriesOf(const QString &queue, Problem *error)
 constexpr int mostTries = 5;
 
 /// Held while a file is read, changed and written anew: whoever else does that waits. The folder is locked, because the
-/// file is another one afterwards. A folder that cannot be locked within a moment holds nobody up.
+/// file is another one afterwards. A folder that cannot be locked within seconds holds nobody up.
 class WriterLock
 {
 public:
     explicit WriterLock(const QString &path)
         : mFolder(open(QFile::encodeName(QFileInfo(path).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
     {
-        constexpr int mostWaits = 45;
-        constexpr auto wait = std::chrono::milliseconds(2); // all of them are less than a person notices
+        constexpr int mostWaits = 1500;
+        constexpr auto wait = std::chrono::milliseconds(2); // another writer is done in a few of them
         for (int i = 0; mFolder >= 0 && flock(mFolder, LOCK_EX | LOCK_NB) != 0 && i < mostWaits; ++i) {
             std::this_thread::sleep_for(wait);
         }

@@ -161,9 +161,12 @@ INSTANTIATE_TEST_SUITE_P(
         Misdeed{"currentValues", "deleteView"}, Misdeed{"printWindowWillClose", "throw"},
         Misdeed{"printWindowWillClose", "deleteView"}));
 
-TEST_F(RoguePanelTest, NullAmongThePanels_IsLeftOut)
+TEST_F(RoguePanelTest, NullAmongThePanels_IsLeftOutAndSaid)
 {
+    let("PDEPanelsForType", "nullEntry");
     open();
+    ASSERT_EQ(panels.notices().size(), 1);
+    EXPECT_TRUE(panels.notices().first().contains(u"HostTestRogue.bundle could not make its panel"_qs));
     ASSERT_EQ(panels.entries().size(), 1U);
     EXPECT_EQ(panels.entries().front().name, u"Rogue Panel"_qs);
 }
