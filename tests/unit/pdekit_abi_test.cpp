@@ -31,6 +31,15 @@ std::ptrdiff_t placeOf(Function function)
     return (pointer - 1) / static_cast<std::ptrdiff_t>(sizeof(void *));
 }
 
+/// Where a field stands in its record, in bytes.
+template <typename Record, typename Field>
+std::size_t placeOfField(Field Record::*field)
+{
+    const Record record{};
+    return static_cast<std::size_t>(reinterpret_cast<const char *>(&(record.*field)) -
+                                    reinterpret_cast<const char *>(&record));
+}
+
 TEST(Abi, FunctionsOfAPanel_StandWhereTheyStood)
 {
     EXPECT_EQ(placeOf(&Panel::panelView), 2);
@@ -73,26 +82,26 @@ TEST(Abi, Records_AreLaidOutAsTheyWere)
     constexpr std::size_t map = sizeof(void *);
     static_assert(sizeof(QString) == text && sizeof(QVariantMap) == map);
 
-    EXPECT_EQ(offsetof(Paper, widthPt), text);
-    EXPECT_EQ(offsetof(Paper, heightPt), text + 8);
+    EXPECT_EQ(placeOfField(&Paper::widthPt), text);
+    EXPECT_EQ(placeOfField(&Paper::heightPt), text + 8);
     EXPECT_EQ(sizeof(Paper), text + 16);
     EXPECT_EQ(sizeof(PageFormat), sizeof(Paper) + 8); // whether there is one stands behind it
-    EXPECT_EQ(offsetof(Printer, instance), text);
-    EXPECT_EQ(offsetof(Printer, makeModel), 2 * text);
-    EXPECT_EQ(offsetof(Printer, deviceUri), 3 * text);
+    EXPECT_EQ(placeOfField(&Printer::instance), text);
+    EXPECT_EQ(placeOfField(&Printer::makeModel), 2 * text);
+    EXPECT_EQ(placeOfField(&Printer::deviceUri), 3 * text);
     EXPECT_EQ(sizeof(Printer), 4 * text);
     EXPECT_EQ(sizeof(PrintSession), map);
-    EXPECT_EQ(offsetof(PrintSettings, lockedKeys), map);
+    EXPECT_EQ(placeOfField(&PrintSettings::lockedKeys), map);
     EXPECT_EQ(sizeof(PrintSettings), map + sizeof(std::set<QString>));
-    EXPECT_EQ(offsetof(Notification, object), text);
-    EXPECT_EQ(offsetof(Notification, text), text + sizeof(void *));
+    EXPECT_EQ(placeOfField(&Notification::object), text);
+    EXPECT_EQ(placeOfField(&Notification::text), text + sizeof(void *));
     EXPECT_EQ(sizeof(Notification), 2 * text + sizeof(void *));
-    EXPECT_EQ(offsetof(AlertRequest, text), text);
-    EXPECT_EQ(offsetof(AlertRequest, defaultButton), 2 * text);
+    EXPECT_EQ(placeOfField(&AlertRequest::text), text);
+    EXPECT_EQ(placeOfField(&AlertRequest::defaultButton), 2 * text);
     EXPECT_EQ(sizeof(AlertRequest), 3 * text);
     EXPECT_EQ(sizeof(NamedBundle), 2 * text);
     EXPECT_EQ(sizeof(LoadedBundle), text + sizeof(QJsonObject) + 3 * sizeof(void *));
-    EXPECT_EQ(offsetof(LoadedBundles, problems), sizeof(std::vector<LoadedBundle>));
+    EXPECT_EQ(placeOfField(&LoadedBundles::problems), sizeof(std::vector<LoadedBundle>));
 }
 
 TEST(Abi, Controls_AreAsLargeAsTheyWere)
