@@ -2,6 +2,7 @@
 // Print queues through libcups: the server, the saved options of the person, PPDs of local and remote queues.
 #include "job/Printers.h"
 
+#include "job/MemoryFile.h"
 #include "job/PlainText.h"
 #include "job/PrivateFile.h"
 #include "job/SavedDestinations.h"
@@ -103,6 +104,10 @@ void completeFromServer(const ServerConnection &server, PrintQueue &queue)
                      "/printers/%s", queue.name.toUtf8().constData());
     ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+    // All that it knows of a queue would be some thousand values, of which libcups reads each by itself.
+    const std::array<const char *, 2> wanted{"printer-config-change-time", "printer-defaults"};
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", static_cast<int>(wanted.size()),
+                  nullptr, wanted.data());
     const Response response(cupsDoRequest(server.http(), request, "/"));
 
     static const QLatin1String ending("-default");
@@ -122,11 +127,53 @@ void completeFromServer(const ServerConnection &server, PrintQueue &queue)
     }
 }
 
-QByteArray digestOf(const QString &path)
+Problem notKept(const PrintQueue &queue, const QString &reason)
 {
-    QFile file(path);
-    QCryptographicHash digest(QCryptographicHash::Sha256);
-    return file.open(QIODevice::ReadOnly) && digest.addData(&file) ? digest.result() : QByteArray();
+    return Texts::tr("The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.")
+        .arg(harmless(queue.name), reason);
+}
+
+/// Asks the server for a queue's PPD, which it has of those that it prints itself. \param error takes why there is no
+/// room for it.
+http_status_t fetchPpd(const ServerConnection &server, const PrintQueue &queue, QByteArray *ppd, Problem *error)
+{
+    const MemoryFile file(mostPpdBytes + 1);
+    const QByteArray place = "/printers/" + queue.name.toUtf8() + ".ppd";
+    const http_status_t status =
+        file.isOpen() ? cupsGetFd(server.http(), place.constData(), file.handle()) : HTTP_STATUS_ERROR;
+    const std::optional<QByteArray> bytes = status == HTTP_STATUS_OK ? file.contents() : QByteArray();
+    if (!file.isOpen() || !bytes) {
+        *error = notKept(queue, qt_error_string());
+        return status;
+    }
+    *ppd = *bytes;
+    return status;
+}
+
+/// Has libcups look for the server that the queue is from.
+http_status_t fetchPpdElsewhere(const ServerConnection &server, const PrintQueue &queue, QByteArray *ppd,
+                                Problem *error)
+{
+    QString reason;
+    const auto file = PrivateFile::create(QStringLiteral("queue.ppd"), &reason);
+    std::array<char, 1024> path{};
+    if (!file || static_cast<std::size_t>(QFile::encodeName(file->path()).size()) >= path.size()) {
+        *error = notKept(queue, reason);
+        return HTTP_STATUS_ERROR;
+    }
+    // libcups fills the file that it is given a name of; without one it would make a file that outlives this program.
+    const QByteArray name = QFile::encodeName(file->path());
+    std::copy(name.begin(), name.end(), path.begin());
+    std::time_t modified = 0;
+    const http_status_t status =
+        cupsGetPPD3(server.http(), queue.name.toUtf8().constData(), &modified, path.data(), path.size());
+    QFile filled(QFile::decodeName(path.data()));
+    if (status == HTTP_STATUS_OK && !filled.open(QIODevice::ReadOnly)) {
+        *error = notKept(queue, filled.errorString());
+    } else if (status == HTTP_STATUS_OK) {
+        *ppd = filled.read(mostPpdBytes + 1);
+    }
+    return status;
 }
 
 } // namespace
@@ -178,21 +225,12 @@ std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueN
 
 PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QByteArray *digest, Problem *error)
 {
-    QString reason;
-    const auto file = PrivateFile::create(QStringLiteral("queue.ppd"), &reason);
-    std::array<char, 1024> path{};
-    if (!file || static_cast<std::size_t>(QFile::encodeName(file->path()).size()) >= path.size()) {
-        *error = Texts::tr("The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.")
-                     .arg(harmless(queue.name), reason);
-        return nullptr;
+    QByteArray ppd;
+    http_status_t status = fetchPpd(server, queue, &ppd, error);
+    if (status != HTTP_STATUS_OK && error->isNull() && !server.isStopped() && !server.isUnreachable()) {
+        status = fetchPpdElsewhere(server, queue, &ppd, error);
     }
-    // libcups fills the file that it is given a name of; without one it would make a file that outlives this program.
-    const QByteArray name = QFile::encodeName(file->path());
-    std::copy(name.begin(), name.end(), path.begin());
-    std::time_t modified = 0;
-    const http_status_t status =
-        cupsGetPPD3(server.http(), queue.name.toUtf8().constData(), &modified, path.data(), path.size());
-    if (status == HTTP_STATUS_NOT_FOUND) {
+    if (!error->isNull() || status == HTTP_STATUS_NOT_FOUND) {
         return nullptr;
     }
     if (server.isStopped() || server.isUnreachable()) {
@@ -206,8 +244,8 @@ PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QB
                       .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())))};
         return nullptr;
     }
-    *digest = digestOf(QFile::decodeName(path.data()));
-    return openPpdFile(QFile::decodeName(path.data()), error, Texts::tr("of queue %1").arg(queue.name));
+    *digest = QCryptographicHash::hash(ppd, QCryptographicHash::Sha256);
+    return openPpd(ppd, error, Texts::tr("of queue %1").arg(queue.name));
 }
 
 } // namespace tapeprint::job
