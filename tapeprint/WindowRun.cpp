@@ -17,6 +17,8 @@
 
 #include <atomic>
 
+#include <pdekit/BundleLoading.h>
+
 namespace tapeprint
 {
 
@@ -61,7 +63,7 @@ RunReport runWindow(const CommandLine &line)
     const dialog::PasswordDesk passwords;
     job::Job job;
     job.setLanguages(QLocale().uiLanguages());
-    dialog::Panels panels(job, dialog::bundleSearchPath());
+    dialog::Panels panels(job, pdekit::bundleSearchPath());
     if (destination) {
         panels.open(std::move(*destination), request.options);
     }
