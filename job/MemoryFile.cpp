@@ -34,9 +34,14 @@ bool MemoryFile::append(const QByteArray &bytes) const
            file.write(bytes) == bytes.size();
 }
 
+qint64 MemoryFile::size() const
+{
+    return lseek(mHandle, 0, SEEK_CUR);
+}
+
 bool MemoryFile::end() const
 {
-    const off_t written = lseek(mHandle, 0, SEEK_CUR);
+    const qint64 written = size();
     return written >= 0 && ftruncate(mHandle, written) == 0;
 }
 

@@ -26,6 +26,8 @@ public:
     int handle() const { return mHandle; }
     /// Writes bytes after those that are there. \return whether they were all taken.
     bool append(const QByteArray &bytes) const;
+    /// How many bytes were written.
+    qint64 size() const;
     /// All that was written; nothing when it cannot be read.
     std::optional<QByteArray> contents() const;
     /// A handle of the caller's own, to read from the beginning what was written so far; -1 when the system has none.

@@ -4,17 +4,14 @@
 
 #include "job/MemoryFile.h"
 #include "job/PlainText.h"
-#include "job/PrivateFile.h"
 #include "job/SavedDestinations.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
 #include <QCryptographicHash>
-#include <QFile>
 
 #include <algorithm>
 #include <array>
-#include <ctime>
 #include <memory>
 #include <span>
 
@@ -95,21 +92,26 @@ QString defaultText(ipp_attribute_t *attribute)
     return QString::fromUtf8(text.data());
 }
 
+/// Asks the server for some of what it knows of a queue. All of it would be a thousand values, of which libcups reads
+/// each by itself.
+Response askAbout(const ServerConnection &server, const QString &queue, std::span<const char *const> attributes)
+{
+    std::array<char, HTTP_MAX_URI> uri{};
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
+                     "/printers/%s", queue.toUtf8().constData());
+    ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(attributes.size()), nullptr, attributes.data());
+    return Response(cupsDoRequest(server.http(), request, "/"));
+}
+
 /// Asks the server for what it knows of the queue alone. What it adds to every job by itself is taken away: only what
 /// the person saved is laid down by the dialog.
 void completeFromServer(const ServerConnection &server, PrintQueue &queue)
 {
-    std::array<char, HTTP_MAX_URI> uri{};
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
-                     "/printers/%s", queue.name.toUtf8().constData());
-    ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
-    // All that it knows of a queue would be some thousand values, of which libcups reads each by itself.
-    const std::array<const char *, 2> wanted{"printer-config-change-time", "printer-defaults"};
-    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", static_cast<int>(wanted.size()),
-                  nullptr, wanted.data());
-    const Response response(cupsDoRequest(server.http(), request, "/"));
-
+    const Response response =
+        askAbout(server, queue.name, std::array{"printer-config-change-time", "printer-defaults"});
     static const QLatin1String ending("-default");
     for (ipp_attribute_t *attribute = ippFirstAttribute(response.get()); attribute != nullptr;
          attribute = ippNextAttribute(response.get())) {
@@ -127,53 +129,44 @@ void completeFromServer(const ServerConnection &server, PrintQueue &queue)
     }
 }
 
-Problem notKept(const PrintQueue &queue, const QString &reason)
+Problem noMemory(const PrintQueue &queue)
 {
     return Texts::tr("The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.")
-        .arg(harmless(queue.name), reason);
+        .arg(harmless(queue.name), qt_error_string());
 }
 
-/// Asks the server for a queue's PPD, which it has of those that it prints itself. \param error takes why there is no
-/// room for it.
-http_status_t fetchPpd(const ServerConnection &server, const PrintQueue &queue, QByteArray *ppd, Problem *error)
+/// The queues of a class, whose PPD is that of the first.
+QString firstMember(const ServerConnection &server, const QString &name)
 {
-    const MemoryFile file(mostPpdBytes + 1);
-    const QByteArray place = "/printers/" + queue.name.toUtf8() + ".ppd";
-    const http_status_t status =
-        file.isOpen() ? cupsGetFd(server.http(), place.constData(), file.handle()) : HTTP_STATUS_ERROR;
-    const std::optional<QByteArray> bytes = status == HTTP_STATUS_OK ? file.contents() : QByteArray();
-    if (!file.isOpen() || !bytes) {
-        *error = notKept(queue, qt_error_string());
+    const Response response = askAbout(server, name, std::array{"member-names"});
+    ipp_attribute_t *members = ippFindAttribute(response.get(), "member-names", IPP_TAG_NAME);
+    return QString::fromUtf8(ippGetString(members, 0, nullptr));
+}
+
+/// Writes a queue's PPD into an open file. cupsGetPPD3 does the same, but on a connection of its own, which hears of no
+/// change of mind and waits for a silent server for good; and it takes what a server cut short for the whole.
+http_status_t fetchPpd(const ServerConnection &server, const QString &name, const MemoryFile &file)
+{
+    static const QLatin1String folder("/printers/");
+    std::array<char, HTTP_MAX_URI> uri{};
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
+                     "/printers/%s.ppd", name.toUtf8().constData());
+    const QByteArray resource = QByteArray(uri.data()).mid(QByteArrayView(uri.data()).indexOf(folder));
+    const http_status_t status = cupsGetFd(server.http(), resource.constData(), file.handle());
+    bool isLengthTold = false;
+    const qint64 length = QByteArray(httpGetField(server.http(), HTTP_FIELD_CONTENT_LENGTH)).toLongLong(&isLengthTold);
+    return status == HTTP_STATUS_OK && isLengthTold && file.size() != length ? HTTP_STATUS_ERROR : status;
+}
+
+/// The same for a queue or a class.
+http_status_t fetchPpdOfQueueOrClass(const ServerConnection &server, const QString &name, const MemoryFile &file)
+{
+    const http_status_t status = fetchPpd(server, name, file);
+    if (status != HTTP_STATUS_NOT_FOUND) {
         return status;
     }
-    *ppd = *bytes;
-    return status;
-}
-
-/// Has libcups look for the server that the queue is from.
-http_status_t fetchPpdElsewhere(const ServerConnection &server, const PrintQueue &queue, QByteArray *ppd,
-                                Problem *error)
-{
-    QString reason;
-    const auto file = PrivateFile::create(QStringLiteral("queue.ppd"), &reason);
-    std::array<char, 1024> path{};
-    if (!file || static_cast<std::size_t>(QFile::encodeName(file->path()).size()) >= path.size()) {
-        *error = notKept(queue, reason);
-        return HTTP_STATUS_ERROR;
-    }
-    // libcups fills the file that it is given a name of; without one it would make a file that outlives this program.
-    const QByteArray name = QFile::encodeName(file->path());
-    std::copy(name.begin(), name.end(), path.begin());
-    std::time_t modified = 0;
-    const http_status_t status =
-        cupsGetPPD3(server.http(), queue.name.toUtf8().constData(), &modified, path.data(), path.size());
-    QFile filled(QFile::decodeName(path.data()));
-    if (status == HTTP_STATUS_OK && !filled.open(QIODevice::ReadOnly)) {
-        *error = notKept(queue, filled.errorString());
-    } else if (status == HTTP_STATUS_OK) {
-        *ppd = filled.read(mostPpdBytes + 1);
-    }
-    return status;
+    const QString member = firstMember(server, name);
+    return member.isEmpty() ? status : fetchPpd(server, member, file);
 }
 
 } // namespace
@@ -186,8 +179,10 @@ QueueName QueueName::parse(const QString &text)
 
 Problem serverProblem(const ServerConnection &server)
 {
-    return {server.isStopped() ? Problem::Cancelled : Problem::Unreachable,
-            server.isOpen() ? server.problem() : ServerConnection::noAnswer()};
+    if (server.isStopped()) {
+        return {Problem::Cancelled, QString()};
+    }
+    return {Problem::Unreachable, server.isOpen() ? server.problem() : ServerConnection::noAnswer()};
 }
 
 std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueName &wanted, Problem *error)
@@ -225,15 +220,16 @@ std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueN
 
 PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QByteArray *digest, Problem *error)
 {
-    QByteArray ppd;
-    http_status_t status = fetchPpd(server, queue, &ppd, error);
-    if (status != HTTP_STATUS_OK && error->isNull() && !server.isStopped() && !server.isUnreachable()) {
-        status = fetchPpdElsewhere(server, queue, &ppd, error);
-    }
-    if (!error->isNull() || status == HTTP_STATUS_NOT_FOUND) {
+    const MemoryFile file(mostPpdBytes + 1);
+    if (!file.isOpen()) {
+        *error = noMemory(queue);
         return nullptr;
     }
-    if (server.isStopped() || server.isUnreachable()) {
+    const http_status_t status = fetchPpdOfQueueOrClass(server, queue.name, file);
+    if (status == HTTP_STATUS_NOT_FOUND) {
+        return nullptr;
+    }
+    if (server.isStopped() || server.isUnreachable() || server.wasRefused()) {
         *error = serverProblem(server);
         return nullptr;
     }
@@ -244,8 +240,13 @@ PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QB
                       .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())))};
         return nullptr;
     }
-    *digest = QCryptographicHash::hash(ppd, QCryptographicHash::Sha256);
-    return openPpd(ppd, error, Texts::tr("of queue %1").arg(queue.name));
+    const std::optional<QByteArray> ppd = file.contents();
+    if (!ppd) {
+        *error = noMemory(queue);
+        return nullptr;
+    }
+    *digest = QCryptographicHash::hash(*ppd, QCryptographicHash::Sha256);
+    return openPpd(*ppd, error, Texts::tr("of queue %1").arg(queue.name));
 }
 
 } // namespace tapeprint::job
