@@ -158,7 +158,7 @@ private:
     void pickPreset(const PresetRow::Settings &settings);
     void followInThePresets();
     std::optional<job::JobOptions> optionsToSave();
-    std::function<void()> keepingForNextTime() const;
+    std::function<bool()> keepingForNextTime() const;
     void connectPrinting();
     void print();
     void cancel();
