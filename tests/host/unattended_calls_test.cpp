@@ -16,7 +16,9 @@ using namespace tapeprint;
 TEST(UnattendedCalls, ComeInTheOrderThatAuthorsAreTold)
 {
     const QTemporaryDir folder;
-    const QString ppd = hosttest::writeFile(folder, u"test.ppd"_qs, hosttest::testPpd());
+    // A printer of the test panel alone: the build's own would send it changes.
+    const QByteArray text = hosttest::testPpd("*HostTestFamily: \"A\"\n").replace("KsMargin", "Margin");
+    const QString ppd = hosttest::writeFile(folder, u"test.ppd"_qs, text);
     job::Problem error;
     const std::optional<CommandLine> line = parseCommandLine({u"--ppd"_qs, ppd, u"--summary"_qs}, &error);
     ASSERT_TRUE(line) << error.sentence.toStdString();
@@ -25,10 +27,9 @@ TEST(UnattendedCalls, ComeInTheOrderThatAuthorsAreTold)
     const RunReport report = runUnattended(*line);
     qunsetenv("TAPEPRINT_PLUGIN_PATH");
     EXPECT_EQ(report.status, 0);
-    EXPECT_EQ(hosttest::takeCalls(),
-              (QStringList{u"made, margin 2.0"_qs, u"panelName"_qs, u"panelKind"_qs, u"supportedPPDOptionKeys"_qs,
-                           u"panelView"_qs, u"willShow"_qs, u"save"_qs, u"changed KsMargin=2.0, tape W12"_qs,
-                           u"shouldPrint"_qs, u"closes"_qs, u"released"_qs}));
+    EXPECT_EQ(hosttest::takeCalls(), (QStringList{u"made, margin "_qs, u"panelName"_qs, u"panelKind"_qs,
+                                                  u"supportedPPDOptionKeys"_qs, u"panelView"_qs, u"willShow"_qs,
+                                                  u"save"_qs, u"shouldPrint"_qs, u"closes"_qs, u"released"_qs}));
 }
 
 } // namespace
