@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // Any bytes as a printer's description: the panel is constructed over what libcups makes of them, and driven through a
 // dialog's calls. It has no bundle, so no view: every length comes from the description.
+#include "fuzz/Application.h"
 #include "fuzz/Invariants.h"
+#include "fuzz/MemoryFile.h"
 
 #include "panel/PanelFactory.h"
-#include "pdekit/Alert.h"
-
-#include <QApplication>
-#include <QLoggingCategory>
 
 #include <memory>
-
-#include <sys/mman.h>
-#include <unistd.h>
 
 using namespace pdekit;
 using fuzz::require;
@@ -24,27 +19,6 @@ struct PpdCloser {
     void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
 };
 using OpenPpd = std::unique_ptr<ppd_file_t, PpdCloser>;
-
-/// One file in memory for every input, opened by its name as a dialog opens a printer's description.
-class MemoryFile
-{
-public:
-    MemoryFile() : mFile(memfd_create("ppd", MFD_CLOEXEC)) { require(mFile >= 0); }
-    ~MemoryFile() { close(mFile); }
-    MemoryFile(const MemoryFile &) = delete;
-    MemoryFile &operator=(const MemoryFile &) = delete;
-
-    OpenPpd open(const std::uint8_t *data, std::size_t size) const
-    {
-        require(ftruncate(mFile, 0) == 0);
-        require(pwrite(mFile, data, size, 0) == static_cast<ssize_t>(size));
-        const QByteArray path = "/proc/self/fd/" + QByteArray::number(mFile);
-        return OpenPpd(ppdOpenFile(path.constData()));
-    }
-
-private:
-    int mFile;
-};
 
 /// A dialog over one description. Its first page size is the paper in use.
 class Dialog : public PanelCallback
@@ -118,25 +92,13 @@ void drive(Panel &panel)
     panel.printWindowWillClose(true);
 }
 
-/// Made at the first input, and never again.
-void makeApplication()
-{
-    static int argumentCount = 1;
-    static char name[] = "fuzz_ppd";
-    static char *arguments[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static const QApplication application(argumentCount, arguments);
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
-    setAlertHandler([](const AlertRequest &) {});
-}
-
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static const bool isReady = (makeApplication(), true);
-    static const MemoryFile file;
-    OpenPpd ppd = file.open(data, size);
+    static const bool isReady = fuzz::makeApplication();
+    static const fuzz::MemoryFile file;
+    OpenPpd ppd(ppdOpenFile(file.hold(data, size).toLatin1().constData()));
     if (!isReady || ppd == nullptr) {
         return 0;
     }

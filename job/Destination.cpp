@@ -4,6 +4,7 @@
 
 #include "job/OutputFile.h"
 #include "job/PpdPrograms.h"
+#include "job/SampleDescriptions.h"
 
 #include <QFileInfo>
 
@@ -54,12 +55,12 @@ std::optional<Destination> openDestination(const JobRequest &request, Problem *e
     destination.trustsPpd = request.trustsPpd;
     destination.documents = request.documents;
     if (!request.ppdPath.isEmpty()) {
-        destination.ppdPath = request.ppdPath;
-        destination.ppd = openPpdFile(request.ppdPath, error);
+        destination.ppdPath = descriptionFile(request.ppdPath);
+        destination.ppd = openPpdFile(destination.ppdPath, error);
         if (!destination.ppd) {
             return std::nullopt;
         }
-        if (const std::optional<FileStamp> description = FileStamp::ofPath(request.ppdPath)) {
+        if (const std::optional<FileStamp> description = FileStamp::ofPath(destination.ppdPath)) {
             destination.documents.push_back(*description);
         }
         const bool isOnItsOwn = (request.queue.isEmpty() || !request.outputPath.isEmpty()) && request.pdfPath.isEmpty();

@@ -23,7 +23,7 @@ struct JobRequest {
     QString instance;   ///< a saved set of options of that queue; empty for the queue itself
     JobOptions options; ///< laid down by name, in the order given
     QString title;      ///< empty: the document's name
-    QString ppdPath;    ///< a PPD file that takes the place of the queue's
+    QString ppdPath;    ///< a PPD file that takes the place of the queue's, or the name of a sample printer's
     QString outputPath; ///< a file for the printer's bytes instead of a queue; "-" for standard output
     QString pdfPath;    ///< a file for the job as a PDF instead of printing; "-" for standard output
     /// Whether a file that stands at the output's path may be replaced: the person named it.

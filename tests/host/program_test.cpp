@@ -2,10 +2,13 @@
 // The program as it is run: what it prints, where, and its exit status. No print server and no display is there.
 #include "ProgramTest.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <pdekit/Version.h>
 
 #include <sys/stat.h>
 
@@ -273,8 +276,49 @@ TEST_F(Program, HelpAndVersion_NeedNothing)
     EXPECT_TRUE(help.output.startsWith("Usage: tapeprint "));
     const Outcome version = run({u"--version"_qs});
     EXPECT_EQ(version.status, 0);
-    EXPECT_TRUE(version.output.startsWith("tapeprint "));
-    EXPECT_EQ(version.output.count('\n'), 1);
+    EXPECT_EQ(version.output, "tapeprint " PDEKIT_VERSION "\n"); // program and library have one
+}
+
+/// The program in a place of its own, with a sample printer's description beside it.
+class InstalledProgram : public Program
+{
+protected:
+    InstalledProgram()
+    {
+        for (const QString &place : {u"bin"_qs, u"share/ppd/tapeprint"_qs}) {
+            QDir(prefix.path()).mkpath(place);
+        }
+        QFile::copy(QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), prefix.filePath(u"bin/tapeprint"_qs));
+        hosttest::writeFile(prefix, u"share/ppd/tapeprint/sample.ppd"_qs, hosttest::testPpd());
+    }
+
+    QByteArray optionsOf(const QString &description) const
+    {
+        QProcess program;
+        start(program, prefix.filePath(u"bin/tapeprint"_qs), {u"--ppd"_qs, description, u"--show-options"_qs});
+        EXPECT_TRUE(program.waitForFinished(60000));
+        return program.readAllStandardOutput() + program.readAllStandardError();
+    }
+
+    QTemporaryDir prefix;
+};
+
+TEST_F(InstalledProgram, FindsItsSamplePrintersByName)
+{
+    EXPECT_EQ(optionsOf(u"sample"_qs), "PageSize=W12\nKsMargin=2.0\n");
+    EXPECT_EQ(optionsOf(u"sample.ppd"_qs), "PageSize=W12\nKsMargin=2.0\n");
+}
+
+TEST_F(InstalledProgram, TakesAFileOfThatNameFirst)
+{
+    hosttest::writeFile(folder, u"sample"_qs, "no description");
+    EXPECT_TRUE(optionsOf(u"sample"_qs).startsWith("tapeprint: "));
+}
+
+TEST_F(InstalledProgram, TakesAPathForAPath)
+{
+    EXPECT_TRUE(optionsOf(u"./sample"_qs).startsWith("tapeprint: "));
+    EXPECT_TRUE(optionsOf(u"../tapeprint/sample"_qs).startsWith("tapeprint: "));
 }
 
 } // namespace

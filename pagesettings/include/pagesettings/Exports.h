@@ -4,6 +4,7 @@
 #pragma once
 
 #include "pdekit/LoggedObject.h"
+#include "pdekit/Ppd.h"
 #include "pdekit/PrintingCore.h"
 
 #include <QString>
@@ -11,8 +12,6 @@
 
 #include <cstddef>
 #include <cstdint>
-
-#include <cups/ppd.h>
 
 // The module (PageSettings.so in the bundle's directory) is loaded at run time and not linked. Take a function by its
 // name, with the type that is declared here, and call it no longer than the module stays loaded:

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "pdekit/Export.h"
+#include "pdekit/Ppd.h"
 #include "pdekit/PrintingCore.h"
 
 #include <QString>
@@ -14,8 +15,6 @@
 #include <optional>
 #include <utility>
 #include <vector>
-
-#include <cups/ppd.h>
 
 class QWidget;
 

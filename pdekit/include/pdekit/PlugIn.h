@@ -5,6 +5,7 @@
 
 #include "pdekit/Export.h"
 #include "pdekit/PanelProtocol.h"
+#include "pdekit/Version.h"
 
 #include <QString>
 #include <QtPlugin>
@@ -56,8 +57,6 @@ public:
 
 } // namespace pdekit
 
-/// The interface identifier of this generation of the panel protocol; a module made for another one is not loaded.
-#define PDEKIT_PLUGIN_IID "tapeprint.pdekit.PlugInEntry/1.0"
 Q_DECLARE_INTERFACE(pdekit::PlugInEntry, PDEKIT_PLUGIN_IID)
 
 // The metadata (the JSON file named in Q_PLUGIN_METADATA) that a dialog reads before it loads any code:
