@@ -15,7 +15,7 @@ namespace tapeprint::portal
 PortalRequest::PortalRequest(const QDBusConnection &bus, const QString &path, const QString &caller, QObject *parent)
     : QObject(parent), mBus(bus), mPath(path), mCaller(caller)
 {
-    mIsThere = mBus.registerObject(path, this, QDBusConnection::ExportScriptableSlots);
+    mIsThere = mBus.registerObject(path, this, QDBusConnection::ExportScriptableInvokables);
     mWatcher.setConnection(mBus);
     mWatcher.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
     mWatcher.addWatchedService(caller);

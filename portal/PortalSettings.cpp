@@ -4,6 +4,7 @@
 
 #include "job/CustomValues.h"
 #include "job/PageLayout.h"
+#include "job/PlainText.h"
 #include "job/PpdMarks.h"
 #include "job/UsualOptions.h"
 #include "portal/Log.h"
@@ -30,49 +31,56 @@ const QString printerKey = QStringLiteral("printer");
 const QString resolutionKey = QStringLiteral("resolution");
 const QString resolutionOption = QStringLiteral("Resolution");
 
-QString asTrue()
-{
-    return QStringLiteral("true");
-}
-
 // What a value becomes as an option; null when it makes no sense, empty when it says nothing.
+
+/// What a program is told when there is nothing to do says nothing when it comes back.
+QString unlessNeutral(const QString &value, QLatin1String neutral)
+{
+    return value == neutral ? QStringLiteral("") : value;
+}
 
 QString readCopies(const QString &value)
 {
     constexpr int most = 9999;
     bool isNumber = false;
     const int copies = value.toInt(&isNumber);
-    return isNumber && copies >= 1 && copies <= most ? QString::number(copies) : QString();
+    return isNumber && copies >= 1 && copies <= most ? unlessNeutral(QString::number(copies), QLatin1String("1"))
+                                                     : QString();
 }
 
-QString readTruth(const QString &value)
+/// \param yes what "true" becomes.
+QString readTruth(const QString &value, const QString &yes)
 {
-    return value == asTrue() ? QStringLiteral("True") : value == u"false" ? QStringLiteral("False") : QString();
+    return value == u"true" ? yes : value == u"false" ? QStringLiteral("") : QString();
+}
+
+QString readCollate(const QString &value)
+{
+    return readTruth(value, QStringLiteral("True"));
 }
 
 QString readReverse(const QString &value)
 {
-    return value == asTrue()   ? QStringLiteral("reverse")
-           : value == u"false" ? QStringLiteral("") // the printer's own order, whatever it is
-                               : QString();
+    return readTruth(value, QStringLiteral("reverse"));
 }
 
 QString readPageSet(const QString &value)
 {
-    return value == u"all" ? QStringLiteral("") : value == u"even" || value == u"odd" ? value : QString();
+    const bool isKnown = value == u"all" || value == u"even" || value == u"odd";
+    return isKnown ? unlessNeutral(value, QLatin1String("all")) : QString();
 }
 
 QString readNumberUp(const QString &value)
 {
     bool isNumber = false;
     const int pages = value.toInt(&isNumber);
-    return !isNumber || pages < 1 ? QString() : pages == 1 ? QStringLiteral("") : QString::number(pages);
+    return isNumber && pages >= 1 ? unlessNeutral(QString::number(pages), QLatin1String("1")) : QString();
 }
 
 QString readNumberUpLayout(const QString &value)
 {
     static const QRegularExpression order(QStringLiteral("\\A(lr(tb|bt)|rl(tb|bt)|tb(lr|rl)|bt(lr|rl))\\z"));
-    return order.match(value).hasMatch() ? value : QString();
+    return order.match(value).hasMatch() ? unlessNeutral(value, QLatin1String("lrtb")) : QString();
 }
 
 /// Ranges count from 0 there, from 1 here.
@@ -105,7 +113,7 @@ const std::array<UsualSetting, 7> &usualSettings()
 {
     static const std::array<UsualSetting, 7> table{{
         {QLatin1String("n-copies"), job::OptionName::copies, readCopies, QLatin1String("1")},
-        {QLatin1String("collate"), job::OptionName::collate, readTruth, QLatin1String("false")},
+        {QLatin1String("collate"), job::OptionName::collate, readCollate, QLatin1String("false")},
         {QLatin1String("reverse"), job::OptionName::outputOrder, readReverse, QLatin1String("false")},
         {QLatin1String("page-set"), job::OptionName::pageSet, readPageSet, QLatin1String("all")},
         {QLatin1String("number-up"), job::OptionName::numberUp, readNumberUp, QLatin1String("1")},
@@ -140,21 +148,47 @@ constexpr std::array duplexWords{
 const QString duplexKey = QStringLiteral("duplex");
 const QString duplexOption = QStringLiteral("Duplex");
 
-void leaveOut(const QString &key, const QString &why)
+/// What of a program's settings is not understood: said in one line, for a program may send thousands.
+class LeftOut
 {
-    constexpr int most = 64; // of the key: it is a stranger's
-    qCInfo(portalLog) << "the setting" << key.left(most) << "is left out:" << why;
-}
+public:
+    explicit LeftOut(const char *why) : mWhy(why) {}
+    ~LeftOut()
+    {
+        if (!mKeys.isEmpty()) {
+            qCInfo(portalLog).noquote() << mCount << "setting(s) left out," << mWhy << '-'
+                                        << job::harmless(mKeys.join(u' '));
+        }
+    }
+    LeftOut(const LeftOut &) = delete;
+    LeftOut &operator=(const LeftOut &) = delete;
+
+    void add(const QString &key)
+    {
+        constexpr qsizetype mostKeys = 8;
+        constexpr qsizetype mostCharacters = 40;
+        ++mCount;
+        if (mKeys.size() < mostKeys) {
+            mKeys.append(key.left(mostCharacters));
+        }
+    }
+
+private:
+    const char *mWhy;
+    int mCount = 0;
+    QStringList mKeys; ///< the first of them
+};
 
 /// The settings whose values are texts, as all are that the contract names.
 QVariantMap textsIn(const QVariantMap &settings)
 {
     QVariantMap texts;
+    LeftOut leftOut("whose values are no texts");
     for (auto setting = settings.begin(); setting != settings.end(); ++setting) {
         if (setting.value().userType() == QMetaType::QString) {
             texts.insert(setting.key(), setting.value());
         } else {
-            leaveOut(setting.key(), QStringLiteral("its value is no text"));
+            leftOut.add(setting.key());
         }
     }
     return texts;
@@ -164,6 +198,7 @@ void readUsual(const QVariantMap &texts, AskedSettings &asked)
 {
     const QString part = texts.value(printPages).toString();
     asked.printsPart = part == u"current" || part == u"selection";
+    LeftOut leftOut("whose values make no sense");
     for (const UsualSetting &setting : usualSettings()) {
         const bool isAsked =
             texts.contains(setting.key) && (setting.key != pageRanges || part.isEmpty() || part == u"ranges");
@@ -172,7 +207,7 @@ void readUsual(const QVariantMap &texts, AskedSettings &asked)
         }
         const QString value = setting.read(texts.value(setting.key).toString());
         if (value.isNull()) {
-            leaveOut(setting.key, QStringLiteral("its value makes no sense"));
+            leftOut.add(setting.key);
         } else if (!value.isEmpty()) {
             asked.usual.set(setting.option, value);
         }
@@ -251,6 +286,7 @@ AskedSettings askedSettings(const QVariantMap &settings, const QVariantMap &page
 job::JobOptions fitting(const AskedSettings &asked, ppd_file_t *ppd)
 {
     job::JobOptions options;
+    LeftOut leftOut("which the printer does not have");
     if (const QString paper = paperOfSize(asked.paperMm, ppd); !paper.isNull()) {
         options.set(job::OptionName::pageSize, paper);
     }
@@ -261,7 +297,7 @@ job::JobOptions fitting(const AskedSettings &asked, ppd_file_t *ppd)
         if (!fits.isNull()) {
             options.set(keyword, fits);
         } else {
-            leaveOut(name, QStringLiteral("the printer has no such option or choice"));
+            leftOut.add(name);
         }
     }
     return options;

@@ -36,9 +36,8 @@ PrintPortal::PrintPortal(const QDBusConnection &bus, QObject *parent) : QObject(
 
 bool PrintPortal::publish()
 {
-    return mBus.registerObject(objectPath, this,
-                               QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportScriptableProperties |
-                                   QDBusConnection::ExportScriptableInvokables);
+    return mBus.registerObject(
+        objectPath, this, QDBusConnection::ExportScriptableInvokables | QDBusConnection::ExportScriptableProperties);
 }
 
 bool PrintPortal::isBusy()

@@ -22,7 +22,7 @@ namespace tapeprint::portal
 namespace
 {
 
-constexpr std::size_t pieceBytes = 65536;
+constexpr std::size_t pieceBytes = 1 << 20;
 constexpr int lookMs = 100;
 /// The room that is left is asked for after each so many bytes.
 constexpr qint64 roomStep = qint64{16} << 20;

@@ -37,24 +37,34 @@ bool isLaidOutOn(const QSizeF &paperPt, const std::vector<job::PageSizes> &docum
     });
 }
 
+/// The job that prints such pages as they are. Made to fit into the margins, or moved into their middle, the program's
+/// own margins would count twice.
+job::SettledJob asLaidOut(const job::SettledJob &job)
+{
+    job::SettledJob whole = job;
+    whole.options.set(job::OptionName::printScaling, QStringLiteral("none"));
+    whole.page.unprintablePt = {};
+    whole.page.freeEndsPt = 0.0;
+    return whole;
+}
+
 } // namespace
 
 std::optional<job::PrintedJob> printChosen(const job::SettledJob &job, const QString &title, const QString &document,
                                            const job::PrintWatch &watch, job::Problem *error)
 {
-    job::SettledJob printed = job;
     const job::LayoutChoices layout = job::layoutChoicesOf(job.options);
-    if (job.page.isTape && layout.scaling == job::Scaling::Auto && layout.pagesPerSheet == 1) {
-        const std::optional<job::PdfDocuments> pages = job::collectPdfs(job, {document}, watch.stop, error);
-        if (!pages) {
-            return std::nullopt;
-        }
-        // Made to fit into the margins, the program's own margins would be added to ours.
-        if (isLaidOutOn(job.page.sizePt, pages->sizes)) {
-            printed.options.set(job::OptionName::printScaling, QStringLiteral("none"));
-        }
+    // Margins that leave nothing of the tape are refused by the job.
+    if (!job.page.isTape || layout.scaling != job::Scaling::Auto || layout.pagesPerSheet > 1 ||
+        job.page.layoutRect().isEmpty()) {
+        return job::printJob(job, title, {document}, watch, error);
     }
-    return job::printJob(printed, title, {document}, watch, error);
+    const std::optional<job::PdfDocuments> pages = job::collectPdfs(job, {document}, watch.stop, error);
+    if (!pages) {
+        return std::nullopt;
+    }
+    const bool isLaidOut = isLaidOutOn(job.page.sizePt, pages->sizes);
+    return job::printJob(isLaidOut ? asLaidOut(job) : job, title, {document}, watch, error);
 }
 
 SilentPrint::SilentPrint(ChosenSettings settings, QString title, QString document, QObject *parent)
