@@ -2,12 +2,13 @@
 // Panels are made before the window is, when their printer is known by then.
 #include "dialog/JobWindow.h"
 
-#include "dialog/PluginLoader.h"
 #include "job/Printing.h"
 
 #include <QLocale>
 
 #include <utility>
+
+#include <pdekit/BundleLoading.h>
 
 namespace tapeprint::dialog
 {
@@ -30,7 +31,7 @@ job::Job &opened(job::Job &job, Panels &panels, std::optional<job::Destination> 
 
 JobWindow::JobWindow(PrintDialog::Setup setup, PrintDialog::PrintAction print,
                      std::optional<job::Destination> destination)
-    : mPanels(mJob, bundleSearchPath()),
+    : mPanels(mJob, pdekit::bundleSearchPath()),
       mDialog(opened(mJob, mPanels, std::move(destination), setup.request.options), mPanels, setup, std::move(print))
 {
 }

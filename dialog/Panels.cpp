@@ -2,6 +2,8 @@
 // The traffic with panels. Panels borrow the job's objects, so they always go first.
 #include "dialog/Panels.h"
 
+#include "job/PlainText.h"
+
 #include <pdekit/NotificationCenter.h>
 
 namespace tapeprint::dialog
@@ -64,15 +66,17 @@ void Panels::reopen(const QString &instance, const job::JobOptions &saved, const
 void Panels::make()
 {
     mHost = std::make_shared<PanelHost>(mJob, *this);
-    LoadedBundles loaded = loadBundles(mBundleFolders, mJob.ppd());
-    mNotices += loaded.problems;
+    pdekit::LoadedBundles loaded = pdekit::loadBundles(mBundleFolders, mJob.ppd());
+    for (const QString &problem : loaded.problems) {
+        mNotices.append(job::harmless(problem));
+    }
     mBundles = std::move(loaded.bundles);
-    for (const LoadedBundle &bundle : mBundles) {
+    for (const pdekit::LoadedBundle &bundle : mBundles) {
         if (mJob.tape().isEmpty()) {
-            mJob.setTape(bundle.tape);
+            mJob.setTape(job::TapeKeywords::fromMetadata(bundle.metadata));
         }
     }
-    for (const LoadedBundle &bundle : mBundles) {
+    for (const pdekit::LoadedBundle &bundle : mBundles) {
         const pdekit::PanelArray *panels = bundle.principal->PDEPanelsForType(pdekit::kPrinterModulePanelType, mHost);
         if (panels == nullptr) {
             mNotices.append(tr("The plug-in %1 could not make its panel: printing works without it.").arg(bundle.path));

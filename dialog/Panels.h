@@ -2,13 +2,12 @@
 // The panels that work on a job, and the order in which job and panels are told of each other's changes.
 //
 //   Panels
-//     ├─ PanelHost             what panels see of the job's objects
-//     ├─ LoadedBundle ...      principal objects
-//     └─ PanelEntry ...        panels, released before everything that they borrow
+//     ├─ PanelHost                  what panels see of the job's objects
+//     ├─ pdekit::LoadedBundle ...   principal objects
+//     └─ PanelEntry ...             panels, released before everything that they borrow
 #pragma once
 
 #include "dialog/PanelHost.h"
-#include "dialog/PluginLoader.h"
 #include "job/Conflicts.h"
 #include "job/Job.h"
 #include "job/Problem.h"
@@ -23,6 +22,7 @@
 #include <utility>
 #include <vector>
 
+#include <pdekit/BundleLoading.h>
 #include <pdekit/PanelProtocol.h>
 
 namespace tapeprint::dialog
@@ -122,7 +122,7 @@ private:
     QStringList mNotices;
     std::vector<job::ReplacedOption> mReplaced; ///< as the panels settled
     std::shared_ptr<PanelHost> mHost;
-    std::vector<LoadedBundle> mBundles;
+    std::vector<pdekit::LoadedBundle> mBundles;
     std::vector<PanelEntry> mPanels;
     std::deque<std::pair<QString, QString>> mToTell; ///< changes that wait until the panels heard of the one before
     bool mIsTelling = false;

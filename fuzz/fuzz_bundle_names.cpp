@@ -3,12 +3,13 @@
 #include "fuzz/Invariants.h"
 #include "fuzz/MemoryFile.h"
 
-#include "dialog/PluginClaims.h"
 #include "job/PpdFile.h"
 
 #include <QDir>
 
 #include <climits>
+
+#include <pdekit/BundleLoading.h>
 
 using namespace tapeprint;
 using fuzz::require;
@@ -32,9 +33,9 @@ job::PpdFile ppdOf(const std::uint8_t *data, std::size_t size)
     return job::PpdFile(ppdOpenFile(path.toLatin1().constData()));
 }
 
-void checkName(const dialog::NamedBundle &bundle)
+void checkName(const pdekit::NamedBundle &bundle)
 {
-    require(bundle.name.endsWith(dialog::bundleEnding) && bundle.name.size() > dialog::bundleEnding.size());
+    require(bundle.name.endsWith(pdekit::kBundleEnding) && bundle.name.size() > pdekit::kBundleEnding.size());
     require(!bundle.name.contains(u'/') && bundle.name.toUtf8().size() <= NAME_MAX);
     if (!bundle.path.isNull()) {
         require(QDir::isAbsolutePath(bundle.path) && bundle.path == QDir::cleanPath(bundle.path));
@@ -47,7 +48,7 @@ void checkName(const dialog::NamedBundle &bundle)
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     if (const job::PpdFile ppd = ppdOf(data, size)) {
-        for (const dialog::NamedBundle &bundle : dialog::namedBundles(ppd.get())) {
+        for (const pdekit::NamedBundle &bundle : pdekit::namedBundles(ppd.get())) {
             checkName(bundle);
         }
     }

@@ -115,8 +115,8 @@ void checkShown(PDEFormatter &formatter, const QString &format, const QString &t
     formatter.stringForObjectValue(intValue(text));
     formatter.stringForObjectValue(doubleValue(text));
     formatter.stringForObjectValue(QVariant());
-    const auto dated = PDEFormatter::initWithCalendarDate(
-        QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(doubleValue(text)), Qt::UTC), QLocale::c());
+    const auto dated =
+        PDEFormatter::initWithCalendarDate(QDateTime::fromMSecsSinceEpoch(text.toLongLong(), Qt::UTC), QLocale::c());
     dated->setFormatString(format);
     dated->stringForObjectValue(QVariant());
 }

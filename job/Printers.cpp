@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ctime>
 #include <memory>
 #include <span>
 
@@ -122,6 +121,48 @@ void completeFromServer(const ServerConnection &server, PrintQueue &queue)
     }
 }
 
+/// The queues of a class, whose PPD is that of the first.
+QString firstMember(const ServerConnection &server, const QString &name)
+{
+    static constexpr std::array attributes{"member-names"};
+    std::array<char, HTTP_MAX_URI> uri{};
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
+                     "/printers/%s", name.toUtf8().constData());
+    ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(attributes.size()), nullptr, attributes.data());
+    const Response response(cupsDoRequest(server.http(), request, "/"));
+    ipp_attribute_t *members = ippFindAttribute(response.get(), "member-names", IPP_TAG_NAME);
+    return QString::fromUtf8(ippGetString(members, 0, nullptr));
+}
+
+/// Writes a queue's PPD into an open file. cupsGetPPD3 does the same, but on a connection of its own, which hears of no
+/// change of mind and waits for a silent server for good; and it takes what a server cut short for the whole.
+http_status_t fetchPpd(const ServerConnection &server, const QString &name, QFile &file)
+{
+    static const QLatin1String folder("/printers/");
+    std::array<char, HTTP_MAX_URI> uri{};
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
+                     "/printers/%s.ppd", name.toUtf8().constData());
+    const QByteArray resource = QByteArray(uri.data()).mid(QByteArrayView(uri.data()).indexOf(folder));
+    const http_status_t status = cupsGetFd(server.http(), resource.constData(), file.handle());
+    bool isLengthTold = false;
+    const qint64 length = QByteArray(httpGetField(server.http(), HTTP_FIELD_CONTENT_LENGTH)).toLongLong(&isLengthTold);
+    return status == HTTP_STATUS_OK && isLengthTold && file.size() != length ? HTTP_STATUS_ERROR : status;
+}
+
+/// The same for a queue or a class.
+http_status_t fetchPpdOfQueueOrClass(const ServerConnection &server, const QString &name, QFile &file)
+{
+    const http_status_t status = fetchPpd(server, name, file);
+    if (status != HTTP_STATUS_NOT_FOUND) {
+        return status;
+    }
+    const QString member = firstMember(server, name);
+    return member.isEmpty() ? status : fetchPpd(server, member, file);
+}
+
 QByteArray digestOf(const QString &path)
 {
     QFile file(path);
@@ -139,8 +180,10 @@ QueueName QueueName::parse(const QString &text)
 
 Problem serverProblem(const ServerConnection &server)
 {
-    return {server.isStopped() ? Problem::Cancelled : Problem::Unreachable,
-            server.isOpen() ? server.problem() : ServerConnection::noAnswer()};
+    if (server.isStopped()) {
+        return {Problem::Cancelled, QString()};
+    }
+    return {Problem::Unreachable, server.isOpen() ? server.problem() : ServerConnection::noAnswer()};
 }
 
 std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueName &wanted, Problem *error)
@@ -180,22 +223,16 @@ PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QB
 {
     QString reason;
     const auto file = PrivateFile::create(QStringLiteral("queue.ppd"), &reason);
-    std::array<char, 1024> path{};
-    if (!file || static_cast<std::size_t>(QFile::encodeName(file->path()).size()) >= path.size()) {
+    if (!file) {
         *error = Texts::tr("The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.")
                      .arg(harmless(queue.name), reason);
         return nullptr;
     }
-    // libcups fills the file that it is given a name of; without one it would make a file that outlives this program.
-    const QByteArray name = QFile::encodeName(file->path());
-    std::copy(name.begin(), name.end(), path.begin());
-    std::time_t modified = 0;
-    const http_status_t status =
-        cupsGetPPD3(server.http(), queue.name.toUtf8().constData(), &modified, path.data(), path.size());
+    const http_status_t status = fetchPpdOfQueueOrClass(server, queue.name, file->file());
     if (status == HTTP_STATUS_NOT_FOUND) {
         return nullptr;
     }
-    if (server.isStopped() || server.isUnreachable()) {
+    if (server.isStopped() || server.isUnreachable() || server.wasRefused()) {
         *error = serverProblem(server);
         return nullptr;
     }
@@ -206,8 +243,8 @@ PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QB
                       .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())))};
         return nullptr;
     }
-    *digest = digestOf(QFile::decodeName(path.data()));
-    return openPpdFile(QFile::decodeName(path.data()), error, Texts::tr("of queue %1").arg(queue.name));
+    *digest = digestOf(file->path());
+    return openPpdFile(file->path(), error, Texts::tr("of queue %1").arg(queue.name));
 }
 
 } // namespace tapeprint::job

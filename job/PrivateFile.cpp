@@ -3,6 +3,7 @@
 #include "job/PrivateFile.h"
 
 #include "job/DeathWatch.h"
+#include "job/PlainText.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -19,6 +20,12 @@ namespace tapeprint::job
 
 namespace
 {
+
+/// What the system says, with the folder that it is about: the person may name another in TMPDIR.
+QString aboutTheFolder(const QString &reason)
+{
+    return QStringLiteral("%1: %2").arg(harmless(QDir::tempPath()), reason);
+}
 
 class PrivateFolder
 {
@@ -38,12 +45,12 @@ public:
     {
         const QMutexLocker lock(&mMutex);
         if (mPath.isNull() && !make()) {
-            *error = qt_error_string(errno);
+            *error = aboutTheFolder(qt_error_string(errno));
             return {};
         }
         QString place = QStringLiteral("%1/%2").arg(mPath, QString::number(++mPlaces));
         if (mkdir(QFile::encodeName(place).constData(), S_IRWXU) != 0) {
-            *error = qt_error_string(errno);
+            *error = aboutTheFolder(qt_error_string(errno));
             return {};
         }
         return place;
@@ -83,7 +90,7 @@ std::unique_ptr<PrivateFile> PrivateFile::create(const QString &name, QString *e
     }
     std::unique_ptr<PrivateFile> created(new PrivateFile(place + u'/' + name));
     if (!created->mFile.open(QIODevice::ReadWrite | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner)) {
-        *error = created->mFile.errorString();
+        *error = aboutTheFolder(created->mFile.errorString());
         return nullptr;
     }
     return created;
@@ -94,7 +101,7 @@ bool PrivateFile::fill(const QByteArray &bytes, QString *error)
     if (mFile.write(bytes) == bytes.size() && mFile.flush()) {
         return true;
     }
-    *error = mFile.errorString();
+    *error = aboutTheFolder(mFile.errorString());
     return false;
 }
 

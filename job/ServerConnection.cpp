@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // libcups waits in steps of a fifth of a second and asks after each whether to wait on: that is where a stop and a
-// silence are noticed.
+// silence are noticed; LineCutter is for servers that never let it wait so long.
 #include "job/ServerConnection.h"
 
 #include "job/PlainText.h"
@@ -45,6 +45,7 @@ ServerConnection::ServerConnection(const std::atomic<bool> *stop, Passwords pass
 
 ServerConnection::~ServerConnection()
 {
+    mCutter.reset();
     httpClose(mHttp);
     cupsSetUser(mThreadsUser.constData());
     current = mOuter;
@@ -78,6 +79,7 @@ bool ServerConnection::reconnect()
         const Clock::time_point attempt = Clock::now();
         if (httpReconnect2(mHttp, static_cast<int>(connectAttempt.count()), nullptr) == 0) {
             mHasBeenOpen = true;
+            watchLine();
             return true;
         }
         if (Clock::now() - attempt < connectAttempt / 2) {
@@ -93,6 +95,15 @@ void ServerConnection::allowOnly(milliseconds time)
     mStop = nullptr;
     mPasswords = Passwords::GoWithout;
     mIsSilent = false;
+    watchLine();
+}
+
+void ServerConnection::watchLine()
+{
+    mCutter.reset();
+    if (isOpen() && (mStop != nullptr || mEnd)) {
+        mCutter = std::make_unique<LineCutter>(mHttp, mStop, mEnd);
+    }
 }
 
 bool ServerConnection::isStopped() const

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "job/Credentials.h"
+#include "job/LineCutter.h"
 
 #include <QString>
 
@@ -69,6 +70,7 @@ private:
     bool isOver() const;
     bool mayWaitOn();
     const char *answerPassword();
+    void watchLine();
 
     http_t *mHttp = nullptr;
     const std::atomic<bool> *mStop = nullptr;
@@ -83,6 +85,7 @@ private:
     Secret mPassword;         ///< libcups reads it from here
     QByteArray mThreadsUser;  ///< who the thread's calls are made for, before any question
     ServerConnection *mOuter; ///< the thread's connection before this one
+    std::unique_ptr<LineCutter> mCutter;
 };
 
 } // namespace tapeprint::job

@@ -24,6 +24,7 @@
 #include <atomic>
 
 #include <pdekit/Alert.h>
+#include <pdekit/BundleLoading.h>
 
 namespace tapeprint
 {
@@ -112,7 +113,7 @@ QStringList notCarriedAsAsked(const job::Job &job, const dialog::Panels &panels,
 class UnattendedRun
 {
 public:
-    explicit UnattendedRun(const CommandLine &line) : mLine(line), mPanels(mJob, dialog::bundleSearchPath()) {}
+    explicit UnattendedRun(const CommandLine &line) : mLine(line), mPanels(mJob, pdekit::bundleSearchPath()) {}
 
     RunReport run()
     {

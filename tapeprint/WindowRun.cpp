@@ -15,6 +15,7 @@
 
 #include <atomic>
 
+
 namespace tapeprint
 {
 

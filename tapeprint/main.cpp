@@ -22,11 +22,11 @@ namespace
 
 QtMessageHandler nextMessageHandler = nullptr;
 
-/// The toolkit remarks on sessions without a runtime folder, such as those of cron or ssh, at every start. Standard
-/// error is for what a person can act on.
+/// The toolkit remarks at every start on sessions without a runtime folder, such as those of cron or ssh, and on one
+/// that cannot be written; nothing here needs it. Standard error is for what a person can act on.
 void passMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (!message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) {
+    if (!message.startsWith(QLatin1String("QStandardPaths: "))) {
         nextMessageHandler(type, context, message);
     }
 }

@@ -11,8 +11,8 @@ namespace
 
 using namespace tapeprint::job;
 
-struct ResponseDeleter {
-    void operator()(ipp_t *response) const { ippDelete(response); }
+struct MessageDeleter {
+    void operator()(ipp_t *message) const { ippDelete(message); }
 };
 
 /// An answer to CUPS-Get-Printers, built as a server builds it.
@@ -50,7 +50,8 @@ public:
     PrinterList read() const { return printersIn(mResponse.get()); }
 
 private:
-    std::unique_ptr<ipp_t, ResponseDeleter> mResponse{ippNewResponse(ippNew())};
+    std::unique_ptr<ipp_t, MessageDeleter> mRequest{ippNew()};
+    std::unique_ptr<ipp_t, MessageDeleter> mResponse{ippNewResponse(mRequest.get())};
     bool mIsFirst = true;
 };
 

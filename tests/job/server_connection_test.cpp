@@ -96,6 +96,31 @@ TEST_F(ServerConnectionTest, SilentServer_GetsNoMoreThanTheTimeAllowed)
     EXPECT_LT(steady_clock::now() - start, milliseconds(3000));
 }
 
+TEST_F(ServerConnectionTest, ServerThatSaysAByteNowAndThen_IsLeftAfterAStopAndAfterTheTimeAllowed)
+{
+    MeddlingServer slow(socket, {}, [](const SeenRequest &) { return Meddling::OwnReply; });
+    slow.replyWith([](int) {
+        std::this_thread::sleep_for(milliseconds(50)); // never as long as libcups waits before it asks
+        return QByteArray("a");
+    });
+    const auto server = ServerConnection::open(&stop);
+    std::thread person([this] {
+        std::this_thread::sleep_for(milliseconds(300));
+        stop = true;
+    });
+    auto start = steady_clock::now();
+    EXPECT_FALSE(ask(*server));
+    EXPECT_LT(steady_clock::now() - start, milliseconds(2000));
+    EXPECT_TRUE(server->problem().isNull()); // the person knows
+    person.join();
+
+    server->allowOnly(milliseconds(1000));
+    EXPECT_TRUE(server->reconnect());
+    start = steady_clock::now();
+    EXPECT_FALSE(ask(*server));
+    EXPECT_LT(steady_clock::now() - start, milliseconds(3000));
+}
+
 TEST_F(ServerConnectionTest, NoServer_IsSaidAtOnce)
 {
     const auto start = steady_clock::now();

@@ -7,7 +7,9 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <memory>
+#include <utility>
 
 #include <poll.h>
 #include <sys/socket.h>
@@ -23,6 +25,8 @@ namespace
 constexpr int pollMs = 50;
 /// A request is cut short in the first bytes that come after so many: in the middle of a document.
 constexpr qsizetype cutAfter = 1024;
+/// Shorter than what a client takes for silence.
+constexpr std::chrono::milliseconds dripPause{50};
 
 sockaddr_un addressOf(const QString &path)
 {
@@ -220,7 +224,37 @@ private:
             const qsizetype goOn = bytes.startsWith("HTTP/1.1 100") ? bytes.indexOf("\r\n\r\n") + 4 : 0;
             return goOn > 0 && sendAll(mClient, bytes.left(goOn)) && goOn == bytes.size();
         }
+        if (mMeddling == Meddling::CutReply) {
+            const qsizetype left = mServer.mCutRepliesAfter - mReplied;
+            mReplied += bytes.size();
+            return sendAll(mClient, bytes.left(left)) && bytes.size() < left;
+        }
+        if (mMeddling == Meddling::DripReply) {
+            return !bytes.isEmpty() && drip(bytes);
+        }
         return !bytes.isEmpty() && sendAll(mClient, bytes);
+    }
+
+    bool drip(const QByteArray &bytes)
+    {
+        for (const char byte : bytes) {
+            if (mServer.mGone || !sendAll(mClient, QByteArray(1, byte))) {
+                return false;
+            }
+            std::this_thread::sleep_for(dripPause);
+        }
+        return true;
+    }
+
+    bool sendOwnReply()
+    {
+        for (int piece = 0; !mServer.mGone; ++piece) {
+            const QByteArray bytes = mServer.mReply(piece);
+            if (bytes.isEmpty() || !sendAll(mClient, bytes)) {
+                return bytes.isEmpty();
+            }
+        }
+        return false;
     }
 
     bool readRequests()
@@ -229,6 +263,7 @@ private:
             if (!mIsInRequest) {
                 mIsInRequest = true;
                 mPassed = 0;
+                mReplied = 0;
                 mMeddling = mServer.judge(mReader.seen());
             }
             if (isStalled()) {
@@ -261,7 +296,11 @@ private:
             return false;
         case Meddling::PassOn:
         case Meddling::LoseReply:
+        case Meddling::CutReply:
+        case Meddling::DripReply:
             return passOn(bytes);
+        case Meddling::OwnReply:
+            return !isOver || sendOwnReply();
         case Meddling::Deny:
             return !isOver || sendAll(mClient, "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"Test\"\r\n"
                                                "Content-Length: 0\r\n\r\n");
@@ -287,7 +326,8 @@ private:
     RequestReader mReader;
     bool mIsInRequest = false;
     Meddling mMeddling = Meddling::PassOn;
-    qsizetype mPassed = 0;
+    qsizetype mPassed = 0;  ///< bytes of the request
+    qsizetype mReplied = 0; ///< bytes of the answer
 };
 
 MeddlingServer::MeddlingServer(QString socket, QString behind, Rule rule)

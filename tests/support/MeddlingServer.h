@@ -24,6 +24,9 @@ enum class Meddling {
     LoseReply,  ///< the server behind does what it was asked for; the connection is cut before its answer is through
     HangUp,     ///< the connection is cut before the server behind hears of the request
     CutShort,   ///< the server behind gets the beginning of the request, and then both connections are cut
+    CutReply,   ///< the answer is cut after so many bytes as cutRepliesAfter() says
+    DripReply,  ///< the answer comes a byte at a time, with a pause after each
+    OwnReply,   ///< the answer is what replyWith() says; no server is needed behind
 };
 
 /// A request as it is seen when its operation is known.
@@ -44,6 +47,13 @@ public:
     MeddlingServer(const MeddlingServer &) = delete;
     MeddlingServer &operator=(const MeddlingServer &) = delete;
 
+    /// For Meddling::CutReply.
+    void cutRepliesAfter(qsizetype bytes) { mCutRepliesAfter = bytes; }
+    /// An answer in pieces: called with 0, 1 and so on until it answers nothing more. In threads of the server's own.
+    using Reply = std::function<QByteArray(int piece)>;
+    /// For Meddling::OwnReply. To be set before the first request.
+    void replyWith(Reply reply) { mReply = std::move(reply); }
+
     /// Cuts all connections and takes no more: nobody is there.
     void goAway();
     /// Is there again, on the same socket.
@@ -61,6 +71,8 @@ private:
     QString mSocket;
     QString mBehind;
     Rule mRule;
+    Reply mReply;
+    std::atomic<qsizetype> mCutRepliesAfter{0};
     int mListener = -1;
     std::atomic<bool> mGone{false};
     std::thread mAcceptor;

@@ -15,6 +15,7 @@ int main(int argc, char **argv)
     // What a window remembers for the person who runs the tests is neither read nor changed by them.
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+    qputenv("XDG_STATE_HOME", settings.path().toLocal8Bit());
     ::testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -5,8 +5,11 @@
 #include "tests/system/SystemTest.h"
 
 #include <QElapsedTimer>
+#include <QProcess>
+#include <QThread>
 
 #include <atomic>
+#include <csignal>
 
 #include <cups/cups.h>
 
@@ -123,6 +126,48 @@ TEST_F(BrokenOff, SecondDocumentCutShortAndServerGone_TheFirstIsNeverPrintedAndT
     ASSERT_EQ(cups.jobs().size(), 1U);
     EXPECT_EQ(cups.jobs()[0].state, IPP_JSTATE_HELD);
     EXPECT_TRUE(cups.filterCalls(1).empty());
+}
+
+TEST_F(BrokenOff, ProgramKilledAtAnyStep_PrintsNothingByHalvesAndTheNextJobWell)
+{
+    std::atomic<int> step{0};
+    std::atomic<pid_t> program{0};
+    const auto server = serverThat([&](const SeenRequest &request) {
+        if (request.operation != step) {
+            return Meddling::PassOn;
+        }
+        step = -1;
+        kill(program, SIGKILL);
+        // Of a document the server has the beginning then.
+        return request.operation == IPP_OP_SEND_DOCUMENT ? Meddling::CutShort : Meddling::PassOn;
+    });
+    const QStringList onTape{u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document};
+    const QStringList onPaper{u"-d"_qs, u"paper"_qs, u"--no-dialog"_qs, document, documentOf(2)};
+    for (const QStringList &job : {onTape, onPaper}) {
+        for (const ipp_op_t killing :
+             {IPP_OP_GET_PRINTER_ATTRIBUTES, IPP_OP_CREATE_JOB, IPP_OP_SEND_DOCUMENT, IPP_OP_GET_JOB_ATTRIBUTES}) {
+            QProcess process;
+            process.setProcessEnvironment(systemtest::clientEnvironment(variables()));
+            process.setWorkingDirectory(workFolder);
+            step = -1;
+            process.start(QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), job);
+            ASSERT_TRUE(process.waitForStarted());
+            program = static_cast<pid_t>(process.processId());
+            step = killing;
+            ASSERT_TRUE(process.waitForFinished(systemtest::patienceMs));
+            EXPECT_EQ(process.exitStatus(), QProcess::CrashExit) << killing;
+        }
+    }
+    QThread::sleep(4); // the server's time for a job's next document is over then
+    const std::vector<ServerJob> left = cups.jobs();
+    EXPECT_GE(left.size(), 5U);
+    for (const ServerJob &job : left) {
+        const std::size_t documents = job.queue == u"paper" ? 2 : 1;
+        const std::size_t printed = cups.filterCalls(job.id).size();
+        EXPECT_TRUE(printed == 0 || printed == documents) << job.id << " printed " << printed << " of " << documents;
+        EXPECT_NE(job.state, IPP_JSTATE_PROCESSING) << job.id;
+    }
+    EXPECT_EQ(filterCallsOf(printLabel()).size(), 1U);
 }
 
 TEST_F(BrokenOff, SeveralDocuments_ArePrintedWhenTheLastIsIn)

@@ -149,6 +149,14 @@ TEST_F(QueueJob, CompletionOfQueues_NamesThem)
                     .output.contains("KsTapeColorYellow\t"));
 }
 
+TEST_F(QueueJob, Class_HasTheDescriptionOfItsFirstQueue)
+{
+    ASSERT_TRUE(cups.run(u"lpadmin"_qs, {u"-p"_qs, u"tape"_qs, u"-c"_qs, u"all"_qs}).isNull());
+    const Outcome outcome = tapeprint({u"-d"_qs, u"all"_qs, u"--show-options"_qs});
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    EXPECT_TRUE(outcome.output.contains("KsTapeLength=100.0")) << outcome.output.toStdString();
+}
+
 TEST_F(QueueJob, PpdOfTheQueue_LeavesNoTemporaryFile)
 {
     const QString temporary = folder.makeFolder(u"temporary"_qs, 0700);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Reading claims from metadata and names from a PPD. Both are strangers' texts: nothing here opens a file.
-#include "dialog/PluginClaims.h"
+#include "pdekit/BundleLoading.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <climits>
 
-namespace tapeprint::dialog
+namespace pdekit
 {
 
 namespace
@@ -25,7 +25,7 @@ bool hasKeyword(ppd_file_t *ppd, const QByteArray &keyword)
 /// Whether a text can be the name of a bundle's folder.
 bool isBundleName(const QString &name)
 {
-    return name.size() > bundleEnding.size() && name.endsWith(bundleEnding) && name.toUtf8().size() <= NAME_MAX;
+    return name.size() > kBundleEnding.size() && name.endsWith(kBundleEnding) && name.toUtf8().size() <= NAME_MAX;
 }
 
 } // namespace
@@ -55,4 +55,4 @@ std::vector<NamedBundle> namedBundles(ppd_file_t *ppd)
     return bundles;
 }
 
-} // namespace tapeprint::dialog
+} // namespace pdekit

@@ -2,20 +2,23 @@
 // Finding and loading bundles, good ones and deliberately broken ones.
 #include "TestPrinter.h"
 
-#include "dialog/PluginLoader.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QDir>
 #include <QFile>
 
+#include <pdekit/BundleLoading.h>
+
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
 
 using namespace tapeprint;
 using namespace tapeprint::job;
-using namespace tapeprint::dialog;
+using namespace pdekit;
 
 QString testFolder(const char *name)
 {
@@ -61,6 +64,39 @@ bool isMapped(const char *module)
     return maps.readAll().contains(module);
 }
 
+/// The plug-in of the tests in a folder of one's own.
+struct OwnCopy {
+    explicit OwnCopy(const QTemporaryDir &folder)
+        : bundle(folder.filePath(u"HostTest.bundle"_qs)), module(bundle + u"/HostTest.so"_qs)
+    {
+        EXPECT_TRUE(QDir().mkpath(bundle));
+        EXPECT_TRUE(QFile::copy(testFolder("good") + u"/HostTest.bundle/HostTest.so"_qs, module));
+    }
+    QString bundle;
+    QString module;
+};
+
+/// While it lives, a file or folder has other rights.
+class OpenToAll
+{
+public:
+    OpenToAll(const QString &path, mode_t mode) : mPath(path.toUtf8())
+    {
+        struct stat status {
+        };
+        EXPECT_EQ(stat(mPath.constData(), &status), 0);
+        mBefore = status.st_mode & 07777U;
+        EXPECT_EQ(chmod(mPath.constData(), mode), 0);
+    }
+    ~OpenToAll() { chmod(mPath.constData(), mBefore); }
+    OpenToAll(const OpenToAll &) = delete;
+    OpenToAll &operator=(const OpenToAll &) = delete;
+
+private:
+    QByteArray mPath;
+    mode_t mBefore = 0;
+};
+
 /// A folder that is skipped: what its message says.
 struct SkippedCase {
     const char *folder;
@@ -91,6 +127,9 @@ TEST_P(SkippedBundle, OfAnotherPrinter_IsNoConcern)
 INSTANTIATE_TEST_SUITE_P(
     Table, SkippedBundle,
     testing::Values(SkippedCase{"interface", u"HostTestOtherInterface.bundle"_qs, u"PlugInEntry/99.0"_qs},
+                    SkippedCase{"later", u"HostTestLaterInterface.bundle"_qs,
+                                u"later version of the panel interface"_qs},
+                    SkippedCase{"lying", u"HostTestLying.bundle"_qs, u"not what its metadata says"_qs},
                     SkippedCase{"type", u"HostTestOtherType.bundle"_qs, u"does not serve printer panels"_qs},
                     SkippedCase{"class", u"HostTestNoClass.bundle"_qs, u"no principal class NobodyKnowsMe"_qs}));
 
@@ -229,7 +268,90 @@ TEST(Bundles, BrokenOnes_DoNotHideAGoodOneOfTheSameName)
     EXPECT_TRUE(loaded.bundles.front().path.startsWith(testFolder("good")));
 }
 
-TEST(BundleSearchPath, BeginsWithTheVariablesFoldersAndEndsBesideTheProgram)
+TEST(Bundles, OfANameThatIsInUse_AreSaidToBeReplaced)
+{
+    const QTemporaryDir folder;
+    const OwnCopy own(folder);
+    const LoadedBundles loaded = loadedFor({folder.path(), testFolder("good")});
+    ASSERT_EQ(loaded.bundles.size(), 1U);
+    EXPECT_EQ(loaded.bundles.front().path, QFileInfo(own.bundle).canonicalFilePath());
+    EXPECT_EQ(loaded.problems, QStringList{u"The plug-in "_qs + own.bundle + u" is used in place of "_qs +
+                                           testFolder("good") + u"/HostTest.bundle."_qs});
+    // Of another printer neither is used.
+    EXPECT_TRUE(loadedForAnother({folder.path(), testFolder("good")}).problems.isEmpty());
+}
+
+TEST(Bundles, ThatEverybodyMayChange_AreNotUsed)
+{
+    const QTemporaryDir folder;
+    const OwnCopy own(folder);
+    ASSERT_EQ(loadedFor({folder.path()}).bundles.size(), 1U);
+    for (const QString &path : {own.module, own.bundle, folder.path()}) {
+        const OpenToAll open(path, 0777);
+        const LoadedBundles loaded = loadedFor({folder.path()});
+        EXPECT_TRUE(loaded.bundles.empty()) << path.toStdString();
+        ASSERT_EQ(loaded.problems.size(), 1);
+        EXPECT_TRUE(loaded.problems.first().contains(u"everybody may write to "_qs + path + u"."_qs))
+            << loaded.problems.first().toStdString();
+    }
+    // Where each may change their own alone, as in /tmp.
+    const OpenToAll shared(folder.path(), 01777);
+    EXPECT_EQ(loadedFor({folder.path()}).bundles.size(), 1U);
+}
+
+TEST(Bundles, WhoseModuleIsALinkToWhereEverybodyMayWrite_AreNotUsed)
+{
+    const QTemporaryDir folder;
+    const QTemporaryDir elsewhere;
+    const OwnCopy own(folder);
+    ASSERT_TRUE(QFile::rename(own.module, elsewhere.filePath(u"code.so"_qs)));
+    ASSERT_TRUE(QFile::link(elsewhere.filePath(u"code.so"_qs), own.module));
+    ASSERT_EQ(loadedFor({folder.path()}).bundles.size(), 1U);
+    const OpenToAll open(elsewhere.path(), 0777);
+    EXPECT_TRUE(loadedFor({folder.path()}).bundles.empty());
+}
+
+TEST(Bundles, OfSomebodyElse_AreNotUsed)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "Only root can give a file to somebody else";
+    }
+    constexpr uid_t somebody = 12345;
+    const QTemporaryDir folder;
+    const OwnCopy own(folder);
+    for (const QString &path : {own.module, own.bundle, folder.path()}) {
+        ASSERT_EQ(chown(path.toUtf8().constData(), somebody, 0), 0);
+        const LoadedBundles loaded = loadedFor({folder.path()});
+        ASSERT_EQ(chown(path.toUtf8().constData(), 0, 0), 0);
+        EXPECT_TRUE(loaded.bundles.empty()) << path.toStdString();
+        ASSERT_EQ(loaded.problems.size(), 1);
+        EXPECT_TRUE(loaded.problems.first().contains(path + u" belongs to somebody else"_qs))
+            << loaded.problems.first().toStdString();
+    }
+}
+
+TEST(Bundles, ThatThrowWhileTheyStart_AreNamedWithTheirReason)
+{
+    for (const char *place : {"in its entry", "in its constructor", "in its initialisation"}) {
+        qputenv("HOST_TEST_MISBEHAVES", QByteArray("throws ") + place);
+        const LoadedBundles loaded = loadedFor({testFolder("misbehaving")});
+        EXPECT_TRUE(loaded.bundles.empty()) << place;
+        ASSERT_EQ(loaded.problems.size(), 1) << place;
+        EXPECT_TRUE(loaded.problems.first().contains(u"HostTestMisbehaving.bundle is not used: it failed while it was "
+                                                     "starting: no ink, today. Printing"_qs))
+            << loaded.problems.first().toStdString();
+    }
+    qputenv("HOST_TEST_MISBEHAVES", "throws a number in its constructor");
+    const LoadedBundles loaded = loadedFor({testFolder("misbehaving")});
+    qunsetenv("HOST_TEST_MISBEHAVES");
+    ASSERT_EQ(loaded.problems.size(), 1);
+    EXPECT_TRUE(loaded.problems.first().contains(u"it failed while it was starting. Printing"_qs))
+        << loaded.problems.first().toStdString();
+    // It came back: that is no reason to leave it out the next time.
+    EXPECT_EQ(loadedFor({testFolder("misbehaving")}).bundles.size(), 1U);
+}
+
+TEST(BundleSearchPath, BeginsWithTheVariablesFoldersAndEndsBesideTheLibrary)
 {
     const QTemporaryDir data;
     QDir(data.path()).mkpath(u"tapeprint/bundles"_qs);
@@ -238,12 +360,14 @@ TEST(BundleSearchPath, BeginsWithTheVariablesFoldersAndEndsBesideTheProgram)
     const QStringList folders = bundleSearchPath();
     qunsetenv("TAPEPRINT_PLUGIN_PATH");
     qunsetenv("XDG_DATA_HOME");
-    ASSERT_GE(folders.size(), 5);
+    ASSERT_GE(folders.size(), 6);
     EXPECT_EQ(folders.at(0), u"/one"_qs);
     EXPECT_EQ(folders.at(1), u"/two"_qs);
     EXPECT_EQ(folders.at(2), data.filePath(u"tapeprint/bundles"_qs));
-    EXPECT_TRUE(folders.at(folders.size() - 2).endsWith(u"/../bundles"_qs));
-    EXPECT_TRUE(folders.last().endsWith(u"/../lib/tapeprint/bundles"_qs));
+    EXPECT_EQ(folders.at(folders.size() - 3), QStringLiteral(TAPEPRINT_BIN_DIR "/../bundles"));
+    EXPECT_EQ(folders.at(folders.size() - 2), QStringLiteral(TAPEPRINT_BIN_DIR "/../lib/tapeprint/bundles"));
+    // The library of the build stands in lib/ of the build.
+    EXPECT_TRUE(QDir::cleanPath(folders.last()).endsWith(u"/lib/tapeprint/bundles"_qs)) << folders.last().toStdString();
 }
 
 } // namespace

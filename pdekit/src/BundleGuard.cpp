@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: Apache-2.0
+// The marks of code that runs. A mark that nobody holds locked is one whose program ended within that code.
+#include "pdekit/BundleLoading.h"
+
+#include "BundleModule.h"
+#include "LoadingTexts.h"
+
+#include <QByteArrayList>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <array>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace pdekit
+{
+
+namespace
+{
+
+/// After so many ends in a row a bundle is left alone until it changes.
+constexpr int mostEnds = 2;
+
+/// What a mark says: how often in a row a program ended in that code, and whether it was begun since.
+struct Mark {
+    int ends = 0;
+    bool isRunning = false;
+    QByteArray module; ///< which state of the module this tells of
+
+    /// A file that is none of ours, or that tells of another state of the module, says nothing.
+    static Mark read(int file, const QByteArray &module)
+    {
+        std::array<char, 256> bytes{};
+        const ssize_t size = pread(file, bytes.data(), bytes.size(), 0);
+        const QByteArrayList lines = QByteArray(bytes.data(), size > 0 ? static_cast<int>(size) : 0).split('\n');
+        if (lines.size() < 3 || lines[2] != module) {
+            return {0, false, module};
+        }
+        return {lines[0].toInt(), lines[1] == running, module};
+    }
+
+    bool write(int file) const
+    {
+        const QByteArray bytes =
+            QByteArray::number(ends) + '\n' + (isRunning ? running : "left out") + '\n' + module + '\n';
+        return ftruncate(file, 0) == 0 && pwrite(file, bytes.constData(), static_cast<size_t>(bytes.size()), 0) ==
+                                              static_cast<ssize_t>(bytes.size());
+    }
+
+private:
+    static constexpr const char *running = "running";
+};
+
+/// Tells one state of a module from every other.
+QByteArray stampOf(const QString &module)
+{
+    struct stat status {
+    };
+    if (stat(QFile::encodeName(module).constData(), &status) != 0) {
+        return {};
+    }
+    return QByteArray::number(static_cast<qulonglong>(status.st_ino)) + ' ' +
+           QByteArray::number(static_cast<qlonglong>(status.st_size)) + ' ' +
+           QByteArray::number(static_cast<qlonglong>(status.st_mtim.tv_sec)) + '.' +
+           QByteArray::number(static_cast<qlonglong>(status.st_mtim.tv_nsec));
+}
+
+/// The folder of the marks; empty when the person has none.
+QString folderOfMarks()
+{
+    QString state = qEnvironmentVariable("XDG_STATE_HOME");
+    if (!QDir::isAbsolutePath(state)) {
+        const QString home = qEnvironmentVariable("HOME");
+        if (!QDir::isAbsolutePath(home)) {
+            return {};
+        }
+        state = home + QLatin1String("/.local/state");
+    }
+    return state + QLatin1String("/tapeprint/plug-ins");
+}
+
+/// The file of a bundle's mark. Bundles of one name stand in several folders.
+QString markOf(const QString &bundlePath, BundleGuard::Step step)
+{
+    const QByteArray place = QCryptographicHash::hash(bundlePath.toUtf8(), QCryptographicHash::Sha1).toHex().left(16);
+    return u'/' + QFileInfo(bundlePath).fileName() + u'-' + QString::fromLatin1(place) +
+           (step == BundleGuard::Step::Loading ? QLatin1String("-loading") : QLatin1String("-panels"));
+}
+
+} // namespace
+
+BundleGuard::BundleGuard(const QString &bundlePath, Step step)
+{
+    const QString folder = folderOfMarks();
+    if (folder.isEmpty() || !QDir().mkpath(folder)) {
+        return;
+    }
+    mPath = folder + markOf(bundlePath, step);
+    mFile = open(QFile::encodeName(mPath).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    if (mFile < 0) {
+        return;
+    }
+    if (flock(mFile, LOCK_EX | LOCK_NB) == 0) {
+        const Mark before = Mark::read(mFile, stampOf(modulePath(bundlePath)));
+        Mark now = before;
+        if (before.isRunning) { // and yet nobody holds it
+            ++now.ends;
+        }
+        const bool isSkipped = before.isRunning || before.ends >= mostEnds;
+        now.isRunning = !isSkipped;
+        if (now.write(mFile) && !isSkipped) {
+            return;
+        }
+        if (isSkipped) {
+            mReason = now.ends < mostEnds
+                          ? LoadingTexts::tr("the program ended while this plug-in was starting; it is tried again the "
+                                             "next time")
+                          : LoadingTexts::tr("the program ended while this plug-in was starting, and again the next "
+                                             "time; it is tried again when the bundle has changed");
+        }
+    }
+    close(mFile); // another process is just loading it, or the mark tells what it told
+    mFile = -1;
+}
+
+BundleGuard::~BundleGuard()
+{
+    if (mFile >= 0) {
+        QFile::remove(mPath);
+        close(mFile);
+    }
+}
+
+} // namespace pdekit
