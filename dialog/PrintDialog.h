@@ -71,7 +71,7 @@ public:
         /// Where another program prints, and its pages come later: what is done in place of printing when the settings
         /// are final. \param keep keeps them for the next time; called away from the window's thread when the job has
         /// been printed. Null: the window prints.
-        std::function<void(const job::SettledJob &job, const std::function<void()> &keep)> takeSettings = nullptr;
+        std::function<void(const job::SettledJob &job, const std::function<bool()> &keep)> takeSettings = nullptr;
         QString acceptLabel = {}; ///< of the button that does so; empty: Print
         QString aboutPages = {};  ///< a sentence about the pages that come later; null when there is none
     };
@@ -167,7 +167,7 @@ private:
     void pickPreset(const PresetRow::Settings &settings);
     void followInThePresets();
     std::optional<job::JobOptions> optionsToSave();
-    std::function<void()> keepingForNextTime() const;
+    std::function<bool()> keepingForNextTime() const;
     void connectPrinting();
     void print();
     void cancel();

@@ -79,17 +79,17 @@ std::optional<job::JobOptions> PrintDialog::optionsToSave()
     return job::withoutGone(job::optionsForPreset(mJob.options(), mJob.ppd()), mJob.ppd());
 }
 
-/// Done away from the window's thread, when the job was printed.
-std::function<void()> PrintDialog::keepingForNextTime() const
+/// Done away from the window's thread, when the job was printed. \return by the function: whether they are kept.
+std::function<bool()> PrintDialog::keepingForNextTime() const
 {
     if (!mJob.destination().queue) {
-        return [] {};
+        return [] { return true; };
     }
     return [queue = mJob.destination().queue->name, tape = mJob.options().value(job::OptionName::pageSize),
             options = job::optionsForNextTime(mJob.options(), mJob.ppd())] {
-        // The label is printed; that the next time begins elsewhere is no problem to put before the person.
+        // The label is printed; that the next time begins elsewhere does not keep the window open. The program says so.
         job::Problem ignored;
-        job::keepLastSettings(queue, tape, options, &ignored);
+        return job::keepLastSettings(queue, tape, options, &ignored);
     };
 }
 

@@ -53,7 +53,7 @@ void PrintDialog::print()
                                                                       job::Problem *problem) {
             std::optional<job::PrintedJob> printed = action(settled, watch, problem);
             if (printed) {
-                keep();
+                printed->isKept = keep();
             }
             return printed;
         },

@@ -54,10 +54,14 @@ bool keepLastSettings(const QString &queue, const QString &tape, const JobOption
     if (settings.status() == QSettings::NoError) {
         return true;
     }
-    *error = {Problem::UnwritableOutput,
-              Texts::tr("The settings cannot be kept for the next time: %1 cannot be written.")
-                  .arg(harmless(settings.fileName()))};
+    *error = {Problem::UnwritableOutput, lastSettingsNotKept()};
     return false;
+}
+
+QString lastSettingsNotKept()
+{
+    return Texts::tr("The settings cannot be kept for the next time: %1 cannot be written.")
+        .arg(harmless(settingsPath()));
 }
 
 std::optional<JobOptions> lastSettings(const QString &queue, const QString &tape)

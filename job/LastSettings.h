@@ -16,6 +16,9 @@ namespace tapeprint::job
 /// options as optionsForNextTime() leaves them. \return false, with a sentence, when they cannot be kept.
 bool keepLastSettings(const QString &queue, const QString &tape, const JobOptions &options, Problem *error);
 
+/// That they could not be kept, in the language of the moment.
+QString lastSettingsNotKept();
+
 /// What was last printed with on a tape of the queue, or on whichever tape was last when that one never was. Nothing
 /// for a queue that was never printed on.
 std::optional<JobOptions> lastSettings(const QString &queue, const QString &tape);

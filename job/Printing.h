@@ -22,6 +22,7 @@ struct PrintedJob {
     SubmittedJob job;
     FilterOutput output;
     bool isPdf = false; ///< the file is the job as a PDF, not the printer's bytes
+    bool isKept = true; ///< a window's settings are there the next time; without a window nothing is kept
 
     /// A sentence about it, in the language of the moment.
     QString sentence() const;

@@ -53,7 +53,7 @@ AskConversation::AskConversation(Caller caller, AskedSettings asked, const QStri
     setup.title = mCaller.title;
     setup.printers = printersFor(mAsked);
     setup.heading = headingFor(mCaller);
-    setup.takeSettings = [this](const job::SettledJob &job, const std::function<void()> &keep) { take(job, keep); };
+    setup.takeSettings = [this](const job::SettledJob &job, const std::function<bool()> &keep) { take(job, keep); };
     setup.acceptLabel = acceptLabel;
     if (mAsked.printsPart) {
         setup.aboutPages = PortalTexts::tr("The program prints a part: its current page, or what is selected.");
@@ -80,7 +80,7 @@ void AskConversation::close()
     mWindow->dismiss();
 }
 
-void AskConversation::take(const job::SettledJob &job, const std::function<void()> &keep)
+void AskConversation::take(const job::SettledJob &job, const std::function<bool()> &keep)
 {
     mResults = {{QStringLiteral("settings"), answeredSettings(mAsked, job, mWindow->job().ppd())},
                 {QStringLiteral("page-setup"), answeredPageSetup(job)},

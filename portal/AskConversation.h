@@ -24,7 +24,7 @@ public:
     void close() override;
 
 private:
-    void take(const job::SettledJob &job, const std::function<void()> &keep);
+    void take(const job::SettledJob &job, const std::function<bool()> &keep);
 
     Caller mCaller;
     AskedSettings mAsked;

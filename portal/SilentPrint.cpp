@@ -91,7 +91,7 @@ void SilentPrint::start()
                                                                      job::Problem *problem) {
             std::optional<job::PrintedJob> printed = printChosen(settings.job, title, document, watch, problem);
             if (printed && settings.keep) {
-                settings.keep();
+                printed->isKept = settings.keep();
             }
             return printed;
         },

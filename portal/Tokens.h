@@ -20,7 +20,7 @@ namespace tapeprint::portal
 /// What a person chose, and waits for the program's pages.
 struct ChosenSettings {
     job::SettledJob job;
-    std::function<void()> keep; ///< keeps them for the next time, when the job has been printed; may be null
+    std::function<bool()> keep; ///< keeps them for the next time, when the job has been printed; may be null
 };
 
 class Tokens

@@ -7,6 +7,7 @@
 #include "dialog/Translations.h"
 #include "job/CustomValues.h"
 #include "job/DocumentSpool.h"
+#include "job/LastSettings.h"
 #include "tapeprint/JsonReport.h"
 #include "tapeprint/OutputPath.h"
 
@@ -14,7 +15,6 @@
 #include <QTimer>
 
 #include <atomic>
-
 
 namespace tapeprint
 {
@@ -84,6 +84,9 @@ RunReport runWindow(const CommandLine &line)
     report.data.insert(QStringLiteral("options"),
                        jsonOptions(job::withoutSecrets(jobWindow.job().ppd(), job::settle(jobWindow.job()).carried())));
     report.data.insert(QStringLiteral("job"), jsonJob(*window.printed()));
+    if (!window.printed()->isKept) {
+        report.messages.append(job::lastSettingsNotKept());
+    }
     if (!line.silent) {
         report.output.append(
             window.printed()->sentence()); // scripts read it: in English, now that the window is closed

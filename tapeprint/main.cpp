@@ -82,6 +82,7 @@ int main(int argc, char **argv)
     const QApplication application(toolkitArgc, argv);
     start.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
+    QApplication::setDesktopFileName(QStringLiteral("org.tapeprint.TapePrint")); // whose icon a Wayland desktop shows
 
     if (!wantsWindow) {
         tapeprint::job::setPasswordAsker(tapeprint::askOnTerminal); // the window has its own

@@ -93,6 +93,19 @@ TEST_F(WindowJob, UntouchedWindow_SendsWhatAJobWithoutAWindowSends)
     EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsInkColor=KsInkColorGold"}));
 }
 
+TEST_F(WindowJob, HomeThatCannotBeWritten_PrintsAndSaysThatNothingIsKept)
+{
+    // A file stands where the folder of settings would be: no rights help, not even root's.
+    moreVariables = {{u"XDG_CONFIG_HOME"_qs, u"/dev/null"_qs}};
+    ASSERT_NO_FATAL_FAILURE(open());
+    dialog.clickPrint();
+    const Outcome outcome = dialog.waitForEnd();
+    EXPECT_EQ(filterCallsOf(outcome).size(), 1U);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.messages, "tapeprint: The settings cannot be kept for the next time: "
+                                "/dev/null/tapeprint/last-settings.ini cannot be written.\n");
+}
+
 TEST_F(WindowJob, ChangeOfTape_ChangesWhatIsSent)
 {
     ASSERT_NO_FATAL_FAILURE(open());
