@@ -20,12 +20,9 @@ void PrintDialog::askForSettings()
     if (!mSetup.acceptLabel.isEmpty()) {
         mPrintButton->setText(mSetup.acceptLabel);
     }
-    // Without a document there is nothing to save, to count or to name in a command.
+    // Without a document there is nothing to save or to count.
     mSaveButton->hide();
     mAmount->hide();
-    if (auto *command = findChild<QPushButton *>(QStringLiteral("showCommand"))) {
-        command->hide();
-    }
     mPreview->awaitProgram(mSetup.aboutPages);
 }
 

@@ -46,6 +46,15 @@ QString headingFor(const Caller &caller)
     return program.isEmpty() ? shown : PortalTexts::tr("%1 – %2", "title and program").arg(shown, program);
 }
 
+QString buttonText(const QString &label)
+{
+    constexpr qsizetype most = 40;                                // it stands in a row of others
+    const QString mark(QChar(QChar::ObjectReplacementCharacter)); // for what is no key: none of it is in the label then
+    QString text = job::harmless(label.left(most)).remove(mark);
+    text.replace(u'&', QLatin1String("&&")).replace(QLatin1String("__"), mark);
+    return text.replace(u'_', u'&').replace(mark, QLatin1String("_"));
+}
+
 bool truthIn(const QVariantMap &options, const QString &key, bool otherwise)
 {
     const QVariant value = valueIn(options, key, QMetaType::Bool);

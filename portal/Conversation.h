@@ -46,6 +46,10 @@ private:
 /// The window's title for a program's dialog.
 QString headingFor(const Caller &caller);
 
+/// The text of our button, of one that a program wishes for: there "_" goes before the letter that is its key, here
+/// "&". Empty for none.
+QString buttonText(const QString &label);
+
 /// A setting among the options of a call; its own default when it is missing or of another type, which is logged.
 bool truthIn(const QVariantMap &options, const QString &key, bool otherwise);
 uint numberIn(const QVariantMap &options, const QString &key);

@@ -6,8 +6,9 @@
 
 #include <QApplication>
 #include <QDBusConnection>
-#include <QMessageBox>
+#include <QWidget>
 
+#include <algorithm>
 #include <csignal>
 
 #include <sys/signalfd.h>
@@ -69,8 +70,10 @@ void Lifetime::rest()
 void Lifetime::leaveIfIdle()
 {
     // A sentence that nobody has read yet keeps it, too.
-    if (mPortal.isBusy() || QApplication::activeModalWidget() != nullptr ||
-        !QApplication::topLevelWidgets().isEmpty()) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const bool isSeen =
+        std::any_of(windows.begin(), windows.end(), [](const QWidget *window) { return window->isVisible(); });
+    if (mPortal.isBusy() || isSeen) {
         rest();
         return;
     }

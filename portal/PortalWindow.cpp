@@ -3,6 +3,7 @@
 // returned.
 #include "portal/PortalWindow.h"
 
+#include <QPushButton>
 #include <QThread>
 
 #include <utility>
@@ -29,6 +30,10 @@ PortalWindow::PortalWindow(dialog::PrintDialog::Setup setup, dialog::PrintDialog
         mDismissTimer.stop();
         Q_EMIT closed(result == QDialog::Accepted);
     });
+    // The document has no name by which a command could find it.
+    if (auto *command = dialog().findChild<QPushButton *>(QStringLiteral("showCommand"))) {
+        command->hide();
+    }
     mParent.adopt(dialog(), isModal);
     dialog().show();
     dialog().raise();

@@ -52,7 +52,7 @@ uint PrintPortal::converse(const QDBusObjectPath &handle, const Make &make)
 {
     setDelayedReply(true);
     const QDBusMessage call = message();
-    if (mConversations >= mostConversations) {
+    if (mCalls >= mostCalls) {
         qCWarning(portalLog) << "too many requests at once: one is refused";
         mBus.send(call.createReply(wordsOf(Response::Ended, {})));
         return 0;
@@ -66,9 +66,11 @@ uint PrintPortal::converse(const QDBusObjectPath &handle, const Make &make)
     Conversation *conversation = make();
     request->setParent(conversation);
     PortalRequest *const standing = request.release();
+    ++mCalls;
     ++mConversations;
     connect(conversation, &Conversation::answered, this,
-            [bus = mBus, call, standing](Response response, const QVariantMap &results) {
+            [this, bus = mBus, call, standing](Response response, const QVariantMap &results) {
+                --mCalls;
                 standing->deleteLater();
                 bus.send(call.createReply(wordsOf(response, results)));
             });
@@ -88,7 +90,7 @@ uint PrintPortal::PreparePrint(const QDBusObjectPath &handle, const QString &app
 {
     return converse(handle, [&] {
         return new AskConversation(callerOf(app_id, parent_window, title, options), askedSettings(settings, page_setup),
-                                   textIn(options, QStringLiteral("accept_label")), mTokens, this);
+                                   buttonText(textIn(options, QStringLiteral("accept_label"))), mTokens, this);
     });
 }
 

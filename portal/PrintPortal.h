@@ -22,8 +22,8 @@ class PrintPortal : public QObject, protected QDBusContext
     Q_PROPERTY(uint version READ version CONSTANT SCRIPTABLE true)
 
 public:
-    /// More calls than these at once are answered as ended.
-    static constexpr int mostConversations = 16;
+    /// More calls than these that wait for an answer at once are answered as ended.
+    static constexpr int mostCalls = 16;
 
     explicit PrintPortal(const QDBusConnection &bus, QObject *parent = nullptr);
 
@@ -52,7 +52,8 @@ private:
 
     QDBusConnection mBus;
     Tokens mTokens;
-    int mConversations = 0;
+    int mCalls = 0;         ///< that wait for an answer
+    int mConversations = 0; ///< that are not at their end, answered or not
 };
 
 } // namespace tapeprint::portal

@@ -76,6 +76,16 @@ TEST_F(CallingProgram, TitleAndNameOfAnyLength_MakeAWindowsTitle)
     EXPECT_FALSE(headingFor({{}, {}, u"a\u202Eb"_qs, true}).contains(QChar(0x202E)));
 }
 
+TEST(ProgramsButton, HasItsLetterAndNoMarksOfOurOwn)
+{
+    using tapeprint::portal::buttonText;
+    EXPECT_EQ(buttonText(u"_Go & print"_qs), u"&Go && print"_qs);
+    EXPECT_EQ(buttonText(u"a__b"_qs), u"a_b"_qs);
+    EXPECT_EQ(buttonText(QString()), QString());
+    EXPECT_EQ(buttonText(QString(1000, u'x')).size(), 40);
+    EXPECT_FALSE(buttonText(u"\u202Eog"_qs).contains(QChar(0x202E)));
+}
+
 TEST(CallingWindow, OnlyAnX11NumberIsOne)
 {
     EXPECT_EQ(x11WindowIn(u"x11:200003"_qs), std::optional<WId>(0x200003));

@@ -183,6 +183,12 @@ TEST_F(Backend, ManyRequests_AreAnsweredAndNotAllShown)
     }
     EXPECT_TRUE(waitUntil([this] { return dialog.windows().isEmpty(); }));
     EXPECT_TRUE(isAlive());
+    // There is room for others again.
+    Reply another = prepare(u"another"_qs);
+    WindowUnderTest last(display);
+    ASSERT_NO_FATAL_FAILURE(open(last));
+    last.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(another), cancelled);
 }
 
 TEST_F(Backend, CallerThatDies_TakesItsWindowAlong)
@@ -273,6 +279,26 @@ TEST_F(Backend, PipeThatNeverEnds_IsEndedByClose)
     ::close(ends[0]);
     ::close(ends[1]);
     EXPECT_TRUE(waitUntil([this, &pipe] { return !holds(pipe); }));
+}
+
+TEST_F(Backend, WithoutAWritableHomeAndTemporaryFolder_ShowsTheDialogAndSaysWhyNothingIsPrinted)
+{
+    // The bus that is there was started with other variables.
+    QProcess program;
+    moreOfSession = {{u"HOME"_qs, u"/proc"_qs}, {u"TMPDIR"_qs, u"/proc"_qs}, {u"XDG_CONFIG_HOME"_qs, u"/proc"_qs}};
+    ASSERT_NO_FATAL_FAILURE(startProgram(program, QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint-portal"), {}));
+    ASSERT_TRUE(waitUntil([this] { return bus.processOf(backendName) != 0; }));
+    Reply asked = prepare(u"one"_qs);
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(asked), cancelled);
+    const int file = ::open(document.toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC);
+    EXPECT_EQ(responseOf(print(u"two"_qs, file)), ended);
+    ::close(file);
+    WindowUnderTest sentence(display);
+    ASSERT_NO_FATAL_FAILURE(open(sentence, {dialog.window()}));
+    systemtest::endProcess(program);
+    EXPECT_TRUE(program.readAllStandardError().contains("is not printed"));
 }
 
 TEST_F(Backend, TokenThatIsNone_ShowsTheDialogWithTheDocument)

@@ -151,6 +151,26 @@ TEST_F(PortalCase, Close_TakesTheWindowAlongWithoutAnAnswer)
     EXPECT_FALSE(hasAnswer(u"close"_qs));
 }
 
+TEST_F(PortalCase, CloseWhileAPanelsAlertStands_TakesBothAlongAndTheNextCallIsServed)
+{
+    ASSERT_NO_FATAL_FAILURE(open(true));
+    prepare(u"alert"_qs);
+    ASSERT_NO_FATAL_FAILURE(openDialog(dialog));
+    dialog.goTo(systemtest::PanelControl::tapeLength);
+    dialog.type(u"3"_qs); // below the shortest tape
+    dialog.press({u"Return"_qs});
+    ASSERT_FALSE(dialog.waitForFurtherWindow().isNull()) << "no alert";
+    session->call(QDBusMessage::createMethodCall(portalName, pathOf(u"alert"_qs), u"org.freedesktop.portal.Request"_qs,
+                                                 u"Close"_qs));
+    EXPECT_TRUE(waitUntil([this] { return dialog.windows().isEmpty(); }));
+    prepare(u"next"_qs);
+    WindowUnderTest next(display);
+    ASSERT_NO_FATAL_FAILURE(openDialog(next));
+    EXPECT_EQ(next.title(), "next");
+    next.press({u"Escape"_qs});
+    EXPECT_EQ(answer(u"next"_qs).response, 1U);
+}
+
 TEST_F(PortalCase, Parallel_EachCallHasItsOwnAnswer)
 {
     ASSERT_NO_FATAL_FAILURE(open(false));

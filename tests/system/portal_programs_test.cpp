@@ -141,6 +141,51 @@ TEST_F(PrintingProgram, Libportal_IsToldTheTapesSizeAndItsSettingsAreAppliedOnce
     EXPECT_EQ(labels[0].rows, 709); // 60 mm
 }
 
+/// What joins a document with the sources that it was made from: here the document is its own source.
+QByteArray sourcesOf(const QString &document)
+{
+    return "SyncTeX Version:1\nInput:1:" + document.toUtf8() +
+           "\nOutput:pdf\nMagnification:1000\nUnit:1\nX Offset:0\nY Offset:0\nContent:\n!100\n{1\n"
+           "[1,1:0,40000000:40000000,40000000,0\n(1,1:0,20000000:40000000,20000000,0\nx1,1:10000000,10000000\n)\n]\n"
+           "}1\nPostamble:\nCount:4\n";
+}
+
+TEST_F(PrintingProgram, Qpdfview_OpensTheDialogByTheOneCommandThatItCanBeGiven)
+{
+    // It prints by CUPS alone; the program that it hands documents to is its editor of sources.
+    document = systemtest::writeFile(workFolder + u"/label.pdf"_qs, systemtest::contentsOf(document));
+    systemtest::writeFile(workFolder + u"/label.synctex"_qs, sourcesOf(document));
+    const QString settings = folder.makeFolder(u"settings/qpdfview"_qs);
+    systemtest::writeFile(settings + u"/qpdfview.conf"_qs, "[documentView]\nsourceEditor=" TAPEPRINT_BIN_DIR
+                                                           "/tapeprint -d tape -o KsTapeLength=60 %1\n");
+    moreOfSession = {{u"XDG_CONFIG_HOME"_qs, folder.path(u"settings"_qs)}};
+    ASSERT_NO_FATAL_FAILURE(startViewer(u"qpdfview"_qs, u"qpdfview"_qs));
+    WindowUnderTest viewer(display);
+    ASSERT_TRUE(viewer.adopt(program.processId()).isNull());
+    const QSize size = viewer.geometry(viewer.window()).size();
+    // The first entry of the page's menu. The page may not be drawn yet when the window comes up.
+    QString window;
+    ASSERT_TRUE(waitUntil([&] {
+        display.xdotool({u"mousemove"_qs, u"--window"_qs, viewer.window(), QString::number(size.width() / 2),
+                         QString::number(size.height() / 2), u"click"_qs, u"3"_qs});
+        waitUntil([&] { return viewer.windows().size() > 1; }, 500);
+        viewer.press({u"Down"_qs, u"Return"_qs});
+        return waitUntil(
+            [&] {
+                window = QString::fromLatin1(
+                    display.xdotool({u"search"_qs, u"--onlyvisible"_qs, u"--name"_qs, u"^Print label.pdf"_qs}));
+                return !window.isEmpty();
+            },
+            1000);
+    }));
+    const qint64 process = display.xdotool({u"getwindowpid"_qs, window.section(u'\n', 0, 0)}).trimmed().toLongLong();
+    ASSERT_TRUE(dialog.adopt(process).isNull());
+    dialog.clickPrint();
+    const std::vector<FilterCall> calls = printedJob();
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=60.0", "PageSize=Custom.24x60mm"}));
+}
+
 TEST_F(PrintingProgram, TokenUsedTwice_TheSecondTimeTheDialogIsShown)
 {
     ASSERT_NO_FATAL_FAILURE(startProgram(program,
