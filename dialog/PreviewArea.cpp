@@ -120,7 +120,7 @@ void PreviewArea::setProblem(const QString &problem)
 
 void PreviewArea::awaitProgram(const QString &about)
 {
-    mAwaited = {tr("The program's pages come later: it lays them out for this.")};
+    mAwaited = {tr("The program's pages come later, laid out for this size.")};
     if (!about.isNull()) {
         mAwaited.append(about);
     }
