@@ -19,7 +19,7 @@ namespace
 {
 
 /// By shape, not by colour alone.
-QStyle::StandardPixmap markOf(const PrinterRow &row)
+QStyle::StandardPixmap pixmapOf(const PrinterRow &row)
 {
     if (row.isGone || !row.printer.isAccepting) {
         return QStyle::SP_MessageBoxCritical;
@@ -82,6 +82,15 @@ QString PrinterModel::toolTipOf(const PrinterRow &row) const
     return lines.join(u'\n');
 }
 
+QIcon PrinterModel::markOf(const PrinterRow &row) const
+{
+    QIcon &mark = mMarks[pixmapOf(row)];
+    if (mark.isNull()) {
+        mark = QApplication::style()->standardIcon(pixmapOf(row));
+    }
+    return mark;
+}
+
 QVariant PrinterModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount()) {
@@ -92,9 +101,7 @@ QVariant PrinterModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return textOf(row.printer);
     case Qt::DecorationRole:
-        return row.printer.name.isEmpty() || row.printer.isDiscovered
-                   ? QVariant()
-                   : QVariant(QApplication::style()->standardIcon(markOf(row)));
+        return row.printer.name.isEmpty() || row.printer.isDiscovered ? QVariant() : QVariant(markOf(row));
     case Qt::ToolTipRole:
         return plainToolTip(toolTipOf(row));
     case Qt::AccessibleTextRole: {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-// Pages are drawn by Poppler on its own grid, whose origin is the top left of what viewers see of a page; here they are
-// asked for by the page's box.
+// Pages are drawn on a grid whose origin is the top left of what viewers see of a page; here they are asked for by the
+// page's box.
 #include "job/PdfPages.h"
 
 #include "job/PageBox.h"
+#include "job/PageDrawer.h"
 #include "job/Texts.h"
 
 #include <QFile>
@@ -14,7 +15,6 @@
 #include <exception>
 #include <vector>
 
-#include <poppler-qt6.h>
 #include <qpdf/QPDF.hh>
 
 namespace tapeprint::job
@@ -54,26 +54,7 @@ bool looksLikePdf(const QString &path)
     return file.open(QIODevice::ReadOnly) && file.read(headerWithin).contains("%PDF-");
 }
 
-/// What Poppler has to say of a document's flaws is for its developers.
-void silencePoppler()
-{
-    [[maybe_unused]] static const bool silenced = [] {
-        Poppler::setDebugErrorFunction([](const QString &, const QVariant &) {}, {});
-        return true;
-    }();
-}
-
-bool isStopped(const QVariant &stop)
-{
-    return static_cast<const std::atomic<bool> *>(stop.value<void *>())->load();
-}
-
-QVariant variantOf(const std::atomic<bool> &stop)
-{
-    return QVariant::fromValue<void *>(const_cast<std::atomic<bool> *>(&stop)); // a QVariant takes no pointer to const
-}
-
-/// Boxes of a document's pages; none when QPDF cannot read what Poppler can.
+/// Boxes of a document's pages; none when QPDF cannot read what can be drawn.
 std::vector<PageBox> readBoxes(const QString &path)
 {
     try {
@@ -139,9 +120,9 @@ QRect inkOf(const QImage &image)
 
 } // namespace
 
-/// The dots that Poppler is asked for.
+/// The dots that the drawer is asked for.
 struct PdfPages::Document {
-    /// A page on Poppler's grid.
+    /// A page on the drawer's grid.
     struct Place {
         QSizeF sizePt;        ///< of the page as it is read
         QPointF origin;       ///< of the page, in the units of the grid
@@ -149,23 +130,22 @@ struct PdfPages::Document {
         bool isWhole = false; ///< whether the page can be drawn
     };
 
-    std::unique_ptr<Poppler::Document> pdf;
+    std::unique_ptr<PageDrawer> drawer;
     std::vector<PageBox> boxes;
 
-    Place placeOf(const Poppler::Page *page) const;
-    QImage draw(const Poppler::Page &page, const QRect &dots, double dotsPerUnit, const std::atomic<bool> &stop) const;
+    Place placeOf(int page) const;
 };
 
-PdfPages::Document::Place PdfPages::Document::placeOf(const Poppler::Page *page) const
+PdfPages::Document::Place PdfPages::Document::placeOf(int page) const
 {
     Place place;
-    if (page == nullptr) {
+    const QSizeF drawn = drawer->size(page);
+    if (drawn.isEmpty()) {
         return place;
     }
-    const QSizeF drawn = page->pageSizeF();
-    const auto index = static_cast<std::size_t>(page->index());
+    const auto index = static_cast<std::size_t>(page);
     if (index < boxes.size() && boxes[index].page.isEmpty()) {
-        return place; // Poppler would make a sheet of paper of it
+        return place; // the drawer would make a sheet of paper of it
     }
     if (index < boxes.size() && isAsSeen(boxes[index], drawn)) {
         place = {boxes[index].sizePt(), originOf(boxes[index]), boxes[index].unitPt};
@@ -175,20 +155,6 @@ PdfPages::Document::Place PdfPages::Document::placeOf(const Poppler::Page *page)
     place.isWhole =
         !place.sizePt.isEmpty() && std::isfinite(place.sizePt.width()) && std::isfinite(place.sizePt.height());
     return place;
-}
-
-QImage PdfPages::Document::draw(const Poppler::Page &page, const QRect &dots, double dotsPerUnit,
-                                const std::atomic<bool> &stop) const
-{
-    const double dotsPerInch = dotsPerUnit * pointsPerInch;
-    try {
-        const QImage image =
-            page.renderToImage(dotsPerInch, dotsPerInch, dots.x(), dots.y(), dots.width(), dots.height(),
-                               Poppler::Page::Rotate0, nullptr, nullptr, isStopped, variantOf(stop));
-        return stop ? QImage() : image;
-    } catch (const std::exception &) { // of a picture that memory does not hold
-        return {};
-    }
 }
 
 PdfPages::PdfPages(std::unique_ptr<Document> document) : mDocument(std::move(document)) {}
@@ -203,21 +169,25 @@ std::unique_ptr<PdfPages> PdfPages::open(const QString &path, Problem *error, co
         *error = {Problem::BadDocument, Texts::tr("%1 cannot be read: %2").arg(name, reason)};
         return nullptr;
     }
-    silencePoppler();
     auto document = std::make_unique<Document>();
-    document->pdf = Poppler::Document::load(path);
-    if (document->pdf == nullptr) {
+    document->drawer = openDrawer(path, &reason);
+    if (!reason.isNull()) {
+        *error =
+            Texts::tr("The part of this program that draws pages cannot be loaded (%1): install it again.").arg(reason);
+        return nullptr;
+    }
+    if (document->drawer == nullptr) {
         *error = {Problem::BadDocument, looksLikePdf(path)
                                             ? Texts::tr("%1 is broken: no page of it can be read.").arg(name)
                                             : Texts::tr("%1 is no PDF document.").arg(name)};
         return nullptr;
     }
-    if (document->pdf->isLocked()) {
+    if (document->drawer->isLocked()) {
         *error = {Problem::BadDocument,
                   Texts::tr("%1 is protected by a password: save it without one, and print that.").arg(name)};
         return nullptr;
     }
-    if (document->pdf->numPages() < 1) {
+    if (document->drawer->count() < 1) {
         *error = {Problem::BadDocument, Texts::tr("%1 has no page.").arg(name)};
         return nullptr;
     }
@@ -227,19 +197,18 @@ std::unique_ptr<PdfPages> PdfPages::open(const QString &path, Problem *error, co
 
 int PdfPages::count() const
 {
-    return mDocument->pdf->numPages();
+    return mDocument->drawer->count();
 }
 
 QSizeF PdfPages::sizePt(int page) const
 {
-    const Document::Place place = mDocument->placeOf(mDocument->pdf->page(page).get());
+    const Document::Place place = mDocument->placeOf(page);
     return place.isWhole ? place.sizePt : QSizeF();
 }
 
 RenderedPage PdfPages::render(int page, double dotsPerPoint, const std::atomic<bool> &stop, const QRectF &partPt) const
 {
-    const std::unique_ptr<Poppler::Page> drawn = mDocument->pdf->page(page);
-    const Document::Place place = mDocument->placeOf(drawn.get());
+    const Document::Place place = mDocument->placeOf(page);
     const QRectF whole({}, place.sizePt);
     const QRectF part = partPt.isEmpty() ? whole : partPt.intersected(whole);
     const double dotsPerUnit = dotsPerPoint * place.unitPt;
@@ -257,23 +226,19 @@ RenderedPage PdfPages::render(int page, double dotsPerPoint, const std::atomic<b
         std::max({std::abs(from.x()), std::abs(from.y()), std::abs(to.x()), std::abs(to.y())}) > mostOnGrid) {
         return {};
     }
-    QImage image;
-    mDocument->pdf->setRenderHint(Poppler::Document::Antialiasing, true);
-    mDocument->pdf->setRenderHint(Poppler::Document::TextAntialiasing, true);
-    image = mDocument->draw(*drawn, dots.toRect(), dotsPerUnit, stop);
+    const QImage image = mDocument->drawer->draw(page, {dots.toRect(), dotsPerUnit, true}, stop);
     return {image, QRectF((dots.topLeft() - origin) / dotsPerPoint, dots.size() / dotsPerPoint)};
 }
 
 std::optional<QRectF> PdfPages::drawnRect(int page, const std::atomic<bool> &stop) const
 {
-    const std::unique_ptr<Poppler::Page> drawn = mDocument->pdf->page(page);
-    const Document::Place place = mDocument->placeOf(drawn.get());
+    const Document::Place place = mDocument->placeOf(page);
     if (!place.isWhole) {
         return std::nullopt;
     }
-    // Without anti-aliasing a dot that is touched is drawn, however little; but Poppler moves edges of lines and boxes
-    // by up to half a dot, and letters by up to a whole one. So each side is moved out by a dot, and dots are a third
-    // of those that the answer is promised in: two thirds at the most by touching and moving, one by this.
+    // Without anti-aliasing a dot that is touched is drawn, however little; but the drawer moves edges of lines and
+    // boxes by up to half a dot, and letters by up to a whole one. So each side is moved out by a dot, and dots are a
+    // third of those that the answer is promised in: two thirds at the most by touching and moving, one by this.
     const double area = place.sizePt.width() * place.sizePt.height();
     const double dotsPerPoint =
         std::min({measuredDotsPerPoint, std::sqrt(mostMeasuredDots / area),
@@ -287,13 +252,11 @@ std::optional<QRectF> PdfPages::drawnRect(int page, const std::atomic<bool> &sto
     if (width < 1 || height < 1) {
         return std::nullopt;
     }
-    mDocument->pdf->setRenderHint(Poppler::Document::Antialiasing, false);
-    mDocument->pdf->setRenderHint(Poppler::Document::TextAntialiasing, true); // a faint letter is a letter
     const int rows = std::clamp(static_cast<int>(bandDots / width), 1, height);
     QRect ink;
     for (int row = 0; row < height; row += rows) {
         const QRect band(left, top + row, width, std::min(rows, height - row));
-        const QImage image = mDocument->draw(*drawn, band, dotsPerUnit, stop);
+        const QImage image = mDocument->drawer->draw(page, {band, dotsPerUnit, false}, stop);
         if (image.isNull()) {
             return std::nullopt;
         }

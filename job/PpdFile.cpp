@@ -2,6 +2,7 @@
 // Opening PPD files. libcups answers null for a missing file and a broken one alike, so the file is looked at first.
 #include "job/PpdFile.h"
 
+#include "job/MemoryFile.h"
 #include "job/PlainText.h"
 #include "job/Reason.h"
 #include "job/Texts.h"
@@ -12,11 +13,8 @@
 
 #include <array>
 #include <memory>
-#include <utility>
 
-#include <sys/mman.h>
 #include <sys/types.h>
-#include <unistd.h>
 
 #include <cups/file.h>
 
@@ -32,41 +30,32 @@ struct CupsFileCloser {
 
 /// Whether a compressed file ends too early: libcups then reads what there is, and says nothing. Gzip (RFC 1952) writes
 /// the size of what it packed into the last four bytes, lowest first.
-bool isCutOff(const QString &path)
+bool isCutOff(const QByteArray &bytes, const MemoryFile &file)
 {
-    constexpr qint64 sizeBytes = 4;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.read(2) != QByteArray("\x1f\x8b") ||
-        !file.seek(file.size() - sizeBytes)) {
+    constexpr qsizetype sizeBytes = 4;
+    if (!bytes.startsWith("\x1f\x8b") || bytes.size() < sizeBytes) {
         return false;
     }
-    const auto stated = qFromLittleEndian<quint32>(file.read(sizeBytes).constData());
-    const std::unique_ptr<cups_file_t, CupsFileCloser> unpacked(cupsFileOpen(QFile::encodeName(path).constData(), "r"));
+    const auto stated = qFromLittleEndian<quint32>(bytes.last(sizeBytes).constData());
+    const std::unique_ptr<cups_file_t, CupsFileCloser> unpacked(cupsFileOpenFd(file.readingHandle(), "r"));
     std::array<char, 65536> piece{};
-    quint32 bytes = 0; // as gzip counts: beyond four gigabytes it begins anew
-    for (ssize_t size = 0; unpacked && (size = cupsFileRead(unpacked.get(), piece.data(), piece.size())) > 0;) {
-        bytes += static_cast<quint32>(size);
+    quint32 size = 0; // as gzip counts: beyond four gigabytes it begins anew
+    for (ssize_t read = 0; unpacked && (read = cupsFileRead(unpacked.get(), piece.data(), piece.size())) > 0;) {
+        size += static_cast<quint32>(read);
     }
-    return bytes != stated;
+    return size != stated;
 }
 
-/// Nothing of this size describes a printer: it is not read into memory.
-constexpr qint64 mostBytes = qint64{64} << 20;
-
-/// Parses bytes as libcups parses a file, by a file that stands in memory alone.
-PpdFile parse(const QByteArray &bytes)
+/// The bytes as a file, which is how libcups takes them; null when memory does not hold it.
+std::unique_ptr<MemoryFile> fileOf(const QByteArray &bytes)
 {
-    const int memory = memfd_create("ppd", MFD_CLOEXEC);
-    QFile file;
-    if (memory < 0 || !file.open(memory, QIODevice::WriteOnly, QFileDevice::DontCloseHandle) ||
-        file.write(bytes) != bytes.size() || !file.flush() || lseek(memory, 0, SEEK_SET) != 0) {
-        if (memory >= 0) {
-            ::close(memory);
-        }
-        return nullptr;
-    }
-    file.close();
-    PpdFile ppd(ppdOpenFd(memory), PpdCloser{bytes}); // closes the file
+    auto file = std::make_unique<MemoryFile>(bytes.size());
+    return file->isOpen() && file->append(bytes) ? std::move(file) : nullptr;
+}
+
+PpdFile parse(const QByteArray &bytes, const MemoryFile &file)
+{
+    PpdFile ppd(ppdOpenFd(file.readingHandle()), PpdCloser{bytes}); // closes the handle
     if (ppd) {
         ppdMarkDefaults(ppd.get());
     }
@@ -89,20 +78,30 @@ PpdFile openPpdFile(const QString &path, Problem *error, const QString &shownAs)
                   Texts::tr("The PPD file %1 cannot be read (%2): name a readable PPD file.").arg(name, reason)};
         return nullptr;
     }
-    const QByteArray bytes = file.read(mostBytes + 1);
-    if (bytes.size() > mostBytes) {
+    return openPpd(file.read(mostPpdBytes + 1), error, name);
+}
+
+PpdFile openPpd(const QByteArray &bytes, Problem *error, const QString &shownAs)
+{
+    const QString name = harmless(shownAs);
+    if (bytes.size() > mostPpdBytes) {
         *error = {Problem::BadDescription,
                   Texts::tr("The PPD file %1 is too large for one: name a PPD file.").arg(name)};
         return nullptr;
     }
-    file.close();
-    if (isCutOff(path)) {
+    const std::unique_ptr<MemoryFile> file = fileOf(bytes);
+    if (file == nullptr) {
+        *error = {
+            Problem::BadDescription,
+            Texts::tr("The PPD file %1 cannot be read (%2): name a readable PPD file.").arg(name, qt_error_string())};
+        return nullptr;
+    }
+    if (isCutOff(bytes, *file)) {
         *error = {Problem::BadDescription,
                   Texts::tr("The PPD file %1 is cut off: its end is missing. Copy it anew.").arg(name)};
         return nullptr;
     }
-
-    PpdFile ppd = parse(bytes);
+    PpdFile ppd = parse(bytes, *file);
     if (!ppd) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
@@ -116,7 +115,8 @@ PpdFile openPpdFile(const QString &path, Problem *error, const QString &shownAs)
 PpdFile freshCopy(const PpdFile &ppd)
 {
     const QByteArray &source = ppd.get_deleter().source;
-    return source.isEmpty() ? nullptr : parse(source);
+    const std::unique_ptr<MemoryFile> file = source.isEmpty() ? nullptr : fileOf(source);
+    return file == nullptr ? nullptr : parse(source, *file);
 }
 
 } // namespace tapeprint::job

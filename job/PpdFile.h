@@ -23,9 +23,15 @@ struct PpdCloser {
 /// A parsed PPD; null when there is none.
 using PpdFile = std::unique_ptr<ppd_file_t, PpdCloser>;
 
+/// Nothing larger describes a printer: it is not read into memory.
+constexpr qint64 mostPpdBytes = qint64{64} << 20;
+
 /// Opens a PPD file, with the defaults marked. \param error takes a sentence that names the file, and the line where
 /// the file is at fault. \param shownAs how the sentence names the file; null: by its path.
 PpdFile openPpdFile(const QString &path, Problem *error, const QString &shownAs = QString());
+
+/// Opens the bytes of a PPD file likewise.
+PpdFile openPpd(const QByteArray &bytes, Problem *error, const QString &shownAs);
 
 /// The same PPD as it was before anything was marked or changed in it, with the defaults marked. Null when its bytes
 /// are not known or the system has no memory for it.

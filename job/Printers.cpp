@@ -2,14 +2,13 @@
 // Print queues through libcups: the server, the saved options of the person, PPDs of local and remote queues.
 #include "job/Printers.h"
 
+#include "job/MemoryFile.h"
 #include "job/PlainText.h"
-#include "job/PrivateFile.h"
 #include "job/SavedDestinations.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
 #include <QCryptographicHash>
-#include <QFile>
 
 #include <algorithm>
 #include <array>
@@ -93,17 +92,26 @@ QString defaultText(ipp_attribute_t *attribute)
     return QString::fromUtf8(text.data());
 }
 
+/// Asks the server for some of what it knows of a queue. All of it would be a thousand values, of which libcups reads
+/// each by itself.
+Response askAbout(const ServerConnection &server, const QString &queue, std::span<const char *const> attributes)
+{
+    std::array<char, HTTP_MAX_URI> uri{};
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
+                     "/printers/%s", queue.toUtf8().constData());
+    ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(attributes.size()), nullptr, attributes.data());
+    return Response(cupsDoRequest(server.http(), request, "/"));
+}
+
 /// Asks the server for what it knows of the queue alone. What it adds to every job by itself is taken away: only what
 /// the person saved is laid down by the dialog.
 void completeFromServer(const ServerConnection &server, PrintQueue &queue)
 {
-    std::array<char, HTTP_MAX_URI> uri{};
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
-                     "/printers/%s", queue.name.toUtf8().constData());
-    ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
-    const Response response(cupsDoRequest(server.http(), request, "/"));
-
+    const Response response =
+        askAbout(server, queue.name, std::array{"printer-config-change-time", "printer-defaults"});
     static const QLatin1String ending("-default");
     for (ipp_attribute_t *attribute = ippFirstAttribute(response.get()); attribute != nullptr;
          attribute = ippNextAttribute(response.get())) {
@@ -121,25 +129,23 @@ void completeFromServer(const ServerConnection &server, PrintQueue &queue)
     }
 }
 
+Problem noMemory(const PrintQueue &queue)
+{
+    return Texts::tr("The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.")
+        .arg(harmless(queue.name), qt_error_string());
+}
+
 /// The queues of a class, whose PPD is that of the first.
 QString firstMember(const ServerConnection &server, const QString &name)
 {
-    static constexpr std::array attributes{"member-names"};
-    std::array<char, HTTP_MAX_URI> uri{};
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr, "localhost", 0,
-                     "/printers/%s", name.toUtf8().constData());
-    ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
-    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                  static_cast<int>(attributes.size()), nullptr, attributes.data());
-    const Response response(cupsDoRequest(server.http(), request, "/"));
+    const Response response = askAbout(server, name, std::array{"member-names"});
     ipp_attribute_t *members = ippFindAttribute(response.get(), "member-names", IPP_TAG_NAME);
     return QString::fromUtf8(ippGetString(members, 0, nullptr));
 }
 
 /// Writes a queue's PPD into an open file. cupsGetPPD3 does the same, but on a connection of its own, which hears of no
 /// change of mind and waits for a silent server for good; and it takes what a server cut short for the whole.
-http_status_t fetchPpd(const ServerConnection &server, const QString &name, QFile &file)
+http_status_t fetchPpd(const ServerConnection &server, const QString &name, const MemoryFile &file)
 {
     static const QLatin1String folder("/printers/");
     std::array<char, HTTP_MAX_URI> uri{};
@@ -153,7 +159,7 @@ http_status_t fetchPpd(const ServerConnection &server, const QString &name, QFil
 }
 
 /// The same for a queue or a class.
-http_status_t fetchPpdOfQueueOrClass(const ServerConnection &server, const QString &name, QFile &file)
+http_status_t fetchPpdOfQueueOrClass(const ServerConnection &server, const QString &name, const MemoryFile &file)
 {
     const http_status_t status = fetchPpd(server, name, file);
     if (status != HTTP_STATUS_NOT_FOUND) {
@@ -161,13 +167,6 @@ http_status_t fetchPpdOfQueueOrClass(const ServerConnection &server, const QStri
     }
     const QString member = firstMember(server, name);
     return member.isEmpty() ? status : fetchPpd(server, member, file);
-}
-
-QByteArray digestOf(const QString &path)
-{
-    QFile file(path);
-    QCryptographicHash digest(QCryptographicHash::Sha256);
-    return file.open(QIODevice::ReadOnly) && digest.addData(&file) ? digest.result() : QByteArray();
 }
 
 } // namespace
@@ -221,14 +220,12 @@ std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueN
 
 PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QByteArray *digest, Problem *error)
 {
-    QString reason;
-    const auto file = PrivateFile::create(QStringLiteral("queue.ppd"), &reason);
-    if (!file) {
-        *error = Texts::tr("The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.")
-                     .arg(harmless(queue.name), reason);
+    const MemoryFile file(mostPpdBytes + 1);
+    if (!file.isOpen()) {
+        *error = noMemory(queue);
         return nullptr;
     }
-    const http_status_t status = fetchPpdOfQueueOrClass(server, queue.name, file->file());
+    const http_status_t status = fetchPpdOfQueueOrClass(server, queue.name, file);
     if (status == HTTP_STATUS_NOT_FOUND) {
         return nullptr;
     }
@@ -243,8 +240,13 @@ PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QB
                       .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())))};
         return nullptr;
     }
-    *digest = digestOf(file->path());
-    return openPpdFile(file->path(), error, Texts::tr("of queue %1").arg(queue.name));
+    const std::optional<QByteArray> ppd = file.contents();
+    if (!ppd) {
+        *error = noMemory(queue);
+        return nullptr;
+    }
+    *digest = QCryptographicHash::hash(*ppd, QCryptographicHash::Sha256);
+    return openPpd(*ppd, error, Texts::tr("of queue %1").arg(queue.name));
 }
 
 } // namespace tapeprint::job
