@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// A paper is told standing; the margins are those of the page as the program sees it, turned.
+// A paper is told standing, and so are its margins, also where its pages lie: that is how GTK reads them.
 #include "portal/PortalPaper.h"
 
 #include "job/PageLayout.h"
@@ -39,6 +39,12 @@ constexpr std::array orientations{
     Turned{QLatin1String("reverse_portrait"), QLatin1String("6"), job::Turn::Half},
 };
 
+/// A key of our own, which programs that keep their settings bring back: whether somebody chose how the pages are
+/// turned.
+const QString ownTurn = QStringLiteral("tapeprint-turn");
+const QString automatic = QStringLiteral("automatic");
+const QString byPerson = QStringLiteral("chosen");
+
 bool isLength(double mm)
 {
     return std::isfinite(mm) && mm > 0.0 && mm < longestMm;
@@ -51,29 +57,23 @@ double numberIn(const QVariant &value)
     return isNumber ? number : 0.0;
 }
 
+/// How the program is to turn its pages. Where nobody chose, lines run along the tape, as they do when we set them.
+job::Turn turnOfPages(const job::SettledJob &job)
+{
+    const job::Turn chosen = job::layoutChoicesOf(job.options).turn;
+    if (chosen != job::Turn::Automatic) {
+        return chosen;
+    }
+    const bool lies = job.page.isTape && job.page.sizePt.height() > job.page.sizePt.width();
+    return lies ? job::Turn::Left : job::Turn::None;
+}
+
 QString orientationOf(const job::SettledJob &job)
 {
-    const job::Turn turn = job::layoutChoicesOf(job.options).turn;
+    const job::Turn turn = turnOfPages(job);
     const auto found = std::find_if(orientations.begin(), orientations.end(),
                                     [turn](const Turned &turned) { return turned.turn == turn; });
     return found == orientations.end() ? QString(orientations.front().word) : QString(found->word);
-}
-
-/// The margins of the standing paper as they are on the page that is turned.
-QMarginsF turnedMargins(const QMarginsF &margins, job::Turn turn)
-{
-    switch (turn) {
-    case job::Turn::Left:
-        return {margins.bottom(), margins.left(), margins.top(), margins.right()};
-    case job::Turn::Right:
-        return {margins.top(), margins.right(), margins.bottom(), margins.left()};
-    case job::Turn::Half:
-        return {margins.right(), margins.bottom(), margins.left(), margins.top()};
-    case job::Turn::Automatic:
-    case job::Turn::None:
-        break;
-    }
-    return margins;
 }
 
 QSizeF sizeMmOf(const job::SettledJob &job)
@@ -123,8 +123,13 @@ QString paperOfSize(const QSizeF &sizeMm, ppd_file_t *ppd)
     return {};
 }
 
-QString turnOf(const QString &orientation)
+QString askedTurn(const QVariantMap &settings, const QVariantMap &pageSetup)
 {
+    const QString setup = pageSetup.value(QStringLiteral("Orientation")).toString();
+    const QString orientation = setup.isEmpty() ? settings.value(QStringLiteral("orientation")).toString() : setup;
+    if (settings.value(ownTurn) == automatic) {
+        return {};
+    }
     const auto found = std::find_if(orientations.begin(), orientations.end(),
                                     [&orientation](const Turned &turned) { return orientation == turned.word; });
     return found == orientations.end() || found->turn == job::Turn::None ? QString() : QString(found->option);
@@ -144,7 +149,6 @@ QVariantMap pageSetupOf(const job::SettledJob &job)
     if (!inside.isEmpty()) {
         margins = {inside.left(), inside.top(), whole.right() - inside.right(), whole.bottom() - inside.bottom()};
     }
-    margins = turnedMargins(margins, job::layoutChoicesOf(job.options).turn);
     setup.insert(QStringLiteral("Name"), paperName(job));
     setup.insert(QStringLiteral("DisplayName"), paperName(job));
     setup.insert(QStringLiteral("Width"), size.width());
@@ -159,6 +163,7 @@ QVariantMap pageSetupOf(const job::SettledJob &job)
 QVariantMap paperSettings(const job::SettledJob &job)
 {
     QVariantMap settings{{QStringLiteral("orientation"), orientationOf(job)}};
+    settings.insert(ownTurn, job::layoutChoicesOf(job.options).turn == job::Turn::Automatic ? automatic : byPerson);
     if (!job.page.isEmpty()) {
         const QSizeF size = sizeMmOf(job);
         settings.insert(QStringLiteral("paper-format"), QLatin1String("custom-") + paperName(job));

@@ -19,9 +19,9 @@ QSizeF paperSizeMm(const QVariantMap &settings, const QVariantMap &pageSetup);
 /// The paper of a size, by its name in a printer's description; null when there is none.
 QString paperOfSize(const QSizeF &sizeMm, ppd_file_t *ppd);
 
-/// The value of orientation-requested that a word of the portal's stands for; empty for a page that stands, and for
-/// any other word.
-QString turnOf(const QString &orientation);
+/// The value of orientation-requested that a program asks with; empty for pages that stand, which is what programs say
+/// that were not asked, for pages that we turned by ourselves, and for words that mean nothing.
+QString askedTurn(const QVariantMap &settings, const QVariantMap &pageSetup);
 
 /// The page setup of a job: names, size, margins, and how it is turned.
 QVariantMap pageSetupOf(const job::SettledJob &job);

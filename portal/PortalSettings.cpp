@@ -214,15 +214,6 @@ void readUsual(const QVariantMap &texts, AskedSettings &asked)
     }
 }
 
-void readOrientation(const QVariantMap &texts, const QVariantMap &pageSetup, AskedSettings &asked)
-{
-    const QString setup = pageSetup.value(QStringLiteral("Orientation")).toString();
-    const QString turn = turnOf(setup.isEmpty() ? texts.value(QStringLiteral("orientation")).toString() : setup);
-    if (!turn.isEmpty()) {
-        asked.usual.set(job::OptionName::orientation, turn);
-    }
-}
-
 void readResolution(const QVariantMap &texts, AskedSettings &asked)
 {
     bool isNumber = false;
@@ -277,7 +268,9 @@ AskedSettings askedSettings(const QVariantMap &settings, const QVariantMap &page
     asked.given = textsIn(settings);
     asked.printer = asked.given.value(printerKey).toString();
     readUsual(asked.given, asked);
-    readOrientation(asked.given, pageSetup, asked);
+    if (const QString turn = askedTurn(asked.given, pageSetup); !turn.isEmpty()) {
+        asked.usual.set(job::OptionName::orientation, turn);
+    }
     readOfPpd(asked.given, asked);
     asked.paperMm = paperSizeMm(asked.given, pageSetup);
     return asked;

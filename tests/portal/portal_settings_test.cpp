@@ -215,6 +215,7 @@ TEST_F(ProgramsSettings, Answer_TellsTheProgramThatThereIsNothingToDoTwice)
                      {u"scale"_qs, u"50"_qs}, // the program's own to apply
                      {u"printer"_qs, u"tape"_qs},
                      {u"orientation"_qs, u"portrait"_qs},
+                     {u"tapeprint-turn"_qs, u"automatic"_qs},
                      {u"paper-format"_qs, u"custom-tape_25.4x50.8mm"_qs},
                      {u"paper-width"_qs, u"25.4"_qs},
                      {u"paper-height"_qs, u"50.8"_qs},
@@ -273,12 +274,32 @@ TEST_F(ProgramsSettings, PageSetupOfTheAnswer_IsTheTapeAsItIsWithItsMargins)
     settled.options = options({{u"orientation-requested"_qs, u"4"_qs}});
     const QVariantMap lying = answeredPageSetup(settled);
     EXPECT_EQ(lying[u"Orientation"_qs], u"landscape"_qs);
-    EXPECT_NEAR(number(lying, u"Width"_qs), 24.0, 0.001); // the paper itself stands
-    EXPECT_NEAR(number(lying, u"MarginLeft"_qs), 14.4 / 72 * 25.4, 0.001);
-    EXPECT_NEAR(number(lying, u"MarginTop"_qs), 2.0 / 72 * 25.4, 0.001);
-    EXPECT_NEAR(number(lying, u"MarginBottom"_qs), 4.0 / 72 * 25.4, 0.001);
+    EXPECT_NEAR(number(lying, u"Width"_qs), 24.0, 0.001);                 // the paper itself stands
+    EXPECT_NEAR(number(lying, u"MarginLeft"_qs), 2.0 / 72 * 25.4, 0.001); // and so do its margins
+    EXPECT_NEAR(number(lying, u"MarginTop"_qs), 14.4 / 72 * 25.4, 0.001);
     // What the program has turned is not turned again.
     EXPECT_EQ(withoutProgramsPart(settled).options.lines(), QStringList());
+}
+
+TEST_F(ProgramsSettings, LinesRunAlongTheTape_UnlessThePersonTurnsThePages)
+{
+    const auto orientation = [](const SettledJob &settled) { return answeredPageSetup(settled)[u"Orientation"_qs]; };
+    SettledJob settled = job({});
+    settled.page.sizePt = {68, 425};
+    EXPECT_EQ(orientation(settled), u"portrait"_qs); // paper
+    settled.page.isTape = true;
+    EXPECT_EQ(orientation(settled), u"landscape"_qs);
+    EXPECT_EQ(answeredSettings({}, settled, nullptr)[u"orientation"_qs], u"landscape"_qs);
+    settled.options = options({{u"orientation-requested"_qs, u"3"_qs}});
+    EXPECT_EQ(orientation(settled), u"portrait"_qs);
+    // What was turned by itself is no wish when it comes back; what the person chose is one.
+    settled.options = options({{u"orientation-requested"_qs, u"4"_qs}});
+    EXPECT_EQ(usual(answeredSettings({}, settled, nullptr), answeredPageSetup(settled)),
+              QStringList{u"orientation-requested=4"_qs});
+    settled.options = {};
+    EXPECT_EQ(usual(answeredSettings({}, settled, nullptr), answeredPageSetup(settled)), QStringList());
+    settled.page.sizePt = {68, 40}; // shorter than it is wide
+    EXPECT_EQ(orientation(settled), u"portrait"_qs);
 }
 
 TEST_F(ProgramsSettings, PrinterWithoutAPaper_AnswersWhatIsKnown)
