@@ -36,6 +36,9 @@ public:
     void expectDocuments() { mExpectsDocuments = true; }
     /// Why the documents cannot be shown, in a sentence; null when they can.
     void setProblem(const QString &problem);
+    /// The documents are another program's, which makes them when the settings are final. \param about a sentence about
+    /// them; null when there is none.
+    void awaitProgram(const QString &about);
     /// Whether the printer is one that is loaded with tape, whatever the page in it.
     void setIsTapePrinter(bool isTapePrinter);
     /// Whether the amount that comes out of the printer is told here; it is where nobody else tells it.
@@ -83,6 +86,7 @@ private:
     TapeLook mLook;
     QString mProblem;
     bool mExpectsDocuments = false;
+    QStringList mAwaited; ///< sentences about documents that another program makes later
     bool mShowsAmount = true;
     std::vector<job::PageSizes> mSizes; ///< of the documents that are shown, or were until others are read
     std::vector<job::DrawnRects> mDrawn;

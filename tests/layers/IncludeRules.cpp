@@ -32,6 +32,7 @@ const std::array<Room, 11> &rooms()
 {
     static const std::array<Room, 11> table = {{
         {"tapeprint", {"dialog", "job", "pdekit"}, {"cups/"}},
+        {"portal", {"dialog", "job", "pdekit"}, {"cups/ppd.h"}},
         {"dialog", {"job", "pdekit"}, {"cups/"}},
         {"job", {"pdekit"}, {"cups/", "qpdf/"}, false},
         {"drawing", {"job"}, {"poppler-qt6.h"}, false},
