@@ -56,7 +56,7 @@ bool Application::deliver(QObject *receiver, const std::function<bool()> &delive
 void nameCrashingPanels()
 {
     // A handler needs a stack of its own where the thread's is used up.
-    static std::array<char, 64 * 1024> stack;
+    static std::array<char, 65536> stack;
     stack_t place{};
     place.ss_sp = stack.data();
     place.ss_size = stack.size();
