@@ -121,6 +121,14 @@ QString customValueProblem(ppd_file_t *ppd, const QString &name, const QString &
     return {};
 }
 
+/// Whether a value says that it is an own one and then nothing of it: CUPS would take zeros, or what was there before.
+bool lacksItsOwnValue(ppd_file_t *ppd, const QString &name, const QString &value)
+{
+    const bool isSize = name == OptionName::media || name.compare(OptionName::pageSize, Qt::CaseInsensitive) == 0;
+    const bool takesOwn = isSize ? ppd == nullptr || ppd->variable_sizes != 0 : !customParameters(ppd, name).empty();
+    return takesOwn && value.compare(QLatin1String("Custom"), Qt::CaseInsensitive) == 0;
+}
+
 /// Whether CUPS finds a paper, a tray or a kind of paper by a name in the option media.
 bool isMedia(ppd_file_t *ppd, const QString &name)
 {
@@ -148,6 +156,9 @@ QString mediaProblem(ppd_file_t *ppd, const QString &value)
 
 QString problemOf(ppd_file_t *ppd, const QString &name, const QString &value, const AnswersFor &isPanels)
 {
+    if (lacksItsOwnValue(ppd, name, value)) {
+        return Texts::tr("%1=%2 is none of the choices that the printer's PPD lists.").arg(name, value);
+    }
     if (name == OptionName::media) {
         return mediaProblem(ppd, value);
     }

@@ -28,6 +28,13 @@ std::span<const ppd_size_t> sizesOf(const ppd_file_t *ppd)
     return {ppd->sizes, static_cast<std::size_t>(std::max(ppd->num_sizes, 0))};
 }
 
+/// Whether a number of a description can be the side of a page: libcups reads whatever looks like one, infinity, too.
+bool isMeasure(float sidePt)
+{
+    constexpr float longest = 1e6F; // 350 metres
+    return sidePt > 0.0F && sidePt < longest;
+}
+
 QMarginsF marginsOf(const ppd_size_t &size)
 {
     return {static_cast<double>(size.left), static_cast<double>(size.length - size.top),
@@ -204,7 +211,7 @@ TapePage tapePageOf(ppd_file_t *ppd, const JobOptions &options, const TapeKeywor
 {
     TapePage page;
     const ppd_size_t *paper = ppd == nullptr ? nullptr : ppdPageSize(ppd, nullptr);
-    if (paper == nullptr || !(paper->width > 0.0F) || !(paper->length > 0.0F)) {
+    if (paper == nullptr || !isMeasure(paper->width) || !isMeasure(paper->length)) {
         return page;
     }
     const QString name = QString::fromUtf8(paper->name);

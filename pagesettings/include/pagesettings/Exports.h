@@ -13,22 +13,22 @@
 #include <cstddef>
 #include <cstdint>
 
-// The module (PageSettings.so in the bundle's directory) is loaded at run time and not linked. Take a function by its
-// name, with the type that is declared here, and call it no longer than the module stays loaded:
-//
-//     QLibrary module("…/PageSettings.bundle/PageSettings.so");
-//     auto *getTapeInfo = reinterpret_cast<decltype(&GetTapeInfo)>(module.resolve("GetTapeInfo"));
-//     auto *menu = reinterpret_cast<const MenuRow *>(module.resolve("OP_MENU"));
-//
-// For all of them:
-// - The names have C linkage; the types are C++ and Qt's, so the caller is built with the same Qt and the same pdekit.
-// - Nothing is thrown, and no function keeps an argument beyond its call.
-// - A status is pdekit::kPMNoError (0) or one of the errors in pdekit/Status.h.
-// - Records are the caller's, who constructs them before the call and destroys them after it. A QString in a record is
-// a
-//   value and is released with the record: nothing has to be released by hand.
-// - Texts in bytes are NUL-terminated UTF-8, unless it says otherwise.
-// - Objects of a job are used by one thread at a time. The other functions may be called on any thread.
+/// \file
+/// The module (PageSettings.so in the bundle's directory) is loaded at run time and not linked. Take a function by its
+/// name, with the type that is declared here, and call it no longer than the module stays loaded:
+/// \code
+/// QLibrary module("…/PageSettings.bundle/PageSettings.so");
+/// auto *getTapeInfo = reinterpret_cast<decltype(&GetTapeInfo)>(module.resolve("GetTapeInfo"));
+/// auto *menu = reinterpret_cast<const MenuRow *>(module.resolve("OP_MENU"));
+/// \endcode
+/// For all of them:
+/// - The names have C linkage; the types are C++ and Qt's, so the caller is built with the same Qt and the same pdekit.
+/// - Nothing is thrown, and no function keeps an argument beyond its call.
+/// - A status is pdekit::kPMNoError (0) or one of the errors in pdekit/Status.h.
+/// - Records are the caller's, who constructs them before the call and destroys them after it. A QString in a record
+///   is a value and is released with the record: nothing has to be released by hand.
+/// - Texts in bytes are NUL-terminated UTF-8, unless it says otherwise.
+/// - Objects of a job are used by one thread at a time. The other functions may be called on any thread.
 
 /// \name The tape in use
 
@@ -48,8 +48,8 @@ struct TapeInfo {
 
 /// The pages to print, counted from 1; 0: not given.
 struct PageRange {
-    std::uint32_t firstPage = 0;
-    std::uint32_t lastPage = 0;
+    std::uint32_t firstPage = 0; ///< the first page
+    std::uint32_t lastPage = 0;  ///< the last page, which is printed, too
 };
 
 /// The settings key of the vendor ticket: XML property-list data with a dictionary at its root, holding "LxPaperName2"
@@ -94,9 +94,9 @@ Q_DECL_EXPORT pdekit::OSStatus GetTapeInfo3(pdekit::PMPrintSettings settings, Pa
 /// One row of a menu table. Others read the tables by this order of fields.
 // NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding): the order is part of what is exported
 struct MenuRow {
-    std::int32_t identifier;
-    const char *key;   ///< the key of the row's text, ASCII; the table's, never to be freed
-    std::int32_t flag; ///< 0 on a row that can be found
+    std::int32_t identifier; ///< what a row is looked for by
+    const char *key;         ///< the key of the row's text, ASCII; the table's, never to be freed
+    std::int32_t flag;       ///< 0 on a row that can be found
 };
 
 extern "C" {
@@ -139,11 +139,13 @@ extern "C" {
 // NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// One line to the system log (Qt's message log, category "pde"): the tag, "self(" and the object's description and ")"
-/// when there is an object, and the caller's text. The tags are "BEGIN", "END" and "LOG".
+/// when there is an object, and the caller's text. The tag is "BEGIN".
 /// \param object a pointer to an object of any class, or nullptr; see pdekit::LoggedObject for its description.
 /// \param format must not be null.
 Q_DECL_EXPORT void _PDEProlog(pdekit::LoggedObject object, const char *format, ...);
+/// The same with the tag "END".
 Q_DECL_EXPORT void _PDEEpilog(pdekit::LoggedObject object, const char *format, ...);
+/// The same with the tag "LOG".
 Q_DECL_EXPORT void _PDELog(pdekit::LoggedObject object, const char *format, ...);
 
 /// The record of a PPD option and its first choice, a line a field, to the system log. An option that the PPD does not

@@ -13,9 +13,9 @@ namespace pdekit
 
 /// An alert: its title, its text and the label of its one button.
 struct AlertRequest {
-    QString title;
-    QString text;
-    QString defaultButton;
+    QString title;         ///< of the window
+    QString text;          ///< plain text, in the person's language
+    QString defaultButton; ///< the button's text
 };
 
 /// Shows an alert and returns when the person has closed it.

@@ -50,7 +50,7 @@ public:
     /// An image of the bundle, read once and kept. \return std::nullopt when the file is missing or is no image.
     std::optional<QIcon> imageForResource(const QString &name, const QString &type) const;
 
-    /// A text in the person's language, from the bundle's own catalogue (Resources/<language>.qm, id-based). The
+    /// A text in the person's language, from the bundle's own catalogue (Resources/LANGUAGE.qm, id-based). The
     /// catalogue is the bundle's alone: it is not installed in the application and no other bundle sees it.
     /// \param key the text's key; \param value what to answer for a key without an entry; null: the key itself.
     /// \param table the catalogue's table; null: the default table, the only one that this library has.
@@ -62,7 +62,7 @@ public:
     /// language.
     bool setLanguage(const QString &language);
 
-    /// Loads an interface file (Resources/<name>.ui) and hands each widget to the owner's outlets.
+    /// Loads an interface file (Resources/NAME.ui) and hands each widget to the owner's outlets.
     /// \param name without its ending; \param factories classes of the plug-in's own that the file names;
     /// \param connectOutlet called once for each named widget of the file, the view itself included.
     /// \return the top-level view, owned by the caller; null when the file is missing or is no interface file (the

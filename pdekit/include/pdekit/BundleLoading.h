@@ -85,6 +85,7 @@ PDEKIT_EXPORT LoadedBundles loadBundles(const QStringList &folders, ppd_file_t *
 class PDEKIT_EXPORT BundleGuard
 {
 public:
+    /// What runs while a guard lives; each has marks of its own.
     enum class Step {
         Loading,      ///< from the module's first code to PlugIn::initWithBundle()
         MakingPanels, ///< PlugIn::PDEPanelsForType() and what a dialog calls of new panels before it shows them

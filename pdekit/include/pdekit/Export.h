@@ -4,6 +4,10 @@
 
 #include <QtCore/qglobal.h>
 
+/// \namespace pdekit
+/// What a print dialog and the panels of plug-ins both stand on.
+
+/// Marks a class or function as offered.
 #if defined(PDEKIT_BUILD)
 #define PDEKIT_EXPORT Q_DECL_EXPORT
 #else

@@ -8,5 +8,6 @@
 
 namespace pdekit
 {
+/// The category, for qCWarning() and its kin.
 PDEKIT_EXPORT Q_DECLARE_LOGGING_CATEGORY(lcPde)
 } // namespace pdekit

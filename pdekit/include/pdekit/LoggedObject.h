@@ -34,6 +34,7 @@ public:
     {
     }
 
+    /// Whether there is no object.
     bool isNone() const { return mObject == nullptr; }
     /// What the object's `description()` answers when its class has one, else its default description.
     /// Null without an object.

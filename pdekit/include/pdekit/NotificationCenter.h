@@ -17,7 +17,7 @@ namespace pdekit
 
 /// A notice: a name and the object it is about (null when it is about none).
 struct Notification {
-    QString name;
+    QString name;                 ///< never null
     const void *object = nullptr; ///< an identity to compare, not to be followed
     QString text;                 ///< a text that came with the notice; null when none did
 };
@@ -26,6 +26,7 @@ struct Notification {
 class PDEKIT_EXPORT NotificationCenter
 {
 public:
+    /// Called with each notice that an observer registered for. What it throws is not caught.
     using Handler = std::function<void(const Notification &)>;
 
     /// The one centre of the process, shared by the dialog and every bundle.

@@ -59,6 +59,11 @@ public:
 
 Q_DECLARE_INTERFACE(pdekit::PlugInEntry, PDEKIT_PLUGIN_IID)
 
-// The metadata (the JSON file named in Q_PLUGIN_METADATA) that a dialog reads before it loads any code:
-//   "PrincipalClass"  string, the name for newPrincipalObject
-//   "PanelTypes"      array of strings, the panel types the plug-in serves
+/// \file
+/// A dialog reads the metadata (the JSON file named in Q_PLUGIN_METADATA) before it loads any code:
+/// - "PrincipalClass": string, the name for PlugInEntry::newPrincipalObject().
+/// - "PanelTypes": array of strings, the panel types that the plug-in serves, such as kPrinterModulePanelType.
+/// - "PPDKeywords": array of strings. The plug-in belongs to a printer whose PPD has one of them, as an option or as an
+///   attribute. Without it only to printers whose PPD names the bundle (APDialogExtension).
+/// - "Tape": what the options and attributes of its printers mean to a dialog that prints on tape; a dialog may ignore
+///   it. See LoadedBundle::metadata.

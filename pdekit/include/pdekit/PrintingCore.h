@@ -21,14 +21,14 @@ namespace pdekit
 
 /// A paper, for these printers a tape: its PPD page size keyword and its size in points (1/72 inch).
 struct Paper {
-    QString ppdPaperName; ///< null when the paper is not known to the PPD
-    double widthPt = 0.0;
+    QString ppdPaperName;  ///< null when the paper is not known to the PPD
+    double widthPt = 0.0;  ///< for a tape its width
     double heightPt = 0.0; ///< for a tape its length
 };
 
 /// How pages lie on the paper. Holds the paper by value; setting another paper ends pointers to the old one.
 struct PageFormat {
-    std::optional<Paper> paper;
+    std::optional<Paper> paper; ///< none when the PPD names no page size
 };
 
 /// A print queue, or a printer description without a queue.
@@ -41,26 +41,29 @@ struct Printer {
 
 /// One run of a print dialog: data that dialog and panels share under string keys, as property-list values.
 struct PrintSession {
-    QVariantMap data;
+    QVariantMap data; ///< see PMSessionGetDataFromSession()
 };
 
 /// The settings of a job: property-list values (bool, integer, real, string, data, date, array, dictionary) under
 /// string keys. A locked key keeps its value until it is unlocked.
 struct PrintSettings {
-    QVariantMap values;
-    std::set<QString> lockedKeys;
+    QVariantMap values;           ///< see PMPrintSettingsGetValue()
+    std::set<QString> lockedKeys; ///< keys of values that may not be changed
 };
 
-using PMPrintSession = PrintSession *;
-using PMPrintSettings = PrintSettings *;
-using PMPageFormat = PageFormat *;
-using PMPaper = const Paper *;
+using PMPrintSession = PrintSession *;   ///< the dialog's; null: none
+using PMPrintSettings = PrintSettings *; ///< the dialog's; null: none
+using PMPageFormat = PageFormat *;       ///< the dialog's; null: none
+using PMPaper = const Paper *;           ///< the page format's; null: none
 
 /// Keys of the settings that this library itself reads and writes.
 namespace PrintSettingsKey
 {
+/// How many copies (integer from 1).
 inline const QString copies = QStringLiteral("tapeprint.copies");
+/// See PMGetFirstPage().
 inline const QString firstPage = QStringLiteral("tapeprint.firstPage");
+/// See PMGetLastPage().
 inline const QString lastPage = QStringLiteral("tapeprint.lastPage");
 /// The PPD page size keyword of the paper that pages are mapped to (string).
 inline const QString mediaName = QStringLiteral("com.apple.print.PageToPaperMappingMediaName");

@@ -24,13 +24,16 @@ class PDEKIT_EXPORT RadioMatrix : public QWidget
     Q_PROPERTY(QStringList titles READ titles WRITE setTitles)
 
 public:
+    /// A matrix without rows. \param parent becomes its owner; may be null.
     explicit RadioMatrix(QWidget *parent = nullptr);
     ~RadioMatrix() override;
 
-    /// The titles of the rows. Setting them makes as many rows and selects row 0.
+    /// The titles of the rows.
     QStringList titles() const;
+    /// Makes as many rows and selects row 0. Sends no action.
     void setTitles(const QStringList &titles);
 
+    /// How many rows there are.
     int numberOfRows() const;
     /// The selected row, or -1 when there is none.
     int selectedRow() const;

@@ -21,17 +21,24 @@ class PDEKIT_EXPORT Slider : public QSlider
     Q_OBJECT
 
 public:
+    /// A slider from 0 to 1 at 0. \param parent becomes its owner; may be null.
     explicit Slider(QWidget *parent = nullptr);
     ~Slider() override;
 
+    /// The lower limit, in the value's unit.
     double minValue() const { return mMinValue; }
+    /// The upper limit, in the value's unit.
     double maxValue() const { return mMaxValue; }
+    /// Sets the lower limit. Places the knob and leaves the value as it is.
     void setMinValue(double value);
+    /// Sets the upper limit. Places the knob and leaves the value as it is.
     void setMaxValue(double value);
     /// The step of the keyboard.
     double altIncrementValue() const { return mAltIncrement; }
+    /// Sets the step of the keyboard, in the value's unit.
     void setAltIncrementValue(double value);
 
+    /// The value as it was set or made by a person.
     float floatValue() const { return mValue; }
     /// Sets the value. Sends no action.
     void setFloatValue(float value);
@@ -43,6 +50,7 @@ public:
 
     /// The unit of the value in the person's language, for people who hear it; empty at first.
     QString unit() const;
+    /// Sets the unit, such as "mm". Null and empty: none is heard.
     void setUnit(const QString &unit);
 
 Q_SIGNALS:
@@ -50,9 +58,13 @@ Q_SIGNALS:
     void action();
 
 protected:
+    /// Arrow keys, page keys, Home and End.
     void keyPressEvent(QKeyEvent *event) override;
+    /// Moves by the alternate increment.
     void wheelEvent(QWheelEvent *event) override;
+    /// The knob comes to the pointer.
     void mousePressEvent(QMouseEvent *event) override;
+    /// Sends the action once more: a panel may wait for the end of a drag.
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:

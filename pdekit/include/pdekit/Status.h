@@ -10,6 +10,7 @@ namespace pdekit
 /// A status of the printing system: 0 is success, every other number an error.
 using OSStatus = std::int32_t;
 
+/// Success.
 inline constexpr OSStatus kPMNoError = 0;
 /// An argument that the operation needs is null.
 inline constexpr OSStatus kPMInvalidParameter = -50;

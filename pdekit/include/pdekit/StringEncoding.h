@@ -33,10 +33,12 @@ PDEKIT_EXPORT std::optional<QByteArray> bytesFromString(const QString &text, con
 /// Whether the encoding expresses the whole text without loss.
 PDEKIT_EXPORT bool canBeConvertedToEncoding(const QString &text, const StringEncoding &encoding);
 
-/// A NUL-terminated byte string to text: UTF-8, ASCII, or the system's encoding.
+/// A NUL-terminated byte string in UTF-8 to text.
 /// \return a null string when the pointer is null or the bytes are not valid in the encoding.
 PDEKIT_EXPORT QString stringFromUtf8(const char *bytes);
+/// The same for ASCII.
 PDEKIT_EXPORT QString stringFromAscii(const char *bytes);
+/// The same for the system's encoding.
 PDEKIT_EXPORT QString stringFromSystemEncoding(const char *bytes);
 
 } // namespace pdekit

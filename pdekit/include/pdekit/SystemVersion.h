@@ -21,14 +21,15 @@ constexpr std::uint32_t gestaltSelector(const char (&code)[5])
     return selector;
 }
 
-inline constexpr std::uint32_t gestaltSystemVersionMajor = gestaltSelector("sys1");
-inline constexpr std::uint32_t gestaltSystemVersionMinor = gestaltSelector("sys2");
-inline constexpr std::uint32_t gestaltSystemVersionBugFix = gestaltSelector("sys3");
+inline constexpr std::uint32_t gestaltSystemVersionMajor = gestaltSelector("sys1");  ///< 10
+inline constexpr std::uint32_t gestaltSystemVersionMinor = gestaltSelector("sys2");  ///< 6
+inline constexpr std::uint32_t gestaltSystemVersionBugFix = gestaltSelector("sys3"); ///< 0
 
 /// Asks for a number of the system by selector; the panel interface of this print system is 10.6.0.
 /// \return 0, or an error for an unknown selector; *response is left alone then.
 PDEKIT_EXPORT OSStatus Gestalt(std::uint32_t selector, std::int32_t *response);
 
+/// Answers as Gestalt() does.
 using GestaltSource = std::function<OSStatus(std::uint32_t selector, std::int32_t *response)>;
 /// For tests: another source answers Gestalt until it is set back with an empty function.
 PDEKIT_EXPORT void setGestaltSource(GestaltSource source);
