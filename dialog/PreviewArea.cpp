@@ -118,6 +118,15 @@ void PreviewArea::setProblem(const QString &problem)
     showWords();
 }
 
+void PreviewArea::awaitProgram(const QString &about)
+{
+    mAwaited = {tr("The program's pages come later, laid out for this size.")};
+    if (!about.isNull()) {
+        mAwaited.append(about);
+    }
+    showWords();
+}
+
 void PreviewArea::addBesideWords(QWidget *control)
 {
     mWordsRow->addWidget(control);
@@ -226,7 +235,7 @@ bool PreviewArea::isBlank()
 
 QStringList PreviewArea::messages()
 {
-    QStringList sentences;
+    QStringList sentences = mAwaited;
     if (!mProblem.isNull()) {
         sentences.append(tr("There is no preview: %1").arg(mProblem));
     }

@@ -37,6 +37,9 @@ public:
     void expectDocuments() { mExpectsDocuments = true; }
     /// Why the documents cannot be shown, in a sentence; null when they can.
     void setProblem(const QString &problem);
+    /// The documents are another program's, which makes them when the settings are final. \param about a sentence about
+    /// them; null when there is none.
+    void awaitProgram(const QString &about);
     /// Puts a small control beside the words about the tape used.
     void addBesideWords(QWidget *control);
     /// Whether the printer is one that is loaded with tape, whatever the page in it.
@@ -86,6 +89,7 @@ private:
     TapeLook mLook;
     QString mProblem;
     bool mExpectsDocuments = false;
+    QStringList mAwaited; ///< sentences about documents that another program makes later
     bool mShowsAmount = true;
     std::vector<job::PageSizes> mSizes; ///< of the documents that are shown, or were until others are read
     std::vector<job::DrawnRects> mDrawn;

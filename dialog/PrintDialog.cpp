@@ -37,7 +37,7 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     : mJob(job), mPanels(panels), mSetup(std::move(setup)), mPrintAction(std::move(printAction)), mDesk(mSetup.files),
       mPrinters(mSetup.printers, mSetup.request)
 {
-    setWindowTitle(plainTitle(tr("Print %1").arg(mSetup.title)));
+    setWindowTitle(plainTitle(heading()));
     setSizeGripEnabled(true);
     mFollowTimer.setSingleShot(true);
     mFollowTimer.setInterval(0);
@@ -46,6 +46,9 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     mCountTimer.setSingleShot(true);
     buildControls();
     addCommandButton();
+    if (mSetup.takeSettings) {
+        askForSettings();
+    }
     connectControls();
     startPrinters();
     if (mPrinters.hasOpen()) {
@@ -88,8 +91,8 @@ void PrintDialog::showWhetherTape()
     const bool isTape = !mPanels.entries().empty();
     mTapeLabel->setText(isTape ? tr("&Tape:") : tr("P&aper:"));
     mPreview->setIsTapePrinter(isTape);
-    mSummary->parentWidget()->setVisible(isTape); // it is the panels' summary
-    mFitControls->setVisible(isTape);
+    mSummary->parentWidget()->setVisible(isTape);             // it is the panels' summary
+    mFitControls->setVisible(isTape && !mSetup.takeSettings); // without a document there is nothing to fit to
     mSaveButton->setHasPrinterData(mJob.ppd() != nullptr);
 }
 

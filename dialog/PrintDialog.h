@@ -67,6 +67,13 @@ public:
         QString title;           ///< of the job
         QStringList files;       ///< the documents to show; none when there is no document yet
         PrinterSource printers;  ///< to offer
+        QString heading = {};    ///< the window's title; null: that of the job, as what is printed
+        /// Where another program prints, and its pages come later: what is done in place of printing when the settings
+        /// are final. \param keep keeps them for the next time; called away from the window's thread when the job has
+        /// been printed. Null: the window prints.
+        std::function<void(const job::SettledJob &job, const std::function<bool()> &keep)> takeSettings = nullptr;
+        QString acceptLabel = {}; ///< of the button that does so; empty: Print
+        QString aboutPages = {};  ///< a sentence about the pages that come later; null when there is none
     };
     /// What Print does when the settings are final, away from the window's thread. \param watch its stop flag becomes
     /// true when the person has changed their mind. \return what became of the job; nothing, and a sentence in *error,
@@ -113,6 +120,8 @@ private:
     QWidget *makeButtons();
     void connectControls();
     void addCommandButton();
+    QString heading() const;
+    void askForSettings();
     void showCommand();
 
     void startPrinters();

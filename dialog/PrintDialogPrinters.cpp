@@ -29,11 +29,11 @@ void PrintDialog::startPrinters()
     mLoadAnew->hide();
     mNotices->addNotice(mLoadAnew);
     // A panel whose alert stands open is in the middle of a call: it is not to be released under it.
-    const int usualLevel = QThread::currentThread()->loopLevel() + 1;
+    const int usualLevel = std::max(QThread::currentThread()->loopLevel(), 1);
     mPrinters.setGate([this, usualLevel] {
         const QWidget *modal = QApplication::activeModalWidget();
-        return (modal == nullptr || modal == this) && QThread::currentThread()->loopLevel() <= usualLevel &&
-               !isPrinting() && !mIsFitting;
+        const bool isOwn = modal == nullptr || modal == this || qobject_cast<const PrintDialog *>(modal) != nullptr;
+        return isOwn && QThread::currentThread()->loopLevel() <= usualLevel && !isPrinting() && !mIsFitting;
     });
     connect(mLoadAnew, &QPushButton::clicked, &mPrinters, &PrinterDesk::takeNewDescription);
     connect(&mPrinters, &PrinterDesk::changed, this, &PrintDialog::followPrinters);
@@ -95,9 +95,7 @@ void PrintDialog::followPrinters()
     if (mClosed) {
         return;
     }
-    const QString title = mSetup.title;
-    setWindowTitle(
-        plainTitle(mPrinters.isOpening() ? tr("Print %1 – connecting…").arg(title) : tr("Print %1").arg(title)));
+    setWindowTitle(plainTitle(mPrinters.isOpening() ? tr("%1 – connecting…").arg(heading()) : heading()));
     mPrinterPopUp->setPlaceholderText(mPrinters.isOpening() ? tr("Connecting…") : tr("Choose a printer"));
     const int row = mPrinters.currentRow();
     mPrinterPopUp->setCurrentIndex(row);

@@ -43,6 +43,11 @@ void PrintDialog::print()
     }
     mIsSaving = false;
     const job::SettledJob settled = job::settle(mJob);
+    if (mSetup.takeSettings) {
+        mSetup.takeSettings(settled, keepingForNextTime());
+        accept();
+        return;
+    }
     mRun.start(
         [action = mPrintAction, keep = keepingForNextTime(), settled](const job::PrintWatch &watch,
                                                                       job::Problem *problem) {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-// A display is there when its local socket takes a connection; displays on other machines are taken at their word.
+// The toolkit's start is watched over by an alarm and a handler of its messages.
 #include "tapeprint/Display.h"
 
+#include "dialog/DisplayCheck.h"
 #include "tapeprint/JsonReport.h"
 #include "tapeprint/RunReport.h"
 
@@ -12,14 +13,10 @@
 
 #include <algorithm>
 #include <csignal>
-#include <cstddef>
-#include <cstring>
 #include <utility>
 #include <vector>
 
 #include <fcntl.h>
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 namespace tapeprint
@@ -27,28 +24,6 @@ namespace tapeprint
 
 namespace
 {
-
-/// \param path a socket's path; with isAbstract its name in the abstract namespace, where X servers listen as well.
-bool takesConnection(const QByteArray &path, bool isAbstract)
-{
-    sockaddr_un address{};
-    const std::size_t offset = isAbstract ? 1 : 0;
-    if (static_cast<std::size_t>(path.size()) + offset >= sizeof address.sun_path) {
-        return false;
-    }
-    address.sun_family = AF_UNIX;
-    std::memcpy(address.sun_path + offset, path.constData(), static_cast<std::size_t>(path.size()));
-    const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + offset +
-                                               static_cast<std::size_t>(path.size()) + (isAbstract ? 0 : 1));
-    const int descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (descriptor < 0) {
-        return false;
-    }
-    // The socket interface takes every kind of address through this one type.
-    const bool connected = connect(descriptor, reinterpret_cast<const sockaddr *>(&address), length) == 0;
-    close(descriptor);
-    return connected;
-}
 
 job::Problem unusableDisplay()
 {
@@ -82,41 +57,20 @@ void keepRemark(QtMsgType type, const QMessageLogContext & /*context*/, const QS
     remarks.emplace_back(type, text);
 }
 
-bool xServerAnswers(const QByteArray &display)
-{
-    const auto colon = display.lastIndexOf(':');
-    if (colon < 0) {
-        return false;
-    }
-    if (const QByteArray host = display.left(colon); !host.isEmpty() && host != "unix") {
-        return true;
-    }
-    const QByteArray number = display.mid(colon + 1).split('.').value(0);
-    const QByteArray path = "/tmp/.X11-unix/X" + number;
-    return takesConnection(path, false) || takesConnection(path, true);
-}
-
-bool waylandAnswers(const QByteArray &display)
-{
-    const QByteArray path = display.startsWith('/') ? display : qgetenv("XDG_RUNTIME_DIR") + '/' + display;
-    return takesConnection(path, false);
-}
-
 } // namespace
 
 job::Problem displayProblem()
 {
-    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    const bool isBlind = platform.startsWith("offscreen") || platform.startsWith("minimal");
-    const QByteArray xDisplay = qgetenv("DISPLAY");
-    const QByteArray waylandDisplay = qgetenv("WAYLAND_DISPLAY");
-    if (isBlind || (xDisplay.isEmpty() && waylandDisplay.isEmpty())) {
+    switch (dialog::checkDisplay()) {
+    case dialog::DisplayState::There:
+        return {};
+    case dialog::DisplayState::None:
         return {job::Problem::General, QStringLiteral("There is no display for the window: set DISPLAY, or print "
                                                       "without a window with --no-dialog.")};
+    case dialog::DisplayState::Silent:
+        break;
     }
-    const bool answers = (!xDisplay.isEmpty() && xServerAnswers(xDisplay)) ||
-                         (!waylandDisplay.isEmpty() && waylandAnswers(waylandDisplay));
-    return answers ? job::Problem() : unusableDisplay();
+    return unusableDisplay();
 }
 
 ToolkitStart::ToolkitStart(bool showsWindow, bool asJson)

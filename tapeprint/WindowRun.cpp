@@ -2,23 +2,19 @@
 // Opens what the command line names, shows the window, and says what became of the job.
 #include "tapeprint/WindowRun.h"
 
+#include "dialog/JobWindow.h"
 #include "dialog/PasswordQuestion.h"
-#include "dialog/PrintDialog.h"
 #include "dialog/Translations.h"
 #include "job/CustomValues.h"
 #include "job/DocumentSpool.h"
 #include "job/LastSettings.h"
-#include "job/Printing.h"
 #include "tapeprint/JsonReport.h"
 #include "tapeprint/OutputPath.h"
 
 #include <QEventLoop>
-#include <QLocale>
 #include <QTimer>
 
 #include <atomic>
-
-#include <pdekit/BundleLoading.h>
 
 namespace tapeprint
 {
@@ -62,22 +58,16 @@ RunReport runWindow(const CommandLine &line)
     // scripts read it.
     auto translations = std::make_optional<dialog::Translations>();
     const dialog::PasswordDesk passwords;
-    job::Job job;
-    job.setLanguages(QLocale().uiLanguages());
-    dialog::Panels panels(job, pdekit::bundleSearchPath());
-    if (destination) {
-        panels.open(std::move(*destination), request.options);
-    }
     const QString title = documents->title(request.title);
-    const auto print = [title, files = documents->files(), sources = documents->sources()](
-                           const job::SettledJob &settled, const job::PrintWatch &watch, job::Problem *reason) {
-        // The window may have been open for hours, and the document another one by now.
-        return job::areUnchanged(sources, reason) ? job::printJob(settled, title, files, watch, reason) : std::nullopt;
-    };
-    dialog::PrintDialog window(
-        job, panels,
-        {request, title, documents->files(), isQueue ? dialog::PrinterSource::server() : dialog::PrinterSource()},
-        print);
+    dialog::PrintDialog::Setup setup;
+    setup.request = request;
+    setup.title = title;
+    setup.files = documents->files();
+    setup.printers = isQueue ? dialog::PrinterSource::server() : dialog::PrinterSource();
+    dialog::JobWindow jobWindow(std::move(setup),
+                                dialog::JobWindow::printing(title, documents->files(), documents->sources()),
+                                std::move(destination));
+    dialog::PrintDialog &window = jobWindow.dialog();
     waitABit(window);
     QEventLoop untilClosed;
     QObject::connect(&window, &QDialog::finished, &untilClosed, &QEventLoop::quit);
@@ -92,7 +82,7 @@ RunReport runWindow(const CommandLine &line)
         return report;
     }
     report.data.insert(QStringLiteral("options"),
-                       jsonOptions(job::withoutSecrets(job.ppd(), job::settle(job).carried())));
+                       jsonOptions(job::withoutSecrets(jobWindow.job().ppd(), job::settle(jobWindow.job()).carried())));
     report.data.insert(QStringLiteral("job"), jsonJob(*window.printed()));
     if (!window.printed()->isKept) {
         report.messages.append(job::lastSettingsNotKept());

@@ -17,10 +17,23 @@ QString WindowUnderTest::open(Client client)
     if (const QString problem = openUnconnected(std::move(client)); !problem.isNull()) {
         return problem;
     }
+    return isConnected() ? QString() : QStringLiteral("The printer is not connected.");
+}
+
+bool WindowUnderTest::isConnected() const
+{
     // The title says in every language, by its dots, that something is waited for.
-    return waitUntil([this] { return !title().isEmpty() && !title().contains("\u2026"); })
-               ? QString()
-               : QStringLiteral("The printer is not connected.");
+    return waitUntil([this] { return !title().isEmpty() && !title().contains("\u2026"); });
+}
+
+QString WindowUnderTest::adopt(qint64 process, const QStringList &known)
+{
+    mProcess = process;
+    mIsAdopted = true;
+    mWindow = waitForWindowBeside(known);
+    return mWindow.isNull() ? QStringLiteral("There is no window.")
+           : isConnected()  ? QString()
+                            : QStringLiteral("The printer is not connected.");
 }
 
 QString WindowUnderTest::openUnconnected(Client client)
@@ -30,6 +43,7 @@ QString WindowUnderTest::openUnconnected(Client client)
     mProgram.setProcessEnvironment(clientEnvironment(client.variables));
     mProgram.setWorkingDirectory(client.folder);
     mProgram.start(client.program, client.arguments, QIODevice::ReadOnly);
+    mProcess = mProgram.processId();
     mWindow = waitForFurtherWindow();
     if (!mWindow.isNull()) {
         return {};
@@ -57,7 +71,7 @@ Outcome WindowUnderTest::waitForEnd()
 QStringList WindowUnderTest::windows() const
 {
     const QByteArray found = mDisplay.xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                               QStringLiteral("--pid"), QString::number(mProgram.processId())});
+                                               QStringLiteral("--pid"), QString::number(mProcess)});
     return QString::fromLatin1(found).split(u'\n', Qt::SkipEmptyParts);
 }
 
@@ -88,14 +102,20 @@ bool WindowUnderTest::giveKeysTo(const QString &window) const
 
 QString WindowUnderTest::waitForFurtherWindow()
 {
+    return waitForWindowBeside({mWindow});
+}
+
+QString WindowUnderTest::waitForWindowBeside(const QStringList &known)
+{
     QString further;
     waitUntil([&] {
         for (const QString &window : windows()) {
-            if (window != mWindow) {
+            if (!known.contains(window)) {
                 further = window;
             }
         }
-        return !further.isNull() || mProgram.waitForFinished(0) || mProgram.state() == QProcess::NotRunning;
+        const bool isGone = !mIsAdopted && (mProgram.waitForFinished(0) || mProgram.state() == QProcess::NotRunning);
+        return !further.isNull() || isGone;
     });
     return !further.isNull() && giveKeysTo(further) ? further : QString();
 }

@@ -39,6 +39,9 @@ public:
     QString open(Client client);
     /// The same, without waiting for the printer.
     QString openUnconnected(Client client);
+    /// Takes over the next window of a program that is running, whoever started it, once its printer is connected and
+    /// it has the keys. \param process its number; \param known windows of it that are others.
+    QString adopt(qint64 process, const QStringList &known = {});
     /// Waits for the program's end.
     Outcome waitForEnd();
 
@@ -70,9 +73,13 @@ public:
 
 private:
     bool giveKeysTo(const QString &window) const;
+    QString waitForWindowBeside(const QStringList &known);
+    bool isConnected() const;
 
     const PrivateDisplay &mDisplay;
     QProcess mProgram;
+    qint64 mProcess = 0;
+    bool mIsAdopted = false;
     QString mWindow;
 };
 

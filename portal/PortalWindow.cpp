@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: Apache-2.0
+// A panel's alert waits in a loop of its own, inside a call of the panel: nothing may be freed before that has
+// returned.
+#include "portal/PortalWindow.h"
+
+#include <QPushButton>
+#include <QThread>
+
+#include <utility>
+
+namespace tapeprint::portal
+{
+
+namespace
+{
+
+constexpr int lookMs = 20;
+
+} // namespace
+
+PortalWindow::PortalWindow(dialog::PrintDialog::Setup setup, dialog::PrintDialog::PrintAction print,
+                           const QString &parentWindow, bool isModal)
+    : mWindow(std::move(setup), std::move(print)), mParent(parentWindow)
+{
+    mDismissTimer.setInterval(lookMs);
+    mQuietTimer.setInterval(lookMs);
+    connect(&mDismissTimer, &QTimer::timeout, this, &PortalWindow::dismissNext);
+    connect(&mQuietTimer, &QTimer::timeout, this, &PortalWindow::deleteIfQuiet);
+    connect(&dialog(), &QDialog::finished, this, [this](int result) {
+        mDismissTimer.stop();
+        Q_EMIT closed(result == QDialog::Accepted);
+    });
+    // The document has no name by which a command could find it.
+    if (auto *command = dialog().findChild<QPushButton *>(QStringLiteral("showCommand"))) {
+        command->hide();
+    }
+    mParent.adopt(dialog(), isModal);
+    dialog().show();
+    dialog().raise();
+    dialog().activateWindow();
+}
+
+void PortalWindow::dismiss()
+{
+    dialog().hide();
+    mDismissTimer.start();
+}
+
+void PortalWindow::dismissNext()
+{
+    for (QDialog *over : dialog().findChildren<QDialog *>()) {
+        if (over->isVisible()) {
+            over->reject();
+            return; // the loop that waited for it ends first
+        }
+    }
+    dialog().reject(); // a job on its way is stopped by it; the window closes when that is done
+}
+
+void PortalWindow::deleteWhenQuiet()
+{
+    mQuietTimer.start();
+}
+
+void PortalWindow::deleteIfQuiet()
+{
+    if (QThread::currentThread()->loopLevel() <= 1) {
+        mQuietTimer.stop();
+        deleteLater();
+    }
+}
+
+} // namespace tapeprint::portal

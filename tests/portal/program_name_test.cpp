@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a program is called, and which windows it names.
+#include "portal/Conversation.h"
+#include "portal/ParentWindow.h"
+#include "portal/ProgramName.h"
+#include "tests/support/TextPrinting.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLocale>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using tapeprint::portal::headingFor;
+using tapeprint::portal::programName;
+using tapeprint::portal::x11WindowIn;
+
+class CallingProgram : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        QDir(data.path()).mkpath(u"applications"_qs);
+        before = qgetenv("XDG_DATA_HOME");
+        qputenv("XDG_DATA_HOME", data.path().toLocal8Bit());
+    }
+    void TearDown() override
+    {
+        qputenv("XDG_DATA_HOME", before);
+        QLocale::setDefault(QLocale::system());
+    }
+    void addEntry(const QString &identity, const QByteArray &text)
+    {
+        QFile file(data.filePath(u"applications/%1.desktop"_qs.arg(identity)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+
+    QTemporaryDir data;
+    QByteArray before;
+};
+
+TEST_F(CallingProgram, WithADesktopEntry_IsCalledAsItSaysInThePersonsLanguage)
+{
+    addEntry(u"org.example.Viewer"_qs, "[Desktop Action new]\nName=New Window\n[Desktop Entry]\nName=Viewer\n"
+                                       "Name[de]=Betrachter\n");
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    EXPECT_EQ(programName(u"org.example.Viewer"_qs), u"Viewer"_qs);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    EXPECT_EQ(programName(u"org.example.Viewer"_qs), u"Betrachter"_qs);
+}
+
+TEST_F(CallingProgram, WithoutAnEntry_IsCalledByItsIdentity)
+{
+    EXPECT_EQ(programName(u"org.example.Unknown"_qs), u"org.example.Unknown"_qs);
+    EXPECT_EQ(programName(QString()), QString());
+}
+
+TEST_F(CallingProgram, IdentityThatIsAPath_IsNotLookedFor)
+{
+    addEntry(u"inner"_qs, "[Desktop Entry]\nName=Reached\n");
+    EXPECT_EQ(programName(u"../applications/inner"_qs), u"../applications/inner"_qs);
+    EXPECT_EQ(programName(u"a\nb"_qs), u"a\\nb"_qs);
+}
+
+TEST_F(CallingProgram, TitleAndNameOfAnyLength_MakeAWindowsTitle)
+{
+    addEntry(u"org.example.Viewer"_qs, "[Desktop Entry]\nName=Viewer\n");
+    EXPECT_EQ(headingFor({u"org.example.Viewer"_qs, {}, u"Print label"_qs, true}), u"Print label – Viewer"_qs);
+    EXPECT_EQ(headingFor({{}, {}, {}, true}), u"Print"_qs);
+    EXPECT_LT(headingFor({QString(100000, u'a'), {}, QString(100000, u'b'), true}).size(), 250);
+    EXPECT_FALSE(headingFor({{}, {}, u"a\u202Eb"_qs, true}).contains(QChar(0x202E)));
+}
+
+TEST(ProgramsButton, HasItsLetterAndNoMarksOfOurOwn)
+{
+    using tapeprint::portal::buttonText;
+    EXPECT_EQ(buttonText(u"_Go & print"_qs), u"&Go && print"_qs);
+    EXPECT_EQ(buttonText(u"a__b"_qs), u"a_b"_qs);
+    EXPECT_EQ(buttonText(QString()), QString());
+    EXPECT_EQ(buttonText(QString(1000, u'x')).size(), 40);
+    EXPECT_FALSE(buttonText(u"\u202Eog"_qs).contains(QChar(0x202E)));
+}
+
+TEST(CallingWindow, OnlyAnX11NumberIsOne)
+{
+    EXPECT_EQ(x11WindowIn(u"x11:200003"_qs), std::optional<WId>(0x200003));
+    EXPECT_EQ(x11WindowIn(u"x11:ffffffff"_qs), std::optional<WId>(0xffffffff));
+    for (const QString &junk : {u""_qs, u"x11:"_qs, u"x11:0"_qs, u"x11:-1"_qs, u"x11:zz"_qs, u"x11:100000000"_qs,
+                                u"wayland:abc"_qs, u"200003"_qs}) {
+        EXPECT_EQ(x11WindowIn(junk), std::nullopt) << junk.toStdString();
+    }
+}
+
+} // namespace

@@ -1,0 +1,368 @@
+// SPDX-License-Identifier: Apache-2.0
+// The backend as the bus starts it, called as the desktop's portal calls it: what is answered to calls of every kind,
+// and when it leaves. There is no print server: the dialog is there without one.
+#include "tests/system/PortalSession.h"
+
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusPendingReply>
+#include <QDBusReply>
+#include <QDBusUnixFileDescriptor>
+#include <QDBusVariant>
+#include <QElapsedTimer>
+#include <QFileInfo>
+
+#include <array>
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace
+{
+
+using systemtest::backendName;
+using systemtest::portalPath;
+using systemtest::waitUntil;
+using systemtest::waitWithEvents;
+using systemtest::WindowUnderTest;
+
+using Reply = QDBusPendingReply<uint, QVariantMap>;
+
+constexpr uint done = 0;
+constexpr uint cancelled = 1;
+constexpr uint ended = 2;
+
+QDBusObjectPath handle(const QString &token)
+{
+    return QDBusObjectPath(portalPath + u"/request/1_1/"_qs + token);
+}
+
+class Backend : public systemtest::PortalSession
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_NO_FATAL_FAILURE(PortalSession::SetUp());
+        ASSERT_NO_FATAL_FAILURE(startSession(false));
+    }
+
+    Reply prepare(const QString &token, const QVariantMap &settings = {}, const QVariantMap &pageSetup = {},
+                  const QVariantMap &options = {})
+    {
+        return callBackend(u"PreparePrint"_qs, {QVariant::fromValue(handle(token)), u"org.example.Program"_qs,
+                                                QString(), u"Title"_qs, settings, pageSetup, options});
+    }
+    Reply print(const QString &token, int descriptor, const QVariantMap &options = {})
+    {
+        return callBackend(u"Print"_qs,
+                           {QVariant::fromValue(handle(token)), u"org.example.Program"_qs, QString(), u"Title"_qs,
+                            QVariant::fromValue(QDBusUnixFileDescriptor(descriptor)), options});
+    }
+    QDBusMessage closeRequest(const QString &token, const QDBusConnection &from)
+    {
+        const QDBusMessage call = QDBusMessage::createMethodCall(
+            backendName, handle(token).path(), u"org.freedesktop.impl.portal.Request"_qs, u"Close"_qs);
+        return from.call(call);
+    }
+    QDBusMessage closeRequest(const QString &token) { return closeRequest(token, *session); }
+    bool standsAt(const QString &token)
+    {
+        const QDBusMessage call = QDBusMessage::createMethodCall(
+            backendName, handle(token).path(), u"org.freedesktop.DBus.Introspectable"_qs, u"Introspect"_qs);
+        return session->call(call).arguments().value(0).toString().contains(u"impl.portal.Request"_qs);
+    }
+    /// The answer's first value; 99 when there is none.
+    static uint responseOf(Reply reply)
+    {
+        reply.waitForFinished();
+        return reply.isValid() ? reply.argumentAt<0>() : 99;
+    }
+    /// Whether one of the backend's descriptors is a pipe.
+    bool holds(const QString &pipe) const
+    {
+        const QDir descriptors(u"/proc/%1/fd"_qs.arg(backendProcess));
+        for (const QString &name : descriptors.entryList(QDir::System | QDir::Files | QDir::NoDotAndDotDot)) {
+            if (QFile::symLinkTarget(descriptors.filePath(name)).section(u'/', -1) == pipe) {
+                return true;
+            }
+        }
+        return false;
+    }
+    bool isAlive() { return bus.processOf(backendName) == backendProcess; }
+    /// Opens a dialog of the program, so that the backend runs.
+    void open(WindowUnderTest &window, const QStringList &known = {})
+    {
+        ASSERT_NO_FATAL_FAILURE(openDialog(window, known));
+        backendProcess = bus.processOf(backendName);
+    }
+
+    qint64 backendProcess = 0;
+    WindowUnderTest dialog{display};
+};
+
+TEST_F(Backend, Version_IsOne)
+{
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(backendName, portalPath, u"org.freedesktop.DBus.Properties"_qs, u"Get"_qs);
+    call << u"org.freedesktop.impl.portal.Print"_qs << u"version"_qs;
+    const QDBusReply<QDBusVariant> version = session->call(call);
+    ASSERT_TRUE(version.isValid()) << version.error().message().toStdString();
+    EXPECT_EQ(version.value().variant().toUInt(), 1U);
+}
+
+TEST_F(Backend, Escape_IsAnsweredAsThePersonsNo)
+{
+    Reply reply = prepare(u"one"_qs);
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    EXPECT_EQ(dialog.title(), "Title \u2013 org.example.Program");
+    EXPECT_TRUE(standsAt(u"one"_qs));
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(reply), cancelled);
+    EXPECT_TRUE(reply.argumentAt<1>().isEmpty());
+    EXPECT_TRUE(waitUntil([this] { return !standsAt(u"one"_qs) && dialog.windows().isEmpty(); }));
+}
+
+TEST_F(Backend, Close_EndsTheCallForItsCallerAlone)
+{
+    Reply reply = prepare(u"one"_qs);
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    {
+        const QDBusConnection stranger = QDBusConnection::connectToBus(bus.address(), u"stranger"_qs);
+        EXPECT_EQ(closeRequest(u"one"_qs, stranger).errorName(), u"org.freedesktop.DBus.Error.AccessDenied"_qs);
+    }
+    QDBusConnection::disconnectFromBus(u"stranger"_qs);
+    EXPECT_FALSE(reply.isFinished());
+    EXPECT_EQ(dialog.windows().size(), 1);
+    EXPECT_EQ(closeRequest(u"one"_qs).type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(responseOf(reply), ended);
+    EXPECT_TRUE(waitUntil([this] { return dialog.windows().isEmpty(); }));
+    // Once more: the object is gone.
+    EXPECT_EQ(closeRequest(u"one"_qs).type(), QDBusMessage::ErrorMessage);
+    EXPECT_TRUE(isAlive());
+}
+
+TEST_F(Backend, TwoRequests_HaveTwoWindowsAndEachItsOwnAnswer)
+{
+    Reply first = prepare(u"one"_qs);
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    Reply second = prepare(u"two"_qs);
+    WindowUnderTest other(display);
+    ASSERT_NO_FATAL_FAILURE(open(other, {dialog.window()}));
+    other.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(second), cancelled);
+    EXPECT_FALSE(first.isFinished());
+    EXPECT_TRUE(waitUntil([this] { return dialog.windows() == QStringList{dialog.window()}; }));
+    closeRequest(u"one"_qs);
+    EXPECT_EQ(responseOf(first), ended);
+}
+
+TEST_F(Backend, SameHandleTwice_TheSecondIsAnsweredAndTheFirstGoesOn)
+{
+    Reply first = prepare(u"one"_qs);
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    EXPECT_EQ(responseOf(prepare(u"one"_qs)), ended);
+    EXPECT_TRUE(standsAt(u"one"_qs));
+    EXPECT_TRUE(backendSays("busy already"));
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(first), cancelled);
+}
+
+TEST_F(Backend, ManyRequests_AreAnsweredAndNotAllShown)
+{
+    std::vector<Reply> replies;
+    for (int i = 0; i < 20; ++i) {
+        replies.push_back(prepare(u"many%1"_qs.arg(i)));
+    }
+    EXPECT_EQ(responseOf(replies.back()), ended);
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    EXPECT_EQ(dialog.windows().size(), 16);
+    for (int i = 0; i < 16; ++i) {
+        closeRequest(u"many%1"_qs.arg(i));
+        EXPECT_EQ(responseOf(replies[static_cast<std::size_t>(i)]), ended);
+    }
+    EXPECT_TRUE(waitUntil([this] { return dialog.windows().isEmpty(); }));
+    EXPECT_TRUE(isAlive());
+    // There is room for others again.
+    Reply another = prepare(u"another"_qs);
+    WindowUnderTest last(display);
+    ASSERT_NO_FATAL_FAILURE(open(last));
+    last.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(another), cancelled);
+}
+
+TEST_F(Backend, CallerThatDies_TakesItsWindowAlong)
+{
+    {
+        const QDBusConnection mortal = QDBusConnection::connectToBus(bus.address(), u"mortal"_qs);
+        QDBusMessage call = QDBusMessage::createMethodCall(backendName, portalPath,
+                                                           u"org.freedesktop.impl.portal.Print"_qs, u"PreparePrint"_qs);
+        call.setArguments({QVariant::fromValue(handle(u"one"_qs)), QString(), QString(), u"Title"_qs, QVariantMap(),
+                           QVariantMap(), QVariantMap()});
+        mortal.asyncCall(call);
+        ASSERT_NO_FATAL_FAILURE(open(dialog));
+    }
+    QDBusConnection::disconnectFromBus(u"mortal"_qs);
+    EXPECT_TRUE(waitUntil([this] { return dialog.windows().isEmpty() && !standsAt(u"one"_qs); }));
+    EXPECT_TRUE(isAlive());
+}
+
+TEST_F(Backend, JunkOfEveryKind_StillShowsTheDialog)
+{
+    QVariantMap settings{{u"n-copies"_qs, u"many"_qs},
+                         {u"printer"_qs, 7},
+                         {u"cups-"_qs, QString()},
+                         {u"cups-PageSize"_qs, QString(100000, u'x')},
+                         {QString(1000, u'k'), QStringList{u"a"_qs}},
+                         {u"page-ranges"_qs, u"\u202E1-\n"_qs},
+                         {u"output-uri"_qs, u"file:///tmp/portal-must-not-write-this"_qs}};
+    for (int i = 0; i < 2000; ++i) {
+        settings.insert(u"unknown%1"_qs.arg(i), i);
+    }
+    const QVariantMap pageSetup{{u"Width"_qs, u"wide"_qs}, {u"Height"_qs, qInf()}, {u"Orientation"_qs, 3.5}};
+    const QVariantMap options{
+        {u"modal"_qs, u"yes"_qs}, {u"accept_label"_qs, u"\u202E&<b>Go</b>"_qs}, {u"token"_qs, u"none"_qs}};
+    Reply reply = callBackend(u"PreparePrint"_qs,
+                              {QVariant::fromValue(handle(u"one"_qs)), u"../../etc/passwd"_qs, u"x11:ffffffff"_qs,
+                               QString(50000, u'T') + u"\n\u202E"_qs, settings, pageSetup, options});
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    EXPECT_LT(dialog.title().size(), 400);
+    EXPECT_FALSE(dialog.title().contains("\u202E"));
+    EXPECT_TRUE(backendSays("is of another type"));
+    EXPECT_TRUE(backendSays("2002 setting(s) left out"));
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(reply), cancelled);
+    EXPECT_FALSE(QFileInfo::exists(u"/tmp/portal-must-not-write-this"_qs));
+}
+
+TEST_F(Backend, CallsWithOtherArguments_AreAnsweredWithAnError)
+{
+    const Reply none = callBackend(u"PreparePrint"_qs, {});
+    QDBusPendingReply<> wait(none);
+    wait.waitForFinished();
+    EXPECT_TRUE(wait.isError());
+    QDBusPendingReply<> wrong(callBackend(u"Print"_qs, {u"no path"_qs, 1, 2, 3, 4, 5}));
+    wrong.waitForFinished();
+    EXPECT_TRUE(wrong.isError());
+    QDBusPendingReply<> unknown(callBackend(u"Preview"_qs, {}));
+    unknown.waitForFinished();
+    EXPECT_TRUE(unknown.isError());
+    EXPECT_NE(bus.processOf(backendName), 0);
+}
+
+TEST_F(Backend, DescriptorsThatAreNoDocument_AreAnsweredAndThePersonIsTold)
+{
+    const int root = ::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    EXPECT_EQ(responseOf(print(u"folder"_qs, root)), ended);
+    ::close(root);
+    const int empty = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+    EXPECT_EQ(responseOf(print(u"device"_qs, empty)), ended);
+    ::close(empty);
+    ASSERT_NO_FATAL_FAILURE(open(dialog)); // a sentence for each
+    EXPECT_EQ(dialog.windows().size(), 2);
+    EXPECT_TRUE(backendSays("is not printed"));
+    EXPECT_TRUE(isAlive());
+}
+
+TEST_F(Backend, PipeThatNeverEnds_IsEndedByClose)
+{
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
+    Reply reply = print(u"one"_qs, ends[0]);
+    const QString pipe = QFile::symLinkTarget(u"/proc/self/fd/%1"_qs.arg(ends[0])).section(u'/', -1);
+    EXPECT_TRUE(waitUntil([this] { return standsAt(u"one"_qs); }));
+    backendProcess = bus.processOf(backendName);
+    EXPECT_TRUE(holds(pipe));
+    EXPECT_FALSE(reply.isFinished());
+    closeRequest(u"one"_qs);
+    EXPECT_EQ(responseOf(reply), ended);
+    ::close(ends[0]);
+    ::close(ends[1]);
+    EXPECT_TRUE(waitUntil([this, &pipe] { return !holds(pipe); }));
+}
+
+TEST_F(Backend, WithoutAWritableHomeAndTemporaryFolder_ShowsTheDialogAndSaysWhyNothingIsPrinted)
+{
+    // The bus that is there was started with other variables.
+    QProcess program;
+    moreOfSession = {{u"HOME"_qs, u"/proc"_qs}, {u"TMPDIR"_qs, u"/proc"_qs}, {u"XDG_CONFIG_HOME"_qs, u"/proc"_qs}};
+    ASSERT_NO_FATAL_FAILURE(startProgram(program, QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint-portal"), {}));
+    ASSERT_TRUE(waitUntil([this] { return bus.processOf(backendName) != 0; }));
+    Reply asked = prepare(u"one"_qs);
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(asked), cancelled);
+    const int file = ::open(document.toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC);
+    EXPECT_EQ(responseOf(print(u"two"_qs, file)), ended);
+    ::close(file);
+    WindowUnderTest sentence(display);
+    ASSERT_NO_FATAL_FAILURE(open(sentence, {dialog.window()}));
+    systemtest::endProcess(program);
+    EXPECT_TRUE(program.readAllStandardError().contains("is not printed"));
+}
+
+TEST_F(Backend, TokenThatIsNone_ShowsTheDialogWithTheDocument)
+{
+    const int file = ::open(document.toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC);
+    Reply reply = print(u"one"_qs, file, {{u"token"_qs, 4711U}});
+    ::close(file);
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    EXPECT_TRUE(backendSays("the dialog is shown"));
+    // Its copy of the document is for nobody else, and goes with the window.
+    const QString temporary = this->folder.path(u"tmp"_qs);
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(reply), cancelled);
+    EXPECT_TRUE(waitUntil([&] {
+        return QDir(temporary).entryList({u"tapeprint-*"_qs}, QDir::Dirs).isEmpty() ||
+               QDir(temporary + u'/' + QDir(temporary).entryList({u"tapeprint-*"_qs}, QDir::Dirs).value(0)).isEmpty();
+    }));
+}
+
+TEST_F(Backend, IdleForAWhile_Leaves)
+{
+    // By hand, with less patience than the bus's.
+    QProcess program;
+    ASSERT_NO_FATAL_FAILURE(
+        startProgram(program, QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint-portal"), {u"--idle"_qs, u"1"_qs}));
+    ASSERT_TRUE(waitUntil([this] { return bus.processOf(backendName) != 0; }));
+    Reply reply = prepare(u"one"_qs);
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    EXPECT_FALSE(program.waitForFinished(1500)); // a window stands open
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(reply), cancelled);
+    ASSERT_TRUE(program.waitForFinished(5000));
+    EXPECT_EQ(program.exitCode(), 0);
+}
+
+TEST_F(Backend, Sigterm_EndsItAndItsWindow)
+{
+    Reply reply = prepare(u"one"_qs);
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    ASSERT_EQ(::kill(static_cast<pid_t>(backendProcess), SIGTERM), 0);
+    EXPECT_EQ(responseOf(reply), 99U); // the bus says that nobody answers any more
+    EXPECT_TRUE(waitUntil([this] { return bus.processOf(backendName) == 0; }));
+}
+
+TEST_F(Backend, WithoutBusOrDisplayOrWithAnotherInItsPlace_SaysWhyAndEnds)
+{
+    const auto run = [this](std::vector<std::pair<QString, QString>> changed) {
+        auto variables = sessionVariables();
+        variables.insert(variables.end(), changed.begin(), changed.end());
+        return systemtest::runClient({QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint-portal"), {}, variables});
+    };
+    const auto noBus = run({{u"DBUS_SESSION_BUS_ADDRESS"_qs, u"unix:path=/nonexistent"_qs}});
+    EXPECT_EQ(noBus.status, 1);
+    EXPECT_TRUE(noBus.messages.contains("no session bus")) << noBus.messages.toStdString();
+    const auto noDisplay = run({{u"DISPLAY"_qs, QString()}});
+    EXPECT_EQ(noDisplay.status, 1);
+    EXPECT_TRUE(noDisplay.messages.contains("no display")) << noDisplay.messages.toStdString();
+    const auto deadDisplay = run({{u"DISPLAY"_qs, u":987"_qs}});
+    EXPECT_EQ(deadDisplay.status, 1);
+    EXPECT_TRUE(deadDisplay.messages.contains("cannot be used")) << deadDisplay.messages.toStdString();
+    ASSERT_TRUE(session->registerService(backendName));
+    const auto second = run({});
+    EXPECT_EQ(second.status, 1);
+    EXPECT_TRUE(second.messages.contains("another one has it")) << second.messages.toStdString();
+}
+
+} // namespace
