@@ -97,7 +97,7 @@ QString paperOfSize(const QSizeF &sizeMm, ppd_file_t *ppd)
         return {};
     }
     for (const ppd_size_t &size : std::span(ppd->sizes, static_cast<std::size_t>(std::max(ppd->num_sizes, 0)))) {
-        const QString name = QString::fromUtf8(size.name);
+        QString name = QString::fromUtf8(size.name);
         const bool isSame =
             std::abs(job::mmFromPoints(static_cast<double>(size.width)) - sizeMm.width()) < samePaperMm &&
             std::abs(job::mmFromPoints(static_cast<double>(size.length)) - sizeMm.height()) < samePaperMm;
