@@ -20,8 +20,9 @@ namespace
 {
 
 constexpr int portionMs = 15;
-/// A form is laid out anew with each row that it gets: one of hundreds is made of several.
-constexpr int mostRowsOfAForm = 40;
+/// A form is laid out anew with each row that it gets: one of hundreds is made of several, each in a widget of its own.
+/// Layouts within a layout are all laid out anew together.
+constexpr int mostRowsOfAForm = 20;
 
 /// Keywords of options that others show: the dialog's own controls, and the panels, which show the tape's length and
 /// margin whether they announce them or not.
@@ -96,18 +97,20 @@ void OptionsPage::makeRow()
         sections->insertWidget(sections->count() - 1, box); // above the stretch
     }
     if (mNextOption % mostRowsOfAForm == 0) {
-        mForm = new QFormLayout;
+        auto *rows = new QWidget(mSection->parentWidget());
+        mForm = new QFormLayout(rows);
+        mForm->setContentsMargins({});
         mForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
         mForm->setRowWrapPolicy(QFormLayout::WrapLongRows);
-        mSection->addLayout(mForm);
+        mSection->addWidget(rows);
     }
     const job::OfferedOption &option = group.options[mNextOption];
-    auto *row = new OptionRow(option, mUnit, mSection->parentWidget());
+    auto *row = new OptionRow(option, mUnit, mForm->parentWidget());
     connect(row, &OptionRow::picked, this, &OptionsPage::picked);
     // A screen reader calls a check box by its own text; the option's name is that of the group of them.
     row->setAccessibleName(option.text);
     auto *label = plainLabel(tr("%1:", "name of an option").arg(option.text), row->firstControl());
-    label->setParent(mSection->parentWidget());
+    label->setParent(mForm->parentWidget());
     mForm->addRow(label, row);
     // The page may be in the window already, where a new control would come last.
     QWidget *before = mRows.empty() ? nullptr : focusable(mRows.back()).back();

@@ -172,6 +172,9 @@ void PrinterDesk::takeList(const std::optional<job::PrinterList> &printers, cons
     mReadTimer.start();
     const bool wasSilent = !mServerProblem.isNull();
     if (printers ? !wasSilent && printers == mPrinters : problem.sentence == mServerProblem.sentence) {
+        if (printers && mOpenProblem.kind == job::Problem::Unreachable) {
+            openWhatTheServerAllows(); // it has failed at that alone
+        }
         return; // as a rule
     }
     mServerProblem = problem;

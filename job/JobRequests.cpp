@@ -87,7 +87,7 @@ std::optional<JobStatus> readJob(const ServerConnection &server, const QString &
 {
     ipp_t *request = aboutJob(IPP_OP_GET_JOB_ATTRIBUTES, jobId);
     askFor(request, jobAttributes);
-    const Response job(cupsDoRequest(server.http(), request, "/"));
+    const Response job = askServer(server, request);
     ipp_attribute_t *state = ippFindAttribute(job.get(), "job-state", IPP_TAG_ENUM);
     if (state == nullptr) {
         return std::nullopt;
@@ -101,7 +101,7 @@ std::optional<JobStatus> readJob(const ServerConnection &server, const QString &
 
     request = aboutPrinter(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
     askFor(request, printerAttributes);
-    const Response printer(cupsDoRequest(server.http(), request, "/"));
+    const Response printer = askServer(server, request);
     status.isStopped = numberIn(printer, "printer-state", IPP_TAG_ENUM, IPP_PSTATE_IDLE) == IPP_PSTATE_STOPPED;
     status.printerReasons = wordsIn(printer, "printer-state-reasons");
     status.printerMessage = wordsIn(printer, "printer-state-message").join(u' ');
@@ -141,7 +141,7 @@ std::optional<std::vector<int>> emptyJobs(const ServerConnection &server, const 
     ippAddBoolean(request, IPP_TAG_OPERATION, "my-jobs", 1);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, "not-completed");
     askFor(request, attributes);
-    const Response response(cupsDoRequest(server.http(), request, "/"));
+    const Response response = askServer(server, request);
     if (!isAccepted(response.get())) {
         return std::nullopt;
     }

@@ -2,6 +2,7 @@
 // What is asked of the print server about one job: how it is, that it may print, that it may not.
 #pragma once
 
+#include "job/IppQuestion.h"
 #include "job/JobOptions.h"
 #include "job/ServerConnection.h"
 
@@ -16,11 +17,6 @@
 
 namespace tapeprint::job
 {
-
-struct ResponseDeleter {
-    void operator()(ipp_t *response) const { ippDelete(response); }
-};
-using Response = std::unique_ptr<ipp_t, ResponseDeleter>;
 
 /// Whether a response says that the request was carried out. libcups's last error does not: where the connection broke
 /// it may still be that of the request before. \param response null when there was none.

@@ -2,6 +2,7 @@
 // One request for all printers. Of each only what a list shows is asked for: five hundred come within milliseconds.
 #include "job/PrinterList.h"
 
+#include "job/IppQuestion.h"
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
@@ -28,11 +29,6 @@ constexpr std::array attributesOfAPrinter{"printer-name",
                                           "printer-config-change-time"};
 
 constexpr int networkLookMs = 2000;
-
-struct ResponseDeleter {
-    void operator()(ipp_t *response) const { ippDelete(response); }
-};
-using Response = std::unique_ptr<ipp_t, ResponseDeleter>;
 
 PrinterState stateOf(int value)
 {
@@ -248,7 +244,7 @@ std::optional<PrinterList> readPrinters(const std::atomic<bool> *stop, Problem *
     ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(attributesOfAPrinter.size()), nullptr, attributesOfAPrinter.data());
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    const Response response(cupsDoRequest(server->http(), request, "/"));
+    const Response response = askServer(*server, request);
     // A server without a single printer says that it found none.
     if (response && ippGetStatusCode(response.get()) == IPP_STATUS_ERROR_NOT_FOUND) {
         return PrinterList();

@@ -2,6 +2,7 @@
 // Print queues through libcups: the server, the saved options of the person, PPDs of local and remote queues.
 #include "job/Printers.h"
 
+#include "job/IppQuestion.h"
 #include "job/MemoryFile.h"
 #include "job/PlainText.h"
 #include "job/SavedDestinations.h"
@@ -76,11 +77,6 @@ PrintQueue queueFrom(const cups_dest_t &destination)
     return queue;
 }
 
-struct ResponseDeleter {
-    void operator()(ipp_t *response) const { ippDelete(response); }
-};
-using Response = std::unique_ptr<ipp_t, ResponseDeleter>;
-
 /// A default of the server as libcups writes it among a destination's options.
 QString defaultText(ipp_attribute_t *attribute)
 {
@@ -92,8 +88,7 @@ QString defaultText(ipp_attribute_t *attribute)
     return QString::fromUtf8(text.data());
 }
 
-/// Asks the server for some of what it knows of a queue. All of it would be a thousand values, of which libcups reads
-/// each by itself.
+/// Asks the server for some of what it knows of a queue.
 Response askAbout(const ServerConnection &server, const QString &queue, std::span<const char *const> attributes)
 {
     std::array<char, HTTP_MAX_URI> uri{};
@@ -103,7 +98,7 @@ Response askAbout(const ServerConnection &server, const QString &queue, std::spa
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
     ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(attributes.size()), nullptr, attributes.data());
-    return Response(cupsDoRequest(server.http(), request, "/"));
+    return askServer(server, request);
 }
 
 /// Asks the server for what it knows of the queue alone. What it adds to every job by itself is taken away: only what

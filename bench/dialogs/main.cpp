@@ -200,14 +200,17 @@ int main(int argc, char **argv)
             give(problem);
         }
     }
-    Variables variables{{"DISPLAY", display.name().toStdString()},
+    // A program without a window is told of the server alone: which platform it takes is its own affair.
+    Variables variables;
+    for (const auto &[name, value] : cups.clientVariables()) {
+        variables.emplace_back(name.toStdString(), value.toStdString());
+    }
+    Variables onDisplay{{"DISPLAY", display.name().toStdString()},
                         {"GDK_BACKEND", "x11"},
                         {"QT_QPA_PLATFORM", "xcb"},
                         {"GSETTINGS_BACKEND", "memory"},
                         {"NO_AT_BRIDGE", "1"}};
-    for (const auto &[name, value] : cups.clientVariables()) {
-        variables.emplace_back(name.toStdString(), value.toStdString());
-    }
+    onDisplay.insert(onDisplay.end(), variables.begin(), variables.end());
     bench::ScreenWatch screen(display.name().toStdString());
 
     const std::string folder = QCoreApplication::applicationDirPath().toStdString();
@@ -221,7 +224,7 @@ int main(int argc, char **argv)
         addQueues(cups, made, queues);
         made = std::max(made, queues);
         const std::vector<Figures> figures =
-            measure(dialogs, asked.runs, [&](const Program &program) { return show(program, variables, screen); });
+            measure(dialogs, asked.runs, [&](const Program &program) { return show(program, onDisplay, screen); });
         std::printf("%d queue%s, medians of %d runs:\n", queues, queues == 1 ? "" : "s", asked.runs);
         printFigures(dialogs, figures);
         const std::vector<GoalLine> lines = ratios(queues, figures[0], figures[1]);

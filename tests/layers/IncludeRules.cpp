@@ -28,9 +28,9 @@ struct Room {
 };
 
 // "cups/ppd.h" is a PPD's records alone, which the plug-in borrows; "cups/" is all of CUPS, queues and jobs included.
-const std::array<Room, 11> &rooms()
+const std::array<Room, 12> &rooms()
 {
-    static const std::array<Room, 11> table = {{
+    static const std::array<Room, 12> table = {{
         {"tapeprint", {"dialog", "job", "pdekit"}, {"cups/"}},
         {"portal", {"dialog", "job", "pdekit"}, {"cups/ppd.h"}},
         {"dialog", {"job", "pdekit"}, {"cups/"}},
