@@ -215,7 +215,8 @@ void Panels::tell(const QString &key, const QString &choice)
     }
     const QScopedValueRollback telling(mIsTelling, true);
     for (std::size_t told = 0; !mToTell.empty(); ++told) {
-        const auto [changedKey, newChoice] = mToTell.front();
+        const QString changedKey = mToTell.front().first;
+        const QString newChoice = mToTell.front().second;
         mToTell.pop_front();
         if (told == mostChangesInARow) {
             mCalls.tell(tr("Panels change %1 without end, %2 among them: it is printed as it stands.")
