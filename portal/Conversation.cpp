@@ -21,10 +21,10 @@ constexpr qsizetype mostCharacters = 128;
 /// The value of an option; invalid when it is missing or of another type.
 QVariant valueIn(const QVariantMap &options, const QString &key, QMetaType::Type type)
 {
-    const QVariant value = options.value(key);
+    QVariant value = options.value(key);
     if (value.isValid() && value.userType() != type) {
         qCWarning(portalLog) << "the option" << key << "is of another type, and counts as missing";
-        return {};
+        value.clear();
     }
     return value;
 }
@@ -48,8 +48,8 @@ QString headingFor(const Caller &caller)
 
 QString buttonText(const QString &label)
 {
-    constexpr qsizetype most = 40;                                // it stands in a row of others
-    const QString mark(QChar(QChar::ObjectReplacementCharacter)); // for what is no key: none of it is in the label then
+    constexpr qsizetype most = 40;                        // it stands in a row of others
+    const QChar mark = QChar::ObjectReplacementCharacter; // for what is no key: none of it is in the label then
     QString text = job::harmless(label.left(most)).remove(mark);
     text.replace(u'&', QLatin1String("&&")).replace(QLatin1String("__"), mark);
     return text.replace(u'_', u'&').replace(mark, QLatin1String("_"));

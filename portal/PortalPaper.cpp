@@ -39,12 +39,6 @@ constexpr std::array orientations{
     Turned{QLatin1String("reverse_portrait"), QLatin1String("6"), job::Turn::Half},
 };
 
-/// A key of our own, which programs that keep their settings bring back: whether somebody chose how the pages are
-/// turned.
-const QString ownTurn = QStringLiteral("tapeprint-turn");
-const QString automatic = QStringLiteral("automatic");
-const QString byPerson = QStringLiteral("chosen");
-
 bool isLength(double mm)
 {
     return std::isfinite(mm) && mm > 0.0 && mm < longestMm;
@@ -57,20 +51,11 @@ double numberIn(const QVariant &value)
     return isNumber ? number : 0.0;
 }
 
-/// How the program is to turn its pages. Where nobody chose, lines run along the tape, as they do when we set them.
-job::Turn turnOfPages(const job::SettledJob &job)
-{
-    const job::Turn chosen = job::layoutChoicesOf(job.options).turn;
-    if (chosen != job::Turn::Automatic) {
-        return chosen;
-    }
-    const bool lies = job.page.isTape && job.page.sizePt.height() > job.page.sizePt.width();
-    return lies ? job::Turn::Left : job::Turn::None;
-}
-
+/// Pages that nobody turned stand, as programs say it that were not asked: some viewers turn pages by themselves, and
+/// then draw beside a page that lies.
 QString orientationOf(const job::SettledJob &job)
 {
-    const job::Turn turn = turnOfPages(job);
+    const job::Turn turn = job::layoutChoicesOf(job.options).turn;
     const auto found = std::find_if(orientations.begin(), orientations.end(),
                                     [turn](const Turned &turned) { return turned.turn == turn; });
     return found == orientations.end() ? QString(orientations.front().word) : QString(found->word);
@@ -112,7 +97,7 @@ QString paperOfSize(const QSizeF &sizeMm, ppd_file_t *ppd)
         return {};
     }
     for (const ppd_size_t &size : std::span(ppd->sizes, static_cast<std::size_t>(std::max(ppd->num_sizes, 0)))) {
-        const QString name = QString::fromUtf8(size.name);
+        QString name = QString::fromUtf8(size.name);
         const bool isSame =
             std::abs(job::mmFromPoints(static_cast<double>(size.width)) - sizeMm.width()) < samePaperMm &&
             std::abs(job::mmFromPoints(static_cast<double>(size.length)) - sizeMm.height()) < samePaperMm;
@@ -127,9 +112,6 @@ QString askedTurn(const QVariantMap &settings, const QVariantMap &pageSetup)
 {
     const QString setup = pageSetup.value(QStringLiteral("Orientation")).toString();
     const QString orientation = setup.isEmpty() ? settings.value(QStringLiteral("orientation")).toString() : setup;
-    if (settings.value(ownTurn) == automatic) {
-        return {};
-    }
     const auto found = std::find_if(orientations.begin(), orientations.end(),
                                     [&orientation](const Turned &turned) { return orientation == turned.word; });
     return found == orientations.end() || found->turn == job::Turn::None ? QString() : QString(found->option);
@@ -163,7 +145,6 @@ QVariantMap pageSetupOf(const job::SettledJob &job)
 QVariantMap paperSettings(const job::SettledJob &job)
 {
     QVariantMap settings{{QStringLiteral("orientation"), orientationOf(job)}};
-    settings.insert(ownTurn, job::layoutChoicesOf(job.options).turn == job::Turn::Automatic ? automatic : byPerson);
     if (!job.page.isEmpty()) {
         const QSizeF size = sizeMmOf(job);
         settings.insert(QStringLiteral("paper-format"), QLatin1String("custom-") + paperName(job));

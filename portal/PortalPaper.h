@@ -20,7 +20,7 @@ QSizeF paperSizeMm(const QVariantMap &settings, const QVariantMap &pageSetup);
 QString paperOfSize(const QSizeF &sizeMm, ppd_file_t *ppd);
 
 /// The value of orientation-requested that a program asks with; empty for pages that stand, which is what programs say
-/// that were not asked, for pages that we turned by ourselves, and for words that mean nothing.
+/// that were not asked, and for words that mean nothing.
 QString askedTurn(const QVariantMap &settings, const QVariantMap &pageSetup);
 
 /// The page setup of a job: names, size, margins, and how it is turned.

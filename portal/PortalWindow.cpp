@@ -15,6 +15,7 @@ namespace
 {
 
 constexpr int lookMs = 20;
+constexpr int waitMs = 250;
 
 } // namespace
 
@@ -35,6 +36,19 @@ PortalWindow::PortalWindow(dialog::PrintDialog::Setup setup, dialog::PrintDialog
         command->hide();
     }
     mParent.adopt(dialog(), isModal);
+    // A printer that opens at once is there when the window comes up, which then has its size.
+    mShowTimer.setSingleShot(true);
+    connect(&mShowTimer, &QTimer::timeout, this, &PortalWindow::show);
+    connect(&dialog(), &dialog::PrintDialog::settled, &mShowTimer, [this] {
+        if (mShowTimer.isActive()) {
+            mShowTimer.start(0);
+        }
+    });
+    mShowTimer.start(dialog().isSettled() ? 0 : waitMs);
+}
+
+void PortalWindow::show()
+{
     dialog().show();
     dialog().raise();
     dialog().activateWindow();
@@ -42,6 +56,7 @@ PortalWindow::PortalWindow(dialog::PrintDialog::Setup setup, dialog::PrintDialog
 
 void PortalWindow::dismiss()
 {
+    mShowTimer.stop();
     dialog().hide();
     mDismissTimer.start();
 }

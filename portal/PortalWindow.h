@@ -33,11 +33,13 @@ Q_SIGNALS:
     void closed(bool isAccepted);
 
 private:
+    void show();
     void dismissNext();
     void deleteIfQuiet();
 
     dialog::JobWindow mWindow;
     ParentWindow mParent;
+    QTimer mShowTimer;
     QTimer mDismissTimer;
     QTimer mQuietTimer;
 };

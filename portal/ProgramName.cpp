@@ -38,7 +38,7 @@ QString nameIn(const QStringList &lines)
     const QString locale = QLocale().name(); // de_DE
     for (const QString &key : {QStringLiteral("Name[%1]").arg(locale),
                                QStringLiteral("Name[%1]").arg(locale.section(u'_', 0, 0)), QStringLiteral("Name")}) {
-        if (const QString name = valueOf(lines, key); !name.isEmpty()) {
+        if (QString name = valueOf(lines, key); !name.isEmpty()) {
             return name;
         }
     }

