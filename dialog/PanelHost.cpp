@@ -41,7 +41,7 @@ ppd_file_t *PanelHost::ppdFile()
 
 bool PanelHost::willChangePPDOptionKeyValue(const QString &key, const QString &choice)
 {
-    return mJob != nullptr && mJob->takeChoice(key, choice);
+    return mPanels != nullptr && mPanels->takeChoice(key, choice, mBundlePath);
 }
 
 void PanelHost::panelViewDidResize()

@@ -2,6 +2,10 @@
 // The dialog's side of the panel protocol: hands the job's objects to panels and takes their choices.
 #pragma once
 
+#include <QString>
+
+#include <utility>
+
 #include <pdekit/PanelProtocol.h>
 
 namespace tapeprint::job
@@ -14,12 +18,16 @@ namespace tapeprint::dialog
 
 class Panels;
 
-/// What panels hold of the dialog. A panel may outlive the dialog by a moment: once detached, it answers null and takes
-/// nothing.
+/// What the panels of one bundle hold of the dialog. A panel may outlive the dialog by a moment: once detached, it
+/// answers null and takes nothing.
 class PanelHost final : public pdekit::PanelCallback, public pdekit::PanelViewResizing
 {
 public:
-    PanelHost(job::Job &job, Panels &panels) : mJob(&job), mPanels(&panels) {}
+    /// \param bundlePath names the sender of choices.
+    PanelHost(job::Job &job, Panels &panels, QString bundlePath)
+        : mJob(&job), mPanels(&panels), mBundlePath(std::move(bundlePath))
+    {
+    }
 
     /// The job's objects go away.
     void detach();
@@ -36,6 +44,7 @@ public:
 private:
     job::Job *mJob;  ///< not owned
     Panels *mPanels; ///< not owned
+    QString mBundlePath;
 };
 
 } // namespace tapeprint::dialog

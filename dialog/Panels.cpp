@@ -2,7 +2,15 @@
 // The traffic with panels. Panels borrow the job's objects, so they always go first.
 #include "dialog/Panels.h"
 
+#include "job/IppAttributeNames.h"
 #include "job/PlainText.h"
+#include "job/PpdMarks.h"
+#include "job/Reason.h"
+
+#include <QFileInfo>
+#include <QScopedValueRollback>
+
+#include <algorithm>
 
 #include <pdekit/NotificationCenter.h>
 
@@ -14,22 +22,47 @@ namespace
 
 /// Panels that correct one another's values never come to an end by themselves.
 constexpr std::size_t mostChangesInARow = 1000;
+/// So much of a panel's text is shown in a sentence.
+constexpr qsizetype mostShown = 60;
 
 /// The notice about a view at the end of a change of its areas.
 const QString areasChangedNotice = QStringLiteral("NSViewDidUpdateTrackingAreasNotification");
+
+/// Whether a text can be an option's keyword in a job: printable ASCII, and nothing that ends it.
+bool isKeyword(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar letter) {
+        return letter > u' ' && letter < QChar(0x7F) && !QStringView(u"=\"'{}\\").contains(letter);
+    });
+}
+
+bool hasControlCharacters(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar letter) { return letter.category() == QChar::Other_Control; });
+}
+
+/// The panels of all windows of the program.
+std::vector<Panels *> &allPanels()
+{
+    static std::vector<Panels *> all;
+    return all;
+}
 
 } // namespace
 
 Panels::Panels(job::Job &job, QStringList bundleFolders) : mJob(job), mBundleFolders(std::move(bundleFolders))
 {
-    // Every panel hears of every change, the sender of it too: a panel that takes its state from what the dialog
-    // reports stays right.
+    allPanels().push_back(this);
+    // Every panel hears of every change once, the sender of it too: a panel that takes its state from what the dialog
+    // reports stays right. A choice that it was told already is no change.
     connect(&mJob, &job::Job::optionChanged, this, &Panels::tell, Qt::DirectConnection);
 }
 
 Panels::~Panels()
 {
     release();
+    allPanels().erase(std::remove(allPanels().begin(), allPanels().end(), this), allPanels().end());
 }
 
 void Panels::release()
@@ -38,10 +71,11 @@ void Panels::release()
     mPanels.clear();
     mBundles.clear();
     // A view or a closure may still hold the callback: it answers null from now on.
-    if (mHost) {
-        mHost->detach();
-        mHost.reset();
+    for (const std::shared_ptr<PanelHost> &host : mHosts) {
+        host->detach();
     }
+    mHosts.clear();
+    mSenders.clear();
 }
 
 void Panels::open(job::Destination destination, const job::JobOptions &asked)
@@ -65,7 +99,7 @@ void Panels::reopen(const QString &instance, const job::JobOptions &saved, const
 
 void Panels::make()
 {
-    mHost = std::make_shared<PanelHost>(mJob, *this);
+    mCalls.forget();
     pdekit::LoadedBundles loaded = pdekit::loadBundles(mBundleFolders, mJob.ppd());
     for (const QString &problem : loaded.problems) {
         mNotices.append(job::harmless(problem));
@@ -77,14 +111,35 @@ void Panels::make()
         }
     }
     for (const pdekit::LoadedBundle &bundle : mBundles) {
-        const pdekit::PanelArray *panels = bundle.principal->PDEPanelsForType(pdekit::kPrinterModulePanelType, mHost);
-        if (panels == nullptr) {
-            mNotices.append(tr("The plug-in %1 could not make its panel: printing works without it.").arg(bundle.path));
-            continue;
+        makePanelsOf(bundle);
+    }
+}
+
+void Panels::makePanelsOf(const pdekit::LoadedBundle &bundle)
+{
+    const pdekit::BundleGuard guard(bundle.path, pdekit::BundleGuard::Step::MakingPanels);
+    if (!guard.reasonToSkip().isNull()) {
+        mNotices.append(tr("The plug-in %1 is not used: %2. Printing works without it.")
+                            .arg(bundle.path, job::reasonText(guard.reasonToSkip())));
+        return;
+    }
+    const auto host = mHosts.emplace_back(std::make_shared<PanelHost>(mJob, *this, bundle.path));
+    // A copy: the array is the plug-in's, and its panels are called before all of it is read. An empty one is an
+    // answer.
+    pdekit::PanelArray panels{nullptr};
+    mCalls.make(tr("The plug-in %1").arg(bundle.path), [&] {
+        if (const pdekit::PanelArray *made =
+                bundle.principal->PDEPanelsForType(pdekit::kPrinterModulePanelType, host)) {
+            panels = *made;
         }
-        for (const std::shared_ptr<pdekit::Panel> &panel : *panels) {
-            addPanel(panel, bundle.path);
-        }
+    });
+    const auto missing = std::remove(panels.begin(), panels.end(), nullptr);
+    if (missing != panels.end()) {
+        panels.erase(missing, panels.end());
+        mNotices.append(tr("The plug-in %1 could not make its panel: printing works without it.").arg(bundle.path));
+    }
+    for (const std::shared_ptr<pdekit::Panel> &panel : panels) {
+        addPanel(panel, bundle.path);
     }
 }
 
@@ -92,17 +147,53 @@ void Panels::addPanel(const std::shared_ptr<pdekit::Panel> &panel, const QString
 {
     PanelEntry entry;
     entry.panel = panel;
-    entry.name = panel->panelName();
-    panel->panelKind(); // asked for in the protocol's order; this dialog has no use for it
-    if (const QStringList *keys = panel->supportedPPDOptionKeys()) {
-        entry.supportedKeys = *keys;
+    entry.who = tr("The plug-in %1").arg(bundlePath);
+    mCalls.make(entry.who, [&] { entry.name = job::harmless(panel->panelName().simplified()); });
+    if (entry.name.isEmpty()) {
+        entry.name = QFileInfo(bundlePath).completeBaseName();
     }
-    entry.view = panel->panelView();
+    entry.who = tr("The panel \"%1\" of %2").arg(entry.name, bundlePath);
+    // The kind is asked for in the protocol's order; this dialog has no use for it.
+    mCalls.make(entry.who, [&] { panel->panelKind(); });
+    mCalls.make(entry.who, [&] {
+        if (const QStringList *keys = panel->supportedPPDOptionKeys()) {
+            entry.supportedKeys = *keys;
+        }
+    });
+    mCalls.make(entry.who, [&] { entry.view = panel->panelView(); });
     if (entry.view == nullptr) {
         mNotices.append(tr("The panel \"%1\" of %2 has no view: its values are printed as they are laid down.")
                             .arg(entry.name, bundlePath));
     }
     mPanels.push_back(std::move(entry));
+}
+
+bool Panels::takeThrow(const QObject *receiver, const QString &reason)
+{
+    for (Panels *panels : allPanels()) {
+        for (const PanelEntry &entry : panels->mPanels) {
+            for (const QObject *object = receiver; object != nullptr; object = object->parent()) {
+                if (object == entry.view) {
+                    panels->mCalls.tellThrown(entry.who, reason);
+                    return true;
+                }
+            }
+        }
+    }
+    return false;
+}
+
+bool Panels::takeChoice(const QString &key, const QString &choice, const QString &bundlePath)
+{
+    const bool isCarried = (job::findOption(mJob.ppd(), key) != nullptr || isKeyword(key)) &&
+                           !hasControlCharacters(choice) && mJob.takeChoice(key, choice);
+    if (isCarried) {
+        mSenders[key] = bundlePath;
+    } else {
+        mCalls.tell(tr("The plug-in %1 sent an option that no job can carry, which was left out: %2.")
+                        .arg(bundlePath, job::harmless((key + u'=' + choice).left(mostShown))));
+    }
+    return isCarried;
 }
 
 bool Panels::announced(const QString &key) const
@@ -122,29 +213,62 @@ void Panels::tell(const QString &key, const QString &choice)
     if (mIsTelling) {
         return;
     }
-    mIsTelling = true;
-    for (std::size_t told = 0; !mToTell.empty() && told < mostChangesInARow; ++told) {
+    const QScopedValueRollback telling(mIsTelling, true);
+    for (std::size_t told = 0; !mToTell.empty(); ++told) {
         const auto [changedKey, newChoice] = mToTell.front();
         mToTell.pop_front();
-        for (const PanelEntry &entry : mPanels) {
-            entry.panel->PPDOptionKeyValueDidChange(changedKey, newChoice);
+        if (told == mostChangesInARow) {
+            mCalls.tell(tr("Panels change %1 without end, %2 among them: it is printed as it stands.")
+                            .arg(changedKey, mSenders[changedKey]));
+            break;
+        }
+        for (PanelEntry &entry : mPanels) {
+            const auto known = entry.told.find(changedKey);
+            if (known == entry.told.end() || known->second != newChoice) {
+                entry.told[changedKey] = newChoice;
+                mCalls.make(entry.who, [&] { entry.panel->PPDOptionKeyValueDidChange(changedKey, newChoice); });
+            }
         }
     }
     mToTell.clear();
-    mIsTelling = false;
 }
 
 void Panels::show(std::size_t index)
 {
     if (index < mPanels.size()) {
-        mPanels[index].panel->willShow();
+        mCalls.make(mPanels[index].who, [&] { mPanels[index].panel->willShow(); });
+    }
+}
+
+bool Panels::mayHide(std::size_t index)
+{
+    bool mayHide = true;
+    if (index < mPanels.size()) {
+        mCalls.make(mPanels[index].who, [&] { mayHide = mPanels[index].panel->shouldHide(); });
+    }
+    return mayHide;
+}
+
+bool Panels::hasHelp(std::size_t index) const
+{
+    bool hasHelp = false;
+    if (index < mPanels.size() && dynamic_cast<pdekit::PanelHelp *>(mPanels[index].panel.get()) != nullptr) {
+        mCalls.make(mPanels[index].who, [&] { hasHelp = mPanels[index].panel->shouldShowHelp(); });
+    }
+    return hasHelp;
+}
+
+void Panels::showHelp(std::size_t index)
+{
+    if (auto *help = index < mPanels.size() ? dynamic_cast<pdekit::PanelHelp *>(mPanels[index].panel.get()) : nullptr) {
+        mCalls.make(mPanels[index].who, [&] { help->showHelp(); });
     }
 }
 
 void Panels::showAll()
 {
-    for (const PanelEntry &entry : mPanels) {
-        entry.panel->willShow();
+    for (std::size_t i = 0; i < mPanels.size(); ++i) {
+        show(i);
     }
 }
 
@@ -173,7 +297,20 @@ QStringList Panels::notices() const
             notices.append(replaced.sentence(mJob.ppd(), panelOf(replaced.carried.first)));
         }
     }
-    return notices;
+    for (const auto &[key, bundlePath] : mSenders) {
+        if (isOnlyInTheJob(key)) {
+            notices.append(tr("The plug-in %1 sends %2=%3, which the printer's description does not know.")
+                               .arg(bundlePath, key, mJob.options().value(key)));
+        }
+    }
+    return notices + mCalls.sentences();
+}
+
+bool Panels::isOnlyInTheJob(const QString &key) const
+{
+    const bool isKnown = job::findOption(mJob.ppd(), key) != nullptr || job::isIppJobAttribute(key) ||
+                         key == mJob.tape().lengthOption; // which goes to the printer by whatever description
+    return !isKnown && mJob.options().contains(key);
 }
 
 QStringList Panels::replacements(const job::JobOptions &asked) const
@@ -227,6 +364,9 @@ void Panels::apply(const job::Resolution &resolution)
 void Panels::tellPaperAgain()
 {
     if (const QString paper = mJob.options().value(job::OptionName::pageSize); !paper.isEmpty()) {
+        for (PanelEntry &entry : mPanels) {
+            entry.told.erase(job::OptionName::pageSize);
+        }
         tell(job::OptionName::pageSize, paper);
     }
 }
@@ -244,19 +384,30 @@ bool Panels::saveValues(job::Problem *error)
 {
     for (const PanelEntry &entry : mPanels) {
         QString reason;
-        if (!entry.panel->saveValuesAndReturnError(&reason)) {
-            *error = tr("The panel \"%1\" could not hand over its values: %2").arg(entry.name, reason);
+        bool isSaved = false;
+        mCalls.make(entry.who, [&] { isSaved = entry.panel->saveValuesAndReturnError(&reason); });
+        if (!isSaved) {
+            *error = failure(tr("%1 could not hand over its values").arg(entry.who), reason);
             return false;
         }
     }
     return true;
 }
 
+/// A sentence with the reason that a panel gives, or without one.
+QString Panels::failure(const QString &sentence, const QString &reason) const
+{
+    const QString text = job::reasonText(reason);
+    return (text.isEmpty() ? sentence : tr("%1: %2", "what failed, why").arg(sentence, text)) + u'.';
+}
+
 bool Panels::shouldPrint(QString *refusedBy)
 {
     for (const PanelEntry &entry : mPanels) {
-        if (!entry.panel->shouldPrint()) {
-            *refusedBy = entry.name;
+        bool mayPrint = false;
+        mCalls.make(entry.who, [&] { mayPrint = entry.panel->shouldPrint(); });
+        if (!mayPrint) {
+            *refusedBy = entry.who;
             return false;
         }
     }
@@ -271,8 +422,10 @@ bool Panels::revert(job::Problem *error)
     bool restored = true;
     for (const PanelEntry &entry : mPanels) {
         QString reason;
-        if (!entry.panel->restoreValuesAndReturnError(&reason)) {
-            *error = tr("The panel \"%1\" could not restore its values: %2").arg(entry.name, reason);
+        bool isRestored = false;
+        mCalls.make(entry.who, [&] { isRestored = entry.panel->restoreValuesAndReturnError(&reason); });
+        if (!isRestored) {
+            *error = failure(tr("%1 could not restore its values").arg(entry.who), reason);
             restored = false;
         }
     }
@@ -287,8 +440,12 @@ job::JobOptions Panels::currentOptions() const
     job::JobOptions options = mJob.options();
     for (const PanelEntry &entry : mPanels) {
         if (const auto *live = dynamic_cast<const pdekit::PanelLiveValues *>(entry.panel.get())) {
-            for (const auto &[key, choice] : live->currentValues()) {
-                options.set(key, choice);
+            std::vector<std::pair<QString, QString>> values;
+            mCalls.make(entry.who, [&] { values = live->currentValues(); });
+            for (const auto &[key, choice] : values) {
+                if (isKeyword(key) && !key.isEmpty() && !choice.isEmpty()) {
+                    options.set(key, choice);
+                }
             }
         }
     }
@@ -299,7 +456,8 @@ std::vector<PanelSummary> Panels::summary() const
 {
     std::vector<PanelSummary> summaries;
     for (const PanelEntry &entry : mPanels) {
-        const std::optional<QVariantMap> info = entry.panel->summaryInfo();
+        std::optional<QVariantMap> info;
+        mCalls.make(entry.who, [&] { info = entry.panel->summaryInfo(); });
         if (!info) {
             continue;
         }
@@ -322,7 +480,7 @@ std::vector<PanelSummary> Panels::summary() const
 void Panels::windowWillClose(bool userPrinted)
 {
     for (const PanelEntry &entry : mPanels) {
-        entry.panel->printWindowWillClose(userPrinted);
+        mCalls.make(entry.who, [&] { entry.panel->printWindowWillClose(userPrinted); });
     }
 }
 

@@ -50,11 +50,11 @@ PreviewArea::PreviewArea(QWidget *parent) : QWidget(parent)
     mTapeUsed = makeWords(QStringLiteral("tapeUsed"), this);
     layout->addWidget(mPreview, 1);
     layout->addWidget(mMessages);
-    mWordsRow = new QHBoxLayout;
-    mWordsRow->addWidget(mTapeUsed, 1);
-    mWordsRow->addStretch();
-    mWordsRow->addWidget(makePaging());
-    layout->addLayout(mWordsRow);
+    auto *words = new QHBoxLayout;
+    words->addWidget(mTapeUsed, 1);
+    words->addStretch();
+    words->addWidget(makePaging());
+    layout->addLayout(words);
 
     mPreview->setPictures([this](const job::PlacedPage &page) {
         const PagePicture *picture = mRenderer.picture(page.document, page.page);
@@ -125,11 +125,6 @@ void PreviewArea::awaitProgram(const QString &about)
         mAwaited.append(about);
     }
     showWords();
-}
-
-void PreviewArea::addBesideWords(QWidget *control)
-{
-    mWordsRow->addWidget(control);
 }
 
 void PreviewArea::setIsTapePrinter(bool isTapePrinter)

@@ -14,7 +14,6 @@
 #include <optional>
 #include <vector>
 
-class QHBoxLayout;
 class QLabel;
 class QToolButton;
 
@@ -40,8 +39,6 @@ public:
     /// The documents are another program's, which makes them when the settings are final. \param about a sentence about
     /// them; null when there is none.
     void awaitProgram(const QString &about);
-    /// Puts a small control beside the words about the tape used.
-    void addBesideWords(QWidget *control);
     /// Whether the printer is one that is loaded with tape, whatever the page in it.
     void setIsTapePrinter(bool isTapePrinter);
     /// Whether the amount that comes out of the printer is told here; it is where nobody else tells it.
@@ -98,7 +95,6 @@ private:
 
     PageRenderer mRenderer;
     TapePreview *mPreview = nullptr;
-    QHBoxLayout *mWordsRow = nullptr;
     QWidget *mPaging = nullptr;
     QToolButton *mPrevious = nullptr;
     QToolButton *mNext = nullptr;

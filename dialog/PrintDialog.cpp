@@ -30,6 +30,8 @@
 
 #include <algorithm>
 
+#include <pdekit/Alert.h>
+
 namespace tapeprint::dialog
 {
 
@@ -46,6 +48,7 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     mCountTimer.setSingleShot(true);
     buildControls();
     addCommandButton();
+    addHelpButton();
     if (mSetup.takeSettings) {
         askForSettings();
     }
@@ -81,8 +84,12 @@ void PrintDialog::showDestination()
 
 void PrintDialog::showNotices()
 {
-    mNotices->setSentences(
-        (mPrinters.notices() + mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts).join(u'\n'));
+    QStringList own;
+    if (!mRefusal.isEmpty()) {
+        own.append(mRefusal);
+    }
+    own += mPrinters.notices() + mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts;
+    mNotices->setSentences(own.join(u'\n'));
 }
 
 void PrintDialog::showWhetherTape()
@@ -90,6 +97,7 @@ void PrintDialog::showWhetherTape()
     // A printer that a panel serves is loaded with tape.
     const bool isTape = !mPanels.entries().empty();
     mTapeLabel->setText(isTape ? tr("&Tape:") : tr("P&aper:"));
+    alignLabels();
     mPreview->setIsTapePrinter(isTape);
     mSummary->parentWidget()->setVisible(isTape);             // it is the panels' summary
     mFitControls->setVisible(isTape && !mSetup.takeSettings); // without a document there is nothing to fit to
@@ -106,7 +114,7 @@ void PrintDialog::makePages()
     };
     for (std::size_t i = 0; i < mPanels.entries().size(); ++i) {
         const PanelEntry &entry = mPanels.entries()[i];
-        addPage(entry.view != nullptr ? entry.view.data() : new QLabel(tr("This panel has no view.")), entry.name, i);
+        addPage(entry.view != nullptr ? entry.view.data() : makeWordsForNoView(), entry.name, i);
     }
     mLayoutPage = new LayoutPage(mJob, mPages);
     connect(mLayoutPage, &LayoutPage::picked, this, &PrintDialog::pickOption);
@@ -131,6 +139,21 @@ void PrintDialog::makePages()
     mChooserRow->setVisible(mPageList.size() > 1);
 }
 
+QWidget *PrintDialog::makeWordsForNoView()
+{
+    return new QLabel(tr("This panel has no view."));
+}
+
+/// A panel may have deleted its view while it was seen: the page stays, and says so.
+void PrintDialog::replaceLostView()
+{
+    if (const Page *page = currentPage(); page != nullptr && page->widget == nullptr) {
+        QWidget *words = makeWordsForNoView();
+        mPageList[static_cast<std::size_t>(mCurrentPage)].widget = words;
+        mPages->setCurrentIndex(mPages->addWidget(words));
+    }
+}
+
 void PrintDialog::showPages(int first)
 {
     orderTabsByLayout(*this, mPages);
@@ -147,6 +170,8 @@ void PrintDialog::settlePanels()
     job::Problem error;
     mPanels.settle(&error);
     mAlerts = alerts.lines();
+    mAlertsSeen = pdekit::alertsRun();
+    mRefusal.clear();
 }
 
 /// The dialog's own pages show the panels' PPD, and go before it.
@@ -178,6 +203,8 @@ void PrintDialog::turnToPage(int index)
         mPages->setCurrentWidget(page->widget);
         showCurrentPanel();
     }
+    replaceLostView();
+    showWhetherHelp();
 }
 
 const PrintDialog::Page *PrintDialog::currentPage() const

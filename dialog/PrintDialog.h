@@ -54,6 +54,7 @@ class PanelArea;
 class PaperMenu;
 class PreviewArea;
 class PrinterPopUp;
+class SameWidth;
 class SummaryView;
 
 class PrintDialog : public QDialog
@@ -123,6 +124,8 @@ private:
     QString heading() const;
     void askForSettings();
     void showCommand();
+    void addHelpButton();
+    void showWhetherHelp();
 
     void startPrinters();
     void takeDestination(job::Destination destination);
@@ -133,6 +136,8 @@ private:
     bool isPrinting() const { return mRun.phase() != PrintRun::Phase::Idle; }
     void showDestination();
     void makePages();
+    static QWidget *makeWordsForNoView();
+    void replaceLostView();
     void showPages(int first);
     void assignKeys();
     void settlePanels();
@@ -157,6 +162,7 @@ private:
     void revert();
     void remakePanels();
     bool isReadyToPrint();
+    bool isAcceptedByPanels();
     bool isAmountAgreed();
     void showAmount();
     void printCounted();
@@ -187,6 +193,7 @@ private:
     void say(QMessageBox::Icon icon, const QString &sentence);
     void showNotices();
     void showWhetherTape();
+    void alignLabels();
     void fitPanel();
     bool isPage(const QObject *object) const;
     bool isInPanel(const QWidget &widget) const;
@@ -218,10 +225,13 @@ private:
     PrinterPopUp *mPrinterPopUp = nullptr;
     QPushButton *mLoadAnew = nullptr; ///< among the notices, when the printer's PPD has changed
     PresetRow *mPresetRow = nullptr;
+    SameWidth *mRightColumn = nullptr; ///< what stands right in the rows is as wide as what stands right below them
     QComboBox *mTapePopUp = nullptr;
     PaperMenu *mPapers = nullptr; ///< what the tape's pop-up offers
     QSpinBox *mCopiesField = nullptr;
+    QLabel *mPrinterLabel = nullptr;
     QLabel *mTapeLabel = nullptr;
+    QLabel *mChooserLabel = nullptr;
     NoticesArea *mNotices = nullptr;
     ConflictNotice *mConflicts = nullptr;
     bool mConflictsAreSeen = false; ///< the person said to print all the same
@@ -240,13 +250,16 @@ private:
     QHBoxLayout *mAmountPlace = nullptr;      ///< before Cancel, for what is said beside Print; it gives way first
     AmountLabel *mAmount = nullptr;
     SaveButton *mSaveButton = nullptr;
-    JobRow *mJobRow = nullptr; ///< shown while it prints
+    JobRow *mJobRow = nullptr;          ///< shown while it prints
+    QPushButton *mHelpButton = nullptr; ///< there while a panel that has help is in front
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;
 
     QSize mWishedSize;   ///< that a panel gave its view and waits to be fitted; invalid when there is none
     QStringList mAlerts; ///< what panels said of the values that were laid down
+    QString mRefusal;    ///< that a panel refused the last time Print was pressed; empty when none did
+    int mAlertsSeen = 0; ///< how many alerts had been run by then
     std::vector<Page> mPageList;
     QPointer<OptionsPage> mOptionsPage;
     QPointer<LayoutPage> mLayoutPage;

@@ -14,6 +14,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QResizeEvent>
@@ -128,8 +129,7 @@ void PrintDialog::pickOption(const QString &key, const QString &choice)
 void PrintDialog::pickPage(int index)
 {
     const Page *page = currentPage();
-    if (page != nullptr && page->panel && index != mCurrentPage &&
-        !mPanels.entries()[*page->panel].panel->shouldHide()) {
+    if (page != nullptr && page->panel && index != mCurrentPage && !mPanels.mayHide(*page->panel)) {
         mPageChooser->setCurrentIndex(mCurrentPage);
         return;
     }
@@ -141,7 +141,7 @@ void PrintDialog::follow()
     if (mClosed || !mPrinters.hasOpen()) {
         return;
     }
-    showNotices();
+    replaceLostView();
     mSummary->showSummary(mPanels.summary());
     followInThePreview();
     followInThePresets();
@@ -156,6 +156,7 @@ void PrintDialog::follow()
     if (mOptionsPage) {
         mOptionsPage->follow();
     }
+    showNotices(); // panels were asked for much by now
     followConflicts();
 }
 
@@ -183,6 +184,9 @@ job::SettledJob PrintDialog::currentJob() const
 
 void PrintDialog::revert()
 {
+    if (mPanels.isInCall()) {
+        return;
+    }
     job::Problem error;
     if (!mPanels.revert(&error)) {
         tellProblem(error.sentence);
@@ -241,6 +245,12 @@ void PrintDialog::fitPanel()
     }
     mPages->updateGeometry();
     mPanelArea->updateGeometry();
+    // Each layout up to the window's has to look again now: by itself it would do so at the next event.
+    for (const QWidget *widget = mPanelArea; widget != this;) {
+        widget = widget->parentWidget();
+        widget->layout()->invalidate();
+        widget->layout()->activate();
+    }
     resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
 }
 

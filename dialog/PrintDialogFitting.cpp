@@ -59,7 +59,7 @@ void PrintDialog::fitTape()
     const job::SettledJob current = currentJob();
     // While an alert of a panel stands over the window, a call of that panel is under way: it is not to be made anew.
     const QWidget *modal = QApplication::activeModalWidget();
-    if (mIsFitting || !current.fitsLength() || !documents || documents->drawn.empty() ||
+    if (mIsFitting || mPanels.isInCall() || !current.fitsLength() || !documents || documents->drawn.empty() ||
         (modal != nullptr && modal != this)) {
         return;
     }

@@ -18,6 +18,7 @@
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/PrinterPopUp.h"
+#include "dialog/SameWidth.h"
 #include "dialog/ScrollingColumn.h"
 #include "dialog/SummaryView.h"
 #include "dialog/UnitButton.h"
@@ -31,6 +32,8 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace tapeprint::dialog
 {
@@ -87,7 +90,8 @@ QWidget *PrintDialog::makeDestinationRows()
     mPresetPlace = new QHBoxLayout;
     mPresetRow = makePresetRow();
     mPresetPlace->addWidget(mPresetRow);
-    grid->addWidget(makeLabel(tr("P&rinter:"), mPrinterPopUp), 0, 0);
+    mPrinterLabel = makeLabel(tr("P&rinter:"), mPrinterPopUp);
+    grid->addWidget(mPrinterLabel, 0, 0);
     grid->addLayout(mPrinterPlace, 0, 1);
     grid->addLayout(mPresetPlace, 0, 2, 1, 2);
 
@@ -101,9 +105,27 @@ QWidget *PrintDialog::makeDestinationRows()
     grid->addWidget(mTapeLabel, 1, 0);
     grid->addWidget(mTapePopUp, 1, 1);
     grid->addWidget(makeLabel(tr("&Copies:"), mCopiesField), 1, 2);
-    grid->addWidget(mCopiesField, 1, 3);
+    auto *copiesPlace = new QHBoxLayout;
+    copiesPlace->addWidget(mCopiesField, 1);
+    copiesPlace->addWidget(new UnitButton(mUnit, rows));
+    grid->addLayout(copiesPlace, 1, 3);
+    mRightColumn = new SameWidth(rows);
+    grid->addWidget(mRightColumn, 0, 2, 1, 2);
     grid->setColumnStretch(1, 1);
+    grid->setHorizontalSpacing(smallGap);
     return rows;
+}
+
+/// The controls of the left column begin at one edge.
+void PrintDialog::alignLabels()
+{
+    int width = 0;
+    for (const QLabel *label : {mPrinterLabel, mTapeLabel, mChooserLabel}) {
+        width = std::max(width, label->sizeHint().width());
+    }
+    for (QLabel *label : {mPrinterLabel, mTapeLabel, mChooserLabel}) {
+        label->setMinimumWidth(width);
+    }
 }
 
 QWidget *PrintDialog::makePagesArea()
@@ -116,7 +138,9 @@ QWidget *PrintDialog::makePagesArea()
     mPageChooser->setObjectName(QStringLiteral("pageChooser"));
     auto *chooserLayout = new QHBoxLayout(mChooserRow);
     chooserLayout->setContentsMargins({});
-    chooserLayout->addWidget(makeLabel(tr("Setti&ngs:", "which page of them"), mPageChooser));
+    chooserLayout->setSpacing(smallGap);
+    mChooserLabel = makeLabel(tr("Setti&ngs:", "which page of them"), mPageChooser);
+    chooserLayout->addWidget(mChooserLabel);
     chooserLayout->addWidget(mPageChooser, 1);
     layout->addWidget(mChooserRow);
     mPanelArea = new PanelArea(area);
@@ -135,14 +159,14 @@ QWidget *PrintDialog::makeResultArea()
     auto *area = new ScrollingColumn(this);
     // What the pages do not need makes the preview larger.
     area->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    area->setMinimumSize(smallestResultArea);
+    area->setLeastSize(smallestResultArea);
     area->column()->addWidget(makeSummary(area));
     mPreview = new PreviewArea(area);
     mPreview->setShowsAmount(false); // it stands beside Print
-    mPreview->addBesideWords(new UnitButton(mUnit, mPreview));
     area->column()->addWidget(mPreview, 1);
     area->column()->addWidget(makeFitControls(area));
     area->column()->addStretch(); // where nothing is previewed
+    mRightColumn->follow(area);
     return area;
 }
 

@@ -10,6 +10,8 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QHBoxLayout>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
 
@@ -27,6 +29,28 @@ void PrintDialog::helpPeople()
     // Notices take the keys as long as they scroll.
     connect(mNotices->verticalScrollBar(), &QScrollBar::rangeChanged, this,
             [this] { orderTabsByLayout(*this, mPages); });
+}
+
+void PrintDialog::addHelpButton()
+{
+    mHelpButton = new QPushButton(tr("&Help"), mRevertButton->parentWidget());
+    mHelpButton->setObjectName(QStringLiteral("help"));
+    mHelpButton->setToolTip(tr("Help for this page of the settings"));
+    mHelpButton->setAutoDefault(false);
+    mHelpButton->hide();
+    mMoreButtonsPlace->addWidget(mHelpButton);
+    connect(mHelpButton, &QPushButton::clicked, this, [this] {
+        if (const Page *page = currentPage(); page != nullptr && page->panel) {
+            mPanels.showHelp(*page->panel);
+            follow(); // what went wrong is said
+        }
+    });
+}
+
+void PrintDialog::showWhetherHelp()
+{
+    const Page *page = currentPage();
+    mHelpButton->setVisible(page != nullptr && page->panel && mPanels.hasHelp(*page->panel));
 }
 
 void PrintDialog::assignKeys()

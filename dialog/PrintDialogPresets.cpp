@@ -37,6 +37,11 @@ QStringList PrintDialog::presetNotices() const
 
 void PrintDialog::pickPreset(const PresetRow::Settings &settings)
 {
+    if (mPanels.isInCall()) { // which a panel has the loop of events run in
+        constexpr int aMomentMs = 50;
+        QTimer::singleShot(aMomentMs, this, [this, settings] { pickPreset(settings); });
+        return;
+    }
     // What belongs to the document stays. As last time it is as it was asked for at first, and so are the copies.
     const bool isLastTime = settings.choice.kind == PresetRow::Choice::Kind::LastTime;
     job::JobOptions asked = job::optionsOfDocument(isLastTime ? mSetup.request.options : mJob.options());

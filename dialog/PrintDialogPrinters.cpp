@@ -33,7 +33,8 @@ void PrintDialog::startPrinters()
     mPrinters.setGate([this, usualLevel] {
         const QWidget *modal = QApplication::activeModalWidget();
         const bool isOwn = modal == nullptr || modal == this || qobject_cast<const PrintDialog *>(modal) != nullptr;
-        return isOwn && QThread::currentThread()->loopLevel() <= usualLevel && !isPrinting() && !mIsFitting;
+        return isOwn && QThread::currentThread()->loopLevel() <= usualLevel && !isPrinting() && !mIsFitting &&
+               !mPanels.isInCall();
     });
     connect(mLoadAnew, &QPushButton::clicked, &mPrinters, &PrinterDesk::takeNewDescription);
     connect(&mPrinters, &PrinterDesk::changed, this, &PrintDialog::followPrinters);

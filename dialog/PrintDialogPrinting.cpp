@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Print, and what the window shows until the printer's last word.
 #include "dialog/JobRow.h"
+#include "dialog/NoticesArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/SaveButton.h"
 
@@ -38,7 +39,8 @@ void PrintDialog::connectPrinting()
 
 void PrintDialog::print()
 {
-    if (!mPrinters.canPrint() || !isReadyToPrint() || !isAmountAgreed() || asksAboutConflicts([this] { print(); })) {
+    if (!mPrinters.canPrint() || mPanels.isInCall() || !isReadyToPrint() || !isAmountAgreed() ||
+        asksAboutConflicts([this] { print(); })) {
         return;
     }
     mIsSaving = false;
@@ -67,9 +69,12 @@ void PrintDialog::showPrinting()
     const bool isSent = mRun.phase() == PrintRun::Phase::Following;
     // What is being printed is not to be changed under the person's hands.
     for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (widget != mCancelButton->parentWidget() && widget != mJobRow && !widget->isWindow()) {
+        if (widget != mCancelButton->parentWidget() && widget != mJobRow && widget != mNotices && !widget->isWindow()) {
             widget->setEnabled(!isPrinting);
         }
+    }
+    for (QPushButton *button : mNotices->findChildren<QPushButton *>()) { // what the notices say stays readable
+        button->setEnabled(!isPrinting);
     }
     mRevertButton->setEnabled(!isPrinting);
     mSaveButton->setEnabled(!isPrinting);

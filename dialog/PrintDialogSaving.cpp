@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <pdekit/Alert.h>
+
 namespace tapeprint::dialog
 {
 
@@ -42,12 +44,23 @@ bool PrintDialog::isReadyToPrint()
         tellProblem(error.sentence);
         return false;
     }
-    // A panel that refuses has told the person why; the dialog stays as it is.
-    if (QString panel; !mPanels.shouldPrint(&panel)) {
+    return isAcceptedByPanels();
+}
+
+bool PrintDialog::isAcceptedByPanels()
+{
+    QString panel;
+    const bool isAccepted = mPanels.shouldPrint(&panel);
+    const int seenBefore = std::exchange(mAlertsSeen, pdekit::alertsRun());
+    mRefusal = isAccepted ? QString() : tr("Nothing was printed: %1 does not accept the settings.").arg(panel);
+    if (!isAccepted) {
         follow();
-        return false;
+        // Mostly a panel has said why, in an alert when the value was typed or just now.
+        if (seenBefore == mAlertsSeen) {
+            tellProblem(mRefusal);
+        }
     }
-    return true;
+    return isAccepted;
 }
 
 bool PrintDialog::isAmountAgreed()
@@ -80,7 +93,7 @@ void PrintDialog::printCounted()
 void PrintDialog::save(SaveButton::Kind kind, const QString &path)
 {
     // A PDF is for no printer, whatever goes together there.
-    if (!isReadyToPrint() ||
+    if (mPanels.isInCall() || !isReadyToPrint() ||
         (kind != SaveButton::Kind::Pdf && asksAboutConflicts([this, kind, path] { save(kind, path); }))) {
         return;
     }

@@ -6,6 +6,8 @@
 #include <QResizeEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tapeprint::dialog
 {
 
@@ -57,6 +59,19 @@ ScrollingColumn::ScrollingColumn(QWidget *parent) : QScrollArea(parent)
 QSize ScrollingColumn::sizeHint() const
 {
     return widget()->sizeHint();
+}
+
+QSize ScrollingColumn::minimumSizeHint() const
+{
+    return {std::max(widget()->minimumSizeHint().width(), mLeast.width()), mLeast.height()};
+}
+
+bool ScrollingColumn::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+        updateGeometry();
+    }
+    return QScrollArea::eventFilter(watched, event);
 }
 
 } // namespace tapeprint::dialog

@@ -22,9 +22,14 @@ public:
     QVBoxLayout *column() const { return mColumn; }
 
     QSize sizeHint() const override;
+    /// Never narrower than what stands in it, which does not scroll sideways, and never smaller than the size given.
+    QSize minimumSizeHint() const override;
+    void setLeastSize(const QSize &size) { mLeast = size; }
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QVBoxLayout *mColumn = nullptr;
+    QSize mLeast;
 };
 
 } // namespace tapeprint::dialog

@@ -25,6 +25,7 @@ ShowCommand::ShowCommand(const QString &tapeprint, const QString &lp, QWidget *p
         addCommand(layout, tr("The same options by &lp, which lays nothing out:"), lp, QStringLiteral("lp"));
     }
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    buttons->button(QDialogButtonBox::Close)->setIcon({}); // no other button has one
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
     resize(wished);

@@ -2,6 +2,8 @@
 // The window's language.
 #pragma once
 
+#include "job/Advice.h"
+
 #include <QTranslator>
 
 namespace tapeprint::dialog
@@ -15,6 +17,7 @@ public:
     Translations();
 
 private:
+    job::AdviceForTheWindow mAdvice;
     QTranslator mToolkit; ///< the texts of the toolkit's own dialogs and buttons, where they are installed
     QTranslator mDialog;
 };

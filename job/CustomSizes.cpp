@@ -56,7 +56,7 @@ QString customSizeName(const QSizeF &sizePt)
 
 std::optional<QSizeF> customSizeOf(const QString &value)
 {
-    static const QRegularExpression form(QStringLiteral(R"(\ACustom\.([0-9.]+)x([0-9.]+)(mm|cm|m|in|ft)?\z)"),
+    static const QRegularExpression form(QStringLiteral(R"(\ACustom\.([0-9.]+)x([0-9.]+)(mm|cm|m|in|ft|pt)?\z)"),
                                          QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch match = form.match(value);
     const std::optional<double> width = pointsOfLength(match.captured(1) + match.captured(3));

@@ -201,10 +201,12 @@ std::optional<double> pointsOfLength(const QString &length)
         QLatin1String name;
         double points;
     };
-    static const std::array units{
-        Unit{QLatin1String("mm"), pointsPerInch / 25.4}, Unit{QLatin1String("cm"), pointsPerInch / 2.54},
-        Unit{QLatin1String("in"), pointsPerInch}, Unit{QLatin1String("ft"), 12.0 * pointsPerInch},
-        Unit{QLatin1String("m"), pointsPerInch / 0.0254}};
+    static const std::array units{Unit{QLatin1String("mm"), pointsPerInch / 25.4},
+                                  Unit{QLatin1String("cm"), pointsPerInch / 2.54},
+                                  Unit{QLatin1String("in"), pointsPerInch},
+                                  Unit{QLatin1String("ft"), 12.0 * pointsPerInch},
+                                  Unit{QLatin1String("pt"), 1.0},
+                                  Unit{QLatin1String("m"), pointsPerInch / 0.0254}};
     double points = 1.0;
     QString number = length;
     for (const Unit &unit : units) {

@@ -98,7 +98,12 @@ void Job::layDownOptions(const JobOptions &asked)
     layDown(mLaidDown, ppd(), &mOptions);
     layDownPages();
     followMarkedTape();
-    if (const std::optional<double> lengthMm = laidDownLengthMm(mLaidDown, ppd())) {
+}
+
+void Job::setTape(TapeKeywords tape)
+{
+    mTape = std::move(tape);
+    if (const std::optional<double> lengthMm = laidDownLengthMm(mLaidDown, ppd(), mTape.lengthOption)) {
         setPaperLengthMm(*lengthMm);
     }
 }
@@ -157,7 +162,7 @@ void Job::changeOption(const QString &key, const QString &choice)
     if (key == OptionName::pageRanges) {
         layDownPages();
     }
-    if (key == OptionName::tapeLength && pdekit::doubleValue(choice) > 0.0) {
+    if (key == mTape.lengthOption && pdekit::doubleValue(choice) > 0.0) {
         setPaperLengthMm(pdekit::doubleValue(choice));
     }
     Q_EMIT optionChanged(key, choice);

@@ -56,7 +56,8 @@ public:
     /// What the options and attributes of a tape are called; empty as long as no panel says that the printer prints on
     /// tape.
     const TapeKeywords &tape() const { return mTape; }
-    void setTape(TapeKeywords tape) { mTape = std::move(tape); }
+    /// A panel's plug-in says what they are called: the paper takes the length that was laid down.
+    void setTape(TapeKeywords tape);
     /// The page that comes out of the printer, with the options as they stand.
     TapePage page() const { return tapePageOf(ppd(), mOptions, mTape); }
     /// What was laid down for this job: the queue's or instance's saved options under those asked for. PageRegion

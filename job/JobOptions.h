@@ -49,8 +49,6 @@ inline const QString pageRegion = QStringLiteral("PageRegion");
 inline const QString media = QStringLiteral("media");
 /// The dialog's own: the tape is made as long as what is drawn needs, and only that is laid out. Never leaves the job.
 inline const QString fitLength = QStringLiteral("fit-length");
-/// The tape's length in millimetres, which the paper of the page format follows.
-inline const QString tapeLength = QStringLiteral("KsTapeLength");
 } // namespace OptionName
 
 } // namespace tapeprint::job

@@ -6,9 +6,11 @@
 // it. A single document needs no such care: cut short, it is thrown away.
 #include "job/JobSubmission.h"
 
+#include "job/Advice.h"
 #include "job/CupsOptions.h"
 #include "job/JobRequests.h"
 #include "job/PlainText.h"
+#include "job/Reason.h"
 #include "job/ServerConnection.h"
 #include "job/Texts.h"
 
@@ -101,8 +103,10 @@ private:
         }
         if (!mInfo) {
             *error = problem({Problem::NoSuchPrinter,
-                              Texts::tr("The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.")
-                                  .arg(mSubmission.queue.name, mServer->problem())});
+                              advice(Texts::tr("The queue %1 cannot be reached (%2): choose another printer."),
+                                     QStringLiteral("The queue %1 cannot be reached (%2): see lpstat -e for the queues "
+                                                    "there are."))
+                                  .arg(harmless(mSubmission.queue.name), reasonText(mServer->problem()))});
         }
         return mInfo != nullptr;
     }
@@ -143,8 +147,10 @@ private:
 
     Problem notTaken() const
     {
-        return {Problem::RejectedJob, Texts::tr("The queue %1 did not take the job (%2): see lpstat -p %1 -l.")
-                                          .arg(mSubmission.queue.name, mServer->problem())};
+        return {Problem::RejectedJob,
+                advice(Texts::tr("The queue %1 did not take the job (%2)."),
+                       QStringLiteral("The queue %1 did not take the job (%2): see lpstat -p %1 -l."))
+                    .arg(harmless(mSubmission.queue.name), reasonText(mServer->problem()))};
     }
 
     /// The server may have made the job, and only its number was lost: it is the one without documents.

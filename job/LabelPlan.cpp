@@ -6,6 +6,7 @@
 #include "job/UsualOptions.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include <pdekit/Numbers.h>
@@ -56,12 +57,22 @@ bool isInSet(PageSet set, int number)
     return set == PageSet::All || (set == PageSet::Odd) == (number % 2 == 1);
 }
 
+/// Whether the filters put so many pages on a sheet of paper that lies, and turn it against the clock.
+bool liesOnPaper(int pagesPerSheet)
+{
+    static constexpr std::array lying{2, 3, 6, 8, 10, 15};
+    return std::find(lying.begin(), lying.end(), pagesPerSheet) != lying.end();
+}
+
 /// Pages dealt out to sheets. \param set which of the sheets are wanted when they hold several pages.
 std::vector<Label> dealOut(const std::vector<PageOfAll> &pages, const TapePage &page, const LayoutChoices &choices,
                            PageSet set)
 {
     // Paper is laid out on what can be printed of it, as the filters do; tape keeps its margins free as well.
-    const QRectF area = page.layoutRect();
+    const QRectF upright = page.layoutRect();
+    const bool lies = !page.isTape && choices.turn == Turn::Automatic && liesOnPaper(choices.pagesPerSheet);
+    const QRectF area = lies ? QRectF(QPointF(), upright.size().transposed()) : upright;
+    const QTransform backUp = lies ? QTransform(0, -1, 1, 0, upright.left(), upright.bottom()) : QTransform();
     const auto perSheet = static_cast<std::size_t>(choices.pagesPerSheet);
     std::vector<Label> sheets;
     for (std::size_t first = 0; first < pages.size(); first += perSheet) {
@@ -73,7 +84,10 @@ std::vector<Label> dealOut(const std::vector<PageOfAll> &pages, const TapePage &
         // A sheet that is not full keeps the places of a full one.
         const std::vector<QRectF> places = placesOnSheet(choices.pagesPerSheet, area, pages[first].size, choices);
         for (std::size_t i = 0; i < count; ++i) {
-            sheet.push_back(placed(pages[first + i], places[std::min(i, places.size() - 1)], choices));
+            PlacedPage laid = placed(pages[first + i], places[std::min(i, places.size() - 1)], choices);
+            laid.place *= backUp;
+            laid.clip = backUp.mapRect(laid.clip);
+            sheet.push_back(laid);
         }
         sheets.push_back(std::move(sheet));
     }

@@ -111,16 +111,19 @@ std::optional<pdekit::Paper> markedPaper(ppd_file_t *ppd)
                          static_cast<double>(size->length)};
 }
 
-std::optional<double> laidDownLengthMm(const JobOptions &chosen, ppd_file_t *ppd)
+std::optional<double> laidDownLengthMm(const JobOptions &chosen, ppd_file_t *ppd, const QString &lengthOption)
 {
-    if (chosen.contains(OptionName::tapeLength)) {
-        return positiveLength(chosen.value(OptionName::tapeLength));
+    if (lengthOption.isEmpty()) {
+        return std::nullopt;
+    }
+    if (chosen.contains(lengthOption)) {
+        return positiveLength(chosen.value(lengthOption));
     }
     // A tape that was chosen brings its own length.
     if (chosen.contains(OptionName::pageSize) || chosen.contains(OptionName::media)) {
         return std::nullopt;
     }
-    const ppd_option_t *option = findOption(ppd, OptionName::tapeLength);
+    const ppd_option_t *option = findOption(ppd, lengthOption);
     return option == nullptr ? std::nullopt : positiveLength(QString::fromUtf8(option->defchoice));
 }
 

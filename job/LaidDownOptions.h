@@ -30,8 +30,9 @@ void layDown(const JobOptions &options, ppd_file_t *ppd, JobOptions *job);
 std::optional<pdekit::Paper> markedPaper(ppd_file_t *ppd);
 
 /// The tape length in millimetres that is laid down: by the job, or by the PPD's own default as long as nothing chose
-/// another tape than the PPD's. \param chosen what was laid down beside the PPD.
-std::optional<double> laidDownLengthMm(const JobOptions &chosen, ppd_file_t *ppd);
+/// another tape than the PPD's. \param chosen what was laid down beside the PPD. \param lengthOption the option that
+/// says how long a tape is; empty where there is none.
+std::optional<double> laidDownLengthMm(const JobOptions &chosen, ppd_file_t *ppd, const QString &lengthOption);
 
 /// The length in points that a panel reads back, through 72 points an inch and 0.0393701 inch a millimetre, as exactly
 /// this many millimetres or the nearest above.

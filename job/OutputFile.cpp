@@ -2,8 +2,10 @@
 // A plain file is written without a name, which no end of the program can leave behind, and linked in when it is whole.
 #include "job/OutputFile.h"
 
+#include "job/Advice.h"
 #include "job/DeathWatch.h"
 #include "job/PlainText.h"
+#include "job/Reason.h"
 #include "job/Texts.h"
 
 #include <QFile>
@@ -55,22 +57,25 @@ private:
 
 QString systemSays()
 {
-    return qt_error_string(errno);
+    return reasonText(qt_error_string(errno));
 }
 
 bool sayUnwritable(const QString &path, Problem *error, const QString &reason = systemSays())
 {
-    *error = {
-        Problem::UnwritableOutput,
-        Texts::tr("The file %1 cannot be written (%2): name another with --output.").arg(outputName(path), reason)};
+    *error = {Problem::UnwritableOutput,
+              advice(Texts::tr("The file %1 cannot be written (%2): name another."),
+                     QStringLiteral("The file %1 cannot be written (%2): name another with --output."))
+                  .arg(outputName(path), reason)};
     return false;
 }
 
 bool sayNoRoom(const QString &path, Problem *error)
 {
     *error = {Problem::UnwritableOutput,
-              Texts::tr("The printer's bytes cannot be written to %1 (%2): make room there, or name another file "
-                        "with --output.")
+              advice(Texts::tr("The printer's bytes cannot be written to %1 (%2): make room there, or name another "
+                               "file."),
+                     QStringLiteral("The printer's bytes cannot be written to %1 (%2): make room there, or name "
+                                    "another file with --output."))
                   .arg(outputName(path), systemSays())};
     return false;
 }
@@ -328,8 +333,10 @@ std::unique_ptr<OutputFile> openWhole(const OutputTarget &target, bool exists, P
     }
     if (exists) {
         *error = {Problem::UnwritableOutput,
-                  Texts::tr("The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name "
-                            "another with --output.")
+                  advice(Texts::tr("The file %1 is replaced only as a whole, and nothing can be written beside it "
+                                   "(%2): name another."),
+                         QStringLiteral("The file %1 is replaced only as a whole, and nothing can be written beside it "
+                                        "(%2): name another with --output."))
                       .arg(outputName(target.path), systemSays())};
     } else {
         sayUnwritable(target.path, error);
@@ -356,7 +363,9 @@ bool mayWriteTo(const OutputTarget &target, Problem *error)
         if (there && there->isSameFile(file)) {
             *error = {
                 Problem::UnwritableOutput,
-                Texts::tr("The output (%1) is the same file as %2, which is only read: name another with --output.")
+                advice(Texts::tr("The output (%1) is the same file as %2, which is only read: name another."),
+                       QStringLiteral("The output (%1) is the same file as %2, which is only read: name another with "
+                                      "--output."))
                     .arg(outputName(target.path),
                          file.path.isNull() ? Texts::tr("standard input") : harmless(file.path))};
             return false;

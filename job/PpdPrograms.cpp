@@ -3,6 +3,7 @@
 // description's own.
 #include "job/PpdPrograms.h"
 
+#include "job/Advice.h"
 #include "job/PlainText.h"
 #include "job/RootOwned.h"
 #include "job/Texts.h"
@@ -168,10 +169,14 @@ bool mayRunPrograms(const QString &ppdPath, ppd_file_t *ppd, bool isTrusted, Pro
     if (programs.empty() || isTrusted || isSystemDescription(ppdPath)) {
         return true;
     }
-    *error = {Problem::BadDescription,
-              Texts::tr("The printer description %1 brings programs or commands of its own, which nobody vouches for: "
-                        "%2. Nothing was run. If you trust its author, repeat with --trust-ppd.")
-                  .arg(harmless(ppdPath), describe(programs))};
+    *error = {
+        Problem::BadDescription,
+        advice(Texts::tr("The printer description %1 brings programs or commands of its own, which nobody vouches "
+                         "for: %2. Nothing was run."),
+               QStringLiteral("The printer description %1 brings programs or commands of its own, which nobody "
+                              "vouches for: %2. Nothing was run. If you trust its author, repeat with "
+                              "--trust-ppd."))
+            .arg(harmless(ppdPath), describe(programs))};
     return false;
 }
 

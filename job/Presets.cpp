@@ -3,6 +3,7 @@
 // changed; root's own is the machine's.
 #include "job/Presets.h"
 
+#include "job/FileStamp.h"
 #include "job/IppAttributeNames.h"
 #include "job/LpOptionsFile.h"
 #include "job/PlainText.h"
@@ -11,10 +12,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
+#include <chrono>
 #include <functional>
+#include <thread>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 namespace tapeprint::job
@@ -82,11 +88,56 @@ std::vector<OwnedEntry> entriesOf(const QString &queue, Problem *error)
     return entries;
 }
 
+constexpr int mostTries = 5;
+
+/// Held while a file is read, changed and written anew: whoever else does that waits. The folder is locked, because the
+/// file is another one afterwards. A folder that cannot be locked within seconds holds nobody up.
+class WriterLock
+{
+public:
+    explicit WriterLock(const QString &path)
+        : mFolder(open(QFile::encodeName(QFileInfo(path).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+        constexpr int mostWaits = 1500;
+        constexpr auto wait = std::chrono::milliseconds(2); // another writer is done in a few of them
+        for (int i = 0; mFolder >= 0 && flock(mFolder, LOCK_EX | LOCK_NB) != 0 && i < mostWaits; ++i) {
+            std::this_thread::sleep_for(wait);
+        }
+    }
+    WriterLock(const WriterLock &) = delete;
+    WriterLock &operator=(const WriterLock &) = delete;
+    ~WriterLock()
+    {
+        if (mFolder >= 0) {
+            close(mFolder);
+        }
+    }
+
+private:
+    int mFolder;
+};
+
+bool isSameState(const std::optional<FileStamp> &before, const std::optional<FileStamp> &now)
+{
+    return before && now ? before->isUnchanged(*now) : before.has_value() == now.has_value();
+}
+
 /// Changes the person's file. \param change \return false, with a sentence, when nothing is to be written.
 bool changeOwn(const std::function<bool(LpOptionsFile &file)> &change, Problem *error)
 {
-    std::optional<LpOptionsFile> file = LpOptionsFile::read(paths().own, error);
-    return file && change(*file) && file->write(error);
+    const QString path = paths().own;
+    const WriterLock lock(path);
+    for (int tries = mostTries;;) {
+        const std::optional<FileStamp> before = FileStamp::ofPath(path);
+        std::optional<LpOptionsFile> file = LpOptionsFile::read(path, error);
+        if (!file || !change(*file)) {
+            return false;
+        }
+        // lpoptions knows no lock: what it wrote in the meantime is read first.
+        if (--tries == 0 || isSameState(before, FileStamp::ofPath(path))) {
+            return file->write(error);
+        }
+    }
 }
 
 bool mayStandInName(QChar letter)

@@ -2,9 +2,11 @@
 // Print queues through libcups: the server, the saved options of the person, PPDs of local and remote queues.
 #include "job/Printers.h"
 
+#include "job/Advice.h"
 #include "job/IppQuestion.h"
 #include "job/MemoryFile.h"
 #include "job/PlainText.h"
+#include "job/Reason.h"
 #include "job/SavedDestinations.h"
 #include "job/Texts.h"
 
@@ -203,11 +205,13 @@ std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueN
         *error = serverProblem(server);
     } else if (name.isEmpty()) {
         *error = {Problem::NoSuchPrinter,
-                  Texts::tr("There is no default printer: name a print queue with -d QUEUE, or print without one "
-                            "with --ppd FILE.")};
+                  advice(Texts::tr("There is no default printer: choose one."),
+                         QStringLiteral("There is no default printer: name a print queue with -d QUEUE, or print "
+                                        "without one with --ppd FILE."))};
     } else {
         *error = {Problem::NoSuchPrinter,
-                  Texts::tr("The print server knows no queue %1: see lpstat -e for the queues there are.")
+                  advice(Texts::tr("The print server knows no queue %1: choose another printer."),
+                         QStringLiteral("The print server knows no queue %1: see lpstat -e for the queues there are."))
                       .arg(harmless(wanted.text()))};
     }
     return std::nullopt;
@@ -232,7 +236,7 @@ PpdFile openQueuePpd(const ServerConnection &server, const PrintQueue &queue, QB
         *error = {Problem::Unreachable,
                   Texts::tr("The PPD of queue %1 cannot be had from the print server (%2): see that the queue is "
                             "set up.")
-                      .arg(harmless(queue.name), harmless(QString::fromUtf8(cupsLastErrorString())))};
+                      .arg(harmless(queue.name), reasonText(QString::fromUtf8(cupsLastErrorString())))};
         return nullptr;
     }
     const std::optional<QByteArray> ppd = file.contents();

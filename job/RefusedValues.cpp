@@ -2,6 +2,7 @@
 // CUPS takes a value that it cannot read for none at all, and prints. What it reads is held here as patterns.
 #include "job/RefusedValues.h"
 
+#include "job/CustomSizes.h"
 #include "job/CustomValues.h"
 #include "job/IppAttributeNames.h"
 #include "job/PpdMarks.h"
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include <cups/pwg.h>
@@ -58,26 +60,6 @@ bool isCustom(const QString &value)
     return value.startsWith(QLatin1String("Custom."), Qt::CaseInsensitive);
 }
 
-/// A size of the person's own, "Custom.WIDTHxLENGTHUNIT", in points; empty when it cannot be read.
-QSizeF customSizePt(const QString &value)
-{
-    static const QHash<QString, double> points{
-        {QString(), 1.0},
-        {QStringLiteral("pt"), 1.0},
-        {QStringLiteral("in"), 72.0},
-        {QStringLiteral("ft"), 864.0},
-        {QStringLiteral("mm"), 72.0 / 25.4},
-        {QStringLiteral("cm"), 72.0 / 2.54},
-        {QStringLiteral("m"), 72.0 / 0.0254},
-    };
-    static const QRegularExpression size(
-        QStringLiteral(R"(\ACustom\.(\d+\.?\d*|\.\d+)x(\d+\.?\d*|\.\d+)(pt|in|ft|mm|cm|m)?\z)"),
-        QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = size.match(value);
-    const double unit = points.value(match.captured(3).toLower());
-    return match.hasMatch() ? QSizeF(match.captured(1).toDouble(), match.captured(2).toDouble()) * unit : QSizeF();
-}
-
 /// Whether a printer takes a size: each side within the PPD's limits, but for what a unit's rounding takes away.
 bool isWithinLimits(ppd_file_t *ppd, const QSizeF &sizePt)
 {
@@ -91,14 +73,14 @@ bool isWithinLimits(ppd_file_t *ppd, const QSizeF &sizePt)
 
 QString customSizeProblem(ppd_file_t *ppd, const QString &name, const QString &value)
 {
-    const QSizeF sizePt = customSizePt(value);
-    if (sizePt.isEmpty()) {
+    const std::optional<QSizeF> sizePt = customSizeOf(value);
+    if (!sizePt) {
         return Texts::tr("%1=%2 is no size: write it as Custom.WIDTHxLENGTHmm, or with in, cm or pt.").arg(name, value);
     }
     if (ppd != nullptr && listedChoice(ppd, OptionName::pageSize, value).isNull()) {
         return Texts::tr("%1=%2: the printer takes no sizes other than those that it has.").arg(name, value);
     }
-    if (ppd != nullptr && !isWithinLimits(ppd, sizePt)) {
+    if (ppd != nullptr && !isWithinLimits(ppd, *sizePt)) {
         return Texts::tr("%1=%2 is smaller or larger than the printer can take.").arg(name, value);
     }
     return {};

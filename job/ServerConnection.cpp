@@ -3,7 +3,9 @@
 // silence are noticed; LineCutter is for servers that never let it wait so long.
 #include "job/ServerConnection.h"
 
+#include "job/Advice.h"
 #include "job/PlainText.h"
+#include "job/Reason.h"
 #include "job/Texts.h"
 
 #include <algorithm>
@@ -162,13 +164,14 @@ QString ServerConnection::problem() const
                                   .arg(serverName())
                             : noAnswer();
     }
-    return harmless(QString::fromUtf8(cupsLastErrorString()));
+    return reasonText(QString::fromUtf8(cupsLastErrorString()));
 }
 
 QString ServerConnection::noAnswer()
 {
-    return Texts::tr("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
-                     "without one with --ppd FILE.")
+    return advice(Texts::tr("The print server %1 does not answer. It is asked again until it does."),
+                  QStringLiteral("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
+                                 "without one with --ppd FILE."))
         .arg(serverName());
 }
 

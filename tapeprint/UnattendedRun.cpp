@@ -52,7 +52,7 @@ bool settleJob(dialog::Panels &panels, const dialog::GatheredAlerts &alerts, job
     if (QString panel; !panels.shouldPrint(&panel)) {
         const QString said = alerts.lines().join(u' ');
         *error = {job::Problem::RefusedValue,
-                  QStringLiteral("Nothing was printed, because the panel \"%1\" does not accept the values given. %2")
+                  QStringLiteral("Nothing was printed: %1 does not accept the values given. %2")
                       .arg(panel, said.isEmpty() ? QStringLiteral("Change them with -o.") : said)};
         return false;
     }

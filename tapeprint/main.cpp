@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program tapeprint: reads its command line, and runs the dialog with or without a window.
+#include "dialog/Application.h"
 #include "job/OutputFile.h"
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Completion.h"
@@ -79,7 +80,8 @@ int main(int argc, char **argv)
     // The toolkit gets no arguments: its own options would take lp's letters away.
     int toolkitArgc = 1;
     auto start = std::make_optional<tapeprint::ToolkitStart>(wantsWindow, line->json);
-    const QApplication application(toolkitArgc, argv);
+    const tapeprint::dialog::Application application(toolkitArgc, argv);
+    tapeprint::dialog::nameCrashingPanels();
     start.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
     QApplication::setDesktopFileName(QStringLiteral("org.tapeprint.TapePrint")); // whose icon a Wayland desktop shows

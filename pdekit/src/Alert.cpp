@@ -44,6 +44,12 @@ AlertHandler &alertHandler()
     return handler;
 }
 
+int &alertCount()
+{
+    static int count = 0;
+    return count;
+}
+
 } // namespace
 
 void NSRunAlertPanel(const QString &title, const QString &text, const QString &defaultButton)
@@ -52,11 +58,17 @@ void NSRunAlertPanel(const QString &title, const QString &text, const QString &d
     const AlertHandler handler = alertHandler();
     const AlertRequest alert{title, text, defaultButton};
     const AlertDuringPress press;
+    ++alertCount();
     if (handler) {
         handler(alert);
     } else {
         showMessageBox(alert);
     }
+}
+
+int alertsRun()
+{
+    return alertCount();
 }
 
 void setAlertHandler(AlertHandler handler)

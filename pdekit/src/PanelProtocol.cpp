@@ -11,6 +11,7 @@ PanelCallback::~PanelCallback() = default;
 PanelViewResizing::~PanelViewResizing() = default;
 Panel::~Panel() = default;
 PanelLiveValues::~PanelLiveValues() = default;
+PanelHelp::~PanelHelp() = default;
 PlugIn::~PlugIn() = default;
 PlugInEntry::~PlugInEntry() = default;
 

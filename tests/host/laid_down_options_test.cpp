@@ -126,14 +126,17 @@ TEST(LaidDownLength, OfTheJob_ComesBeforeThePpds)
     const QTemporaryDir folder;
     const Destination printer = hosttest::testDestination(folder, lengthOption);
     ppd_file_t *ppd = printer.ppd.get();
-    EXPECT_EQ(laidDownLengthMm(options({{u"KsTapeLength"_qs, u"62.5"_qs}}), ppd), 62.5);
-    EXPECT_EQ(laidDownLengthMm({}, ppd), 80.0);
+    const QString length = u"KsTapeLength"_qs;
+    EXPECT_EQ(laidDownLengthMm(options({{length, u"62.5"_qs}}), ppd, QString()), std::nullopt);
+    EXPECT_EQ(laidDownLengthMm(options({{u"KsTapeLength"_qs, u"62.5"_qs}}), ppd, length), 62.5);
+    EXPECT_EQ(laidDownLengthMm({}, ppd, length), 80.0);
     // Another tape brings its own length, but a length given beside it counts.
-    EXPECT_EQ(laidDownLengthMm(options({{u"PageSize"_qs, u"W24"_qs}}), ppd), std::nullopt);
-    EXPECT_EQ(laidDownLengthMm(options({{u"PageSize"_qs, u"W24"_qs}, {u"KsTapeLength"_qs, u"9"_qs}}), ppd), 9.0);
-    EXPECT_EQ(laidDownLengthMm(options({{u"KsTapeLength"_qs, u"long"_qs}}), ppd), std::nullopt);
-    EXPECT_EQ(laidDownLengthMm(options({{u"KsTapeLength"_qs, u"-5"_qs}}), ppd), std::nullopt);
-    EXPECT_EQ(laidDownLengthMm({}, nullptr), std::nullopt);
+    EXPECT_EQ(laidDownLengthMm(options({{u"PageSize"_qs, u"W24"_qs}}), ppd, length), std::nullopt);
+    EXPECT_EQ(laidDownLengthMm(options({{u"PageSize"_qs, u"W24"_qs}, {u"KsTapeLength"_qs, u"9"_qs}}), ppd, length),
+              9.0);
+    EXPECT_EQ(laidDownLengthMm(options({{u"KsTapeLength"_qs, u"long"_qs}}), ppd, length), std::nullopt);
+    EXPECT_EQ(laidDownLengthMm(options({{u"KsTapeLength"_qs, u"-5"_qs}}), ppd, length), std::nullopt);
+    EXPECT_EQ(laidDownLengthMm({}, nullptr, length), std::nullopt);
 }
 
 TEST(HeightFromMm, IsNeverReadBackAsLess)

@@ -62,6 +62,11 @@ TEST_F(PanelsTest, Open_LaysDownBeforeThePanelIsMade)
     ASSERT_TRUE(job.pageFormat().paper.has_value());
     EXPECT_EQ(job.pageFormat().paper->ppdPaperName, u"W24"_qs);
     EXPECT_DOUBLE_EQ(job.pageFormat().paper->widthPt, 72.0);
+    // The plug-in of the tests says nothing of tapes.
+    EXPECT_DOUBLE_EQ(job.pageFormat().paper->heightPt, 144.0);
+    TapeKeywords tape;
+    tape.lengthOption = u"KsTapeLength"_qs;
+    job.setTape(tape);
     // 100 mm x 0.0393701 inch/mm x 72 points/inch
     EXPECT_NEAR(job.pageFormat().paper->heightPt, 283.46472, 1e-9);
 }
@@ -160,6 +165,9 @@ TEST_F(PanelsTest, PanelsChoice_IsToldToEveryPanelTheSenderIncluded)
     takeCalls();
     job.takeChoice(u"KsMargin"_qs, u"5.0"_qs);
     EXPECT_EQ(takeCalls(), QStringList{u"changed KsMargin=5.0, tape W12"_qs});
+    // Sent again it is no change.
+    job.takeChoice(u"KsMargin"_qs, u"5.0"_qs);
+    EXPECT_EQ(takeCalls(), QStringList());
 }
 
 TEST_F(PanelsTest, PanelsChoice_WithoutKeywordOrValueOrInBraces_IsRefused)
@@ -366,7 +374,7 @@ TEST_F(PanelsTest, Refusal_NamesThePanel)
     EXPECT_FALSE(panels.shouldPrint(&refusedBy));
     pdekit::setAlertHandler({});
     qApp->setProperty("hostTestRefuse", QVariant());
-    EXPECT_EQ(refusedBy, u"Test Panel"_qs);
+    EXPECT_EQ(refusedBy, u"The panel \"Test Panel\" of "_qs + hosttest::goodBundles().first() + u"/HostTest.bundle"_qs);
     EXPECT_TRUE(panels.shouldPrint(&refusedBy));
 }
 

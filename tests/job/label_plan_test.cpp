@@ -138,6 +138,24 @@ TEST(LabelPlan_Sheets, SheetsOfPaper_HoldPagesOfOneDocument)
     EXPECT_EQ(told(planLabels({pages(2)}, paper, options({{u"number-up"_qs, u"5"_qs}}))), u"0.0 0.1"_qs);
 }
 
+TEST(LabelPlan_Sheets, TwoPagesOnPaper_StandOnASheetThatLiesTurnedAgainstTheClock)
+{
+    TapePage paper;
+    paper.sizePt = {600, 800};
+    // Lying, the sheet has two places of 398.5 x 600 points, 3 points apart.
+    const LabelPlan plan = planLabels({pages(2, {398.5, 600})}, paper, options({{u"number-up"_qs, u"2"_qs}}));
+    ASSERT_EQ(told(plan), u"0.0+0.1"_qs);
+    EXPECT_EQ(plan.labels[0][0].clip, QRectF(0, 401.5, 600, 398.5)); // read from below upwards
+    EXPECT_EQ(plan.labels[0][1].clip, QRectF(0, 0, 600, 398.5));
+    EXPECT_EQ(plan.labels[0][0].place.map(QPointF(0, 0)), QPointF(0, 800));
+    EXPECT_EQ(plan.labels[0][0].place.map(QPointF(398.5, 0)), QPointF(0, 401.5));
+    EXPECT_EQ(plan.labels[0][0].place.map(QPointF(0, 600)), QPointF(600, 800));
+    // Four stand upright.
+    const LabelPlan four = planLabels({pages(4, {298.5, 398.5})}, paper, options({{u"number-up"_qs, u"4"_qs}}));
+    EXPECT_EQ(four.labels[0][1].clip, QRectF(301.5, 0, 298.5, 398.5));
+    EXPECT_EQ(four.labels[0][0].place.map(QPointF(0, 0)), QPointF(0, 0));
+}
+
 TEST(LabelPlan_Sheets, NumberUpLayout_SaysWhereTheFirstPageStands)
 {
     // Two pages on a tape that is four times as long as wide stand one above the other.

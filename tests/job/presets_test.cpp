@@ -15,6 +15,7 @@
 #include <array>
 #include <csignal>
 #include <memory>
+#include <thread>
 
 #include <cups/cups.h>
 #include <cups/file.h>
@@ -46,6 +47,24 @@ protected:
     CupsHome home;
     Problem error;
 };
+
+TEST_F(Presets, TwoWritersAtOnce_LoseNothingOfEachOther)
+{
+    write(ownPath(), "Dest office/kept x=y\n");
+    constexpr int each = 40;
+    const auto saveMany = [](const QString &queue) {
+        Problem problem;
+        for (int i = 0; i < each; ++i) {
+            EXPECT_TRUE(savePreset(queue, u"p%1"_qs.arg(i), options({{u"A"_qs, u"1"_qs}}), &problem));
+        }
+    };
+    std::thread other([&saveMany] { saveMany(u"second"_qs); });
+    saveMany(u"first"_qs);
+    other.join();
+    EXPECT_EQ(names(u"first"_qs).size(), each);
+    EXPECT_EQ(names(u"second"_qs).size(), each);
+    EXPECT_EQ(names(u"office"_qs), QStringList{u"kept"_qs});
+}
 
 TEST_F(Presets, Saving_KeepsEveryOtherLineAsItWas)
 {

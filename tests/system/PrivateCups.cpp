@@ -13,8 +13,10 @@
 #include <memory>
 #include <span>
 
+#include <arpa/inet.h>
 #include <cups/cups.h>
 #include <pwd.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 namespace systemtest
@@ -87,6 +89,19 @@ QByteArray filled(const char *text, const QString &first, const QString &second 
     return QByteArray(text).replace("%1", QFile::encodeName(first)).replace("%2", QFile::encodeName(second));
 }
 
+/// The module that looks for passwords in a file, in the folder of the machine's kind.
+QString passwordModule()
+{
+    const QDir libraries(QStringLiteral("/usr/lib"));
+    for (const QString &folder : libraries.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const QString module = libraries.filePath(folder + QLatin1String("/pam_wrapper/pam_matrix.so"));
+        if (QFileInfo::exists(module)) {
+            return module;
+        }
+    }
+    return {};
+}
+
 QString describedBy(const QString &description)
 {
     return QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-%1.ppd").arg(description);
@@ -112,6 +127,48 @@ QString PrivateCups::reasonToSkip()
     return {};
 }
 
+void PrivateCups::requirePassword(const QByteArray &user, const QByteArray &password)
+{
+    mPassword = user + ':' + password;
+    // A port that is free now; the server may use it again at once.
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    const int probe = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    // The socket interface takes every kind of address through this one type.
+    auto *any = reinterpret_cast<sockaddr *>(&address);
+    if (bind(probe, any, size) == 0 && getsockname(probe, any, &size) == 0) {
+        mGuardedPort = ntohs(address.sin_port);
+    }
+    close(probe);
+}
+
+/// The server asks PAM, and PAM is given a file of the test's own to look into.
+void PrivateCups::guard(QByteArray &configuration)
+{
+    configuration.replace("DefaultAuthType None", "DefaultAuthType Basic");
+    configuration.replace("  <Limit All>", "  <Limit Create-Job Print-Job>\n"
+                                           "    AuthType Basic\n"
+                                           "    Require valid-user\n"
+                                           "    Order allow,deny\n"
+                                           "    Allow all\n"
+                                           "  </Limit>\n"
+                                           "  <Limit All>");
+    configuration += "Listen " + guardedServer().toLatin1() + '\n';
+    const QString known = writeFile(mFolder.path(QStringLiteral("passwords")), mPassword + ":cups\n", 0600);
+    const QByteArray module = QFile::encodeName(passwordModule()) + " passdb=" + QFile::encodeName(known) + '\n';
+    const QString services = mFolder.makeFolder(QStringLiteral("pam"));
+    for (const char *name : {"/cups", "/other"}) {
+        writeFile(services + QLatin1String(name), "auth required " + module + "account required " + module, 0644);
+    }
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral("libpam_wrapper.so"));
+    environment.insert(QStringLiteral("PAM_WRAPPER"), QStringLiteral("1"));
+    environment.insert(QStringLiteral("PAM_WRAPPER_SERVICE_DIR"), services);
+    mServer.setProcessEnvironment(environment);
+}
+
 QString PrivateCups::start()
 {
     const passwd *printUser = getpwnam("lp");
@@ -131,8 +188,11 @@ QString PrivateCups::start()
     mFolder.makeFolder(QStringLiteral("home/runtime"), 0700); // the toolkit insists on it
     const QString files =
         writeFile(mFolder.path(QStringLiteral("cups-files.conf")), filled(filesConfiguration, mFolder.path()), 0640);
-    const QString server = writeFile(mFolder.path(QStringLiteral("cupsd.conf")),
-                                     mMoreConfiguration + filled(serverConfiguration, mFolder.path()), 0640);
+    QByteArray configuration = mMoreConfiguration + filled(serverConfiguration, mFolder.path());
+    if (!mPassword.isEmpty()) {
+        guard(configuration);
+    }
+    const QString server = writeFile(mFolder.path(QStringLiteral("cupsd.conf")), configuration, 0640);
 
     QByteArray queues;
     for (int i = 0; i < mManyQueues; ++i) {

@@ -47,6 +47,11 @@ public:
     void configure(const QByteArray &line) { mMoreConfiguration += line + '\n'; }
     /// Queues "many-0", "many-1" and so on, without descriptions, before the server is started.
     void configureManyQueues(int count) { mManyQueues = count; }
+    /// Jobs are taken of one user alone, who gives a password; before the server is started. It then listens at
+    /// guardedServer(), too: at its socket, root would need none.
+    void requirePassword(const QByteArray &user, const QByteArray &password);
+    /// The server's address for those who are asked for a password, as CUPS_SERVER takes it.
+    QString guardedServer() const { return QStringLiteral("127.0.0.1:%1").arg(mGuardedPort); }
     /// Starts the server and waits until it answers. \return null, or why it does not.
     QString start();
 
@@ -80,6 +85,7 @@ public:
     std::vector<std::pair<QString, QString>> clientVariables() const;
 
 private:
+    void guard(QByteArray &configuration);
     QString addQueue(const QString &name, const QString &ppdPath);
     QString outputPath(const QString &queue) const { return mFolder.path(QStringLiteral("out/%1.prn").arg(queue)); }
     QString recordingFilter();
@@ -89,6 +95,8 @@ private:
     PrivateFolder mFolder;
     QByteArray mMoreConfiguration;
     int mManyQueues = 0;
+    int mGuardedPort = 0;
+    QByteArray mPassword; ///< USER:PASSWORD; empty where none is wanted
     QProcess mServer;
 };
 

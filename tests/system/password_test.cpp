@@ -3,6 +3,7 @@
 #include "tests/support/ExitStatuses.h"
 #include "tests/support/MeddlingServer.h"
 #include "tests/system/SystemTest.h"
+#include "tests/system/WindowUnderTest.h"
 
 #include <cups/cups.h>
 #include <poll.h>
@@ -106,6 +107,76 @@ TEST_F(PasswordTest, TerminalWhereNothingIsTyped_EndsInWords)
     EXPECT_EQ(status, testsupport::rejectedJob) << shown.toStdString();
     EXPECT_TRUE(shown.contains("wants a user's name and password")) << shown.toStdString();
     EXPECT_TRUE(cups.jobs().empty());
+}
+
+/// A server that itself wants a password, and the window.
+class WindowPassword : public systemtest::SystemTest
+{
+protected:
+    void SetUp() override
+    {
+        if (const QString reason = systemtest::PrivateDisplay::reasonToSkip(); !reason.isNull()) {
+            GTEST_SKIP() << reason.toStdString();
+        }
+        cups.requirePassword("anna", "right");
+        SystemTest::SetUp();
+        if (HasFatalFailure() || IsSkipped()) {
+            return;
+        }
+        QString problem = display.start();
+        ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+        moreVariables = {{u"CUPS_SERVER"_qs, cups.guardedServer()}};
+        problem = dialog.open({QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"),
+                               {u"-d"_qs, u"tape"_qs, document},
+                               variables(),
+                               workFolder});
+        ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+    }
+
+    /// Waits for the question and answers it. \return the question's window; null when none comes.
+    QString answer(const QString &user, const QString &password)
+    {
+        const QString question = dialog.waitForFurtherWindow();
+        dialog.press({u"alt+u"_qs, u"ctrl+a"_qs});
+        dialog.type(user);
+        dialog.press({u"Tab"_qs});
+        dialog.type(password);
+        dialog.press({u"Return"_qs});
+        return question;
+    }
+
+    systemtest::PrivateDisplay display;
+    systemtest::WindowUnderTest dialog{display};
+};
+
+TEST_F(WindowPassword, WrongAndThenRight_PrintsInThePersonsName)
+{
+    dialog.clickPrint();
+    const QString first = answer(u"anna"_qs, u"wrong"_qs);
+    ASSERT_FALSE(first.isNull());
+    ASSERT_TRUE(dialog.waitForGone(first));
+    ASSERT_FALSE(answer(u"anna"_qs, u"right"_qs).isNull());
+    const Outcome outcome = dialog.waitForEnd();
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    ASSERT_TRUE(cups.waitForEnd(1).has_value());
+    EXPECT_EQ(cups.attributeOfJob(1, "job-originating-user-name"), "anna");
+}
+
+TEST_F(WindowPassword, NoAnswer_IsSaidAndNothingIsPrinted)
+{
+    dialog.clickPrint();
+    const QString question = dialog.waitForFurtherWindow();
+    ASSERT_FALSE(question.isNull());
+    dialog.press({u"Escape"_qs});
+    ASSERT_TRUE(dialog.waitForGone(question));
+    const QString alert = dialog.waitForFurtherWindow(); // that the server wants one
+    ASSERT_FALSE(alert.isNull());
+    dialog.press({u"Return"_qs});
+    ASSERT_TRUE(dialog.waitForGone(alert));
+    EXPECT_TRUE(cups.jobs().empty());
+    dialog.clickPrint(); // the window is of use as before
+    ASSERT_FALSE(answer(u"anna"_qs, u"right"_qs).isNull());
+    EXPECT_EQ(dialog.waitForEnd().status, 0);
 }
 
 } // namespace

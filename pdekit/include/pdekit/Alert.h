@@ -28,6 +28,9 @@ using AlertHandler = std::function<void(const AlertRequest &alert)>;
 /// afterwards, as the release went to the alert.
 PDEKIT_EXPORT void NSRunAlertPanel(const QString &title, const QString &text, const QString &defaultButton);
 
+/// How many alerts have been run in this process. A dialog sees by it whether a panel that refuses has said why.
+PDEKIT_EXPORT int alertsRun();
+
 /// Replaces how alerts are shown, for the whole process. An empty handler sets the message box back.
 PDEKIT_EXPORT void setAlertHandler(AlertHandler handler);
 

@@ -101,9 +101,16 @@ public:
     virtual bool shouldHide() = 0;
     /// The last word before the job goes out; false keeps the dialog open.
     virtual bool shouldPrint() = 0;
-    /// Whether the dialog's help button is to lead to help for this panel.
+    /// Whether the dialog's help button is to lead to help for this panel. It does when the panel offers PanelHelp too;
+    /// asked for each time the panel comes to the front.
     virtual bool shouldShowHelp() = 0;
-    /// A PPD option changed elsewhere in the dialog. \param key its keyword; \param choice the choice's keyword.
+    /// A PPD option took another choice: elsewhere in the dialog, by another panel, or by this panel's own
+    /// willChangePPDOptionKeyValue, so that a panel which goes by what it is told stays right. Of each choice a panel
+    /// is told once, and again only after it was told another of the same option: to answer with the choice just told
+    /// is no change. The paper ("PageSize") alone is told once more when the panel has been shown with it.
+    ///
+    /// Sent during the call that changes the option, with the dialog's objects changed already, or when all panels have
+    /// heard of the change before. \param key the option's keyword; \param choice the choice's keyword.
     virtual void PPDOptionKeyValueDidChange(const QString &key, const QString &choice) = 0;
     /// Go back to what the dialog's PPD and settings say. False: it could not, and *error (when asked for) says why.
     virtual bool restoreValuesAndReturnError(QString *error) = 0;
@@ -132,6 +139,20 @@ public:
     /// Changes nothing, checks nothing, shows nothing and calls nothing of the dialog but the operations that hand out
     /// the job's objects: a dialog may ask at every event. Empty before the panel has controls.
     virtual std::vector<std::pair<QString, QString>> currentValues() const = 0;
+};
+
+/// An operation that a panel may offer beside Panel. A dialog asks for it with a dynamic_cast of the panel.
+class PDEKIT_EXPORT PanelHelp
+{
+public:
+    PanelHelp() = default;
+    PanelHelp(const PanelHelp &) = delete;
+    PanelHelp &operator=(const PanelHelp &) = delete;
+    virtual ~PanelHelp();
+
+    /// The person pressed the dialog's help button, which is there while the panel is in front and answers
+    /// shouldShowHelp() with true. The panel shows its help in a way of its own.
+    virtual void showHelp() = 0;
 };
 
 /// Panels as a plug-in hands them out. The array and the dialog share each panel.
