@@ -218,7 +218,7 @@ void Panels::tell(const QString &key, const QString &choice)
         const auto [changedKey, newChoice] = mToTell.front();
         mToTell.pop_front();
         if (told == mostChangesInARow) {
-            mCalls.tell(tr("Panels change %1 without end, %2 among them: it is printed as it stands.")
+            mCalls.tell(tr("Panels change %1 without end (%2): it is printed as it stands.")
                             .arg(changedKey, mSenders[changedKey]));
             break;
         }
