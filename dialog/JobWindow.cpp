@@ -29,7 +29,7 @@ job::Job &opened(job::Job &job, Panels &panels, std::optional<job::Destination> 
 
 } // namespace
 
-JobWindow::JobWindow(PrintDialog::Setup setup, PrintDialog::PrintAction print,
+JobWindow::JobWindow(const PrintDialog::Setup &setup, PrintDialog::PrintAction print,
                      std::optional<job::Destination> destination)
     : mPanels(mJob, pdekit::bundleSearchPath()),
       mDialog(opened(mJob, mPanels, std::move(destination), setup.request.options), mPanels, setup, std::move(print))

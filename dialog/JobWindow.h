@@ -17,7 +17,7 @@ class JobWindow
 {
 public:
     /// \param destination one that is open already; else the window opens its own.
-    JobWindow(PrintDialog::Setup setup, PrintDialog::PrintAction print,
+    JobWindow(const PrintDialog::Setup &setup, PrintDialog::PrintAction print,
               std::optional<job::Destination> destination = std::nullopt);
 
     PrintDialog &dialog() { return mDialog; }

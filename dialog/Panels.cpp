@@ -219,7 +219,7 @@ void Panels::tell(const QString &key, const QString &choice)
         const QString newChoice = mToTell.front().second;
         mToTell.pop_front();
         if (told == mostChangesInARow) {
-            mCalls.tell(tr("Panels change %1 without end, %2 among them: it is printed as it stands.")
+            mCalls.tell(tr("Panels change %1 without end (%2): it is printed as it stands.")
                             .arg(changedKey, mSenders[changedKey]));
             break;
         }

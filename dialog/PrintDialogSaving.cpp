@@ -52,7 +52,7 @@ bool PrintDialog::isAcceptedByPanels()
     QString panel;
     const bool isAccepted = mPanels.shouldPrint(&panel);
     const int seenBefore = std::exchange(mAlertsSeen, pdekit::alertsRun());
-    mRefusal = isAccepted ? QString() : tr("Nothing was printed: %1 does not accept the settings.").arg(panel);
+    mRefusal = isAccepted ? QString() : tr("%1 does not accept the settings. Nothing was printed.").arg(panel);
     if (!isAccepted) {
         follow();
         // Mostly a panel has said why, in an alert when the value was typed or just now.

@@ -58,7 +58,7 @@ AskConversation::AskConversation(Caller caller, AskedSettings asked, const QStri
     if (mAsked.printsPart) {
         setup.aboutPages = PortalTexts::tr("The program prints a part: its current page, or what is selected.");
     }
-    mWindow = new PortalWindow(std::move(setup), nullptr, mCaller.parentWindow, mCaller.isModal);
+    mWindow = new PortalWindow(setup, nullptr, mCaller.parentWindow, mCaller.isModal);
     connect(mWindow, &PortalWindow::closed, this, [this] {
         mWindow->deleteWhenQuiet();
         answer(mResults.isEmpty() ? Response::Cancelled : Response::Done, mResults);

@@ -19,9 +19,9 @@ constexpr int waitMs = 250;
 
 } // namespace
 
-PortalWindow::PortalWindow(dialog::PrintDialog::Setup setup, dialog::PrintDialog::PrintAction print,
+PortalWindow::PortalWindow(const dialog::PrintDialog::Setup &setup, dialog::PrintDialog::PrintAction print,
                            const QString &parentWindow, bool isModal)
-    : mWindow(std::move(setup), std::move(print)), mParent(parentWindow)
+    : mWindow(setup, std::move(print)), mParent(parentWindow)
 {
     mDismissTimer.setInterval(lookMs);
     mQuietTimer.setInterval(lookMs);

@@ -52,9 +52,8 @@ void PrintConversation::showWindow()
     setup.files = QStringList{mDocument.file()->path()};
     setup.printers = dialog::PrinterSource::server();
     setup.heading = headingFor(mCaller);
-    mWindow =
-        new PortalWindow(std::move(setup), dialog::JobWindow::printing(mCaller.title, {mDocument.file()->path()}, {}),
-                         mCaller.parentWindow, mCaller.isModal);
+    mWindow = new PortalWindow(setup, dialog::JobWindow::printing(mCaller.title, {mDocument.file()->path()}, {}),
+                               mCaller.parentWindow, mCaller.isModal);
     connect(mWindow, &PortalWindow::closed, this, [this](bool isAccepted) {
         mWindow->deleteWhenQuiet();
         answer(isAccepted ? Response::Done : Response::Cancelled);

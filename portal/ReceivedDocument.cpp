@@ -22,18 +22,20 @@ namespace tapeprint::portal
 namespace
 {
 
+job::Problem unreadable(const QString &reason)
+{
+    // The class by its whole name: lupdate finds no other for this text.
+    return {job::Problem::BadDocument,
+            tapeprint::portal::PortalTexts::tr(
+                "The program's document cannot be read (%1): print it once more, or save it as a PDF and "
+                "print that.")
+                .arg(reason)};
+}
+
 constexpr std::size_t pieceBytes = 1 << 20;
 constexpr int lookMs = 100;
 /// The room that is left is asked for after each so many bytes.
 constexpr qint64 roomStep = qint64{16} << 20;
-
-job::Problem unreadable(const QString &reason)
-{
-    return {job::Problem::BadDocument,
-            PortalTexts::tr("The program's document cannot be read (%1): print it once more, or save it as a PDF and "
-                            "print that.")
-                .arg(reason)};
-}
 
 bool canDeliver(int descriptor, job::Problem *problem)
 {

@@ -64,8 +64,7 @@ RunReport runWindow(const CommandLine &line)
     setup.title = title;
     setup.files = documents->files();
     setup.printers = isQueue ? dialog::PrinterSource::server() : dialog::PrinterSource();
-    dialog::JobWindow jobWindow(std::move(setup),
-                                dialog::JobWindow::printing(title, documents->files(), documents->sources()),
+    dialog::JobWindow jobWindow(setup, dialog::JobWindow::printing(title, documents->files(), documents->sources()),
                                 std::move(destination));
     dialog::PrintDialog &window = jobWindow.dialog();
     waitABit(window);

@@ -3,6 +3,89 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>pdekit::LoadingTexts</name>
+    <message>
+        <source>the program ended while this plug-in was starting; it is tried again the next time</source>
+        <translation>das Programm endete, während dieses Plug-in startete; beim nächsten Mal wird es wieder versucht</translation>
+    </message>
+    <message>
+        <source>the program ended while this plug-in was starting, and again the next time; it is tried again when the bundle has changed</source>
+        <translation>das Programm endete, während dieses Plug-in startete, und beim nächsten Mal wieder; es wird erst wieder versucht, wenn sich das Bundle geändert hat</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>sein Code kann nicht geladen werden: %1</translation>
+    </message>
+    <message>
+        <source>its code is not what its metadata says</source>
+        <translation>sein Code ist nicht, was seine Metadaten sagen</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>die Hauptklasse %1 fehlt</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>es kann auf diesem System nicht arbeiten</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting: %1</source>
+        <translation>es ist beim Starten gescheitert: %1</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting</source>
+        <translation>es ist beim Starten gescheitert</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>Die Beschreibung des Druckers verlangt das Plug-in %1, das nicht installiert ist. Gedruckt werden kann auch ohne es.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is used in place of %2.</source>
+        <translation>Das Plug-in %1 wird anstelle von %2 verwendet.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>Das Plug-in %1 wird nicht verwendet: %2. Gedruckt werden kann auch ohne es. Aktualisieren oder entfernen Sie das Bundle.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>%1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1 belongs to somebody else</source>
+        <translation>%1 gehört jemand anderem</translation>
+    </message>
+    <message>
+        <source>everybody may write to %1</source>
+        <translation>in %1 darf jeder schreiben</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>es ist für eine andere Bereichsschnittstelle gemacht (%1)</translation>
+    </message>
+    <message>
+        <source>it is made for a later version of the panel interface (%1)</source>
+        <translation>es ist für eine spätere Fassung der Bereichsschnittstelle gemacht (%1)</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>die Datei %1 fehlt</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>sein Code ist kein Plug-in, das dieses Qt laden kann</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>seine Metadaten nennen keine Hauptklasse</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>es bietet keine Bereiche für Drucker</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::AmountLabel</name>
     <message>
         <source>No page is chosen</source>
@@ -408,12 +491,41 @@
         <translation>Der Bereich „%1“ von %2 hat keine Ansicht. Seine Werte werden so gedruckt, wie sie vorgegeben sind.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
-        <translation>Der Bereich „%1“ konnte seine Werte nicht übergeben: %2</translation>
+        <source>The plug-in %1 is not used: %2. Printing works without it.</source>
+        <translation>Das Plug-in %1 wird nicht verwendet: %2. Gedruckt werden kann auch ohne es.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
-        <translation>Der Bereich „%1“ konnte seine Werte nicht wiederherstellen: %2</translation>
+        <source>The plug-in %1</source>
+        <translation>Das Plug-in %1</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2</source>
+        <translation>Der Bereich „%1“ von %2</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sent an option that no job can carry, which was left out: %2.</source>
+        <translation>Das Plug-in %1 hat eine Option gesendet, die kein Auftrag enthalten kann. Sie wurde weggelassen: %2.</translation>
+    </message>
+    <message>
+        <source>Panels change %1 without end (%2): it is printed as it stands.</source>
+        <translation>Bereiche ändern %1 ohne Ende (%2). Gedruckt wird, was jetzt eingestellt ist.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sends %2=%3, which the printer&apos;s description does not know.</source>
+        <translation>Das Plug-in %1 sendet %2=%3, was die Beschreibung des Druckers nicht kennt.</translation>
+    </message>
+    <message>
+        <source>%1 could not hand over its values</source>
+        <translation>%1 konnte seine Werte nicht übergeben</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what failed, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not restore its values</source>
+        <translation>%1 konnte seine Werte nicht wiederherstellen</translation>
     </message>
 </context>
 <context>
@@ -614,6 +726,10 @@
         <source>There is no preview: %1</source>
         <translation>Keine Vorschau: %1</translation>
     </message>
+    <message>
+        <source>The program&apos;s pages come later, laid out for this size.</source>
+        <translation>Die Seiten des Programms kommen später, für diese Größe gesetzt.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -751,10 +867,6 @@
         <translation>Neu &amp;laden</translation>
     </message>
     <message>
-        <source>Print %1 – connecting…</source>
-        <translation>%1 drucken – wird verbunden …</translation>
-    </message>
-    <message>
         <source>Connecting…</source>
         <translation>Wird verbunden …</translation>
     </message>
@@ -769,6 +881,22 @@
     <message>
         <source>Cancel Job</source>
         <translation>Auftrag abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Help for this page of the settings</source>
+        <translation>Hilfe zu dieser Seite der Einstellungen</translation>
+    </message>
+    <message>
+        <source>%1 – connecting…</source>
+        <translation>%1 – wird verbunden …</translation>
+    </message>
+    <message>
+        <source>%1 does not accept the settings. Nothing was printed.</source>
+        <translation>%1 nimmt die Einstellungen nicht an. Gedruckt wurde nichts.</translation>
     </message>
 </context>
 <context>
@@ -984,10 +1112,6 @@
         <translation>ohne Angabe von Gründen</translation>
     </message>
     <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
-        <translation>Die Druckdaten können nicht in %1 geschrieben werden (%2). Schaffen Sie dort Platz oder geben Sie mit --output eine andere Datei an.</translation>
-    </message>
-    <message>
         <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
         <translation>Die Filter können nicht gestartet werden (%1). Prüfen Sie, ob CUPS vollständig installiert ist.</translation>
     </message>
@@ -998,10 +1122,6 @@
     <message>
         <source>The program cupsfilter is missing: install the package cups.</source>
         <translation>Das Programm cupsfilter fehlt. Installieren Sie das Paket „cups“.</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written (%2): name another with --output.</source>
-        <translation>Die Datei %1 kann nicht geschrieben werden (%2). Geben Sie mit --output eine andere an.</translation>
     </message>
     <message>
         <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
@@ -1020,52 +1140,12 @@
         <translation>Die Warteschlange %1 ist nicht erreichbar (%2). „lpstat -e“ nennt die vorhandenen Warteschlangen.</translation>
     </message>
     <message>
-        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
-        <translation>Die Warteschlange %1 hat den Auftrag nicht angenommen (%2). Näheres zeigt „lpstat -p %1 -l“.</translation>
-    </message>
-    <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
         <translation>%1=%2 gehört nicht zu den Werten, die die PPD-Datei des Druckers aufführt.</translation>
     </message>
     <message>
         <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
         <translation>Die Option %1 erreicht den Filter des Druckers nie, weil der Druckserver sie für sein eigenes Attribut %2 hält. Geben Sie ihr in der PPD-Datei einen anderen Namen.</translation>
-    </message>
-    <message>
-        <source>its code is no plug-in that this Qt can load</source>
-        <translation>sein Code ist kein Plug-in, das dieses Qt laden kann</translation>
-    </message>
-    <message>
-        <source>it is made for another panel interface (%1)</source>
-        <translation>es ist für eine andere Bereichsschnittstelle gemacht (%1)</translation>
-    </message>
-    <message>
-        <source>its metadata names no principal class</source>
-        <translation>seine Metadaten nennen keine Hauptklasse</translation>
-    </message>
-    <message>
-        <source>it does not serve printer panels</source>
-        <translation>es bietet keine Bereiche für Drucker</translation>
-    </message>
-    <message>
-        <source>it has no file %1</source>
-        <translation>die Datei %1 fehlt</translation>
-    </message>
-    <message>
-        <source>its code cannot be loaded: %1</source>
-        <translation>sein Code kann nicht geladen werden: %1</translation>
-    </message>
-    <message>
-        <source>it has no principal class %1</source>
-        <translation>die Hauptklasse %1 fehlt</translation>
-    </message>
-    <message>
-        <source>it cannot serve on this system</source>
-        <translation>es kann auf diesem System nicht arbeiten</translation>
-    </message>
-    <message>
-        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
-        <translation>Das Plug-in %1 wird nicht verwendet: %2. Gedruckt werden kann auch ohne es. Aktualisieren oder entfernen Sie das Bundle.</translation>
     </message>
     <message>
         <source>it is a folder</source>
@@ -1078,18 +1158,6 @@
     <message>
         <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
         <translation>Die PPD-Datei %1 ist ungültig, Zeile %2: %3. Berichtigen Sie die Datei oder geben Sie eine andere an.</translation>
-    </message>
-    <message>
-        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
-        <translation>Der Druckserver %1 antwortet nicht. Starten Sie ihn, nennen Sie in CUPS_SERVER einen anderen oder drucken Sie mit --ppd DATEI ohne Server.</translation>
-    </message>
-    <message>
-        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
-        <translation>Es gibt keinen Standarddrucker. Nennen Sie mit -d WARTESCHLANGE eine Warteschlange oder drucken Sie mit --ppd DATEI ohne eine.</translation>
-    </message>
-    <message>
-        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
-        <translation>Der Druckserver kennt keine Warteschlange %1. „lpstat -e“ nennt die vorhandenen Warteschlangen.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
@@ -1170,10 +1238,6 @@
     <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
         <translation>%1=%2 gehört nicht zu den Werten, die die PPD-Datei des Druckers aufführt. Der Auftrag enthält %3=%4.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
-        <translation>Die Beschreibung des Druckers verlangt das Plug-in %1, das nicht installiert ist. Gedruckt werden kann auch ohne es.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
@@ -1272,16 +1336,8 @@
         <translation>eine Datei dieses Namens ist schon da</translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>Die Datei %1 wird nur als Ganzes ersetzt, und neben sie kann nichts geschrieben werden (%2): Nennen Sie mit --output eine andere.</translation>
-    </message>
-    <message>
         <source>standard output</source>
         <translation>Standardausgabe</translation>
-    </message>
-    <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>Die Ausgabe (%1) ist dieselbe Datei wie %2, die nur gelesen wird: Nennen Sie mit --output eine andere.</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -1290,10 +1346,6 @@
     <message>
         <source>it is a pipe or a device</source>
         <translation>sie ist eine Pipe oder ein Gerät</translation>
-    </message>
-    <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>Die Druckerbeschreibung %1 bringt eigene Programme oder Befehle mit, für die niemand bürgt: %2. Nichts davon wurde ausgeführt. Wenn Sie dem Verfasser vertrauen, wiederholen Sie es mit --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
@@ -1740,6 +1792,98 @@
         <source>%1 ft</source>
         <comment>a length in feet</comment>
         <translation>%1 Fuß</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): choose another printer.</source>
+        <translation>Die Warteschlange %1 ist nicht erreichbar (%2). Wählen Sie einen anderen Drucker.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2).</source>
+        <translation>Die Warteschlange %1 hat den Auftrag nicht angenommen (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden (%2). Geben Sie eine andere an.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
+        <translation>Die Druckdaten können nicht in %1 geschrieben werden (%2). Schaffen Sie dort Platz oder geben Sie eine andere Datei an.</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>
+        <translation>Die Datei %1 wird nur als Ganzes ersetzt, und neben sie kann nichts geschrieben werden (%2). Geben Sie eine andere an.</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another.</source>
+        <translation>Die Ausgabe (%1) ist dieselbe Datei wie %2, die nur gelesen wird. Geben Sie eine andere an.</translation>
+    </message>
+    <message>
+        <source>The part of this program that draws pages cannot be loaded (%1): install it again.</source>
+        <translation>Der Teil dieses Programms, der Seiten zeichnet, kann nicht geladen werden (%1). Installieren Sie es neu.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run.</source>
+        <translation>Die Druckerbeschreibung %1 bringt eigene Programme oder Befehle mit, für die niemand bürgt: %2. Nichts davon wurde ausgeführt.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: choose one.</source>
+        <translation>Es gibt keinen Standarddrucker. Wählen Sie einen Drucker.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: choose another printer.</source>
+        <translation>Der Druckserver kennt keine Warteschlange %1. Wählen Sie einen anderen Drucker.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer. It is asked again until it does.</source>
+        <translation>Der Druckserver %1 antwortet nicht. Er wird gefragt, bis er es tut.</translation>
+    </message>
+    <message>
+        <source>%1 calls itself without end, and was not asked again.</source>
+        <translation>%1 ruft sich ohne Ende selbst auf und wurde nicht noch einmal gefragt.</translation>
+    </message>
+    <message>
+        <source>%1 kept the window waiting for %2 s.</source>
+        <translation>%1 hat das Fenster %2 s warten lassen.</translation>
+    </message>
+    <message>
+        <source>%1 failed.</source>
+        <translation>%1 ist gescheitert.</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2.</source>
+        <translation>%1 ist gescheitert: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::portal::PortalTexts</name>
+    <message>
+        <source>The program prints a part: its current page, or what is selected.</source>
+        <translation>Das Programm druckt einen Teil: seine aktuelle Seite oder die Auswahl.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>title and program</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>es ist leer</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>es ist zu groß</translation>
+    </message>
+    <message>
+        <source>The program&apos;s document cannot be read (%1): print it once more, or save it as a PDF and print that.</source>
+        <translation>Das Dokument des Programms kann nicht gelesen werden (%1). Drucken Sie es noch einmal, oder speichern Sie es als PDF und drucken Sie dieses.</translation>
     </message>
 </context>
 </TS>

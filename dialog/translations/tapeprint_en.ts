@@ -3,6 +3,89 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>pdekit::LoadingTexts</name>
+    <message>
+        <source>the program ended while this plug-in was starting; it is tried again the next time</source>
+        <translation>the program ended while this plug-in was starting; it is tried again the next time</translation>
+    </message>
+    <message>
+        <source>the program ended while this plug-in was starting, and again the next time; it is tried again when the bundle has changed</source>
+        <translation>the program ended while this plug-in was starting, and again the next time; it is tried again when the bundle has changed</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>its code cannot be loaded: %1</translation>
+    </message>
+    <message>
+        <source>its code is not what its metadata says</source>
+        <translation>its code is not what its metadata says</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>it has no principal class %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>it cannot serve on this system</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting: %1</source>
+        <translation>it failed while it was starting: %1</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting</source>
+        <translation>it failed while it was starting</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is used in place of %2.</source>
+        <translation>The plug-in %1 is used in place of %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>%1 cannot be read</translation>
+    </message>
+    <message>
+        <source>%1 belongs to somebody else</source>
+        <translation>%1 belongs to somebody else</translation>
+    </message>
+    <message>
+        <source>everybody may write to %1</source>
+        <translation>everybody may write to %1</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>it is made for another panel interface (%1)</translation>
+    </message>
+    <message>
+        <source>it is made for a later version of the panel interface (%1)</source>
+        <translation>it is made for a later version of the panel interface (%1)</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>it has no file %1</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>its code is no plug-in that this Qt can load</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>its metadata names no principal class</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>it does not serve printer panels</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::AmountLabel</name>
     <message>
         <source>No page is chosen</source>
@@ -408,12 +491,41 @@
         <translation>The panel &quot;%1&quot; of %2 has no view: its values are printed as they are laid down.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
-        <translation>The panel &quot;%1&quot; could not hand over its values: %2</translation>
+        <source>The plug-in %1 is not used: %2. Printing works without it.</source>
+        <translation>The plug-in %1 is not used: %2. Printing works without it.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
-        <translation>The panel &quot;%1&quot; could not restore its values: %2</translation>
+        <source>The plug-in %1</source>
+        <translation>The plug-in %1</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2</source>
+        <translation>The panel &quot;%1&quot; of %2</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sent an option that no job can carry, which was left out: %2.</source>
+        <translation>The plug-in %1 sent an option that no job can carry, which was left out: %2.</translation>
+    </message>
+    <message>
+        <source>Panels change %1 without end (%2): it is printed as it stands.</source>
+        <translation>Panels change %1 without end (%2): it is printed as it stands.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sends %2=%3, which the printer&apos;s description does not know.</source>
+        <translation>The plug-in %1 sends %2=%3, which the printer&apos;s description does not know.</translation>
+    </message>
+    <message>
+        <source>%1 could not hand over its values</source>
+        <translation>%1 could not hand over its values</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what failed, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not restore its values</source>
+        <translation>%1 could not restore its values</translation>
     </message>
 </context>
 <context>
@@ -614,6 +726,10 @@
         <source>There is no preview: %1</source>
         <translation>There is no preview: %1</translation>
     </message>
+    <message>
+        <source>The program&apos;s pages come later, laid out for this size.</source>
+        <translation>The program&apos;s pages come later, laid out for this size.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -751,10 +867,6 @@
         <translation>&amp;Load Anew</translation>
     </message>
     <message>
-        <source>Print %1 – connecting…</source>
-        <translation>Print %1 – connecting…</translation>
-    </message>
-    <message>
         <source>Connecting…</source>
         <translation>Connecting…</translation>
     </message>
@@ -769,6 +881,22 @@
     <message>
         <source>Cancel Job</source>
         <translation>Cancel Job</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Help for this page of the settings</source>
+        <translation>Help for this page of the settings</translation>
+    </message>
+    <message>
+        <source>%1 – connecting…</source>
+        <translation>%1 – connecting…</translation>
+    </message>
+    <message>
+        <source>%1 does not accept the settings. Nothing was printed.</source>
+        <translation>%1 does not accept the settings. Nothing was printed.</translation>
     </message>
 </context>
 <context>
@@ -984,10 +1112,6 @@
         <translation>they do not say why</translation>
     </message>
     <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
-        <translation>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</translation>
-    </message>
-    <message>
         <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
         <translation>The filters cannot be started (%1): see that CUPS is installed whole.</translation>
     </message>
@@ -998,10 +1122,6 @@
     <message>
         <source>The program cupsfilter is missing: install the package cups.</source>
         <translation>The program cupsfilter is missing: install the package cups.</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written (%2): name another with --output.</source>
-        <translation>The file %1 cannot be written (%2): name another with --output.</translation>
     </message>
     <message>
         <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
@@ -1020,52 +1140,12 @@
         <translation>The queue %1 cannot be reached (%2): see lpstat -e for the queues there are.</translation>
     </message>
     <message>
-        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
-        <translation>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</translation>
-    </message>
-    <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
         <translation>%1=%2 is none of the choices that the printer&apos;s PPD lists.</translation>
     </message>
     <message>
         <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
         <translation>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</translation>
-    </message>
-    <message>
-        <source>its code is no plug-in that this Qt can load</source>
-        <translation>its code is no plug-in that this Qt can load</translation>
-    </message>
-    <message>
-        <source>it is made for another panel interface (%1)</source>
-        <translation>it is made for another panel interface (%1)</translation>
-    </message>
-    <message>
-        <source>its metadata names no principal class</source>
-        <translation>its metadata names no principal class</translation>
-    </message>
-    <message>
-        <source>it does not serve printer panels</source>
-        <translation>it does not serve printer panels</translation>
-    </message>
-    <message>
-        <source>it has no file %1</source>
-        <translation>it has no file %1</translation>
-    </message>
-    <message>
-        <source>its code cannot be loaded: %1</source>
-        <translation>its code cannot be loaded: %1</translation>
-    </message>
-    <message>
-        <source>it has no principal class %1</source>
-        <translation>it has no principal class %1</translation>
-    </message>
-    <message>
-        <source>it cannot serve on this system</source>
-        <translation>it cannot serve on this system</translation>
-    </message>
-    <message>
-        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
-        <translation>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</translation>
     </message>
     <message>
         <source>it is a folder</source>
@@ -1078,18 +1158,6 @@
     <message>
         <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
         <translation>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</translation>
-    </message>
-    <message>
-        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
-        <translation>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</translation>
-    </message>
-    <message>
-        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
-        <translation>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</translation>
-    </message>
-    <message>
-        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
-        <translation>The print server knows no queue %1: see lpstat -e for the queues there are.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
@@ -1170,10 +1238,6 @@
     <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
         <translation>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
-        <translation>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
@@ -1272,16 +1336,8 @@
         <translation>a file of this name is there</translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</translation>
-    </message>
-    <message>
         <source>standard output</source>
         <translation>standard output</translation>
-    </message>
-    <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>The output (%1) is the same file as %2, which is only read: name another with --output.</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -1290,10 +1346,6 @@
     <message>
         <source>it is a pipe or a device</source>
         <translation>it is a pipe or a device</translation>
-    </message>
-    <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
@@ -1740,6 +1792,98 @@
         <source>%1 ft</source>
         <comment>a length in feet</comment>
         <translation>%1 ft</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): choose another printer.</source>
+        <translation>The queue %1 cannot be reached (%2): choose another printer.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2).</source>
+        <translation>The queue %1 did not take the job (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another.</source>
+        <translation>The file %1 cannot be written (%2): name another.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
+        <translation>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>
+        <translation>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another.</source>
+        <translation>The output (%1) is the same file as %2, which is only read: name another.</translation>
+    </message>
+    <message>
+        <source>The part of this program that draws pages cannot be loaded (%1): install it again.</source>
+        <translation>The part of this program that draws pages cannot be loaded (%1): install it again.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run.</source>
+        <translation>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: choose one.</source>
+        <translation>There is no default printer: choose one.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: choose another printer.</source>
+        <translation>The print server knows no queue %1: choose another printer.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer. It is asked again until it does.</source>
+        <translation>The print server %1 does not answer. It is asked again until it does.</translation>
+    </message>
+    <message>
+        <source>%1 calls itself without end, and was not asked again.</source>
+        <translation>%1 calls itself without end, and was not asked again.</translation>
+    </message>
+    <message>
+        <source>%1 kept the window waiting for %2 s.</source>
+        <translation>%1 kept the window waiting for %2 s.</translation>
+    </message>
+    <message>
+        <source>%1 failed.</source>
+        <translation>%1 failed.</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2.</source>
+        <translation>%1 failed: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::portal::PortalTexts</name>
+    <message>
+        <source>The program prints a part: its current page, or what is selected.</source>
+        <translation>The program prints a part: its current page, or what is selected.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>title and program</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>it is no file</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>it is empty</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>it is too large</translation>
+    </message>
+    <message>
+        <source>The program&apos;s document cannot be read (%1): print it once more, or save it as a PDF and print that.</source>
+        <translation>The program&apos;s document cannot be read (%1): print it once more, or save it as a PDF and print that.</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,89 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>pdekit::LoadingTexts</name>
+    <message>
+        <source>the program ended while this plug-in was starting; it is tried again the next time</source>
+        <translation>el programa terminó mientras este complemento se iniciaba; se probará de nuevo la próxima vez</translation>
+    </message>
+    <message>
+        <source>the program ended while this plug-in was starting, and again the next time; it is tried again when the bundle has changed</source>
+        <translation>el programa terminó mientras este complemento se iniciaba, y otra vez la vez siguiente; se probará de nuevo cuando el complemento cambie</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>no se puede cargar su código: %1</translation>
+    </message>
+    <message>
+        <source>its code is not what its metadata says</source>
+        <translation>su código no es lo que dicen sus metadatos</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>no tiene la clase principal %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>no puede funcionar en este sistema</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting: %1</source>
+        <translation>falló al iniciarse: %1</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting</source>
+        <translation>falló al iniciarse</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>La descripción de la impresora pide el complemento %1, que no está instalado. Se puede imprimir sin él.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is used in place of %2.</source>
+        <translation>Se usa el complemento %1 en lugar de %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>El complemento %1 no se usa: %2. Se puede imprimir sin él; actualícelo o elimínelo.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>no se puede leer %1</translation>
+    </message>
+    <message>
+        <source>%1 belongs to somebody else</source>
+        <translation>%1 pertenece a otra persona</translation>
+    </message>
+    <message>
+        <source>everybody may write to %1</source>
+        <translation>cualquiera puede escribir en %1</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>está hecho para otra interfaz de paneles (%1)</translation>
+    </message>
+    <message>
+        <source>it is made for a later version of the panel interface (%1)</source>
+        <translation>está hecho para una versión posterior de la interfaz de paneles (%1)</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>no tiene el archivo %1</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>su código no es un complemento que esta versión de Qt pueda cargar</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>sus metadatos no indican ninguna clase principal</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>no ofrece paneles de impresora</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::AmountLabel</name>
     <message>
         <source>No page is chosen</source>
@@ -408,12 +491,41 @@
         <translation>El panel «%1» de %2 no tiene vista. Sus valores se imprimen tal como están definidos.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
-        <translation>El panel «%1» no pudo entregar sus valores: %2</translation>
+        <source>The plug-in %1 is not used: %2. Printing works without it.</source>
+        <translation>El complemento %1 no se usa: %2. Se puede imprimir sin él.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
-        <translation>El panel «%1» no pudo restablecer sus valores: %2</translation>
+        <source>The plug-in %1</source>
+        <translation>El complemento %1</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2</source>
+        <translation>El panel «%1» de %2</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sent an option that no job can carry, which was left out: %2.</source>
+        <translation>El complemento %1 envió una opción que ningún trabajo puede llevar y que se omitió: %2.</translation>
+    </message>
+    <message>
+        <source>Panels change %1 without end (%2): it is printed as it stands.</source>
+        <translation>Los paneles cambian %1 sin fin (%2): se imprime tal como está.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sends %2=%3, which the printer&apos;s description does not know.</source>
+        <translation>El complemento %1 envía %2=%3, que la descripción de la impresora no conoce.</translation>
+    </message>
+    <message>
+        <source>%1 could not hand over its values</source>
+        <translation>%1: no pudo entregar sus valores</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what failed, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not restore its values</source>
+        <translation>%1: no pudo restablecer sus valores</translation>
     </message>
 </context>
 <context>
@@ -614,6 +726,10 @@
         <source>There is no preview: %1</source>
         <translation>Sin vista previa: %1</translation>
     </message>
+    <message>
+        <source>The program&apos;s pages come later, laid out for this size.</source>
+        <translation>Las páginas del programa llegan después, compuestas para este tamaño.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -751,10 +867,6 @@
         <translation>Vo&amp;lver a cargar</translation>
     </message>
     <message>
-        <source>Print %1 – connecting…</source>
-        <translation>Imprimir %1: conectando…</translation>
-    </message>
-    <message>
         <source>Connecting…</source>
         <translation>Conectando…</translation>
     </message>
@@ -769,6 +881,22 @@
     <message>
         <source>Cancel Job</source>
         <translation>Cancelar trabajo</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Help for this page of the settings</source>
+        <translation>Ayuda sobre esta página de ajustes</translation>
+    </message>
+    <message>
+        <source>%1 – connecting…</source>
+        <translation>%1: conectando…</translation>
+    </message>
+    <message>
+        <source>%1 does not accept the settings. Nothing was printed.</source>
+        <translation>%1 no acepta los ajustes. No se imprimió nada.</translation>
     </message>
 </context>
 <context>
@@ -984,10 +1112,6 @@
         <translation>no indican el motivo</translation>
     </message>
     <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
-        <translation>No se pueden escribir los datos de impresión en %1 (%2). Libere espacio o indique otro archivo con --output.</translation>
-    </message>
-    <message>
         <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
         <translation>No se pueden iniciar los filtros (%1). Compruebe que CUPS esté instalado por completo.</translation>
     </message>
@@ -998,10 +1122,6 @@
     <message>
         <source>The program cupsfilter is missing: install the package cups.</source>
         <translation>Falta el programa cupsfilter. Instale el paquete cups.</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written (%2): name another with --output.</source>
-        <translation>No se puede escribir el archivo %1 (%2). Indique otro con --output.</translation>
     </message>
     <message>
         <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
@@ -1020,52 +1140,12 @@
         <translation>No se puede acceder a la cola %1 (%2). La orden lpstat -e muestra las colas que hay.</translation>
     </message>
     <message>
-        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
-        <translation>La cola %1 no aceptó el trabajo (%2). Consulte lpstat -p %1 -l.</translation>
-    </message>
-    <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
         <translation>%1=%2 no figura entre las opciones del archivo PPD de la impresora.</translation>
     </message>
     <message>
         <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
         <translation>La opción %1 nunca llega al filtro de la impresora, porque el servidor de impresión la toma por su propio atributo %2. Dele otro nombre en el archivo PPD.</translation>
-    </message>
-    <message>
-        <source>its code is no plug-in that this Qt can load</source>
-        <translation>su código no es un complemento que esta versión de Qt pueda cargar</translation>
-    </message>
-    <message>
-        <source>it is made for another panel interface (%1)</source>
-        <translation>está hecho para otra interfaz de paneles (%1)</translation>
-    </message>
-    <message>
-        <source>its metadata names no principal class</source>
-        <translation>sus metadatos no indican ninguna clase principal</translation>
-    </message>
-    <message>
-        <source>it does not serve printer panels</source>
-        <translation>no ofrece paneles de impresora</translation>
-    </message>
-    <message>
-        <source>it has no file %1</source>
-        <translation>no tiene el archivo %1</translation>
-    </message>
-    <message>
-        <source>its code cannot be loaded: %1</source>
-        <translation>no se puede cargar su código: %1</translation>
-    </message>
-    <message>
-        <source>it has no principal class %1</source>
-        <translation>no tiene la clase principal %1</translation>
-    </message>
-    <message>
-        <source>it cannot serve on this system</source>
-        <translation>no puede funcionar en este sistema</translation>
-    </message>
-    <message>
-        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
-        <translation>El complemento %1 no se usa: %2. Se puede imprimir sin él; actualícelo o elimínelo.</translation>
     </message>
     <message>
         <source>it is a folder</source>
@@ -1078,18 +1158,6 @@
     <message>
         <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
         <translation>El archivo PPD %1 no es válido, línea %2: %3. Corrija el archivo o indique otro.</translation>
-    </message>
-    <message>
-        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
-        <translation>El servidor de impresión %1 no responde. Inícielo, indique otro en CUPS_SERVER o imprima sin servidor con --ppd ARCHIVO.</translation>
-    </message>
-    <message>
-        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
-        <translation>No hay ninguna impresora predeterminada. Indique una cola de impresión con -d COLA o imprima sin cola con --ppd ARCHIVO.</translation>
-    </message>
-    <message>
-        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
-        <translation>El servidor de impresión no conoce la cola %1. La orden lpstat -e muestra las colas que hay.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
@@ -1170,10 +1238,6 @@
     <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
         <translation>%1=%2 no figura entre las opciones del archivo PPD de la impresora: el trabajo lleva %3=%4.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
-        <translation>La descripción de la impresora pide el complemento %1, que no está instalado. Se puede imprimir sin él.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
@@ -1272,16 +1336,8 @@
         <translation>ya hay un archivo con este nombre</translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>El archivo %1 solo se reemplaza entero, y no se puede escribir nada a su lado (%2): indique otro con --output.</translation>
-    </message>
-    <message>
         <source>standard output</source>
         <translation>la salida estándar</translation>
-    </message>
-    <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>La salida (%1) es el mismo archivo que %2, que solo se lee: indique otra con --output.</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -1290,10 +1346,6 @@
     <message>
         <source>it is a pipe or a device</source>
         <translation>es una tubería o un dispositivo</translation>
-    </message>
-    <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>La descripción de impresora %1 trae programas u órdenes propios de los que nadie responde: %2. No se ejecutó nada. Si confía en su autor, repita con --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
@@ -1740,6 +1792,98 @@
         <source>%1 ft</source>
         <comment>a length in feet</comment>
         <translation>%1 ft</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): choose another printer.</source>
+        <translation>No se puede acceder a la cola %1 (%2): elija otra impresora.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2).</source>
+        <translation>La cola %1 no aceptó el trabajo (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another.</source>
+        <translation>No se puede escribir el archivo %1 (%2): indique otro.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
+        <translation>No se pueden escribir los datos de impresión en %1 (%2): libere espacio o indique otro archivo.</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>
+        <translation>El archivo %1 solo se reemplaza entero, y no se puede escribir nada a su lado (%2): indique otro.</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another.</source>
+        <translation>La salida (%1) es el mismo archivo que %2, que solo se lee: indique otra.</translation>
+    </message>
+    <message>
+        <source>The part of this program that draws pages cannot be loaded (%1): install it again.</source>
+        <translation>No se puede cargar la parte de este programa que dibuja páginas (%1): instálelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run.</source>
+        <translation>La descripción de impresora %1 trae programas u órdenes propios de los que nadie responde: %2. No se ejecutó nada.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: choose one.</source>
+        <translation>No hay impresora predeterminada: elija una.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: choose another printer.</source>
+        <translation>El servidor de impresión no conoce la cola %1: elija otra impresora.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer. It is asked again until it does.</source>
+        <translation>El servidor de impresión %1 no responde. Se le pregunta de nuevo hasta que responda.</translation>
+    </message>
+    <message>
+        <source>%1 calls itself without end, and was not asked again.</source>
+        <translation>%1 se llama a sí mismo sin fin y no se le volvió a preguntar.</translation>
+    </message>
+    <message>
+        <source>%1 kept the window waiting for %2 s.</source>
+        <translation>%1 hizo esperar a la ventana %2 s.</translation>
+    </message>
+    <message>
+        <source>%1 failed.</source>
+        <translation>%1 falló.</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2.</source>
+        <translation>%1 falló: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::portal::PortalTexts</name>
+    <message>
+        <source>The program prints a part: its current page, or what is selected.</source>
+        <translation>El programa imprime una parte: su página actual o lo seleccionado.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>title and program</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>es demasiado grande</translation>
+    </message>
+    <message>
+        <source>The program&apos;s document cannot be read (%1): print it once more, or save it as a PDF and print that.</source>
+        <translation>No se puede leer el documento del programa (%1): imprímalo otra vez, o guárdelo como PDF e imprima ese archivo.</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,89 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>pdekit::LoadingTexts</name>
+    <message>
+        <source>the program ended while this plug-in was starting; it is tried again the next time</source>
+        <translation>le programme s’est arrêté pendant le démarrage de ce module ; il sera essayé de nouveau la prochaine fois</translation>
+    </message>
+    <message>
+        <source>the program ended while this plug-in was starting, and again the next time; it is tried again when the bundle has changed</source>
+        <translation>le programme s’est arrêté pendant le démarrage de ce module, et encore la fois suivante ; il sera essayé de nouveau quand le module aura changé</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>son code ne peut pas être chargé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>its code is not what its metadata says</source>
+        <translation>son code n’est pas ce que disent ses métadonnées</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>il n’a pas de classe principale %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>il ne peut pas fonctionner sur ce système</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting: %1</source>
+        <translation>il a échoué au démarrage : %1</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting</source>
+        <translation>il a échoué au démarrage</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>La description de l’imprimante demande le module %1, qui n’est pas installé. L’impression fonctionne sans lui.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is used in place of %2.</source>
+        <translation>Le module %1 est utilisé à la place de %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>Le module %1 n’est pas utilisé&#xa0;: %2. L’impression fonctionne sans lui. Mettez-le à jour ou supprimez-le.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>%1 est illisible</translation>
+    </message>
+    <message>
+        <source>%1 belongs to somebody else</source>
+        <translation>%1 appartient à quelqu’un d’autre</translation>
+    </message>
+    <message>
+        <source>everybody may write to %1</source>
+        <translation>tout le monde peut écrire dans %1</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>il est conçu pour une autre interface de volets (%1)</translation>
+    </message>
+    <message>
+        <source>it is made for a later version of the panel interface (%1)</source>
+        <translation>il est conçu pour une version ultérieure de l’interface de volets (%1)</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>il n’a pas de fichier %1</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>son code n’est pas un module que cette version de Qt peut charger</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>ses métadonnées n’indiquent aucune classe principale</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>il ne fournit pas de volets d’imprimante</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::AmountLabel</name>
     <message>
         <source>No page is chosen</source>
@@ -408,12 +491,41 @@
         <translation>Le volet «&#xa0;%1&#xa0;» de %2 n’a pas de vue. Ses valeurs sont imprimées telles qu’elles sont définies.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
-        <translation>Le volet «&#xa0;%1&#xa0;» n’a pas pu transmettre ses valeurs&#xa0;: %2</translation>
+        <source>The plug-in %1 is not used: %2. Printing works without it.</source>
+        <translation>Le module %1 n’est pas utilisé : %2. L’impression fonctionne sans lui.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
-        <translation>Le volet «&#xa0;%1&#xa0;» n’a pas pu rétablir ses valeurs&#xa0;: %2</translation>
+        <source>The plug-in %1</source>
+        <translation>Le module %1</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2</source>
+        <translation>Le volet « %1 » de %2</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sent an option that no job can carry, which was left out: %2.</source>
+        <translation>Le module %1 a envoyé une option qu’aucune tâche ne peut contenir ; elle a été omise : %2.</translation>
+    </message>
+    <message>
+        <source>Panels change %1 without end (%2): it is printed as it stands.</source>
+        <translation>Des volets changent %1 sans fin (%2) : l’impression se fait avec la valeur actuelle.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sends %2=%3, which the printer&apos;s description does not know.</source>
+        <translation>Le module %1 envoie %2=%3, que la description de l’imprimante ne connaît pas.</translation>
+    </message>
+    <message>
+        <source>%1 could not hand over its values</source>
+        <translation>%1 n’a pas pu transmettre ses valeurs</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what failed, why</comment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 could not restore its values</source>
+        <translation>%1 n’a pas pu rétablir ses valeurs</translation>
     </message>
 </context>
 <context>
@@ -614,6 +726,10 @@
         <source>There is no preview: %1</source>
         <translation>Pas d’aperçu : %1</translation>
     </message>
+    <message>
+        <source>The program&apos;s pages come later, laid out for this size.</source>
+        <translation>Les pages du programme viennent ensuite, mises en page pour ce format.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -751,10 +867,6 @@
         <translation>Rec&amp;harger</translation>
     </message>
     <message>
-        <source>Print %1 – connecting…</source>
-        <translation>Imprimer %1 – connexion…</translation>
-    </message>
-    <message>
         <source>Connecting…</source>
         <translation>Connexion…</translation>
     </message>
@@ -769,6 +881,22 @@
     <message>
         <source>Cancel Job</source>
         <translation>Annuler la tâche</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>Help for this page of the settings</source>
+        <translation>Aide sur cette page de réglages</translation>
+    </message>
+    <message>
+        <source>%1 – connecting…</source>
+        <translation>%1 – connexion…</translation>
+    </message>
+    <message>
+        <source>%1 does not accept the settings. Nothing was printed.</source>
+        <translation>%1 n’accepte pas les réglages. Rien n’a été imprimé.</translation>
     </message>
 </context>
 <context>
@@ -984,10 +1112,6 @@
         <translation>sans en indiquer la raison</translation>
     </message>
     <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
-        <translation>Les données d’impression ne peuvent pas être écrites dans %1 (%2). Libérez de la place ou indiquez un autre fichier avec --output.</translation>
-    </message>
-    <message>
         <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
         <translation>Les filtres ne peuvent pas être lancés (%1). Vérifiez que CUPS est entièrement installé.</translation>
     </message>
@@ -998,10 +1122,6 @@
     <message>
         <source>The program cupsfilter is missing: install the package cups.</source>
         <translation>Le programme cupsfilter est introuvable. Installez le paquet cups.</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written (%2): name another with --output.</source>
-        <translation>Le fichier %1 ne peut pas être écrit (%2). Indiquez-en un autre avec --output.</translation>
     </message>
     <message>
         <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
@@ -1020,52 +1140,12 @@
         <translation>La file d’impression %1 est injoignable (%2). La commande lpstat -e donne les files existantes.</translation>
     </message>
     <message>
-        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
-        <translation>La file d’impression %1 a refusé la tâche (%2). Voyez lpstat -p %1 -l.</translation>
-    </message>
-    <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
         <translation>%1=%2 ne figure pas parmi les choix du fichier PPD de l’imprimante.</translation>
     </message>
     <message>
         <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
         <translation>L’option %1 n’atteint jamais le filtre de l’imprimante, car le serveur d’impression la prend pour son propre attribut %2. Donnez-lui un autre nom dans le fichier PPD.</translation>
-    </message>
-    <message>
-        <source>its code is no plug-in that this Qt can load</source>
-        <translation>son code n’est pas un module que cette version de Qt peut charger</translation>
-    </message>
-    <message>
-        <source>it is made for another panel interface (%1)</source>
-        <translation>il est conçu pour une autre interface de volets (%1)</translation>
-    </message>
-    <message>
-        <source>its metadata names no principal class</source>
-        <translation>ses métadonnées n’indiquent aucune classe principale</translation>
-    </message>
-    <message>
-        <source>it does not serve printer panels</source>
-        <translation>il ne fournit pas de volets d’imprimante</translation>
-    </message>
-    <message>
-        <source>it has no file %1</source>
-        <translation>il n’a pas de fichier %1</translation>
-    </message>
-    <message>
-        <source>its code cannot be loaded: %1</source>
-        <translation>son code ne peut pas être chargé&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>it has no principal class %1</source>
-        <translation>il n’a pas de classe principale %1</translation>
-    </message>
-    <message>
-        <source>it cannot serve on this system</source>
-        <translation>il ne peut pas fonctionner sur ce système</translation>
-    </message>
-    <message>
-        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
-        <translation>Le module %1 n’est pas utilisé&#xa0;: %2. L’impression fonctionne sans lui. Mettez-le à jour ou supprimez-le.</translation>
     </message>
     <message>
         <source>it is a folder</source>
@@ -1078,18 +1158,6 @@
     <message>
         <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
         <translation>Le fichier PPD %1 n’est pas valide, ligne %2&#xa0;: %3. Corrigez le fichier ou indiquez-en un autre.</translation>
-    </message>
-    <message>
-        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
-        <translation>Le serveur d’impression %1 ne répond pas. Démarrez-le, indiquez-en un autre dans CUPS_SERVER ou imprimez sans serveur avec --ppd FICHIER.</translation>
-    </message>
-    <message>
-        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
-        <translation>Il n’y a pas d’imprimante par défaut. Indiquez une file d’impression avec -d FILE ou imprimez sans file avec --ppd FICHIER.</translation>
-    </message>
-    <message>
-        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
-        <translation>Le serveur d’impression ne connaît pas la file %1. La commande lpstat -e donne les files existantes.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
@@ -1170,10 +1238,6 @@
     <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
         <translation>%1=%2 ne figure pas parmi les choix du fichier PPD de l’imprimante&#xa0;: la tâche porte %3=%4.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
-        <translation>La description de l’imprimante demande le module %1, qui n’est pas installé. L’impression fonctionne sans lui.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
@@ -1272,16 +1336,8 @@
         <translation>un fichier de ce nom existe déjà</translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>Le fichier %1 n’est remplacé qu’en entier, et rien ne peut être écrit à côté (%2) : indiquez-en un autre avec --output.</translation>
-    </message>
-    <message>
         <source>standard output</source>
         <translation>la sortie standard</translation>
-    </message>
-    <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>La sortie (%1) est le même fichier que %2, qui n’est que lu : indiquez-en une autre avec --output.</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -1290,10 +1346,6 @@
     <message>
         <source>it is a pipe or a device</source>
         <translation>c’est un tube ou un périphérique</translation>
-    </message>
-    <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>La description d’imprimante %1 apporte ses propres programmes ou commandes, dont personne ne répond : %2. Rien n’a été exécuté. Si vous faites confiance à son auteur, recommencez avec --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
@@ -1740,6 +1792,98 @@
         <source>%1 ft</source>
         <comment>a length in feet</comment>
         <translation>%1 pi</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): choose another printer.</source>
+        <translation>La file d’attente %1 est injoignable (%2) : choisissez une autre imprimante.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2).</source>
+        <translation>La file d’attente %1 n’a pas accepté la tâche (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another.</source>
+        <translation>Le fichier %1 ne peut pas être écrit (%2) : indiquez-en un autre.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
+        <translation>Les données d’impression ne peuvent pas être écrites dans %1 (%2) : libérez de la place ou indiquez un autre fichier.</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>
+        <translation>Le fichier %1 n’est remplacé qu’en entier, et rien ne peut être écrit à côté (%2) : indiquez-en un autre.</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another.</source>
+        <translation>La sortie (%1) est le même fichier que %2, qui est seulement lu : indiquez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The part of this program that draws pages cannot be loaded (%1): install it again.</source>
+        <translation>La partie de ce programme qui dessine les pages ne peut pas être chargée (%1) : réinstallez-le.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run.</source>
+        <translation>La description d’imprimante %1 apporte ses propres programmes ou commandes, dont personne ne répond : %2. Rien n’a été exécuté.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: choose one.</source>
+        <translation>Il n’y a pas d’imprimante par défaut : choisissez-en une.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: choose another printer.</source>
+        <translation>Le serveur d’impression ne connaît pas la file d’attente %1 : choisissez une autre imprimante.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer. It is asked again until it does.</source>
+        <translation>Le serveur d’impression %1 ne répond pas. Il est interrogé à nouveau jusqu’à ce qu’il réponde.</translation>
+    </message>
+    <message>
+        <source>%1 calls itself without end, and was not asked again.</source>
+        <translation>%1 s’appelle lui-même sans fin et n’a plus été interrogé.</translation>
+    </message>
+    <message>
+        <source>%1 kept the window waiting for %2 s.</source>
+        <translation>%1 a fait attendre la fenêtre %2 s.</translation>
+    </message>
+    <message>
+        <source>%1 failed.</source>
+        <translation>%1 a échoué.</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2.</source>
+        <translation>%1 a échoué : %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::portal::PortalTexts</name>
+    <message>
+        <source>The program prints a part: its current page, or what is selected.</source>
+        <translation>Le programme imprime une partie : sa page actuelle ou la sélection.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>title and program</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop grand</translation>
+    </message>
+    <message>
+        <source>The program&apos;s document cannot be read (%1): print it once more, or save it as a PDF and print that.</source>
+        <translation>Le document du programme est illisible (%1) : imprimez-le à nouveau, ou enregistrez-le en PDF et imprimez celui-ci.</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,89 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>pdekit::LoadingTexts</name>
+    <message>
+        <source>the program ended while this plug-in was starting; it is tried again the next time</source>
+        <translation>il programma è terminato durante l’avvio di questo plug-in; si riproverà la prossima volta</translation>
+    </message>
+    <message>
+        <source>the program ended while this plug-in was starting, and again the next time; it is tried again when the bundle has changed</source>
+        <translation>il programma è terminato durante l’avvio di questo plug-in, e di nuovo la volta dopo; si riproverà quando il plug-in sarà cambiato</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>il suo codice non può essere caricato: %1</translation>
+    </message>
+    <message>
+        <source>its code is not what its metadata says</source>
+        <translation>il suo codice non è quello che dicono i metadati</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>non ha la classe principale %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>non può funzionare su questo sistema</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting: %1</source>
+        <translation>errore durante l’avvio: %1</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting</source>
+        <translation>errore durante l’avvio</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>La descrizione della stampante richiede il plug-in %1, che non è installato. La stampa funziona anche senza.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is used in place of %2.</source>
+        <translation>Il plug-in %1 viene usato al posto di %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>Il plug-in %1 non viene usato: %2. La stampa funziona anche senza; aggiornarlo o rimuoverlo.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>non è possibile leggere %1</translation>
+    </message>
+    <message>
+        <source>%1 belongs to somebody else</source>
+        <translation>%1 appartiene a qualcun altro</translation>
+    </message>
+    <message>
+        <source>everybody may write to %1</source>
+        <translation>chiunque può scrivere in %1</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>è fatto per un’altra interfaccia di pannelli (%1)</translation>
+    </message>
+    <message>
+        <source>it is made for a later version of the panel interface (%1)</source>
+        <translation>è fatto per una versione successiva dell’interfaccia di pannelli (%1)</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>non contiene il file %1</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>il suo codice non è un plug-in che questa versione di Qt possa caricare</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>i suoi metadati non indicano una classe principale</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>non offre pannelli per stampanti</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::AmountLabel</name>
     <message>
         <source>No page is chosen</source>
@@ -408,12 +491,41 @@
         <translation>Il pannello &quot;%1&quot; di %2 non ha una vista. I suoi valori vengono stampati così come sono definiti.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
-        <translation>Il pannello &quot;%1&quot; non ha potuto consegnare i suoi valori: %2</translation>
+        <source>The plug-in %1 is not used: %2. Printing works without it.</source>
+        <translation>Il plug-in %1 non viene usato: %2. La stampa funziona anche senza.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
-        <translation>Il pannello &quot;%1&quot; non ha potuto ripristinare i suoi valori: %2</translation>
+        <source>The plug-in %1</source>
+        <translation>Il plug-in %1</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2</source>
+        <translation>Il pannello «%1» di %2</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sent an option that no job can carry, which was left out: %2.</source>
+        <translation>Il plug-in %1 ha inviato un’opzione che nessun lavoro può contenere e che è stata omessa: %2.</translation>
+    </message>
+    <message>
+        <source>Panels change %1 without end (%2): it is printed as it stands.</source>
+        <translation>I pannelli cambiano %1 senza fine (%2): si stampa con il valore attuale.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sends %2=%3, which the printer&apos;s description does not know.</source>
+        <translation>Il plug-in %1 invia %2=%3, che la descrizione della stampante non conosce.</translation>
+    </message>
+    <message>
+        <source>%1 could not hand over its values</source>
+        <translation>%1: impossibile consegnare i valori</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what failed, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not restore its values</source>
+        <translation>%1: impossibile ripristinare i valori</translation>
     </message>
 </context>
 <context>
@@ -614,6 +726,10 @@
         <source>There is no preview: %1</source>
         <translation>Nessuna anteprima: %1</translation>
     </message>
+    <message>
+        <source>The program&apos;s pages come later, laid out for this size.</source>
+        <translation>Le pagine del programma arrivano dopo, impaginate per questo formato.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -751,10 +867,6 @@
         <translation>Ricar&amp;ica</translation>
     </message>
     <message>
-        <source>Print %1 – connecting…</source>
-        <translation>Stampa %1 – connessione…</translation>
-    </message>
-    <message>
         <source>Connecting…</source>
         <translation>Connessione…</translation>
     </message>
@@ -769,6 +881,22 @@
     <message>
         <source>Cancel Job</source>
         <translation>Annulla lavoro</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;uto</translation>
+    </message>
+    <message>
+        <source>Help for this page of the settings</source>
+        <translation>Aiuto su questa pagina di impostazioni</translation>
+    </message>
+    <message>
+        <source>%1 – connecting…</source>
+        <translation>%1 – connessione…</translation>
+    </message>
+    <message>
+        <source>%1 does not accept the settings. Nothing was printed.</source>
+        <translation>%1 non accetta le impostazioni. Non è stato stampato nulla.</translation>
     </message>
 </context>
 <context>
@@ -984,10 +1112,6 @@
         <translation>senza indicarne il motivo</translation>
     </message>
     <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
-        <translation>Impossibile scrivere i dati di stampa in %1 (%2). Liberare spazio o indicare un altro file con --output.</translation>
-    </message>
-    <message>
         <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
         <translation>Impossibile avviare i filtri (%1). Verificare che CUPS sia installato per intero.</translation>
     </message>
@@ -998,10 +1122,6 @@
     <message>
         <source>The program cupsfilter is missing: install the package cups.</source>
         <translation>Manca il programma cupsfilter. Installare il pacchetto cups.</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written (%2): name another with --output.</source>
-        <translation>Impossibile scrivere il file %1 (%2). Indicarne un altro con --output.</translation>
     </message>
     <message>
         <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
@@ -1020,52 +1140,12 @@
         <translation>La coda %1 non è raggiungibile (%2). Il comando lpstat -e elenca le code presenti.</translation>
     </message>
     <message>
-        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
-        <translation>La coda %1 non ha accettato il lavoro (%2). Vedere lpstat -p %1 -l.</translation>
-    </message>
-    <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
         <translation>%1=%2 non è tra le scelte elencate nel file PPD della stampante.</translation>
     </message>
     <message>
         <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
         <translation>L’opzione %1 non arriva mai al filtro della stampante, perché il server di stampa la scambia per il proprio attributo %2. Darle un altro nome nel file PPD.</translation>
-    </message>
-    <message>
-        <source>its code is no plug-in that this Qt can load</source>
-        <translation>il suo codice non è un plug-in che questa versione di Qt possa caricare</translation>
-    </message>
-    <message>
-        <source>it is made for another panel interface (%1)</source>
-        <translation>è fatto per un’altra interfaccia di pannelli (%1)</translation>
-    </message>
-    <message>
-        <source>its metadata names no principal class</source>
-        <translation>i suoi metadati non indicano una classe principale</translation>
-    </message>
-    <message>
-        <source>it does not serve printer panels</source>
-        <translation>non offre pannelli per stampanti</translation>
-    </message>
-    <message>
-        <source>it has no file %1</source>
-        <translation>non contiene il file %1</translation>
-    </message>
-    <message>
-        <source>its code cannot be loaded: %1</source>
-        <translation>il suo codice non può essere caricato: %1</translation>
-    </message>
-    <message>
-        <source>it has no principal class %1</source>
-        <translation>non ha la classe principale %1</translation>
-    </message>
-    <message>
-        <source>it cannot serve on this system</source>
-        <translation>non può funzionare su questo sistema</translation>
-    </message>
-    <message>
-        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
-        <translation>Il plug-in %1 non viene usato: %2. La stampa funziona anche senza; aggiornarlo o rimuoverlo.</translation>
     </message>
     <message>
         <source>it is a folder</source>
@@ -1078,18 +1158,6 @@
     <message>
         <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
         <translation>Il file PPD %1 non è valido, riga %2: %3. Correggere il file o indicarne un altro.</translation>
-    </message>
-    <message>
-        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
-        <translation>Il server di stampa %1 non risponde. Avviarlo, indicarne un altro in CUPS_SERVER o stampare senza server con --ppd FILE.</translation>
-    </message>
-    <message>
-        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
-        <translation>Non c’è una stampante predefinita. Indicare una coda di stampa con -d CODA o stampare senza coda con --ppd FILE.</translation>
-    </message>
-    <message>
-        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
-        <translation>Il server di stampa non conosce la coda %1. Il comando lpstat -e elenca le code presenti.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
@@ -1170,10 +1238,6 @@
     <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
         <translation>%1=%2 non è tra le scelte elencate nel file PPD della stampante: il lavoro contiene %3=%4.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
-        <translation>La descrizione della stampante richiede il plug-in %1, che non è installato. La stampa funziona anche senza.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
@@ -1272,16 +1336,8 @@
         <translation>esiste già un file con questo nome</translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>Il file %1 viene sostituito solo per intero e accanto non si può scrivere nulla (%2): indicarne un altro con --output.</translation>
-    </message>
-    <message>
         <source>standard output</source>
         <translation>lo standard output</translation>
-    </message>
-    <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>L’output (%1) è lo stesso file di %2, che viene solo letto: indicarne un altro con --output.</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -1290,10 +1346,6 @@
     <message>
         <source>it is a pipe or a device</source>
         <translation>è una pipe o un dispositivo</translation>
-    </message>
-    <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>La descrizione di stampante %1 porta programmi o comandi propri, di cui nessuno risponde: %2. Non è stato eseguito nulla. Se ci si fida dell’autore, ripetere con --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
@@ -1740,6 +1792,98 @@
         <source>%1 ft</source>
         <comment>a length in feet</comment>
         <translation>%1 ft</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): choose another printer.</source>
+        <translation>La coda %1 non è raggiungibile (%2): scegliere un’altra stampante.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2).</source>
+        <translation>La coda %1 non ha accettato il lavoro (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another.</source>
+        <translation>Non è possibile scrivere il file %1 (%2): indicarne un altro.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
+        <translation>Non è possibile scrivere i dati di stampa in %1 (%2): fare spazio o indicare un altro file.</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>
+        <translation>Il file %1 viene sostituito solo per intero, e accanto non si può scrivere nulla (%2): indicarne un altro.</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another.</source>
+        <translation>L’uscita (%1) è lo stesso file di %2, che viene solo letto: indicarne un’altra.</translation>
+    </message>
+    <message>
+        <source>The part of this program that draws pages cannot be loaded (%1): install it again.</source>
+        <translation>Non è possibile caricare la parte di questo programma che disegna le pagine (%1): reinstallarlo.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run.</source>
+        <translation>La descrizione di stampante %1 porta programmi o comandi propri, di cui nessuno garantisce: %2. Non è stato eseguito nulla.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: choose one.</source>
+        <translation>Non c’è una stampante predefinita: sceglierne una.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: choose another printer.</source>
+        <translation>Il server di stampa non conosce la coda %1: scegliere un’altra stampante.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer. It is asked again until it does.</source>
+        <translation>Il server di stampa %1 non risponde. Si riprova finché non risponde.</translation>
+    </message>
+    <message>
+        <source>%1 calls itself without end, and was not asked again.</source>
+        <translation>%1 richiama sé stesso senza fine e non è più stato interrogato.</translation>
+    </message>
+    <message>
+        <source>%1 kept the window waiting for %2 s.</source>
+        <translation>%1 ha fatto attendere la finestra %2 s.</translation>
+    </message>
+    <message>
+        <source>%1 failed.</source>
+        <translation>%1: errore.</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2.</source>
+        <translation>%1: errore: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::portal::PortalTexts</name>
+    <message>
+        <source>The program prints a part: its current page, or what is selected.</source>
+        <translation>Il programma stampa una parte: la pagina corrente o la selezione.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>title and program</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>non è un file</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>è vuoto</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>è troppo grande</translation>
+    </message>
+    <message>
+        <source>The program&apos;s document cannot be read (%1): print it once more, or save it as a PDF and print that.</source>
+        <translation>Non è possibile leggere il documento del programma (%1): stamparlo di nuovo, oppure salvarlo come PDF e stampare quello.</translation>
     </message>
 </context>
 </TS>

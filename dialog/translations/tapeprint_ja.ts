@@ -3,6 +3,89 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>pdekit::LoadingTexts</name>
+    <message>
+        <source>the program ended while this plug-in was starting; it is tried again the next time</source>
+        <translation>このプラグインの起動中にプログラムが終了しました。次回はもう一度試します</translation>
+    </message>
+    <message>
+        <source>the program ended while this plug-in was starting, and again the next time; it is tried again when the bundle has changed</source>
+        <translation>このプラグインの起動中にプログラムが終了し、次回も同じでした。バンドルが変わったらもう一度試します</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>コードを読み込めません：%1</translation>
+    </message>
+    <message>
+        <source>its code is not what its metadata says</source>
+        <translation>コードがメタデータの記述と一致しません</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>主クラス %1 がありません</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>このシステムでは動作しません</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting: %1</source>
+        <translation>起動に失敗しました：%1</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting</source>
+        <translation>起動に失敗しました</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>プリンターの記述が求めるプラグイン %1 はインストールされていません。プラグインがなくても印刷できます。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is used in place of %2.</source>
+        <translation>%2 の代わりにプラグイン %1 が使用されます。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>プラグイン %1 は使用されません：%2。プラグインがなくても印刷できます。バンドルを更新するか削除してください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>%1 を読み取れません</translation>
+    </message>
+    <message>
+        <source>%1 belongs to somebody else</source>
+        <translation>%1 はほかの人の所有です</translation>
+    </message>
+    <message>
+        <source>everybody may write to %1</source>
+        <translation>誰でも %1 に書き込めます</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>別のパネルインターフェイス用に作られています（%1）</translation>
+    </message>
+    <message>
+        <source>it is made for a later version of the panel interface (%1)</source>
+        <translation>より新しいパネルインターフェイス用に作られています（%1）</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>ファイル %1 がありません</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>コードがこの Qt で読み込めるプラグインではありません</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>メタデータに主クラスの名前がありません</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>プリンターのパネルを提供していません</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::AmountLabel</name>
     <message>
         <source>No page is chosen</source>
@@ -406,12 +489,41 @@
         <translation>%2 のパネル「%1」には表示がありません。値は設定されているとおりに印刷されます。</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
-        <translation>パネル「%1」は値を渡すことができませんでした：%2</translation>
+        <source>The plug-in %1 is not used: %2. Printing works without it.</source>
+        <translation>プラグイン %1 は使用されません：%2。プラグインがなくても印刷できます。</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
-        <translation>パネル「%1」は値を元に戻すことができませんでした：%2</translation>
+        <source>The plug-in %1</source>
+        <translation>プラグイン %1</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2</source>
+        <translation>%2 のパネル「%1」</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sent an option that no job can carry, which was left out: %2.</source>
+        <translation>プラグイン %1 が送ったオプションはジョブに入れられないため省かれました：%2。</translation>
+    </message>
+    <message>
+        <source>Panels change %1 without end (%2): it is printed as it stands.</source>
+        <translation>パネルが %1 を際限なく変更します（%2）。現在の値で印刷されます。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sends %2=%3, which the printer&apos;s description does not know.</source>
+        <translation>プラグイン %1 は、プリンターの記述にない %2=%3 を送ります。</translation>
+    </message>
+    <message>
+        <source>%1 could not hand over its values</source>
+        <translation>%1は値を渡すことができませんでした</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what failed, why</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 could not restore its values</source>
+        <translation>%1は値を元に戻すことができませんでした</translation>
     </message>
 </context>
 <context>
@@ -610,6 +722,10 @@
         <source>There is no preview: %1</source>
         <translation>プレビューはありません：%1</translation>
     </message>
+    <message>
+        <source>The program&apos;s pages come later, laid out for this size.</source>
+        <translation>プログラムのページは、このサイズに合わせて後から届きます。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -747,10 +863,6 @@
         <translation>再読み込み(&amp;L)</translation>
     </message>
     <message>
-        <source>Print %1 – connecting…</source>
-        <translation>%1 の印刷 – 接続しています…</translation>
-    </message>
-    <message>
         <source>Connecting…</source>
         <translation>接続しています…</translation>
     </message>
@@ -765,6 +877,22 @@
     <message>
         <source>Cancel Job</source>
         <translation>ジョブを取り消す</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Help for this page of the settings</source>
+        <translation>設定のこのページのヘルプ</translation>
+    </message>
+    <message>
+        <source>%1 – connecting…</source>
+        <translation>%1 – 接続しています…</translation>
+    </message>
+    <message>
+        <source>%1 does not accept the settings. Nothing was printed.</source>
+        <translation>%1が設定を受け付けません。何も印刷されていません。</translation>
     </message>
 </context>
 <context>
@@ -980,10 +1108,6 @@
         <translation>理由は示されていません</translation>
     </message>
     <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
-        <translation>印刷データを %1 に書き込めません（%2）。空き容量を増やすか、--output で別のファイルを指定してください。</translation>
-    </message>
-    <message>
         <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
         <translation>フィルターを起動できません（%1）。CUPS が完全にインストールされているか確認してください。</translation>
     </message>
@@ -994,10 +1118,6 @@
     <message>
         <source>The program cupsfilter is missing: install the package cups.</source>
         <translation>プログラム cupsfilter がありません。パッケージ cups をインストールしてください。</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written (%2): name another with --output.</source>
-        <translation>ファイル %1 に書き込めません（%2）。--output で別のファイルを指定してください。</translation>
     </message>
     <message>
         <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
@@ -1016,52 +1136,12 @@
         <translation>キュー %1 に接続できません（%2）。使用できるキューは lpstat -e で確認できます。</translation>
     </message>
     <message>
-        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
-        <translation>キュー %1 はジョブを受け付けませんでした（%2）。lpstat -p %1 -l で確認してください。</translation>
-    </message>
-    <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
         <translation>%1=%2 は、プリンターの PPD にある選択肢ではありません。</translation>
     </message>
     <message>
         <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
         <translation>オプション %1 はプリントサーバー自身の属性 %2 とみなされるため、プリンターのフィルターに届きません。PPD で別の名前を付けてください。</translation>
-    </message>
-    <message>
-        <source>its code is no plug-in that this Qt can load</source>
-        <translation>コードがこの Qt で読み込めるプラグインではありません</translation>
-    </message>
-    <message>
-        <source>it is made for another panel interface (%1)</source>
-        <translation>別のパネルインターフェイス用に作られています（%1）</translation>
-    </message>
-    <message>
-        <source>its metadata names no principal class</source>
-        <translation>メタデータに主クラスの名前がありません</translation>
-    </message>
-    <message>
-        <source>it does not serve printer panels</source>
-        <translation>プリンターのパネルを提供していません</translation>
-    </message>
-    <message>
-        <source>it has no file %1</source>
-        <translation>ファイル %1 がありません</translation>
-    </message>
-    <message>
-        <source>its code cannot be loaded: %1</source>
-        <translation>コードを読み込めません：%1</translation>
-    </message>
-    <message>
-        <source>it has no principal class %1</source>
-        <translation>主クラス %1 がありません</translation>
-    </message>
-    <message>
-        <source>it cannot serve on this system</source>
-        <translation>このシステムでは動作しません</translation>
-    </message>
-    <message>
-        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
-        <translation>プラグイン %1 は使用されません：%2。プラグインがなくても印刷できます。バンドルを更新するか削除してください。</translation>
     </message>
     <message>
         <source>it is a folder</source>
@@ -1074,18 +1154,6 @@
     <message>
         <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
         <translation>PPD ファイル %1 は正しくありません（%2 行目：%3）。ファイルを修正するか、別のファイルを指定してください。</translation>
-    </message>
-    <message>
-        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
-        <translation>プリントサーバー %1 が応答しません。サーバーを起動するか、CUPS_SERVER で別のサーバーを指定するか、--ppd ファイル でサーバーなしで印刷してください。</translation>
-    </message>
-    <message>
-        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
-        <translation>デフォルトのプリンターがありません。-d キュー でプリントキューを指定するか、--ppd ファイル でキューなしで印刷してください。</translation>
-    </message>
-    <message>
-        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
-        <translation>プリントサーバーにキュー %1 はありません。使用できるキューは lpstat -e で確認できます。</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
@@ -1166,10 +1234,6 @@
     <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
         <translation>%1=%2 は、プリンターの PPD にある選択肢ではありません。ジョブには %3=%4 が入ります。</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
-        <translation>プリンターの記述が求めるプラグイン %1 はインストールされていません。プラグインがなくても印刷できます。</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
@@ -1268,16 +1332,8 @@
         <translation>この名前のファイルがすでにあります</translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>ファイル %1 は全体としてのみ置き換えられますが、同じ場所に書き込めません (%2)。--output で別のファイルを指定してください。</translation>
-    </message>
-    <message>
         <source>standard output</source>
         <translation>標準出力</translation>
-    </message>
-    <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>出力 (%1) は、読み取り専用で扱う %2 と同じファイルです。--output で別のファイルを指定してください。</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -1286,10 +1342,6 @@
     <message>
         <source>it is a pipe or a device</source>
         <translation>パイプまたはデバイスです</translation>
-    </message>
-    <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>プリンター記述 %1 には、誰も保証していない独自のプログラムまたはコマンドが含まれています: %2。何も実行されていません。作成者を信頼する場合は、--trust-ppd を付けて繰り返してください。</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
@@ -1736,6 +1788,98 @@
         <source>%1 ft</source>
         <comment>a length in feet</comment>
         <translation>%1 ft</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): choose another printer.</source>
+        <translation>キュー %1 に接続できません（%2）。別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2).</source>
+        <translation>キュー %1 はジョブを受け付けませんでした（%2）。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another.</source>
+        <translation>ファイル %1 に書き込めません（%2）。別のファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
+        <translation>印刷データを %1 に書き込めません（%2）。空き容量を増やすか、別のファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>
+        <translation>ファイル %1 は全体としてのみ置き換えられますが、同じ場所に書き込めません（%2）。別のファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another.</source>
+        <translation>出力（%1）は、読み取り専用で扱う %2 と同じファイルです。別のファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>The part of this program that draws pages cannot be loaded (%1): install it again.</source>
+        <translation>このプログラムのページを描く部分を読み込めません（%1）。もう一度インストールしてください。</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run.</source>
+        <translation>プリンター記述 %1 には、誰も保証していない独自のプログラムまたはコマンドが含まれています：%2。何も実行されていません。</translation>
+    </message>
+    <message>
+        <source>There is no default printer: choose one.</source>
+        <translation>既定のプリンターがありません。プリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: choose another printer.</source>
+        <translation>プリントサーバーにキュー %1 はありません。別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer. It is asked again until it does.</source>
+        <translation>プリントサーバー %1 が応答しません。応答するまで問い合わせを続けます。</translation>
+    </message>
+    <message>
+        <source>%1 calls itself without end, and was not asked again.</source>
+        <translation>%1が自分自身を際限なく呼び出すため、それ以上問い合わせませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 kept the window waiting for %2 s.</source>
+        <translation>%1がウインドウを %2 秒待たせました。</translation>
+    </message>
+    <message>
+        <source>%1 failed.</source>
+        <translation>%1が失敗しました。</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2.</source>
+        <translation>%1が失敗しました：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::portal::PortalTexts</name>
+    <message>
+        <source>The program prints a part: its current page, or what is selected.</source>
+        <translation>プログラムは一部（現在のページまたは選択範囲）を印刷します。</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>title and program</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>空です</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>The program&apos;s document cannot be read (%1): print it once more, or save it as a PDF and print that.</source>
+        <translation>プログラムの書類を読み取れません（%1）。もう一度印刷するか、PDF として保存してから印刷してください。</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,89 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>pdekit::LoadingTexts</name>
+    <message>
+        <source>the program ended while this plug-in was starting; it is tried again the next time</source>
+        <translation>이 플러그인을 시작하는 동안 프로그램이 끝났습니다. 다음에 다시 시도합니다</translation>
+    </message>
+    <message>
+        <source>the program ended while this plug-in was starting, and again the next time; it is tried again when the bundle has changed</source>
+        <translation>이 플러그인을 시작하는 동안 프로그램이 끝났고 다음에도 그랬습니다. 번들이 바뀌면 다시 시도합니다</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>코드를 불러올 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>its code is not what its metadata says</source>
+        <translation>코드가 메타데이터와 다릅니다</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>주 클래스 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>이 시스템에서는 작동하지 않습니다</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting: %1</source>
+        <translation>시작하지 못했습니다: %1</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting</source>
+        <translation>시작하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>프린터 설명에서 요구하는 플러그인 %1이(가) 설치되어 있지 않습니다. 플러그인이 없어도 인쇄할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is used in place of %2.</source>
+        <translation>%2 대신 플러그인 %1을(를) 사용합니다.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>플러그인 %1을(를) 사용하지 않습니다: %2. 플러그인이 없어도 인쇄할 수 있습니다. 번들을 업데이트하거나 제거하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>%1을(를) 읽을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 belongs to somebody else</source>
+        <translation>%1은(는) 다른 사람의 소유입니다</translation>
+    </message>
+    <message>
+        <source>everybody may write to %1</source>
+        <translation>누구나 %1에 쓸 수 있습니다</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>다른 패널 인터페이스용으로 만들어졌습니다(%1)</translation>
+    </message>
+    <message>
+        <source>it is made for a later version of the panel interface (%1)</source>
+        <translation>더 새로운 패널 인터페이스용으로 만들어졌습니다(%1)</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>파일 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>코드가 이 Qt에서 불러올 수 있는 플러그인이 아닙니다</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>메타데이터에 주 클래스 이름이 없습니다</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>프린터 패널을 제공하지 않습니다</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::AmountLabel</name>
     <message>
         <source>No page is chosen</source>
@@ -406,12 +489,41 @@
         <translation>%2의 패널 ‘%1’에 표시할 화면이 없습니다. 값은 설정된 그대로 인쇄됩니다.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
-        <translation>패널 ‘%1’이(가) 값을 전달하지 못했습니다: %2</translation>
+        <source>The plug-in %1 is not used: %2. Printing works without it.</source>
+        <translation>플러그인 %1을(를) 사용하지 않습니다: %2. 플러그인이 없어도 인쇄할 수 있습니다.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
-        <translation>패널 ‘%1’이(가) 값을 되돌리지 못했습니다: %2</translation>
+        <source>The plug-in %1</source>
+        <translation>플러그인 %1</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2</source>
+        <translation>%2의 패널 ‘%1’</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sent an option that no job can carry, which was left out: %2.</source>
+        <translation>플러그인 %1이(가) 보낸 옵션은 작업에 넣을 수 없어 제외했습니다: %2.</translation>
+    </message>
+    <message>
+        <source>Panels change %1 without end (%2): it is printed as it stands.</source>
+        <translation>패널이 %1을(를) 끝없이 바꿉니다(%2). 현재 값 그대로 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sends %2=%3, which the printer&apos;s description does not know.</source>
+        <translation>플러그인 %1이(가) 프린터 설명에 없는 %2=%3을(를) 보냅니다.</translation>
+    </message>
+    <message>
+        <source>%1 could not hand over its values</source>
+        <translation>%1이(가) 값을 전달하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what failed, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not restore its values</source>
+        <translation>%1이(가) 값을 되돌리지 못했습니다</translation>
     </message>
 </context>
 <context>
@@ -610,6 +722,10 @@
         <source>There is no preview: %1</source>
         <translation>미리 보기 없음: %1</translation>
     </message>
+    <message>
+        <source>The program&apos;s pages come later, laid out for this size.</source>
+        <translation>프로그램의 페이지는 이 크기에 맞게 나중에 옵니다.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -747,10 +863,6 @@
         <translation>다시 불러오기(&amp;L)</translation>
     </message>
     <message>
-        <source>Print %1 – connecting…</source>
-        <translation>%1 인쇄 – 연결하는 중…</translation>
-    </message>
-    <message>
         <source>Connecting…</source>
         <translation>연결하는 중…</translation>
     </message>
@@ -765,6 +877,22 @@
     <message>
         <source>Cancel Job</source>
         <translation>작업 취소</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>도움말(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Help for this page of the settings</source>
+        <translation>이 설정 페이지의 도움말</translation>
+    </message>
+    <message>
+        <source>%1 – connecting…</source>
+        <translation>%1 – 연결하는 중…</translation>
+    </message>
+    <message>
+        <source>%1 does not accept the settings. Nothing was printed.</source>
+        <translation>%1이(가) 설정을 받아들이지 않습니다. 아무것도 인쇄되지 않았습니다.</translation>
     </message>
 </context>
 <context>
@@ -980,10 +1108,6 @@
         <translation>이유가 표시되지 않았습니다</translation>
     </message>
     <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
-        <translation>인쇄 데이터를 %1에 쓸 수 없습니다(%2). 공간을 확보하거나 --output으로 다른 파일을 지정하십시오.</translation>
-    </message>
-    <message>
         <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
         <translation>필터를 시작할 수 없습니다(%1). CUPS가 완전히 설치되어 있는지 확인하십시오.</translation>
     </message>
@@ -994,10 +1118,6 @@
     <message>
         <source>The program cupsfilter is missing: install the package cups.</source>
         <translation>cupsfilter 프로그램이 없습니다. cups 패키지를 설치하십시오.</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written (%2): name another with --output.</source>
-        <translation>파일 %1에 쓸 수 없습니다(%2). --output으로 다른 파일을 지정하십시오.</translation>
     </message>
     <message>
         <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
@@ -1016,52 +1136,12 @@
         <translation>대기열 %1에 연결할 수 없습니다(%2). 사용 가능한 대기열은 lpstat -e로 확인할 수 있습니다.</translation>
     </message>
     <message>
-        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
-        <translation>대기열 %1이(가) 작업을 받지 않았습니다(%2). lpstat -p %1 -l을 확인하십시오.</translation>
-    </message>
-    <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
         <translation>%1=%2은(는) 프린터의 PPD에 있는 선택 항목이 아닙니다.</translation>
     </message>
     <message>
         <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
         <translation>인쇄 서버가 옵션 %1을(를) 자체 속성 %2(으)로 여기므로 프린터 필터에 전달되지 않습니다. PPD에서 다른 이름을 지정하십시오.</translation>
-    </message>
-    <message>
-        <source>its code is no plug-in that this Qt can load</source>
-        <translation>코드가 이 Qt에서 불러올 수 있는 플러그인이 아닙니다</translation>
-    </message>
-    <message>
-        <source>it is made for another panel interface (%1)</source>
-        <translation>다른 패널 인터페이스용으로 만들어졌습니다(%1)</translation>
-    </message>
-    <message>
-        <source>its metadata names no principal class</source>
-        <translation>메타데이터에 주 클래스 이름이 없습니다</translation>
-    </message>
-    <message>
-        <source>it does not serve printer panels</source>
-        <translation>프린터 패널을 제공하지 않습니다</translation>
-    </message>
-    <message>
-        <source>it has no file %1</source>
-        <translation>파일 %1이(가) 없습니다</translation>
-    </message>
-    <message>
-        <source>its code cannot be loaded: %1</source>
-        <translation>코드를 불러올 수 없습니다: %1</translation>
-    </message>
-    <message>
-        <source>it has no principal class %1</source>
-        <translation>주 클래스 %1이(가) 없습니다</translation>
-    </message>
-    <message>
-        <source>it cannot serve on this system</source>
-        <translation>이 시스템에서는 작동하지 않습니다</translation>
-    </message>
-    <message>
-        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
-        <translation>플러그인 %1을(를) 사용하지 않습니다: %2. 플러그인이 없어도 인쇄할 수 있습니다. 번들을 업데이트하거나 제거하십시오.</translation>
     </message>
     <message>
         <source>it is a folder</source>
@@ -1074,18 +1154,6 @@
     <message>
         <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
         <translation>PPD 파일 %1이(가) 올바르지 않습니다(%2행: %3). 파일을 수정하거나 다른 파일을 지정하십시오.</translation>
-    </message>
-    <message>
-        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
-        <translation>인쇄 서버 %1이(가) 응답하지 않습니다. 서버를 시작하거나, CUPS_SERVER에 다른 서버를 지정하거나, --ppd 파일로 서버 없이 인쇄하십시오.</translation>
-    </message>
-    <message>
-        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
-        <translation>기본 프린터가 없습니다. -d 대기열로 인쇄 대기열을 지정하거나 --ppd 파일로 대기열 없이 인쇄하십시오.</translation>
-    </message>
-    <message>
-        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
-        <translation>인쇄 서버에 대기열 %1이(가) 없습니다. 사용 가능한 대기열은 lpstat -e로 확인할 수 있습니다.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
@@ -1166,10 +1234,6 @@
     <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
         <translation>%1=%2은(는) 프린터의 PPD에 있는 선택 항목이 아닙니다. 작업에는 %3=%4이(가) 들어갑니다.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
-        <translation>프린터 설명에서 요구하는 플러그인 %1이(가) 설치되어 있지 않습니다. 플러그인이 없어도 인쇄할 수 있습니다.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
@@ -1268,16 +1332,8 @@
         <translation>같은 이름의 파일이 있습니다</translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>파일 %1은(는) 통째로만 바뀌는데 그 옆에 쓸 수 없습니다(%2). --output으로 다른 파일을 지정하십시오.</translation>
-    </message>
-    <message>
         <source>standard output</source>
         <translation>표준 출력</translation>
-    </message>
-    <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>출력(%1)은 읽기만 하는 %2와(과) 같은 파일입니다. --output으로 다른 파일을 지정하십시오.</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -1286,10 +1342,6 @@
     <message>
         <source>it is a pipe or a device</source>
         <translation>파이프 또는 장치입니다</translation>
-    </message>
-    <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>프린터 설명 %1에 아무도 보증하지 않는 자체 프로그램이나 명령이 들어 있습니다: %2. 아무것도 실행되지 않았습니다. 만든 이를 신뢰한다면 --trust-ppd로 다시 실행하십시오.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
@@ -1736,6 +1788,98 @@
         <source>%1 ft</source>
         <comment>a length in feet</comment>
         <translation>%1 ft</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): choose another printer.</source>
+        <translation>대기열 %1에 연결할 수 없습니다(%2). 다른 프린터를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2).</source>
+        <translation>대기열 %1이(가) 작업을 받지 않았습니다(%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another.</source>
+        <translation>파일 %1에 쓸 수 없습니다(%2). 다른 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
+        <translation>인쇄 데이터를 %1에 쓸 수 없습니다(%2). 공간을 확보하거나 다른 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>
+        <translation>파일 %1은(는) 통째로만 바뀌는데 그 옆에 쓸 수 없습니다(%2). 다른 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another.</source>
+        <translation>출력(%1)은 읽기만 하는 %2와(과) 같은 파일입니다. 다른 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The part of this program that draws pages cannot be loaded (%1): install it again.</source>
+        <translation>이 프로그램에서 페이지를 그리는 부분을 불러올 수 없습니다(%1). 다시 설치하십시오.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run.</source>
+        <translation>프린터 설명 %1에 아무도 보증하지 않는 자체 프로그램이나 명령이 들어 있습니다: %2. 아무것도 실행되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: choose one.</source>
+        <translation>기본 프린터가 없습니다. 프린터를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: choose another printer.</source>
+        <translation>인쇄 서버에 대기열 %1이(가) 없습니다. 다른 프린터를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer. It is asked again until it does.</source>
+        <translation>인쇄 서버 %1이(가) 응답하지 않습니다. 응답할 때까지 다시 묻습니다.</translation>
+    </message>
+    <message>
+        <source>%1 calls itself without end, and was not asked again.</source>
+        <translation>%1이(가) 자신을 끝없이 호출하여 더 묻지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>%1 kept the window waiting for %2 s.</source>
+        <translation>%1이(가) 창을 %2초 동안 기다리게 했습니다.</translation>
+    </message>
+    <message>
+        <source>%1 failed.</source>
+        <translation>%1에서 오류가 발생했습니다.</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2.</source>
+        <translation>%1에서 오류가 발생했습니다: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::portal::PortalTexts</name>
+    <message>
+        <source>The program prints a part: its current page, or what is selected.</source>
+        <translation>프로그램이 일부(현재 페이지 또는 선택 영역)를 인쇄합니다.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>인쇄</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>title and program</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>비어 있습니다</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>너무 큽니다</translation>
+    </message>
+    <message>
+        <source>The program&apos;s document cannot be read (%1): print it once more, or save it as a PDF and print that.</source>
+        <translation>프로그램의 문서를 읽을 수 없습니다(%1). 다시 인쇄하거나 PDF로 저장한 다음 인쇄하십시오.</translation>
     </message>
 </context>
 </TS>

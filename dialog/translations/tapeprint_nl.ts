@@ -3,6 +3,89 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>pdekit::LoadingTexts</name>
+    <message>
+        <source>the program ended while this plug-in was starting; it is tried again the next time</source>
+        <translation>het programma stopte terwijl deze plug-in startte; de volgende keer wordt hij weer geprobeerd</translation>
+    </message>
+    <message>
+        <source>the program ended while this plug-in was starting, and again the next time; it is tried again when the bundle has changed</source>
+        <translation>het programma stopte terwijl deze plug-in startte, en de keer daarna weer; hij wordt weer geprobeerd als de bundel is veranderd</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>de code kan niet worden geladen: %1</translation>
+    </message>
+    <message>
+        <source>its code is not what its metadata says</source>
+        <translation>de code is niet wat de metagegevens zeggen</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>de hoofdklasse %1 ontbreekt</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>hij werkt niet op dit systeem</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting: %1</source>
+        <translation>het starten is mislukt: %1</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting</source>
+        <translation>het starten is mislukt</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>De beschrijving van de printer vraagt om de plug-in %1, die niet is geïnstalleerd. Afdrukken kan ook zonder.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is used in place of %2.</source>
+        <translation>De plug-in %1 wordt gebruikt in plaats van %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>De plug-in %1 wordt niet gebruikt: %2. Afdrukken kan ook zonder; werk de plug-in bij of verwijder hem.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>%1 kan niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>%1 belongs to somebody else</source>
+        <translation>%1 is van iemand anders</translation>
+    </message>
+    <message>
+        <source>everybody may write to %1</source>
+        <translation>iedereen mag in %1 schrijven</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>hij is gemaakt voor een andere paneelinterface (%1)</translation>
+    </message>
+    <message>
+        <source>it is made for a later version of the panel interface (%1)</source>
+        <translation>hij is gemaakt voor een latere versie van de paneelinterface (%1)</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>het bestand %1 ontbreekt</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>de code is geen plug-in die deze Qt kan laden</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>de metagegevens noemen geen hoofdklasse</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>hij levert geen printerpanelen</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::AmountLabel</name>
     <message>
         <source>No page is chosen</source>
@@ -408,12 +491,41 @@
         <translation>Het paneel ‘%1’ van %2 heeft geen weergave. De waarden worden afgedrukt zoals ze zijn ingesteld.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
-        <translation>Het paneel ‘%1’ kon zijn waarden niet doorgeven: %2</translation>
+        <source>The plug-in %1 is not used: %2. Printing works without it.</source>
+        <translation>De plug-in %1 wordt niet gebruikt: %2. Afdrukken kan ook zonder.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
-        <translation>Het paneel ‘%1’ kon zijn waarden niet herstellen: %2</translation>
+        <source>The plug-in %1</source>
+        <translation>De plug-in %1</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2</source>
+        <translation>Het paneel ‘%1’ van %2</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sent an option that no job can carry, which was left out: %2.</source>
+        <translation>De plug-in %1 stuurde een optie die geen taak kan bevatten en die is weggelaten: %2.</translation>
+    </message>
+    <message>
+        <source>Panels change %1 without end (%2): it is printed as it stands.</source>
+        <translation>Panelen veranderen %1 eindeloos (%2): er wordt afgedrukt met de huidige waarde.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sends %2=%3, which the printer&apos;s description does not know.</source>
+        <translation>De plug-in %1 stuurt %2=%3, dat de beschrijving van de printer niet kent.</translation>
+    </message>
+    <message>
+        <source>%1 could not hand over its values</source>
+        <translation>%1 kon de waarden niet doorgeven</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what failed, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not restore its values</source>
+        <translation>%1 kon de waarden niet herstellen</translation>
     </message>
 </context>
 <context>
@@ -614,6 +726,10 @@
         <source>There is no preview: %1</source>
         <translation>Geen voorbeeld: %1</translation>
     </message>
+    <message>
+        <source>The program&apos;s pages come later, laid out for this size.</source>
+        <translation>De pagina’s van het programma komen later, opgemaakt voor dit formaat.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -751,10 +867,6 @@
         <translation>Opnieuw &amp;laden</translation>
     </message>
     <message>
-        <source>Print %1 – connecting…</source>
-        <translation>%1 afdrukken – verbinden…</translation>
-    </message>
-    <message>
         <source>Connecting…</source>
         <translation>Verbinden…</translation>
     </message>
@@ -769,6 +881,22 @@
     <message>
         <source>Cancel Job</source>
         <translation>Taak annuleren</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Help for this page of the settings</source>
+        <translation>Hulp bij deze pagina met instellingen</translation>
+    </message>
+    <message>
+        <source>%1 – connecting…</source>
+        <translation>%1 – verbinden…</translation>
+    </message>
+    <message>
+        <source>%1 does not accept the settings. Nothing was printed.</source>
+        <translation>%1 aanvaardt de instellingen niet. Er is niets afgedrukt.</translation>
     </message>
 </context>
 <context>
@@ -984,10 +1112,6 @@
         <translation>zonder opgave van reden</translation>
     </message>
     <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
-        <translation>De afdrukgegevens kunnen niet naar %1 worden geschreven (%2). Maak daar ruimte of geef met --output een ander bestand op.</translation>
-    </message>
-    <message>
         <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
         <translation>De filters kunnen niet worden gestart (%1). Controleer of CUPS volledig is geïnstalleerd.</translation>
     </message>
@@ -998,10 +1122,6 @@
     <message>
         <source>The program cupsfilter is missing: install the package cups.</source>
         <translation>Het programma cupsfilter ontbreekt. Installeer het pakket cups.</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written (%2): name another with --output.</source>
-        <translation>Het bestand %1 kan niet worden geschreven (%2). Geef met --output een ander op.</translation>
     </message>
     <message>
         <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
@@ -1020,52 +1140,12 @@
         <translation>De wachtrij %1 is niet bereikbaar (%2). Met lpstat -e ziet u welke wachtrijen er zijn.</translation>
     </message>
     <message>
-        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
-        <translation>De wachtrij %1 heeft de taak niet aangenomen (%2). Zie lpstat -p %1 -l.</translation>
-    </message>
-    <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
         <translation>%1=%2 komt niet voor in de keuzes van het PPD-bestand van de printer.</translation>
     </message>
     <message>
         <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
         <translation>De optie %1 bereikt het filter van de printer nooit, omdat de afdrukserver haar voor zijn eigen attribuut %2 houdt. Geef haar in het PPD-bestand een andere naam.</translation>
-    </message>
-    <message>
-        <source>its code is no plug-in that this Qt can load</source>
-        <translation>de code is geen plug-in die deze Qt kan laden</translation>
-    </message>
-    <message>
-        <source>it is made for another panel interface (%1)</source>
-        <translation>hij is gemaakt voor een andere paneelinterface (%1)</translation>
-    </message>
-    <message>
-        <source>its metadata names no principal class</source>
-        <translation>de metagegevens noemen geen hoofdklasse</translation>
-    </message>
-    <message>
-        <source>it does not serve printer panels</source>
-        <translation>hij levert geen printerpanelen</translation>
-    </message>
-    <message>
-        <source>it has no file %1</source>
-        <translation>het bestand %1 ontbreekt</translation>
-    </message>
-    <message>
-        <source>its code cannot be loaded: %1</source>
-        <translation>de code kan niet worden geladen: %1</translation>
-    </message>
-    <message>
-        <source>it has no principal class %1</source>
-        <translation>de hoofdklasse %1 ontbreekt</translation>
-    </message>
-    <message>
-        <source>it cannot serve on this system</source>
-        <translation>hij werkt niet op dit systeem</translation>
-    </message>
-    <message>
-        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
-        <translation>De plug-in %1 wordt niet gebruikt: %2. Afdrukken kan ook zonder; werk de plug-in bij of verwijder hem.</translation>
     </message>
     <message>
         <source>it is a folder</source>
@@ -1078,18 +1158,6 @@
     <message>
         <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
         <translation>Het PPD-bestand %1 is niet geldig, regel %2: %3. Verbeter het bestand of geef een ander op.</translation>
-    </message>
-    <message>
-        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
-        <translation>De afdrukserver %1 antwoordt niet. Start hem, noem een andere in CUPS_SERVER of druk zonder server af met --ppd BESTAND.</translation>
-    </message>
-    <message>
-        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
-        <translation>Er is geen standaardprinter. Noem een wachtrij met -d WACHTRIJ of druk zonder wachtrij af met --ppd BESTAND.</translation>
-    </message>
-    <message>
-        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
-        <translation>De afdrukserver kent geen wachtrij %1. Met lpstat -e ziet u welke wachtrijen er zijn.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
@@ -1170,10 +1238,6 @@
     <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
         <translation>%1=%2 komt niet voor in de keuzes van het PPD-bestand van de printer: de taak bevat %3=%4.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
-        <translation>De beschrijving van de printer vraagt om de plug-in %1, die niet is geïnstalleerd. Afdrukken kan ook zonder.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
@@ -1272,16 +1336,8 @@
         <translation>er is al een bestand met deze naam</translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>Het bestand %1 wordt alleen in zijn geheel vervangen, en ernaast kan niets worden geschreven (%2): noem een ander met --output.</translation>
-    </message>
-    <message>
         <source>standard output</source>
         <translation>standaarduitvoer</translation>
-    </message>
-    <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>De uitvoer (%1) is hetzelfde bestand als %2, dat alleen wordt gelezen: noem een ander met --output.</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -1290,10 +1346,6 @@
     <message>
         <source>it is a pipe or a device</source>
         <translation>het is een pijp of een apparaat</translation>
-    </message>
-    <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>De printerbeschrijving %1 brengt eigen programma’s of opdrachten mee, waarvoor niemand instaat: %2. Er is niets uitgevoerd. Vertrouwt u de maker, herhaal het dan met --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
@@ -1740,6 +1792,98 @@
         <source>%1 ft</source>
         <comment>a length in feet</comment>
         <translation>%1 ft</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): choose another printer.</source>
+        <translation>De wachtrij %1 is niet bereikbaar (%2): kies een andere printer.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2).</source>
+        <translation>De wachtrij %1 heeft de taak niet aanvaard (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another.</source>
+        <translation>Het bestand %1 kan niet worden geschreven (%2): noem een ander.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
+        <translation>De afdrukgegevens kunnen niet naar %1 worden geschreven (%2): maak daar ruimte of noem een ander bestand.</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>
+        <translation>Het bestand %1 wordt alleen in zijn geheel vervangen, en ernaast kan niets worden geschreven (%2): noem een ander.</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another.</source>
+        <translation>De uitvoer (%1) is hetzelfde bestand als %2, dat alleen wordt gelezen: noem een andere.</translation>
+    </message>
+    <message>
+        <source>The part of this program that draws pages cannot be loaded (%1): install it again.</source>
+        <translation>Het deel van dit programma dat pagina’s tekent kan niet worden geladen (%1): installeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run.</source>
+        <translation>De printerbeschrijving %1 brengt eigen programma’s of opdrachten mee, waarvoor niemand instaat: %2. Er is niets uitgevoerd.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: choose one.</source>
+        <translation>Er is geen standaardprinter: kies er een.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: choose another printer.</source>
+        <translation>De afdrukserver kent geen wachtrij %1: kies een andere printer.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer. It is asked again until it does.</source>
+        <translation>De afdrukserver %1 antwoordt niet. Er wordt opnieuw gevraagd tot hij dat doet.</translation>
+    </message>
+    <message>
+        <source>%1 calls itself without end, and was not asked again.</source>
+        <translation>%1 roept zichzelf eindeloos aan en is niet nog eens gevraagd.</translation>
+    </message>
+    <message>
+        <source>%1 kept the window waiting for %2 s.</source>
+        <translation>%1 liet het venster %2 s wachten.</translation>
+    </message>
+    <message>
+        <source>%1 failed.</source>
+        <translation>%1 is mislukt.</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2.</source>
+        <translation>%1 is mislukt: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::portal::PortalTexts</name>
+    <message>
+        <source>The program prints a part: its current page, or what is selected.</source>
+        <translation>Het programma drukt een deel af: de huidige pagina of de selectie.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Afdrukken</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>title and program</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>het is geen bestand</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>het is leeg</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>het is te groot</translation>
+    </message>
+    <message>
+        <source>The program&apos;s document cannot be read (%1): print it once more, or save it as a PDF and print that.</source>
+        <translation>Het document van het programma kan niet worden gelezen (%1): druk het nog eens af, of bewaar het als pdf en druk die af.</translation>
     </message>
 </context>
 </TS>

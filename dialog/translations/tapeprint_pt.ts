@@ -3,6 +3,89 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name>pdekit::LoadingTexts</name>
+    <message>
+        <source>the program ended while this plug-in was starting; it is tried again the next time</source>
+        <translation>o programa terminou enquanto esta extensão arrancava; será tentada de novo da próxima vez</translation>
+    </message>
+    <message>
+        <source>the program ended while this plug-in was starting, and again the next time; it is tried again when the bundle has changed</source>
+        <translation>o programa terminou enquanto esta extensão arrancava, e outra vez a seguir; será tentada de novo quando a extensão mudar</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>não é possível carregar o seu código: %1</translation>
+    </message>
+    <message>
+        <source>its code is not what its metadata says</source>
+        <translation>o seu código não é o que os metadados dizem</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>não tem a classe principal %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>não pode funcionar neste sistema</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting: %1</source>
+        <translation>falhou ao arrancar: %1</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting</source>
+        <translation>falhou ao arrancar</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>A descrição da impressora pede a extensão %1, que não está instalada. É possível imprimir sem ela.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is used in place of %2.</source>
+        <translation>A extensão %1 é usada em vez de %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>A extensão %1 não é usada: %2. É possível imprimir sem ela; atualize-a ou remova-a.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>não é possível ler %1</translation>
+    </message>
+    <message>
+        <source>%1 belongs to somebody else</source>
+        <translation>%1 pertence a outra pessoa</translation>
+    </message>
+    <message>
+        <source>everybody may write to %1</source>
+        <translation>qualquer pessoa pode escrever em %1</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>foi feita para outra interface de painéis (%1)</translation>
+    </message>
+    <message>
+        <source>it is made for a later version of the panel interface (%1)</source>
+        <translation>foi feita para uma versão posterior da interface de painéis (%1)</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>não tem o ficheiro %1</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>o seu código não é uma extensão que esta versão do Qt consiga carregar</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>os seus metadados não indicam nenhuma classe principal</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>não oferece painéis de impressora</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::AmountLabel</name>
     <message>
         <source>No page is chosen</source>
@@ -408,12 +491,41 @@
         <translation>O painel “%1” de %2 não tem vista. Os seus valores são impressos tal como estão definidos.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
-        <translation>O painel “%1” não conseguiu entregar os seus valores: %2</translation>
+        <source>The plug-in %1 is not used: %2. Printing works without it.</source>
+        <translation>A extensão %1 não é usada: %2. É possível imprimir sem ela.</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
-        <translation>O painel “%1” não conseguiu repor os seus valores: %2</translation>
+        <source>The plug-in %1</source>
+        <translation>A extensão %1</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2</source>
+        <translation>O painel “%1” de %2</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sent an option that no job can carry, which was left out: %2.</source>
+        <translation>A extensão %1 enviou uma opção que nenhum trabalho pode levar e que foi omitida: %2.</translation>
+    </message>
+    <message>
+        <source>Panels change %1 without end (%2): it is printed as it stands.</source>
+        <translation>Os painéis mudam %1 sem fim (%2): imprime-se com o valor atual.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sends %2=%3, which the printer&apos;s description does not know.</source>
+        <translation>A extensão %1 envia %2=%3, que a descrição da impressora não conhece.</translation>
+    </message>
+    <message>
+        <source>%1 could not hand over its values</source>
+        <translation>%1: não foi possível entregar os valores</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what failed, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not restore its values</source>
+        <translation>%1: não foi possível repor os valores</translation>
     </message>
 </context>
 <context>
@@ -614,6 +726,10 @@
         <source>There is no preview: %1</source>
         <translation>Sem pré-visualização: %1</translation>
     </message>
+    <message>
+        <source>The program&apos;s pages come later, laid out for this size.</source>
+        <translation>As páginas do programa vêm depois, compostas para este tamanho.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -751,10 +867,6 @@
         <translation>Recarre&amp;gar</translation>
     </message>
     <message>
-        <source>Print %1 – connecting…</source>
-        <translation>Imprimir %1 – a ligar…</translation>
-    </message>
-    <message>
         <source>Connecting…</source>
         <translation>A ligar…</translation>
     </message>
@@ -769,6 +881,22 @@
     <message>
         <source>Cancel Job</source>
         <translation>Cancelar trabalho</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;juda</translation>
+    </message>
+    <message>
+        <source>Help for this page of the settings</source>
+        <translation>Ajuda sobre esta página de definições</translation>
+    </message>
+    <message>
+        <source>%1 – connecting…</source>
+        <translation>%1 – a ligar…</translation>
+    </message>
+    <message>
+        <source>%1 does not accept the settings. Nothing was printed.</source>
+        <translation>%1 não aceita as definições. Nada foi impresso.</translation>
     </message>
 </context>
 <context>
@@ -984,10 +1112,6 @@
         <translation>sem indicação do motivo</translation>
     </message>
     <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
-        <translation>Não é possível escrever os dados de impressão em %1 (%2). Liberte espaço ou indique outro ficheiro com --output.</translation>
-    </message>
-    <message>
         <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
         <translation>Não é possível iniciar os filtros (%1). Verifique se o CUPS está totalmente instalado.</translation>
     </message>
@@ -998,10 +1122,6 @@
     <message>
         <source>The program cupsfilter is missing: install the package cups.</source>
         <translation>Falta o programa cupsfilter. Instale o pacote cups.</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written (%2): name another with --output.</source>
-        <translation>Não é possível escrever o ficheiro %1 (%2). Indique outro com --output.</translation>
     </message>
     <message>
         <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
@@ -1020,52 +1140,12 @@
         <translation>Não é possível aceder à fila %1 (%2). O comando lpstat -e mostra as filas existentes.</translation>
     </message>
     <message>
-        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
-        <translation>A fila %1 não aceitou o trabalho (%2). Consulte lpstat -p %1 -l.</translation>
-    </message>
-    <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
         <translation>%1=%2 não consta das escolhas do ficheiro PPD da impressora.</translation>
     </message>
     <message>
         <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
         <translation>A opção %1 nunca chega ao filtro da impressora, porque o servidor de impressão a toma pelo seu próprio atributo %2. Dê-lhe outro nome no ficheiro PPD.</translation>
-    </message>
-    <message>
-        <source>its code is no plug-in that this Qt can load</source>
-        <translation>o seu código não é uma extensão que esta versão do Qt consiga carregar</translation>
-    </message>
-    <message>
-        <source>it is made for another panel interface (%1)</source>
-        <translation>foi feita para outra interface de painéis (%1)</translation>
-    </message>
-    <message>
-        <source>its metadata names no principal class</source>
-        <translation>os seus metadados não indicam nenhuma classe principal</translation>
-    </message>
-    <message>
-        <source>it does not serve printer panels</source>
-        <translation>não oferece painéis de impressora</translation>
-    </message>
-    <message>
-        <source>it has no file %1</source>
-        <translation>não tem o ficheiro %1</translation>
-    </message>
-    <message>
-        <source>its code cannot be loaded: %1</source>
-        <translation>não é possível carregar o seu código: %1</translation>
-    </message>
-    <message>
-        <source>it has no principal class %1</source>
-        <translation>não tem a classe principal %1</translation>
-    </message>
-    <message>
-        <source>it cannot serve on this system</source>
-        <translation>não pode funcionar neste sistema</translation>
-    </message>
-    <message>
-        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
-        <translation>A extensão %1 não é usada: %2. É possível imprimir sem ela; atualize-a ou remova-a.</translation>
     </message>
     <message>
         <source>it is a folder</source>
@@ -1078,18 +1158,6 @@
     <message>
         <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
         <translation>O ficheiro PPD %1 não é válido, linha %2: %3. Corrija o ficheiro ou indique outro.</translation>
-    </message>
-    <message>
-        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
-        <translation>O servidor de impressão %1 não responde. Inicie-o, indique outro em CUPS_SERVER ou imprima sem servidor com --ppd FICHEIRO.</translation>
-    </message>
-    <message>
-        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
-        <translation>Não há nenhuma impressora predefinida. Indique uma fila de impressão com -d FILA ou imprima sem fila com --ppd FICHEIRO.</translation>
-    </message>
-    <message>
-        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
-        <translation>O servidor de impressão não conhece a fila %1. O comando lpstat -e mostra as filas existentes.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
@@ -1170,10 +1238,6 @@
     <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
         <translation>%1=%2 não consta das escolhas do ficheiro PPD da impressora: o trabalho leva %3=%4.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
-        <translation>A descrição da impressora pede a extensão %1, que não está instalada. É possível imprimir sem ela.</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
@@ -1272,16 +1336,8 @@
         <translation>já existe um ficheiro com este nome</translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>O ficheiro %1 só é substituído por inteiro, e nada pode ser escrito ao lado dele (%2): indique outro com --output.</translation>
-    </message>
-    <message>
         <source>standard output</source>
         <translation>a saída padrão</translation>
-    </message>
-    <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>A saída (%1) é o mesmo ficheiro que %2, que só é lido: indique outra com --output.</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -1290,10 +1346,6 @@
     <message>
         <source>it is a pipe or a device</source>
         <translation>é um pipe ou um dispositivo</translation>
-    </message>
-    <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>A descrição de impressora %1 traz programas ou comandos próprios, pelos quais ninguém responde: %2. Nada foi executado. Se confia no autor, repita com --trust-ppd.</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
@@ -1740,6 +1792,98 @@
         <source>%1 ft</source>
         <comment>a length in feet</comment>
         <translation>%1 pés</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): choose another printer.</source>
+        <translation>Não é possível aceder à fila %1 (%2): escolha outra impressora.</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2).</source>
+        <translation>A fila %1 não aceitou o trabalho (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another.</source>
+        <translation>Não é possível gravar o ficheiro %1 (%2): indique outro.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
+        <translation>Não é possível gravar os dados de impressão em %1 (%2): liberte espaço ou indique outro ficheiro.</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>
+        <translation>O ficheiro %1 só é substituído por inteiro, e nada pode ser escrito ao lado dele (%2): indique outro.</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another.</source>
+        <translation>A saída (%1) é o mesmo ficheiro que %2, que só é lido: indique outra.</translation>
+    </message>
+    <message>
+        <source>The part of this program that draws pages cannot be loaded (%1): install it again.</source>
+        <translation>Não é possível carregar a parte deste programa que desenha páginas (%1): instale-o de novo.</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run.</source>
+        <translation>A descrição de impressora %1 traz programas ou comandos próprios, pelos quais ninguém responde: %2. Nada foi executado.</translation>
+    </message>
+    <message>
+        <source>There is no default printer: choose one.</source>
+        <translation>Não há impressora predefinida: escolha uma.</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: choose another printer.</source>
+        <translation>O servidor de impressão não conhece a fila %1: escolha outra impressora.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer. It is asked again until it does.</source>
+        <translation>O servidor de impressão %1 não responde. Volta a ser contactado até responder.</translation>
+    </message>
+    <message>
+        <source>%1 calls itself without end, and was not asked again.</source>
+        <translation>%1 chama-se a si mesmo sem fim e não voltou a ser consultado.</translation>
+    </message>
+    <message>
+        <source>%1 kept the window waiting for %2 s.</source>
+        <translation>%1 fez a janela esperar %2 s.</translation>
+    </message>
+    <message>
+        <source>%1 failed.</source>
+        <translation>%1 falhou.</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2.</source>
+        <translation>%1 falhou: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::portal::PortalTexts</name>
+    <message>
+        <source>The program prints a part: its current page, or what is selected.</source>
+        <translation>O programa imprime uma parte: a página atual ou a seleção.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>title and program</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>não é um ficheiro</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vazio</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>é demasiado grande</translation>
+    </message>
+    <message>
+        <source>The program&apos;s document cannot be read (%1): print it once more, or save it as a PDF and print that.</source>
+        <translation>Não é possível ler o documento do programa (%1): imprima-o outra vez, ou guarde-o como PDF e imprima esse ficheiro.</translation>
     </message>
 </context>
 </TS>

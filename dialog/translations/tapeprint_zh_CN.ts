@@ -3,6 +3,89 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>pdekit::LoadingTexts</name>
+    <message>
+        <source>the program ended while this plug-in was starting; it is tried again the next time</source>
+        <translation>此插件启动时程序终止了；下次会再尝试</translation>
+    </message>
+    <message>
+        <source>the program ended while this plug-in was starting, and again the next time; it is tried again when the bundle has changed</source>
+        <translation>此插件启动时程序终止了，下一次也是如此；插件包更改后会再尝试</translation>
+    </message>
+    <message>
+        <source>its code cannot be loaded: %1</source>
+        <translation>无法加载其代码：%1</translation>
+    </message>
+    <message>
+        <source>its code is not what its metadata says</source>
+        <translation>其代码与元数据所述不符</translation>
+    </message>
+    <message>
+        <source>it has no principal class %1</source>
+        <translation>它没有主类 %1</translation>
+    </message>
+    <message>
+        <source>it cannot serve on this system</source>
+        <translation>它无法在此系统上工作</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting: %1</source>
+        <translation>启动失败：%1</translation>
+    </message>
+    <message>
+        <source>it failed while it was starting</source>
+        <translation>启动失败</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
+        <translation>打印机描述要求插件 %1，但该插件未安装。没有该插件也可以打印。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is used in place of %2.</source>
+        <translation>使用插件 %1 代替 %2。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
+        <translation>未使用插件 %1：%2。没有该插件也可以打印；请更新或移除该插件包。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation>无法读取 %1</translation>
+    </message>
+    <message>
+        <source>%1 belongs to somebody else</source>
+        <translation>%1 属于其他人</translation>
+    </message>
+    <message>
+        <source>everybody may write to %1</source>
+        <translation>任何人都可以写入 %1</translation>
+    </message>
+    <message>
+        <source>it is made for another panel interface (%1)</source>
+        <translation>它是为其他面板接口（%1）制作的</translation>
+    </message>
+    <message>
+        <source>it is made for a later version of the panel interface (%1)</source>
+        <translation>它是为更高版本的面板接口（%1）制作的</translation>
+    </message>
+    <message>
+        <source>it has no file %1</source>
+        <translation>它没有文件 %1</translation>
+    </message>
+    <message>
+        <source>its code is no plug-in that this Qt can load</source>
+        <translation>其代码不是此 Qt 可以加载的插件</translation>
+    </message>
+    <message>
+        <source>its metadata names no principal class</source>
+        <translation>其元数据没有指明主类</translation>
+    </message>
+    <message>
+        <source>it does not serve printer panels</source>
+        <translation>它不提供打印机面板</translation>
+    </message>
+</context>
+<context>
     <name>tapeprint::dialog::AmountLabel</name>
     <message>
         <source>No page is chosen</source>
@@ -406,12 +489,41 @@
         <translation>%2 的面板“%1”没有界面，其数值将按已有设置打印。</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not hand over its values: %2</source>
-        <translation>面板“%1”无法提交其数值：%2</translation>
+        <source>The plug-in %1 is not used: %2. Printing works without it.</source>
+        <translation>未使用插件 %1：%2。没有该插件也可以打印。</translation>
     </message>
     <message>
-        <source>The panel &quot;%1&quot; could not restore its values: %2</source>
-        <translation>面板“%1”无法恢复其数值：%2</translation>
+        <source>The plug-in %1</source>
+        <translation>插件 %1</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; of %2</source>
+        <translation>%2 的面板“%1”</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sent an option that no job can carry, which was left out: %2.</source>
+        <translation>插件 %1 发送了作业无法包含的选项，已将其略去：%2。</translation>
+    </message>
+    <message>
+        <source>Panels change %1 without end (%2): it is printed as it stands.</source>
+        <translation>面板不停地更改 %1（%2）：将按当前值打印。</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 sends %2=%3, which the printer&apos;s description does not know.</source>
+        <translation>插件 %1 发送了 %2=%3，打印机描述中没有该值。</translation>
+    </message>
+    <message>
+        <source>%1 could not hand over its values</source>
+        <translation>%1无法提交其数值</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what failed, why</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 could not restore its values</source>
+        <translation>%1无法恢复其数值</translation>
     </message>
 </context>
 <context>
@@ -610,6 +722,10 @@
         <source>There is no preview: %1</source>
         <translation>没有预览：%1</translation>
     </message>
+    <message>
+        <source>The program&apos;s pages come later, laid out for this size.</source>
+        <translation>程序的页面将按此尺寸排版，稍后送来。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -747,10 +863,6 @@
         <translation>重新载入(&amp;L)</translation>
     </message>
     <message>
-        <source>Print %1 – connecting…</source>
-        <translation>打印 %1 – 正在连接…</translation>
-    </message>
-    <message>
         <source>Connecting…</source>
         <translation>正在连接…</translation>
     </message>
@@ -765,6 +877,22 @@
     <message>
         <source>Cancel Job</source>
         <translation>取消作业</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Help for this page of the settings</source>
+        <translation>此设置页面的帮助</translation>
+    </message>
+    <message>
+        <source>%1 – connecting…</source>
+        <translation>%1 – 正在连接…</translation>
+    </message>
+    <message>
+        <source>%1 does not accept the settings. Nothing was printed.</source>
+        <translation>%1不接受这些设置。没有打印任何内容。</translation>
     </message>
 </context>
 <context>
@@ -980,10 +1108,6 @@
         <translation>未说明原因</translation>
     </message>
     <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file with --output.</source>
-        <translation>无法将打印数据写入 %1（%2）。请腾出空间，或用 --output 指定其他文件。</translation>
-    </message>
-    <message>
         <source>The filters cannot be started (%1): see that CUPS is installed whole.</source>
         <translation>无法启动过滤器（%1）。请检查 CUPS 是否已完整安装。</translation>
     </message>
@@ -994,10 +1118,6 @@
     <message>
         <source>The program cupsfilter is missing: install the package cups.</source>
         <translation>缺少程序 cupsfilter。请安装软件包 cups。</translation>
-    </message>
-    <message>
-        <source>The file %1 cannot be written (%2): name another with --output.</source>
-        <translation>无法写入文件 %1（%2）。请用 --output 指定其他文件。</translation>
     </message>
     <message>
         <source>The filters of %1 made nothing of the document: see that it has pages to print.</source>
@@ -1016,52 +1136,12 @@
         <translation>无法连接队列 %1（%2）。可用 lpstat -e 查看现有队列。</translation>
     </message>
     <message>
-        <source>The queue %1 did not take the job (%2): see lpstat -p %1 -l.</source>
-        <translation>队列 %1 没有接受作业（%2）。请查看 lpstat -p %1 -l。</translation>
-    </message>
-    <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists.</source>
         <translation>%1=%2 不在打印机 PPD 列出的选项之中。</translation>
     </message>
     <message>
         <source>Option %1 never reaches the printer&apos;s filter, because the print server takes it for its own attribute %2: give it another name in the PPD.</source>
         <translation>选项 %1 无法到达打印机的过滤器，因为打印服务器将其当作自己的属性 %2。请在 PPD 中为其另取名称。</translation>
-    </message>
-    <message>
-        <source>its code is no plug-in that this Qt can load</source>
-        <translation>其代码不是此 Qt 可以加载的插件</translation>
-    </message>
-    <message>
-        <source>it is made for another panel interface (%1)</source>
-        <translation>它是为其他面板接口（%1）制作的</translation>
-    </message>
-    <message>
-        <source>its metadata names no principal class</source>
-        <translation>其元数据没有指明主类</translation>
-    </message>
-    <message>
-        <source>it does not serve printer panels</source>
-        <translation>它不提供打印机面板</translation>
-    </message>
-    <message>
-        <source>it has no file %1</source>
-        <translation>它没有文件 %1</translation>
-    </message>
-    <message>
-        <source>its code cannot be loaded: %1</source>
-        <translation>无法加载其代码：%1</translation>
-    </message>
-    <message>
-        <source>it has no principal class %1</source>
-        <translation>它没有主类 %1</translation>
-    </message>
-    <message>
-        <source>it cannot serve on this system</source>
-        <translation>它无法在此系统上工作</translation>
-    </message>
-    <message>
-        <source>The plug-in %1 is not used: %2. Printing works without it; update or remove the bundle.</source>
-        <translation>未使用插件 %1：%2。没有该插件也可以打印；请更新或移除该插件包。</translation>
     </message>
     <message>
         <source>it is a folder</source>
@@ -1074,18 +1154,6 @@
     <message>
         <source>The PPD file %1 is not valid, line %2: %3. Correct the file or name another.</source>
         <translation>PPD 文件 %1 无效，第 %2 行：%3。请修正该文件或指定其他文件。</translation>
-    </message>
-    <message>
-        <source>The print server %1 does not answer: start it, name another in CUPS_SERVER, or print without one with --ppd FILE.</source>
-        <translation>打印服务器 %1 没有响应。请启动它，或在 CUPS_SERVER 中指定其他服务器，或用 --ppd 文件 不经服务器打印。</translation>
-    </message>
-    <message>
-        <source>There is no default printer: name a print queue with -d QUEUE, or print without one with --ppd FILE.</source>
-        <translation>没有默认打印机。请用 -d 队列 指定打印队列，或用 --ppd 文件 不经队列打印。</translation>
-    </message>
-    <message>
-        <source>The print server knows no queue %1: see lpstat -e for the queues there are.</source>
-        <translation>打印服务器没有队列 %1。可用 lpstat -e 查看现有队列。</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be had from the print server (%2): see that the queue is set up.</source>
@@ -1166,10 +1234,6 @@
     <message>
         <source>%1=%2 is none of the choices that the printer&apos;s PPD lists: the job carries %3=%4.</source>
         <translation>%1=%2 不在打印机 PPD 列出的选项之中：作业采用 %3=%4。</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s description asks for the plug-in %1, which is not installed. Printing works without it.</source>
-        <translation>打印机描述要求插件 %1，但该插件未安装。没有该插件也可以打印。</translation>
     </message>
     <message>
         <source>The printer&apos;s filters run without confinement, because bubblewrap is missing: install the package bubblewrap.</source>
@@ -1268,16 +1332,8 @@
         <translation>已有同名文件</translation>
     </message>
     <message>
-        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another with --output.</source>
-        <translation>文件 %1 只能整体替换，而其旁边无法写入（%2）：请用 --output 指定另一个文件。</translation>
-    </message>
-    <message>
         <source>standard output</source>
         <translation>标准输出</translation>
-    </message>
-    <message>
-        <source>The output (%1) is the same file as %2, which is only read: name another with --output.</source>
-        <translation>输出（%1）与只读取的 %2 是同一个文件：请用 --output 指定另一个。</translation>
     </message>
     <message>
         <source>standard input</source>
@@ -1286,10 +1342,6 @@
     <message>
         <source>it is a pipe or a device</source>
         <translation>它是管道或设备</translation>
-    </message>
-    <message>
-        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run. If you trust its author, repeat with --trust-ppd.</source>
-        <translation>打印机描述 %1 自带无人担保的程序或命令：%2。没有运行任何内容。如果您信任其作者，请加上 --trust-ppd 重试。</translation>
     </message>
     <message>
         <source>The PPD of queue %1 cannot be kept in a temporary file (%2): make room there.</source>
@@ -1736,6 +1788,98 @@
         <source>%1 ft</source>
         <comment>a length in feet</comment>
         <translation>%1 英尺</translation>
+    </message>
+    <message>
+        <source>The queue %1 cannot be reached (%2): choose another printer.</source>
+        <translation>无法连接队列 %1（%2）：请选择其他打印机。</translation>
+    </message>
+    <message>
+        <source>The queue %1 did not take the job (%2).</source>
+        <translation>队列 %1 没有接受作业（%2）。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written (%2): name another.</source>
+        <translation>无法写入文件 %1（%2）：请指定其他文件。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
+        <translation>无法将打印数据写入 %1（%2）：请腾出空间，或指定其他文件。</translation>
+    </message>
+    <message>
+        <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>
+        <translation>文件 %1 只能整体替换，而其旁边无法写入（%2）：请指定其他文件。</translation>
+    </message>
+    <message>
+        <source>The output (%1) is the same file as %2, which is only read: name another.</source>
+        <translation>输出（%1）与只读取的 %2 是同一个文件：请指定另一个。</translation>
+    </message>
+    <message>
+        <source>The part of this program that draws pages cannot be loaded (%1): install it again.</source>
+        <translation>无法加载本程序绘制页面的部分（%1）：请重新安装。</translation>
+    </message>
+    <message>
+        <source>The printer description %1 brings programs or commands of its own, which nobody vouches for: %2. Nothing was run.</source>
+        <translation>打印机描述 %1 自带无人担保的程序或命令：%2。没有运行任何内容。</translation>
+    </message>
+    <message>
+        <source>There is no default printer: choose one.</source>
+        <translation>没有默认打印机：请选择一台。</translation>
+    </message>
+    <message>
+        <source>The print server knows no queue %1: choose another printer.</source>
+        <translation>打印服务器没有队列 %1：请选择其他打印机。</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not answer. It is asked again until it does.</source>
+        <translation>打印服务器 %1 没有响应。将继续询问，直到其响应。</translation>
+    </message>
+    <message>
+        <source>%1 calls itself without end, and was not asked again.</source>
+        <translation>%1不停地调用自身，因此没有再询问它。</translation>
+    </message>
+    <message>
+        <source>%1 kept the window waiting for %2 s.</source>
+        <translation>%1让窗口等待了 %2 秒。</translation>
+    </message>
+    <message>
+        <source>%1 failed.</source>
+        <translation>%1失败。</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2.</source>
+        <translation>%1失败：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>tapeprint::portal::PortalTexts</name>
+    <message>
+        <source>The program prints a part: its current page, or what is selected.</source>
+        <translation>程序打印一部分：当前页或所选内容。</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>title and program</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>它不是文件</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>它是空的</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>它太大</translation>
+    </message>
+    <message>
+        <source>The program&apos;s document cannot be read (%1): print it once more, or save it as a PDF and print that.</source>
+        <translation>无法读取程序的文档（%1）：请重新打印，或将其保存为 PDF 后再打印。</translation>
     </message>
 </context>
 </TS>

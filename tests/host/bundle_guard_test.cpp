@@ -157,6 +157,15 @@ TEST_F(EndedProgram, NamesTheBundleAtTheNextStartAndPrintsWithoutIt)
     EXPECT_TRUE(start(way).messages.contains("when the bundle has changed"));
 }
 
+TEST_F(EndedProgram, WhileItsPanelsWereMade_IsNamedToo)
+{
+    const QString way = u"ends making panels"_qs;
+    EXPECT_EQ(start(way).status, 3);
+    const Outcome next = start(way);
+    EXPECT_EQ(next.status, 0);
+    EXPECT_TRUE(next.messages.contains("HostTestMisbehaving.bundle is not used")) << next.messages.toStdString();
+}
+
 TEST_F(EndedProgram, WhoseBundleIsMended_UsesItAgain)
 {
     EXPECT_EQ(start(u"ends in its entry"_qs).status, 3);

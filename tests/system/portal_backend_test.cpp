@@ -29,7 +29,6 @@ using systemtest::WindowUnderTest;
 
 using Reply = QDBusPendingReply<uint, QVariantMap>;
 
-constexpr uint done = 0;
 constexpr uint cancelled = 1;
 constexpr uint ended = 2;
 

@@ -56,6 +56,7 @@ TEST(Abi, FunctionsOfAPanel_StandWhereTheyStood)
     EXPECT_EQ(placeOf(&Panel::summaryInfo), 13);
     EXPECT_EQ(placeOf(&Panel::printWindowWillClose), 14);
     EXPECT_EQ(placeOf(&PanelLiveValues::currentValues), 2);
+    EXPECT_EQ(placeOf(&PanelHelp::showHelp), 2);
 }
 
 TEST(Abi, FunctionsOfADialog_StandWhereTheyStood)
