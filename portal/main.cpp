@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program tapeprint-portal: the print dialog for programs that print through the desktop portal. The session's bus
 // starts it when it is needed.
+#include "dialog/Application.h"
 #include "dialog/DisplayCheck.h"
 #include "dialog/PasswordQuestion.h"
 #include "dialog/Translations.h"
@@ -98,7 +99,8 @@ int main(int argc, char **argv)
         return fail(trouble);
     }
     std::signal(SIGPIPE, SIG_IGN); // a server or a caller that goes away is said, not died of
-    const QApplication application(argc, argv);
+    const tapeprint::dialog::Application application(argc, argv);
+    tapeprint::dialog::nameCrashingPanels();
     QApplication::setApplicationName(QStringLiteral("tapeprint-portal"));
     QApplication::setQuitOnLastWindowClosed(false);
 
