@@ -78,6 +78,8 @@ void PrintDialog::takeDestination(job::Destination destination)
 
 void PrintDialog::growToContents()
 {
+    // A layout tells the one around it by an event of its own, and some may still wait behind whatever called this.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     // The toolkit by itself opens a window at no more than two thirds of the screen.
     resize((isVisible() ? size() : QSize()).expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
 }
