@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The page of a description's other options: sections, rows that are made quickly, own values, what is told apart.
 #include "TestPrinter.h"
+#include "WindowTime.h"
 
 #include "dialog/OptionsPage.h"
 #include "job/PpdMarks.h"
@@ -17,8 +18,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <ctime>
-#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -222,39 +221,33 @@ TEST_F(OptionsPageTest, SixHundredOptionsAndTenThousandChoices_NeverKeepTheWindo
     }
     lines += pickOne("Long", choices);
     panels.open(hosttest::testDestination(folder, lines), {});
-    // Processor time: the machine may have other things to do. All rows at once would take seconds.
-    constexpr double mostMs = 100.0;
-    const auto msOf = [](const std::function<void()> &work) {
-        const std::clock_t before = std::clock();
-        work();
-        return 1000.0 * static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
-    };
+    // All rows at once would take seconds.
     QScrollArea area;
     area.setWidgetResizable(true);
-    double longest = msOf([&] { area.setWidget(new OptionsPage(job, panels, unit, nullptr)); });
+    double longest = hosttest::msOf([&] { area.setWidget(new OptionsPage(job, panels, unit, nullptr)); });
     auto *made = qobject_cast<OptionsPage *>(area.widget());
     area.resize(400, 300);
     area.show();
     int portions = 0;
     for (; !made->isWhole(); ++portions) {
-        longest = std::max(longest, msOf([] { QApplication::processEvents(QEventLoop::AllEvents, 1); }));
+        longest = std::max(longest, hosttest::msOf([] { QApplication::processEvents(QEventLoop::AllEvents, 1); }));
     }
     EXPECT_GT(portions, 1);
-    EXPECT_LT(longest, mostMs);
+    EXPECT_LT(longest, hosttest::longestMs);
     auto *popUp = made->findChild<QComboBox *>(u"Long"_qs);
     ASSERT_NE(popUp, nullptr);
     EXPECT_EQ(popUp->count(), 10000);
-    const double following = msOf([&] {
+    const double following = hosttest::msOf([&] {
         job.changeOption(u"Long"_qs, u"C9998"_qs);
         made->follow();
     });
-    EXPECT_LT(following, mostMs);
+    EXPECT_LT(following, hosttest::longestMs);
     EXPECT_EQ(popUp->currentText(), u"Choice 9998"_qs);
-    const double opening = msOf([&] {
+    const double opening = hosttest::msOf([&] {
         popUp->showPopup();
         QApplication::processEvents();
     });
-    EXPECT_LT(opening, mostMs);
+    EXPECT_LT(opening, hosttest::longestMs);
     popUp->hidePopup();
     // The Tab key goes through the rows in their order, those that came later too.
     QWidget *next = made->findChild<QWidget *>(u"Opt598"_qs)->nextInFocusChain();
