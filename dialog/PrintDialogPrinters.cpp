@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QShowEvent>
 #include <QThread>
 #include <QTimer>
 
@@ -73,6 +74,20 @@ void PrintDialog::takeDestination(job::Destination destination)
     QTimer::singleShot(0, this, [this] {
         growToContents();
         Q_EMIT settled();
+    });
+}
+
+void PrintDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (event->spontaneous() || !mPrinters.hasOpen()) {
+        return;
+    }
+    // Some widgets know what they wish for only when they are shown.
+    QTimer::singleShot(0, this, [this, given = size()] {
+        if (size() == given) {
+            growToContents();
+        }
     });
 }
 

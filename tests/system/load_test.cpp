@@ -51,13 +51,15 @@ struct Holdings {
 void expectNoGrowth(const Holdings &before, int rounds, const char *what)
 {
     const Holdings after = Holdings::now();
-    constexpr qint64 unevenKb = 3000;
-    constexpr double eachKb = 0.5;
     std::printf("%d %s: from %lld to %lld KB, from %lld to %lld descriptors\n", rounds, what,
                 static_cast<long long>(before.kilobytes), static_cast<long long>(after.kilobytes),
                 static_cast<long long>(before.descriptors), static_cast<long long>(after.descriptors));
     ASSERT_GT(before.kilobytes, 0);
+#ifndef __SANITIZE_ADDRESS__ // it holds back what was freed, and looks for leaks by itself
+    constexpr qint64 unevenKb = 3000;
+    constexpr double eachKb = 0.5;
     EXPECT_LT(static_cast<double>(after.kilobytes - before.kilobytes), unevenKb + eachKb * rounds) << what;
+#endif
     EXPECT_LE(after.descriptors, before.descriptors) << what;
 }
 
