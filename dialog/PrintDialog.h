@@ -257,6 +257,7 @@ private:
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;
 
+    QSize mGrownSize;    ///< that the window took for its contents; invalid before it did
     QSize mWishedSize;   ///< that a panel gave its view and waits to be fitted; invalid when there is none
     QStringList mAlerts; ///< what panels said of the values that were laid down
     QString mRefusal;    ///< that a panel refused the last time Print was pressed; empty when none did

@@ -80,12 +80,9 @@ void PrintDialog::takeDestination(job::Destination destination)
 void PrintDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    if (event->spontaneous() || !mPrinters.hasOpen()) {
-        return;
-    }
-    // Some widgets know what they wish for only when they are shown.
-    QTimer::singleShot(0, this, [this, given = size()] {
-        if (size() == given) {
+    // Some widgets know what they wish for only when they are shown. A size that somebody gave the window stays.
+    QTimer::singleShot(0, this, [this] {
+        if (size() == mGrownSize) {
             growToContents();
         }
     });
@@ -97,6 +94,7 @@ void PrintDialog::growToContents()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     // The toolkit by itself opens a window at no more than two thirds of the screen.
     resize((isVisible() ? size() : QSize()).expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
+    mGrownSize = size();
 }
 
 void PrintDialog::showNoDestination()
