@@ -74,8 +74,12 @@ int main(int argc, char **argv)
         !problem.isNull()) {
         return tapeprint::writeReport(tapeprint::failedRun(problem), line->json);
     }
-    if (!wantsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "minimal"); // the toolkit's quickest: it reads no fonts
+    if (!wantsWindow) {
+        // By itself the toolkit would load whatever style is installed.
+        QApplication::setStyle(QStringLiteral("fusion"));
+        if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+            qputenv("QT_QPA_PLATFORM", "minimal"); // the toolkit's quickest: it reads no fonts
+        }
     }
     // The toolkit gets no arguments: its own options would take lp's letters away.
     int toolkitArgc = 1;
