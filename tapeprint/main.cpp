@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program tapeprint: reads its command line, and runs the dialog with or without a window.
 #include "dialog/Application.h"
+#include "dialog/FontReading.h"
 #include "job/OutputFile.h"
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Completion.h"
@@ -81,12 +82,17 @@ int main(int argc, char **argv)
             qputenv("QT_QPA_PLATFORM", "minimal"); // the toolkit's quickest: it reads no fonts
         }
     }
+    std::optional<tapeprint::dialog::FontReading> fonts;
+    if (wantsWindow) {
+        fonts.emplace();
+    }
     // The toolkit gets no arguments: its own options would take lp's letters away.
     int toolkitArgc = 1;
     auto start = std::make_optional<tapeprint::ToolkitStart>(wantsWindow, line->json);
     const tapeprint::dialog::Application application(toolkitArgc, argv);
     tapeprint::dialog::nameCrashingPanels();
     start.reset();
+    fonts.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
     QApplication::setDesktopFileName(QStringLiteral("org.tapeprint.TapePrint")); // whose icon a Wayland desktop shows
 
