@@ -2,6 +2,7 @@
 // The program tapeprint: reads its command line, and runs the dialog with or without a window.
 #include "dialog/Application.h"
 #include "dialog/FontReading.h"
+#include "dialog/ToolkitStart.h"
 #include "job/OutputFile.h"
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Completion.h"
@@ -18,6 +19,8 @@
 
 #include <csignal>
 #include <optional>
+
+#include <unistd.h>
 
 namespace
 {
@@ -82,13 +85,14 @@ int main(int argc, char **argv)
             qputenv("QT_QPA_PLATFORM", "minimal"); // the toolkit's quickest: it reads no fonts
         }
     }
+    // The toolkit gets no arguments: its own options would take lp's letters away.
+    int toolkitArgc = 1;
+    auto start = std::make_optional<tapeprint::dialog::ToolkitStart>(
+        tapeprint::wordsForNoStart(wantsWindow, line->json), line->json ? STDOUT_FILENO : STDERR_FILENO, wantsWindow);
     std::optional<tapeprint::dialog::FontReading> fonts;
     if (wantsWindow) {
         fonts.emplace();
     }
-    // The toolkit gets no arguments: its own options would take lp's letters away.
-    int toolkitArgc = 1;
-    auto start = std::make_optional<tapeprint::ToolkitStart>(wantsWindow, line->json);
     const tapeprint::dialog::Application application(toolkitArgc, argv);
     tapeprint::dialog::nameCrashingPanels();
     start.reset();
