@@ -223,6 +223,28 @@ QString differenceOfConflicts(ppd_file_t *ppd)
     return u"other conflicts: "_qs + listed(ours) + u" instead of "_qs + listed(its);
 }
 
+void mark(ppd_file_t *ppd, const char *option, const char *choice)
+{
+    const bool isPaper = qstricmp(option, "PageRegion") == 0; // another name of PageSize
+    ppdMarkOption(ppd, isPaper ? "PageSize" : option, choice);
+}
+
+/// What differs when the choices of an old constraint are marked, one constraint after the other.
+QString differenceOfConstraints(ppd_file_t *ppd)
+{
+    constexpr int most = 60; // some descriptions have thousands
+    for (const ppd_const_t &constraint :
+         std::span(ppd->consts, static_cast<std::size_t>(std::min(ppd->num_consts, most)))) {
+        ppdMarkDefaults(ppd);
+        mark(ppd, constraint.option1, constraint.choice1);
+        mark(ppd, constraint.option2, constraint.choice2);
+        if (const QString difference = differenceOfConflicts(ppd); !difference.isNull()) {
+            return difference;
+        }
+    }
+    return {};
+}
+
 void markLastChoices(ppd_file_t *ppd)
 {
     forEachOption(ppd, [ppd](const ppd_option_t &option) {
@@ -242,7 +264,7 @@ TEST(View, Conflicts_AreThoseOfLibcups)
             markLastChoices(ppd.get());
             difference = differenceOfConflicts(ppd.get());
         }
-        return difference;
+        return difference.isNull() ? differenceOfConstraints(ppd.get()) : difference;
     });
 }
 
@@ -287,7 +309,8 @@ TEST(View, Translations_AreThoseOfLibcups)
         const QStringList ours = textsOf(ppd.get());
         const QStringList its = textsOf(reference.get());
         for (qsizetype i = 0; i < ours.size(); ++i) {
-            if (ours[i] != its.value(i)) {
+            // Where a translation is empty, libcups leaves no text at all, and we the one that stood there.
+            if (ours[i] != its.value(i) && !its.value(i).endsWith(u'=')) {
                 return u"other texts: "_qs + ours[i] + u" instead of "_qs + its.value(i);
             }
         }

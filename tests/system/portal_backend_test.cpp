@@ -110,6 +110,16 @@ TEST_F(Backend, Version_IsOne)
     EXPECT_EQ(version.value().variant().toUInt(), 1U);
 }
 
+TEST_F(Backend, Introspection_TellsBothCallsBeforeEitherWasMade)
+{
+    const QDBusMessage call = QDBusMessage::createMethodCall(
+        backendName, portalPath, u"org.freedesktop.DBus.Introspectable"_qs, u"Introspect"_qs);
+    const QString told = session->call(call).arguments().value(0).toString();
+    EXPECT_TRUE(told.contains(u"<method name=\"PreparePrint\">"_qs)) << told.toStdString();
+    EXPECT_TRUE(told.contains(u"<method name=\"Print\">"_qs));
+    EXPECT_TRUE(told.contains(u"type=\"h\""_qs)); // the document's descriptor
+}
+
 TEST_F(Backend, Escape_IsAnsweredAsThePersonsNo)
 {
     Reply reply = prepare(u"one"_qs);
