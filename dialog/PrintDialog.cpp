@@ -14,6 +14,7 @@
 #include "dialog/SummaryView.h"
 #include "dialog/TabOrder.h"
 #include "dialog/TapeLook.h"
+#include "job/PlainText.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -48,6 +49,10 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     mCountTimer.setSingleShot(true);
     buildControls();
     addCommandButton();
+    connect(&mUnit, &MeasureUnit::notKept, this, [this](const QString &path) {
+        say(QMessageBox::Warning,
+            tr("The unit holds for this window alone: %1 cannot be written.").arg(job::harmless(path)));
+    });
     addHelpButton();
     if (mSetup.takeSettings) {
         askForSettings();
@@ -123,6 +128,7 @@ void PrintDialog::makePages()
     connect(mJobPage, &JobPage::dropped, &mJob, &job::Job::dropOption);
     mOptionsPage = new OptionsPage(mJob, mPanels, mUnit, mPages);
     connect(mOptionsPage, &OptionsPage::picked, this, &PrintDialog::pickOption);
+    connect(mOptionsPage, &OptionsPage::completed, this, &PrintDialog::growUnlessSized);
     // What a printer has of its own comes first: its panels, or where there are none, its options.
     const bool hasPanels = !mPanels.entries().empty();
     if (!hasPanels && !mOptionsPage->isEmpty()) {
