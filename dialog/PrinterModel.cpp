@@ -21,6 +21,9 @@ namespace
 /// By shape, not by colour alone.
 QStyle::StandardPixmap pixmapOf(const PrinterRow &row)
 {
+    if (row.printer.isDiscovered && !row.isGone) {
+        return QStyle::SP_DriveNetIcon; // its state is known when it is open
+    }
     if (row.isGone || !row.printer.isAccepting) {
         return QStyle::SP_MessageBoxCritical;
     }
@@ -101,7 +104,7 @@ QVariant PrinterModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return textOf(row.printer);
     case Qt::DecorationRole:
-        return row.printer.name.isEmpty() || row.printer.isDiscovered ? QVariant() : QVariant(markOf(row));
+        return row.printer.name.isEmpty() ? QVariant() : QVariant(markOf(row));
     case Qt::ToolTipRole:
         return plainToolTip(toolTipOf(row));
     case Qt::AccessibleTextRole: {
