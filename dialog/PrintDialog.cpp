@@ -27,6 +27,7 @@
 #include <QScreen>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -128,7 +129,11 @@ void PrintDialog::makePages()
     connect(mJobPage, &JobPage::dropped, &mJob, &job::Job::dropOption);
     mOptionsPage = new OptionsPage(mJob, mPanels, mUnit, mPages);
     connect(mOptionsPage, &OptionsPage::picked, this, &PrintDialog::pickOption);
-    connect(mOptionsPage, &OptionsPage::completed, this, &PrintDialog::growUnlessSized);
+    // The last rows are shown, and then count, a little later.
+    connect(mOptionsPage, &OptionsPage::completed, this, [this] {
+        constexpr int shownMs = 50;
+        QTimer::singleShot(shownMs, this, &PrintDialog::growUnlessSized);
+    });
     // What a printer has of its own comes first: its panels, or where there are none, its options.
     const bool hasPanels = !mPanels.entries().empty();
     if (!hasPanels && !mOptionsPage->isEmpty()) {

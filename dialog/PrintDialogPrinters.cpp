@@ -4,6 +4,7 @@
 #include "dialog/LayoutPage.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/OptionsPage.h"
+#include "dialog/PanelArea.h"
 #include "dialog/PlainText.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
@@ -90,9 +91,11 @@ void PrintDialog::showEvent(QShowEvent *event)
 void PrintDialog::paintEvent(QPaintEvent *event)
 {
     QDialog::paintEvent(event);
-    // Only now the window has a frame. The toolkit centred it without one, so that a tall window lost its title.
+    // Only now the window has a frame, and soon the toolkit hears where it is. It centred the window without one, so
+    // that a tall one lost its title.
+    constexpr int frameMs = 200;
     if (!std::exchange(mWasPainted, true)) {
-        QTimer::singleShot(0, this, &PrintDialog::stayOnScreen);
+        QTimer::singleShot(frameMs, this, &PrintDialog::stayOnScreen);
     }
 }
 
@@ -106,6 +109,8 @@ void PrintDialog::growUnlessSized()
 
 void PrintDialog::growToContents()
 {
+    // What scrolls tells of a new size only while it is seen.
+    mPanelArea->updateGeometry();
     // A layout tells the one around it by an event of its own, and some may still wait behind whatever called this.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     // The toolkit by itself opens a window at no more than two thirds of the screen.
