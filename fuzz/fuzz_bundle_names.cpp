@@ -38,7 +38,7 @@ void checkName(const pdekit::NamedBundle &bundle)
     require(bundle.name.endsWith(pdekit::kBundleEnding) && bundle.name.size() > pdekit::kBundleEnding.size());
     require(!bundle.name.contains(u'/') && bundle.name.toUtf8().size() <= NAME_MAX);
     if (!bundle.path.isNull()) {
-        require(QDir::isAbsolutePath(bundle.path) && bundle.path == QDir::cleanPath(bundle.path));
+        require(bundle.path.startsWith(u'/') && bundle.path == QDir::cleanPath(bundle.path));
         require(bundle.path.endsWith(u'/' + bundle.name));
     }
 }

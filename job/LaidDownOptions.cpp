@@ -3,6 +3,7 @@
 #include "job/LaidDownOptions.h"
 
 #include "job/CupsOptions.h"
+#include "job/CustomSizes.h"
 #include "job/IppAttributeNames.h"
 #include "job/PpdMarks.h"
 #include "job/Texts.h"
@@ -41,6 +42,13 @@ void layDownOne(const JobOptions::Entry &entry, ppd_file_t *ppd, JobOptions *job
     }
 }
 
+/// The marked paper; null where the description's default is a size of one's own, of which it says no size.
+QString markedPaper(ppd_file_t *ppd)
+{
+    const QString paper = markedValue(ppd, OptionName::pageSize);
+    return isCustomValue(paper) && !customSizeOf(paper) ? QString() : paper;
+}
+
 /// The tape that is shown is the tape that is printed on, whatever the queue's default becomes in the meantime.
 void nameTape(ppd_file_t *ppd, JobOptions *job)
 {
@@ -49,7 +57,7 @@ void nameTape(ppd_file_t *ppd, JobOptions *job)
     }
     const QString media = job->value(OptionName::media);
     const bool isCustom = media.startsWith(QLatin1String("Custom."), Qt::CaseInsensitive);
-    const QString tape = isCustom ? media : markedValue(ppd, OptionName::pageSize);
+    const QString tape = isCustom ? media : markedPaper(ppd);
     if (!tape.isNull()) {
         job->set(OptionName::pageSize, tape);
         setDefaultChoice(ppd, OptionName::pageSize, tape);

@@ -50,7 +50,7 @@ AskConversation::AskConversation(Caller caller, AskedSettings asked, const QStri
 {
     dialog::PrintDialog::Setup setup;
     setup.request.options = mAsked.usual;
-    setup.title = mCaller.title;
+    setup.title = jobNameFor(mCaller, mAsked.documentName);
     setup.printers = printersFor(mAsked);
     setup.heading = headingFor(mCaller);
     setup.takeSettings = [this](const job::SettledJob &job, const std::function<bool()> &keep) { take(job, keep); };
@@ -82,9 +82,10 @@ void AskConversation::close()
 
 void AskConversation::take(const job::SettledJob &job, const std::function<bool()> &keep)
 {
-    mResults = {{QStringLiteral("settings"), answeredSettings(mAsked, job, mWindow->job().ppd())},
-                {QStringLiteral("page-setup"), answeredPageSetup(job)},
-                {QStringLiteral("token"), mTokens.add(mCaller.program, {withoutProgramsPart(job), keep})}};
+    mResults = {
+        {QStringLiteral("settings"), answeredSettings(mAsked, job, mWindow->job().ppd())},
+        {QStringLiteral("page-setup"), answeredPageSetup(job)},
+        {QStringLiteral("token"), mTokens.add(mCaller.program, {withoutProgramsPart(job), keep, mAsked.documentName})}};
 }
 
 } // namespace tapeprint::portal

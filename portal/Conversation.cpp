@@ -15,7 +15,7 @@ namespace tapeprint::portal
 namespace
 {
 
-/// A window's title, not a novel.
+/// A title, not a novel.
 constexpr qsizetype mostCharacters = 128;
 
 /// The value of an option; invalid when it is missing or of another type.
@@ -44,6 +44,12 @@ QString headingFor(const Caller &caller)
     const QString shown = title.isEmpty() ? PortalTexts::tr("Print") : title;
     const QString program = programName(caller.program);
     return program.isEmpty() ? shown : PortalTexts::tr("%1 – %2", "title and program").arg(shown, program);
+}
+
+QString jobNameFor(const Caller &caller, const QString &documentName)
+{
+    QString name = job::harmless(documentName.left(mostCharacters)).trimmed();
+    return name.isEmpty() ? headingFor(caller) : name;
 }
 
 QString buttonText(const QString &label)

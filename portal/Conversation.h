@@ -46,6 +46,10 @@ private:
 /// The window's title for a program's dialog.
 QString headingFor(const Caller &caller);
 
+/// The job's name: the document's, or where the program does not tell it the window's title, which is "Print" of all
+/// GTK programs. \param documentName as the program wrote it.
+QString jobNameFor(const Caller &caller, const QString &documentName);
+
 /// The text of our button, of one that a program wishes for: there "_" goes before the letter that is its key, here
 /// "&". Empty for none.
 QString buttonText(const QString &label);

@@ -28,6 +28,8 @@ const QString cupsPrefix = QStringLiteral("cups-");
 const QString printPages = QStringLiteral("print-pages");
 const QString pageRanges = QStringLiteral("page-ranges");
 const QString printerKey = QStringLiteral("printer");
+/// Meant for the name of a file; GTK's programs put the document's name there, which nothing else of a call holds.
+const QString documentKey = QStringLiteral("output-basename");
 const QString resolutionKey = QStringLiteral("resolution");
 const QString resolutionOption = QStringLiteral("Resolution");
 
@@ -267,6 +269,7 @@ AskedSettings askedSettings(const QVariantMap &settings, const QVariantMap &page
     AskedSettings asked;
     asked.given = textsIn(settings);
     asked.printer = asked.given.value(printerKey).toString();
+    asked.documentName = asked.given.value(documentKey).toString();
     readUsual(asked.given, asked);
     if (const QString turn = askedTurn(asked.given, pageSetup); !turn.isEmpty()) {
         asked.usual.set(job::OptionName::orientation, turn);

@@ -27,6 +27,7 @@ struct AskedSettings {
     job::JobOptions usual;   ///< what any printer takes
     job::JobOptions ofPpd;   ///< what has to fit the printer
     QSizeF paperMm;          ///< empty when it does not say
+    QString documentName;    ///< of what is printed; empty when it does not say
     QVariantMap given;       ///< the settings with texts for values, as they came
     bool printsPart = false; ///< the program prints its current page or what is selected in it
 };

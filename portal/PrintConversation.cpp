@@ -35,7 +35,8 @@ PrintConversation::~PrintConversation()
 
 void PrintConversation::printSilently()
 {
-    mPrint = new SilentPrint(std::move(*mSettings), mCaller.title, mDocument.file()->path(), this);
+    mSettings->jobName = jobNameFor(mCaller, mSettings->jobName);
+    mPrint = new SilentPrint(std::move(*mSettings), mDocument.file()->path(), this);
     connect(mPrint, &SilentPrint::sent, this, [this] { answer(Response::Done); });
     connect(mPrint, &SilentPrint::failed, this, &PrintConversation::fail);
     connect(mPrint, &SilentPrint::ended, this, [this] {
@@ -48,11 +49,11 @@ void PrintConversation::printSilently()
 void PrintConversation::showWindow()
 {
     dialog::PrintDialog::Setup setup;
-    setup.title = mCaller.title;
+    setup.title = jobNameFor(mCaller, {});
     setup.files = QStringList{mDocument.file()->path()};
     setup.printers = dialog::PrinterSource::server();
     setup.heading = headingFor(mCaller);
-    mWindow = new PortalWindow(setup, dialog::JobWindow::printing(mCaller.title, {mDocument.file()->path()}, {}),
+    mWindow = new PortalWindow(setup, dialog::JobWindow::printing(setup.title, {mDocument.file()->path()}, {}),
                                mCaller.parentWindow, mCaller.isModal);
     connect(mWindow, &PortalWindow::closed, this, [this](bool isAccepted) {
         mWindow->deleteWhenQuiet();

@@ -36,6 +36,9 @@ PrintPortal::PrintPortal(const QDBusConnection &bus, QObject *parent) : QObject(
 
 bool PrintPortal::publish()
 {
+    // The toolkit tells what an object can do by the names of its types, and knows these two only once they were used.
+    qRegisterMetaType<QDBusObjectPath>();
+    qRegisterMetaType<QDBusUnixFileDescriptor>();
     return mBus.registerObject(
         objectPath, this, QDBusConnection::ExportScriptableInvokables | QDBusConnection::ExportScriptableProperties);
 }

@@ -67,8 +67,8 @@ std::optional<job::PrintedJob> printChosen(const job::SettledJob &job, const QSt
     return job::printJob(isLaidOut ? asLaidOut(job) : job, title, {document}, watch, error);
 }
 
-SilentPrint::SilentPrint(ChosenSettings settings, QString title, QString document, QObject *parent)
-    : QObject(parent), mSettings(std::move(settings)), mTitle(std::move(title)), mDocument(std::move(document))
+SilentPrint::SilentPrint(ChosenSettings settings, QString document, QObject *parent)
+    : QObject(parent), mSettings(std::move(settings)), mDocument(std::move(document))
 {
     mLeaveTimer.setSingleShot(true);
     mLeaveTimer.setInterval(followMs);
@@ -87,9 +87,9 @@ SilentPrint::SilentPrint(ChosenSettings settings, QString title, QString documen
 void SilentPrint::start()
 {
     mRun.start(
-        [settings = mSettings, title = mTitle, document = mDocument](const job::PrintWatch &watch,
-                                                                     job::Problem *problem) {
-            std::optional<job::PrintedJob> printed = printChosen(settings.job, title, document, watch, problem);
+        [settings = mSettings, document = mDocument](const job::PrintWatch &watch, job::Problem *problem) {
+            std::optional<job::PrintedJob> printed =
+                printChosen(settings.job, settings.jobName, document, watch, problem);
             if (printed && settings.keep) {
                 printed->isKept = settings.keep();
             }

@@ -23,7 +23,7 @@ class SilentPrint : public QObject
     Q_OBJECT
 
 public:
-    SilentPrint(ChosenSettings settings, QString title, QString document, QObject *parent = nullptr);
+    SilentPrint(ChosenSettings settings, QString document, QObject *parent = nullptr);
 
     void start();
     /// Nobody wants it any more: what is not sent yet is not printed.
@@ -39,7 +39,6 @@ Q_SIGNALS:
 
 private:
     ChosenSettings mSettings;
-    QString mTitle;
     QString mDocument;
     dialog::PrintRun mRun;
     QTimer mLeaveTimer; ///< when it ends, a job that waits is followed no longer

@@ -21,6 +21,7 @@ namespace tapeprint::portal
 struct ChosenSettings {
     job::SettledJob job;
     std::function<bool()> keep; ///< keeps them for the next time, when the job has been printed; may be null
+    QString jobName = {};       ///< empty: the program has not told it yet
 };
 
 class Tokens

@@ -4,6 +4,7 @@
 #include "dialog/Application.h"
 #include "dialog/DisplayCheck.h"
 #include "dialog/PasswordQuestion.h"
+#include "dialog/ToolkitStart.h"
 #include "dialog/Translations.h"
 #include "portal/Lifetime.h"
 #include "portal/PrintPortal.h"
@@ -13,10 +14,13 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusError>
+#include <QIcon>
 
 #include <csignal>
 #include <cstdio>
 #include <optional>
+
+#include <unistd.h>
 
 namespace
 {
@@ -25,9 +29,14 @@ using tapeprint::portal::Lifetime;
 
 const QString busName = QStringLiteral("org.freedesktop.impl.portal.desktop.tapeprint");
 
+QByteArray lineOf(const QString &sentence)
+{
+    return "tapeprint-portal: " + sentence.toLocal8Bit() + '\n';
+}
+
 int fail(const QString &sentence)
 {
-    std::fprintf(stderr, "tapeprint-portal: %s\n", sentence.toLocal8Bit().constData());
+    std::fputs(lineOf(sentence).constData(), stderr);
     return 1;
 }
 
@@ -72,6 +81,12 @@ QStringList argumentsOf(int argc, char **argv)
     return arguments;
 }
 
+QString unusableDisplay()
+{
+    return QStringLiteral("The display of the session cannot be used: see that it runs and lets you in, and, on "
+                          "Wayland, that Qt has its part for that (qt6-wayland).");
+}
+
 QString displayTrouble()
 {
     switch (tapeprint::dialog::checkDisplay()) {
@@ -81,7 +96,7 @@ QString displayTrouble()
         return QStringLiteral("There is no display for the dialog: the session has set neither DISPLAY nor "
                               "WAYLAND_DISPLAY for programs that its bus starts.");
     case tapeprint::dialog::DisplayState::Silent:
-        return QStringLiteral("The display of the session cannot be used: see that it runs and lets you in.");
+        return unusableDisplay();
     }
     return {};
 }
@@ -99,9 +114,14 @@ int main(int argc, char **argv)
         return fail(trouble);
     }
     std::signal(SIGPIPE, SIG_IGN); // a server or a caller that goes away is said, not died of
+    auto start = std::make_optional<tapeprint::dialog::ToolkitStart>(lineOf(unusableDisplay()), STDERR_FILENO, true);
     const tapeprint::dialog::Application application(argc, argv);
     tapeprint::dialog::nameCrashingPanels();
+    start.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint-portal"));
+    // Whose icon a Wayland desktop shows; on X11 the window has to bring it.
+    QApplication::setDesktopFileName(QStringLiteral("org.tapeprint.TapePrint"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.tapeprint.TapePrint")));
     QApplication::setQuitOnLastWindowClosed(false);
 
     QDBusConnection bus = QDBusConnection::sessionBus();

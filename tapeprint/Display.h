@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-// Whether a window can be shown at all. The toolkit ends the process, with a core dump, when it finds that it cannot;
-// here that becomes one line.
+// Whether a window can be shown at all, and what is said when it cannot.
 #pragma once
 
 #include "job/Problem.h"
 
 #include <QByteArray>
-#include <QStringList>
 
 namespace tapeprint
 {
@@ -15,21 +13,8 @@ namespace tapeprint
 /// one.
 job::Problem displayProblem();
 
-/// Watches over the start of the toolkit. While it lives, whatever would end the process ends it with one line and the
-/// status of a general problem, and so does a display that does not answer for ten seconds. What the toolkit remarks
-/// meanwhile is passed on when the watch is over.
-class ToolkitStart
-{
-public:
-    /// \param showsWindow whether a display is to be connected to. \param asJson the one line is a JSON object on
-    /// standard output.
-    ToolkitStart(bool showsWindow, bool asJson);
-    ~ToolkitStart();
-    ToolkitStart(const ToolkitStart &) = delete;
-    ToolkitStart &operator=(const ToolkitStart &) = delete;
-
-private:
-    int mStandardError = -1; ///< where it leads to; while the display is connected to, its library writes there
-};
+/// What is said when the toolkit cannot start. \param showsWindow whether it connects to a display. \param asJson
+/// whether it is a JSON object, for standard output.
+QByteArray wordsForNoStart(bool showsWindow, bool asJson);
 
 } // namespace tapeprint

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program tapeprint: reads its command line, and runs the dialog with or without a window.
 #include "dialog/Application.h"
+#include "dialog/ToolkitStart.h"
 #include "job/OutputFile.h"
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Completion.h"
@@ -17,6 +18,8 @@
 
 #include <csignal>
 #include <optional>
+
+#include <unistd.h>
 
 namespace
 {
@@ -79,7 +82,8 @@ int main(int argc, char **argv)
     }
     // The toolkit gets no arguments: its own options would take lp's letters away.
     int toolkitArgc = 1;
-    auto start = std::make_optional<tapeprint::ToolkitStart>(wantsWindow, line->json);
+    auto start = std::make_optional<tapeprint::dialog::ToolkitStart>(
+        tapeprint::wordsForNoStart(wantsWindow, line->json), line->json ? STDOUT_FILENO : STDERR_FILENO, wantsWindow);
     const tapeprint::dialog::Application application(toolkitArgc, argv);
     tapeprint::dialog::nameCrashingPanels();
     start.reset();

@@ -49,7 +49,8 @@ std::vector<NamedBundle> namedBundles(ppd_file_t *ppd)
         const QString path = QDir::cleanPath(QString::fromUtf8(attribute->value).trimmed());
         const QString name = path.mid(path.lastIndexOf(u'/') + 1);
         if (isBundleName(name)) {
-            bundles.push_back({name, QDir::isAbsolutePath(path) ? path : QString()});
+            // To Qt ":name" is absolute as well, a path among a program's resources.
+            bundles.push_back({name, path.startsWith(u'/') ? path : QString()});
         }
     }
     return bundles;

@@ -2,6 +2,7 @@
 // What a program is called, and which windows it names.
 #include "portal/Conversation.h"
 #include "portal/ParentWindow.h"
+#include "portal/PortalSettings.h"
 #include "portal/ProgramName.h"
 #include "tests/support/TextPrinting.h"
 
@@ -15,7 +16,10 @@
 namespace
 {
 
+using tapeprint::portal::askedSettings;
+using tapeprint::portal::Caller;
 using tapeprint::portal::headingFor;
+using tapeprint::portal::jobNameFor;
 using tapeprint::portal::programName;
 using tapeprint::portal::x11WindowIn;
 
@@ -94,6 +98,24 @@ TEST(CallingWindow, OnlyAnX11NumberIsOne)
                                 u"wayland:abc"_qs, u"200003"_qs}) {
         EXPECT_EQ(x11WindowIn(junk), std::nullopt) << junk.toStdString();
     }
+}
+
+TEST(JobName, OfAProgramThatTellsIt_IsTheDocuments)
+{
+    const Caller caller{QString(), QString(), u"Print"_qs};
+    const QVariantMap settings{{u"output-basename"_qs, u" address-label "_qs}};
+    EXPECT_EQ(jobNameFor(caller, askedSettings(settings, {}).documentName), u"address-label"_qs);
+    EXPECT_EQ(jobNameFor(caller, u"a\nb"_qs), u"a\\nb"_qs);
+    EXPECT_EQ(jobNameFor(caller, QString(5000, u'x')).size(), 128);
+}
+
+TEST(JobName, OfAProgramThatDoesNot_IsTheTitleWithTheProgram)
+{
+    const Caller unnamed{QString(), QString(), u"Invoice 7"_qs};
+    const Caller named{u"org.example.Unknown"_qs, QString(), u"Print"_qs};
+    EXPECT_EQ(jobNameFor(unnamed, askedSettings({}, {}).documentName), u"Invoice 7"_qs);
+    EXPECT_EQ(jobNameFor(named, u"  "_qs), u"Print \u2013 org.example.Unknown"_qs);
+    EXPECT_EQ(jobNameFor({}, askedSettings({{u"output-basename"_qs, 7}}, {}).documentName), u"Print"_qs);
 }
 
 } // namespace

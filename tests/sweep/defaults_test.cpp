@@ -8,8 +8,6 @@
 #include "job/IppAttributeNames.h"
 #include "tests/support/TextPrinting.h"
 
-#include <QFile>
-
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -19,16 +17,9 @@ namespace
 {
 
 using namespace tapeprint::job;
+using sweeptest::libcupsView;
 using tapeprint::dialog::Panels;
 using Entry = JobOptions::Entry;
-
-/// A PPD as libcups alone sees it, with its defaults marked.
-PpdFile libcupsView(const QString &path)
-{
-    PpdFile ppd(ppdOpenFile(QFile::encodeName(path).constData()));
-    ppdMarkDefaults(ppd.get());
-    return ppd;
-}
 
 /// Every option with its marked choice and its default.
 QStringList stateOf(ppd_file_t *ppd)
@@ -57,6 +48,13 @@ std::optional<Entry> otherChoice(ppd_file_t *ppd, const ppd_option_t &option)
     return std::nullopt;
 }
 
+/// Whether libcups takes an option for its own one of that name, and marks another.
+bool isTakenByLibcups(const QString &key)
+{
+    return isIppJobAttribute(key) || !ippJobAttributeInOtherLetters(key).isNull() ||
+           key.compare(u"mirror", Qt::CaseInsensitive) == 0;
+}
+
 /// The first option, beside the paper, that has another choice.
 std::optional<Entry> otherChoice(ppd_file_t *ppd)
 {
@@ -65,7 +63,7 @@ std::optional<Entry> otherChoice(ppd_file_t *ppd)
         const QString key = QString::fromUtf8(option.keyword);
         const bool isOneOf = option.ui == PPD_UI_PICKONE || option.ui == PPD_UI_BOOLEAN;
         if (!found && isOneOf && key != OptionName::pageSize && key != OptionName::pageRegion &&
-            !isIppJobAttribute(key) && ippJobAttributeInOtherLetters(key).isNull()) {
+            !isTakenByLibcups(key)) {
             found = otherChoice(ppd, option);
         }
     });
@@ -84,11 +82,7 @@ class Opened
 public:
     Opened(const QString &path, const JobOptions &asked) : mPanels(mJob, {QStringLiteral(TAPEPRINT_BUNDLE_DIR)})
     {
-        Destination destination;
-        Problem error;
-        destination.ppdPath = path;
-        destination.ppd = openPpdFile(path, &error);
-        mPanels.open(std::move(destination), asked);
+        mPanels.open(sweeptest::destinationOf(path), asked);
     }
 
     Job &job() { return mJob; }
@@ -104,7 +98,8 @@ public:
             return u"nothing would be printed: "_qs + error.sentence;
         }
         const QString paper = markedChoice(reference, OptionName::pageSize);
-        if (!paper.isNull() && !expected.contains(OptionName::pageSize)) {
+        // A size of one's own that is the default has no size, and so is none.
+        if (!paper.isNull() && paper != u"Custom" && !expected.contains(OptionName::pageSize)) {
             expected.set(OptionName::pageSize, paper);
         }
         QStringList carried = mJob.options().lines();
@@ -112,7 +107,7 @@ public:
         carried.sort();
         wanted.sort();
         if (carried != wanted) {
-            return u"the job carries "_qs + carried.join(u' ') + u" instead of "_qs + wanted.join(u' ');
+            return u"other options: the job carries "_qs + carried.join(u' ') + u" instead of "_qs + wanted.join(u' ');
         }
         const QStringList notices = mJob.notices() + mPanels.notices();
         if (!notices.isEmpty()) {
@@ -133,7 +128,7 @@ private:
             const bool isSet = mJob.options().contains(mine.section(u'=', 0, 0));
             const auto compared = [isSet](const QString &line) { return isSet ? line.section(u' ', 0, 0) : line; };
             if (compared(mine) != compared(its)) {
-                return mine + u" instead of "_qs + its;
+                return u"other marks: "_qs + mine + u" instead of "_qs + its;
             }
         }
         return {};

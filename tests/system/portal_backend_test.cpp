@@ -46,11 +46,11 @@ protected:
         ASSERT_NO_FATAL_FAILURE(startSession(false));
     }
 
-    Reply prepare(const QString &token, const QVariantMap &settings = {}, const QVariantMap &pageSetup = {},
-                  const QVariantMap &options = {})
+    Reply prepare(const QString &token, const QString &parentWindow = {})
     {
-        return callBackend(u"PreparePrint"_qs, {QVariant::fromValue(handle(token)), u"org.example.Program"_qs,
-                                                QString(), u"Title"_qs, settings, pageSetup, options});
+        return callBackend(u"PreparePrint"_qs,
+                           {QVariant::fromValue(handle(token)), u"org.example.Program"_qs, parentWindow, u"Title"_qs,
+                            QVariantMap(), QVariantMap(), QVariantMap()});
     }
     Reply print(const QString &token, int descriptor, const QVariantMap &options = {})
     {
@@ -108,6 +108,16 @@ TEST_F(Backend, Version_IsOne)
     const QDBusReply<QDBusVariant> version = session->call(call);
     ASSERT_TRUE(version.isValid()) << version.error().message().toStdString();
     EXPECT_EQ(version.value().variant().toUInt(), 1U);
+}
+
+TEST_F(Backend, Introspection_TellsBothCallsBeforeEitherWasMade)
+{
+    const QDBusMessage call = QDBusMessage::createMethodCall(
+        backendName, portalPath, u"org.freedesktop.DBus.Introspectable"_qs, u"Introspect"_qs);
+    const QString told = session->call(call).arguments().value(0).toString();
+    EXPECT_TRUE(told.contains(u"<method name=\"PreparePrint\">"_qs)) << told.toStdString();
+    EXPECT_TRUE(told.contains(u"<method name=\"Print\">"_qs));
+    EXPECT_TRUE(told.contains(u"type=\"h\""_qs)); // the document's descriptor
 }
 
 TEST_F(Backend, Escape_IsAnsweredAsThePersonsNo)
@@ -362,6 +372,46 @@ TEST_F(Backend, WithoutBusOrDisplayOrWithAnotherInItsPlace_SaysWhyAndEnds)
     const auto second = run({});
     EXPECT_EQ(second.status, 1);
     EXPECT_TRUE(second.messages.contains("another one has it")) << second.messages.toStdString();
+}
+
+/// A session on Wayland, whose protocol the backend writes down.
+class BackendOnWayland : public Backend
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_NO_FATAL_FAILURE(PortalSession::SetUp());
+        moreOfSession = {{u"DISPLAY"_qs, QString()}, {u"WAYLAND_DISPLAY"_qs, socket}, {u"WAYLAND_DEBUG"_qs, u"1"_qs}};
+        ASSERT_NO_FATAL_FAILURE(startProgram(
+            compositor, u"weston"_qs,
+            {u"--backend=headless-backend.so"_qs, u"--socket="_qs + socket, u"--idle-time=0"_qs, u"--no-config"_qs}));
+        ASSERT_TRUE(waitUntil([this] { return QFileInfo::exists(folder.path(u"run"_qs) + u'/' + socket); }))
+            << compositor.readAllStandardError().toStdString();
+        ASSERT_NO_FATAL_FAILURE(startSession(false));
+    }
+    void TearDown() override
+    {
+        Backend::TearDown();
+        systemtest::endProcess(compositor);
+    }
+
+    const QString socket = u"wayland-of-test"_qs;
+    QProcess compositor;
+};
+
+TEST_F(BackendOnWayland, ParentOfAnotherProgram_TheDialogStandsByItselfAndIsThereAtOnce)
+{
+    QElapsedTimer time;
+    time.start();
+    Reply reply = prepare(u"one"_qs, u"wayland:0123456789abcdef"_qs);
+    EXPECT_TRUE(backendSays("the dialog stands by itself"));
+    EXPECT_TRUE(backendSays("set_title(\"Title \u2013 org.example.Program\")"));
+    EXPECT_TRUE(backendSays("set_app_id(\"org.tapeprint.TapePrint\")")); // whose icon the desktop shows
+    // The portal waits 25 seconds for a backend: one that waits for the portal would be given up.
+    EXPECT_LT(time.elapsed(), 20000);
+    EXPECT_FALSE(reply.isFinished());
+    closeRequest(u"one"_qs);
+    EXPECT_EQ(responseOf(reply), ended);
 }
 
 } // namespace

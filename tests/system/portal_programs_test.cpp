@@ -98,7 +98,8 @@ TEST_F(PrintingProgram, Evince_LengthAndColourOfTheDialogReachFilterAndRaster)
     EXPECT_EQ(tapeOptions(calls[0]),
               panelOptionsMm({"KsTapeLength=75.0", "KsTapeColor=KsTapeColorClear", "PageSize=Custom.24x75mm"}));
     const std::vector<Label> labels = labelsIn(cups.printedBy(u"tape"_qs));
-    EXPECT_EQ(labelCount(labels), 6); // three pages twice: neither once nor, by both sides, four times
+    EXPECT_EQ(calls[0].title(), "pages-3"); // the document's name, not "Print", which GTK calls every job
+    EXPECT_EQ(labelCount(labels), 6);       // three pages twice: neither once nor, by both sides, four times
     for (const Label &label : labels) {
         EXPECT_EQ(label.rows, 886);       // 75 mm at 300 dots an inch
         EXPECT_EQ(label.bytesPerRow, 34); // 24 mm less a millimetre of strips

@@ -538,6 +538,21 @@ TEST(FormatterDisplay, Style5_ShowsTheDateWhateverTheValue)
               QStringLiteral("05.03.24 02:07 PM 5 065 2 045 Tuesday Tue March Mar %q %"));
 }
 
+TEST(FormatterDisplay, HoursOfAClockFace_GoFromOneToTwelve)
+{
+    const auto shown = [](int hour) {
+        const QDateTime time(QDate(2024, 3, 5), QTime(hour, 0), Qt::UTC);
+        const auto formatter = PDEFormatter::initWithCalendarDate(time, std::nullopt);
+        formatter->setFormatString(QStringLiteral("%I %p"));
+        return formatter->stringForObjectValue(QVariant());
+    };
+    EXPECT_EQ(shown(0), QStringLiteral("12 AM"));
+    EXPECT_EQ(shown(1), QStringLiteral("01 AM"));
+    EXPECT_EQ(shown(11), QStringLiteral("11 AM"));
+    EXPECT_EQ(shown(12), QStringLiteral("12 PM"));
+    EXPECT_EQ(shown(23), QStringLiteral("11 PM"));
+}
+
 TEST(FormatterDisplay, Style5_TakesNamesFromItsLocale)
 {
     const auto formatter = PDEFormatter::initWithCalendarDate(someDay(), QLocale(QLocale::German));

@@ -279,6 +279,11 @@ TEST_F(TextField, RefusedDrop_LeavesTheSelectionWhereItWas)
     dropAtStart(q("mm"));
     EXPECT_EQ(state(), q("1[234]5"));
     EXPECT_EQ(tests::beeps(), before + 1);
+    // A selection made backwards has its cursor at its start.
+    mField->setSelection(4, -3);
+    dropAtStart(q("mm"));
+    EXPECT_EQ(state(), q("1[234]5"));
+    EXPECT_EQ(mField->cursorPosition(), 1);
 }
 
 TEST_F(TextField, AcceptedDrop_EntersAtTheDropPointAndIsExaminedAlone)
@@ -351,6 +356,23 @@ TEST_F(TextField, RefusedCommitOverASelection_BringsTheSelectionBack)
     commit(q("か"));
     EXPECT_EQ(state(), q("1[234]5"));
     EXPECT_EQ(mField->cursorPosition(), 4);
+    mField->setSelection(4, -3);
+    compose(q("か"));
+    commit(q("か"));
+    EXPECT_EQ(state(), q("1[234]5"));
+    EXPECT_EQ(mField->cursorPosition(), 1);
+}
+
+TEST_F(TextField, RefusedCommitOverASelection_LeavesTheUndoHistory)
+{
+    show();
+    keys(q("12"));
+    mField->selectAll();
+    compose(q("か"));
+    commit(q("か"));
+    EXPECT_EQ(state(), q("[12]"));
+    undoKey();
+    EXPECT_EQ(state(), q("|"));
 }
 
 TEST_F(TextField, CommitWithoutComposition_IsExaminedLikeAKey)
@@ -393,6 +415,60 @@ TEST_F(TextField, UndoOfADeletionThatTheFormatterForbids_IsRefused)
     // The field goes on filtering.
     keys(q("y2"));
     EXPECT_EQ(state(), q("12|"));
+}
+
+TEST_F(TextField, UndoThatBringsASecondPoint_IsRefusedWhereverTheFirstStands)
+{
+    show();
+    mField->setText(q("1.5.2"));
+    mField->setCursorPosition(2);
+    QTest::keyClick(mField, Qt::Key_Backspace);
+    EXPECT_EQ(state(), q("1|5.2"));
+    undoKey();
+    EXPECT_EQ(state(), q("1|5.2"));
+    mField->setText(q("1.5.2"));
+    mField->setCursorPosition(4);
+    QTest::keyClick(mField, Qt::Key_Backspace);
+    undoKey();
+    EXPECT_EQ(state(), q("1.5|2"));
+}
+
+TEST_F(TextField, UndoThatSelectsAgain_TellsOfTheSelectionOnce)
+{
+    show();
+    mField->setText(q("12"));
+    mField->selectAll();
+    QTest::keyClick(mField, Qt::Key_Delete);
+    EXPECT_EQ(state(), q("|"));
+    // What comes back is selected from where the cursor was.
+    QSignalSpy selected(mField, &QLineEdit::selectionChanged);
+    undoKey();
+    EXPECT_EQ(state(), q("[12]"));
+    EXPECT_EQ(selected.count(), 1);
+    mField->deselect();
+    keys(q("3"));
+    selected.clear();
+    undoKey();
+    EXPECT_EQ(state(), q("12|"));
+    EXPECT_EQ(selected.count(), 0);
+}
+
+TEST_F(TextField, UndoBehindTheCursor_TellsOfNoOtherCursor)
+{
+    show();
+    mField->setText(q("12"));
+    mField->setCursorPosition(1);
+    QTest::keyClick(mField, Qt::Key_Delete);
+    EXPECT_EQ(state(), q("1|"));
+    QSignalSpy moved(mField, &QLineEdit::cursorPositionChanged);
+    undoKey();
+    EXPECT_EQ(state(), q("1|2"));
+    EXPECT_EQ(moved.count(), 0);
+    keys(q("3"));
+    moved.clear();
+    undoKey();
+    ASSERT_EQ(moved.count(), 1);
+    EXPECT_EQ(moved.at(0), (QVariantList{2, 1}));
 }
 
 TEST_F(TextField, UndoOfTypingOverATextWithAPoint_BringsThatTextBack)
