@@ -130,10 +130,14 @@ void PrintDialog::makePages()
     mOptionsPage = new OptionsPage(mJob, mPanels, mUnit, mPages);
     connect(mOptionsPage, &OptionsPage::picked, this, &PrintDialog::pickOption);
     // The last rows are shown, and then count, a little later.
-    connect(mOptionsPage, &OptionsPage::completed, this, [this] {
+    const auto growSoon = [this] {
         constexpr int shownMs = 50;
         QTimer::singleShot(shownMs, this, &PrintDialog::growUnlessSized);
-    });
+    };
+    connect(mOptionsPage, &OptionsPage::completed, this, growSoon);
+    if (mOptionsPage->isWhole()) {
+        growSoon();
+    }
     // What a printer has of its own comes first: its panels, or where there are none, its options.
     const bool hasPanels = !mPanels.entries().empty();
     if (!hasPanels && !mOptionsPage->isEmpty()) {

@@ -95,7 +95,10 @@ void PrintDialog::paintEvent(QPaintEvent *event)
     // that a tall one lost its title.
     constexpr int frameMs = 200;
     if (!std::exchange(mWasPainted, true)) {
-        QTimer::singleShot(frameMs, this, &PrintDialog::stayOnScreen);
+        QTimer::singleShot(frameMs, this, [this] {
+            growUnlessSized();
+            stayOnScreen();
+        });
     }
 }
 
