@@ -6,6 +6,7 @@
 #include "dialog/CustomFields.h"
 #include "dialog/PlainText.h"
 #include "dialog/PopUp.h"
+#include "dialog/StateMark.h"
 #include "job/PpdMarks.h"
 
 #include <QCheckBox>
@@ -153,7 +154,7 @@ void OptionRow::markConflict(const QString &sentence)
         mMark = new QLabel(this);
         mMark->setObjectName(mKey + QStringLiteral("/conflict"));
         const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-        mMark->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(size, size));
+        mMark->setPixmap(iconOf(StateMark::Warning).pixmap(QSize(size, size), devicePixelRatio()));
         qobject_cast<QGridLayout *>(layout())->addWidget(mMark, 0, 1);
     }
     mMark->setVisible(!sentence.isNull());

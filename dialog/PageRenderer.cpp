@@ -2,6 +2,8 @@
 // Wishes go to the worker under a lock, answers come back as queued calls.
 #include "dialog/PageRenderer.h"
 
+#include "job/PageDrawer.h"
+
 #include <QMetaObject>
 
 #include <algorithm>
@@ -11,6 +13,7 @@
 #include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <mutex>
 #include <thread>
 #include <utility>
@@ -40,6 +43,18 @@ void endWithoutWorkers(int status, void * /*nothing*/)
     }
 }
 
+/// Runs a worker's work in a thread of its own.
+void startWorker(std::function<void()> work)
+{
+    [[maybe_unused]] static const int registered = ::on_exit(endWithoutWorkers, nullptr);
+    ++workers;
+    std::thread([work = std::move(work)]() mutable {
+        work();
+        work = nullptr; // and what it holds
+        --workers;
+    }).detach();
+}
+
 bool isWhite(const QImage &image)
 {
     const QImage dots = image.convertToFormat(QImage::Format_RGB32);
@@ -62,14 +77,8 @@ public:
 
     static std::shared_ptr<Worker> start(PageRenderer *owner)
     {
-        [[maybe_unused]] static const int registered = ::on_exit(endWithoutWorkers, nullptr);
         auto worker = std::make_shared<Worker>(owner);
-        ++workers;
-        std::thread([worker]() mutable {
-            worker->run();
-            worker.reset();
-            --workers;
-        }).detach();
+        startWorker([worker] { worker->run(); });
         return worker;
     }
 
@@ -252,6 +261,11 @@ PageRenderer::~PageRenderer()
     if (mWorker) {
         mWorker->leave();
     }
+}
+
+void PageRenderer::prepare()
+{
+    startWorker(job::loadDrawer);
 }
 
 void PageRenderer::setDocuments(const QStringList &pdfPaths, const QStringList &shownAs)

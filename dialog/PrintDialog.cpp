@@ -7,6 +7,7 @@
 #include "dialog/LayoutPage.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/OptionsPage.h"
+#include "dialog/PageRenderer.h"
 #include "dialog/PanelArea.h"
 #include "dialog/PaperMenu.h"
 #include "dialog/PlainText.h"
@@ -19,7 +20,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -48,6 +48,12 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     mRestTimer.setSingleShot(true);
     mRestTimer.setInterval(0);
     mCountTimer.setSingleShot(true);
+    // The printer is opened and what draws pages is loaded, in threads, while the controls are made: for the first of
+    // them, the toolkit reads all fonts.
+    mPrinters.start(mJob.destination());
+    if (!mSetup.files.isEmpty()) {
+        PageRenderer::prepare();
+    }
     buildControls();
     addCommandButton();
     connect(&mUnit, &MeasureUnit::notKept, this, [this](const QString &path) {
@@ -59,7 +65,7 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
         askForSettings();
     }
     connectControls();
-    startPrinters();
+    connectPrinters();
     if (mPrinters.hasOpen()) {
         showDestination();
     } else {

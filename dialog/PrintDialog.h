@@ -129,7 +129,7 @@ private:
     void addHelpButton();
     void showWhetherHelp();
 
-    void startPrinters();
+    void connectPrinters();
     void takeDestination(job::Destination destination);
     void followPrinters();
     void showNoDestination();

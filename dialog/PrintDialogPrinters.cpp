@@ -24,7 +24,7 @@
 namespace tapeprint::dialog
 {
 
-void PrintDialog::startPrinters()
+void PrintDialog::connectPrinters()
 {
     mPrinterPopUp->setModel(&mPrinters.model());
     mLoadAnew = new QPushButton(tr("&Load Anew"), mNotices);
@@ -45,7 +45,6 @@ void PrintDialog::startPrinters()
     connect(&mPrinters, &PrinterDesk::changed, this, &PrintDialog::followPrinters);
     connect(&mPrinters, &PrinterDesk::opened, this,
             [this](const std::shared_ptr<job::Destination> &destination) { takeDestination(std::move(*destination)); });
-    mPrinters.start(mJob.destination());
 }
 
 void PrintDialog::pickPrinter(int index)

@@ -3,12 +3,10 @@
 #include "dialog/PrinterModel.h"
 
 #include "dialog/PlainText.h"
+#include "dialog/StateMark.h"
 #include "job/PlainText.h"
 
-#include <QApplication>
-#include <QIcon>
 #include <QSet>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -18,22 +16,21 @@ namespace tapeprint::dialog
 namespace
 {
 
-/// By shape, not by colour alone.
-QStyle::StandardPixmap pixmapOf(const PrinterRow &row)
+StateMark markOf(const PrinterRow &row)
 {
     if (row.printer.isDiscovered && !row.isGone) {
-        return QStyle::SP_DriveNetIcon; // its state is known when it is open
+        return StateMark::Network; // its state is known when it is open
     }
     if (row.isGone || !row.printer.isAccepting) {
-        return QStyle::SP_MessageBoxCritical;
+        return StateMark::Failure;
     }
     if (row.printer.state == job::PrinterState::Stopped) {
-        return QStyle::SP_MediaPause;
+        return StateMark::Paused;
     }
     if (!row.printer.isFine()) {
-        return QStyle::SP_MessageBoxWarning;
+        return StateMark::Warning;
     }
-    return row.printer.state == job::PrinterState::Processing ? QStyle::SP_MediaPlay : QStyle::SP_DialogApplyButton;
+    return row.printer.state == job::PrinterState::Processing ? StateMark::Busy : StateMark::Fine;
 }
 
 QString textOf(const job::Printer &printer)
@@ -85,15 +82,6 @@ QString PrinterModel::toolTipOf(const PrinterRow &row) const
     return lines.join(u'\n');
 }
 
-QIcon PrinterModel::markOf(const PrinterRow &row) const
-{
-    QIcon &mark = mMarks[pixmapOf(row)];
-    if (mark.isNull()) {
-        mark = QApplication::style()->standardIcon(pixmapOf(row));
-    }
-    return mark;
-}
-
 QVariant PrinterModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount()) {
@@ -104,7 +92,7 @@ QVariant PrinterModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return textOf(row.printer);
     case Qt::DecorationRole:
-        return row.printer.name.isEmpty() ? QVariant() : QVariant(markOf(row));
+        return row.printer.name.isEmpty() ? QVariant() : QVariant(iconOf(markOf(row)));
     case Qt::ToolTipRole:
         return plainToolTip(toolTipOf(row));
     case Qt::AccessibleTextRole: {

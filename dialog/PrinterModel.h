@@ -5,10 +5,7 @@
 #include "job/PrinterList.h"
 
 #include <QAbstractListModel>
-#include <QIcon>
-#include <QStyle>
 
-#include <map>
 #include <vector>
 
 namespace tapeprint::dialog
@@ -49,12 +46,9 @@ private:
     void insertRowsFrom(const std::vector<PrinterRow> &rows, int first, int end);
     QString wordsOf(const PrinterRow &row) const;
     QString toolTipOf(const PrinterRow &row) const;
-    QIcon markOf(const PrinterRow &row) const;
 
     std::vector<PrinterRow> mRows;
     bool mIsTape = false;
-    mutable std::map<QStyle::StandardPixmap, QIcon>
-        mMarks; ///< looking one up in the desktop's theme takes milliseconds
 };
 
 } // namespace tapeprint::dialog

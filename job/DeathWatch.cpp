@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-// The helper is a shell at the other end of a connection: a line of text sends it home, the connection's end is this
-// program's end.
+// The helper is a shell at the other end of a connection, whose end is this program's end. It is sent home by force: a
+// short run would otherwise have to wait until the shell is ready to hear of it.
 #include "job/DeathWatch.h"
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <string>
 
 #include <fcntl.h>
@@ -60,11 +61,10 @@ std::unique_ptr<DeathWatch> DeathWatch::killing(pid_t group)
 std::unique_ptr<DeathWatch> DeathWatch::start(const char *action, const QByteArray &object)
 {
     std::array<int, 2> ends{-1, -1};
-    // A pair of sockets and no pipe: writing to a helper that is gone would end this program by a signal.
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) {
         return nullptr;
     }
-    const std::string script = "trap '' HUP INT TERM; read -r word && exit 0; exec " + std::string(action);
+    const std::string script = "trap '' HUP INT TERM; read -r word; exec " + std::string(action);
     const pid_t helper = startShell(script, object, ends[0]);
     close(ends[0]);
     if (helper < 0) {
@@ -76,10 +76,10 @@ std::unique_ptr<DeathWatch> DeathWatch::start(const char *action, const QByteArr
 
 DeathWatch::~DeathWatch()
 {
-    send(mSocket, "\n", 1, MSG_NOSIGNAL);
-    close(mSocket);
+    kill(mHelper, SIGKILL);
     while (waitpid(mHelper, nullptr, 0) < 0 && errno == EINTR) {
     }
+    close(mSocket); // not before: it would take that for the end
 }
 
 } // namespace tapeprint::job

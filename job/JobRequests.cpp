@@ -66,7 +66,100 @@ QStringList wordsIn(const Response &response, const char *name)
     return words;
 }
 
+struct DestinationDeleter {
+    void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
+};
+struct InfoDeleter {
+    void operator()(cups_dinfo_t *info) const { cupsFreeDestInfo(info); }
+};
+
+ipp_t *aboutQueue(ipp_op_t operation, const QueueAddress &address)
+{
+    ipp_t *request = ippNewRequest(operation);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, address.uri.constData());
+    return request;
+}
+
+QueueAddress addressIn(const char *uri)
+{
+    std::array<char, HTTP_MAX_URI> scheme{};
+    std::array<char, HTTP_MAX_URI> user{};
+    std::array<char, HTTP_MAX_URI> host{};
+    std::array<char, HTTP_MAX_URI> resource{};
+    int port = 0;
+    const http_uri_status_t status =
+        httpSeparateURI(HTTP_URI_CODING_ALL, uri, scheme.data(), static_cast<int>(scheme.size()), user.data(),
+                        static_cast<int>(user.size()), host.data(), static_cast<int>(host.size()), &port,
+                        resource.data(), static_cast<int>(resource.size()));
+    return status < HTTP_URI_STATUS_OK ? QueueAddress() : QueueAddress{uri, resource.data()};
+}
+
 } // namespace
+
+std::optional<QueueAddress> addressOf(const ServerConnection &server, const QString &queue)
+{
+    const QByteArray name = queue.toUtf8();
+    const auto find = [&server, &name] {
+        return std::unique_ptr<cups_dest_t, DestinationDeleter>(
+            cupsGetNamedDest(server.http(), name.constData(), nullptr));
+    };
+    const auto uriOf = [](const cups_dest_t &destination) {
+        return cupsGetOption("printer-uri-supported", destination.num_options, destination.options);
+    };
+    auto destination = find();
+    if (destination && uriOf(*destination) == nullptr && !server.isStopped()) {
+        // The question makes the queue.
+        const std::unique_ptr<cups_dinfo_t, InfoDeleter> made(cupsCopyDestInfo(server.http(), destination.get()));
+        destination = made ? find() : nullptr;
+    }
+    const char *uri = destination && !server.isStopped() ? uriOf(*destination) : nullptr;
+    const QueueAddress address = uri == nullptr ? QueueAddress() : addressIn(uri);
+    return address.uri.isEmpty() ? std::nullopt : std::optional(address);
+}
+
+std::optional<int> createJob(const ServerConnection &server, const QueueAddress &address, const QString &title,
+                             const CupsOptions &options)
+{
+    ipp_t *request = aboutQueue(IPP_OP_CREATE_JOB, address);
+    addUser(request);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, title.toUtf8().constData());
+    for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION}) {
+        cupsEncodeOptions2(request, options.count(), options.data(), group);
+    }
+    const Response response(cupsDoRequest(server.http(), request, address.resource.constData()));
+    const int id = numberIn(response, "job-id", IPP_TAG_INTEGER, 0);
+    return isAccepted(response.get()) && id != 0 ? std::optional(id) : std::nullopt;
+}
+
+http_status_t startDocument(const ServerConnection &server, const QueueAddress &address, int jobId, const QString &name,
+                            bool isLast)
+{
+    ipp_t *request = aboutQueue(IPP_OP_SEND_DOCUMENT, address);
+    ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+    addUser(request);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr, name.toUtf8().constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr, CUPS_FORMAT_AUTO);
+    ippAddBoolean(request, IPP_TAG_OPERATION, "last-document", isLast ? 1 : 0);
+    const http_status_t status =
+        cupsSendRequest(server.http(), request, address.resource.constData(), CUPS_LENGTH_VARIABLE);
+    ippDelete(request);
+    return status;
+}
+
+std::optional<QString> usualHold(const ServerConnection &server, const QString &queue)
+{
+    static constexpr std::array attributes{"job-hold-until-default", "job-hold-until-supported"};
+    ipp_t *request = aboutPrinter(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    askFor(request, attributes);
+    const Response response = askServer(server, request);
+    ipp_attribute_t *supported = ippFindAttribute(response.get(), "job-hold-until-supported", IPP_TAG_ZERO);
+    if (supported == nullptr || ippContainsString(supported, "indefinite") == 0) {
+        return std::nullopt;
+    }
+    ipp_attribute_t *usual = ippFindAttribute(response.get(), "job-hold-until-default", IPP_TAG_ZERO);
+    const QString until = QString::fromUtf8(ippGetString(usual, 0, nullptr));
+    return until.isEmpty() ? QStringLiteral("no-hold") : until;
+}
 
 bool isAccepted(ipp_t *response)
 {

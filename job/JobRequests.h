@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
-// What is asked of the print server about one job: how it is, that it may print, that it may not.
+// What is asked of the print server about one job: that there is one, how it is, that it may print, that it may not.
 #pragma once
 
+#include "job/CupsOptions.h"
 #include "job/IppQuestion.h"
 #include "job/JobOptions.h"
 #include "job/ServerConnection.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -40,6 +42,30 @@ struct JobStatus {
 
     bool operator==(const JobStatus &other) const = default;
 };
+
+/// Where the server takes a queue's jobs.
+struct QueueAddress {
+    QByteArray uri;
+    QByteArray resource; ///< the URI's path, which requests are posted to
+};
+
+/// The address of a queue; nothing when the server does not give one. A queue that is known from the network alone is
+/// made on the server first. The server is not asked what the queue can do, as cupsCopyDestInfo does: that answer takes
+/// longer than all others of a job together.
+std::optional<QueueAddress> addressOf(const ServerConnection &server, const QString &queue);
+
+/// Makes a job without documents. \return its number; nothing when the server makes none.
+std::optional<int> createJob(const ServerConnection &server, const QueueAddress &address, const QString &title,
+                             const CupsOptions &options);
+
+/// Begins to send a document, whose bytes are then written. \param name what it is called on the server. \return
+/// HTTP_STATUS_CONTINUE when the server waits for them.
+http_status_t startDocument(const ServerConnection &server, const QueueAddress &address, int jobId, const QString &name,
+                            bool isLast);
+
+/// Until when a queue holds a job that does not say so itself, as IPP's job-hold-until says it; nothing when the queue
+/// cannot hold a job for good.
+std::optional<QString> usualHold(const ServerConnection &server, const QString &queue);
 
 /// The server's word about a job and its queue's printer. \return nothing when it gives none.
 std::optional<JobStatus> readJob(const ServerConnection &server, const QString &queue, int jobId);

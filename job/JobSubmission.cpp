@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The job calls of libcups: create, a document at a time, finish. Every answer is looked at.
+// The requests of a job: create, a document at a time, finish. Every answer is looked at.
 //
 // A server keeps a job that does not get its last document for some minutes, and then prints what it has. A job of
 // several documents is therefore held for good until the last one is in, and then set free, or held as the person wants
@@ -37,19 +37,6 @@ constexpr std::chrono::milliseconds timeToPutInOrder{5000};
 constexpr std::chrono::milliseconds betweenAttempts{300};
 
 const QString holdOption = QStringLiteral("job-hold-until");
-const QString noHold = QStringLiteral("no-hold");
-
-struct DestinationDeleter {
-    void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
-};
-struct InfoDeleter {
-    void operator()(cups_dinfo_t *info) const { cupsFreeDestInfo(info); }
-};
-
-bool isOk(ipp_status_t status)
-{
-    return status <= IPP_STATUS_OK_CONFLICTING;
-}
 
 /// One job on its way.
 class Upload
@@ -96,19 +83,15 @@ private:
             *error = problem({});
             return false;
         }
-        const QByteArray name = mSubmission.queue.name.toUtf8();
-        mDestination.reset(cupsGetNamedDest(mServer->http(), name.constData(), nullptr));
-        if (mDestination && !mServer->isStopped()) {
-            mInfo.reset(cupsCopyDestInfo(mServer->http(), mDestination.get()));
-        }
-        if (!mInfo) {
+        mAddress = addressOf(*mServer, mSubmission.queue.name);
+        if (!mAddress) {
             *error = problem({Problem::NoSuchPrinter,
                               advice(Texts::tr("The queue %1 cannot be reached (%2): choose another printer."),
                                      QStringLiteral("The queue %1 cannot be reached (%2): see lpstat -e for the queues "
                                                     "there are."))
                                   .arg(harmless(mSubmission.queue.name), reasonText(mServer->problem()))});
         }
-        return mInfo != nullptr;
+        return mAddress.has_value();
     }
 
     bool create(Problem *error)
@@ -118,19 +101,19 @@ private:
         for (const auto &[name, value] : mSubmission.options.entries()) {
             (value.startsWith(u'{') ? braced : options).set(name, value); // own values of several parameters
         }
-        if (mSubmission.files.size() > 1 && canBeHeld()) {
-            mHoldUntil = options.contains(holdOption) ? options.value(holdOption) : queuesHold();
+        const std::optional<QString> usual =
+            mSubmission.files.size() > 1 ? usualHold(*mServer, mSubmission.queue.name) : std::nullopt;
+        if (usual) {
+            mHoldUntil = options.contains(holdOption) ? options.value(holdOption) : *usual;
             options.remove(holdOption);
         }
-        const CupsOptions cupsOptions(options);
-        const ipp_status_t created =
-            cupsCreateDestJob(mServer->http(), mDestination.get(), mInfo.get(), &mJobId,
-                              mSubmission.title.toUtf8().constData(), cupsOptions.count(), cupsOptions.data());
-        if (!isOk(created) || mJobId == 0) {
+        const std::optional<int> created = createJob(*mServer, *mAddress, mSubmission.title, CupsOptions(options));
+        if (!created) {
             *error = problem(notTaken());
             cancelWithoutNumber();
             return false;
         }
+        mJobId = *created;
         if (!addBracedOptions(*mServer, mJobId, braced)) {
             *error = problem(notTaken());
             abandon(error);
@@ -166,20 +149,6 @@ private:
         }
     }
 
-    bool canBeHeld() const
-    {
-        return cupsCheckDestSupported(mServer->http(), mDestination.get(), mInfo.get(), "job-hold-until",
-                                      "indefinite") != 0;
-    }
-
-    /// What the queue does with jobs that do not say until when they are held.
-    QString queuesHold() const
-    {
-        ipp_attribute_t *hold = cupsFindDestDefault(mServer->http(), mDestination.get(), mInfo.get(), "job-hold-until");
-        const QString until = QString::fromUtf8(ippGetString(hold, 0, nullptr));
-        return until.isEmpty() ? noHold : until;
-    }
-
     bool sendAll(Problem *error)
     {
         for (const QString &file : mSubmission.files) {
@@ -202,9 +171,7 @@ private:
         }
         // A single document goes by the job's title: standard input has no name of its own.
         const QString name = mSubmission.files.size() == 1 ? mSubmission.title : QFileInfo(path).fileName();
-        http_status_t status =
-            cupsStartDestDocument(mServer->http(), mDestination.get(), mInfo.get(), mJobId, name.toUtf8().constData(),
-                                  CUPS_FORMAT_AUTO, 0, nullptr, mIsLast ? 1 : 0);
+        http_status_t status = startDocument(*mServer, *mAddress, mJobId, name, mIsLast);
         for (QByteArray piece = file.read(pieceBytes);
              status == HTTP_STATUS_CONTINUE && !piece.isEmpty() && !mServer->isStopped();
              piece = file.read(pieceBytes)) {
@@ -292,8 +259,7 @@ private:
     const Submission &mSubmission;
     const SendReport &mReport;
     std::unique_ptr<ServerConnection> mServer;
-    std::unique_ptr<cups_dest_t, DestinationDeleter> mDestination;
-    std::unique_ptr<cups_dinfo_t, InfoDeleter> mInfo;
+    std::optional<QueueAddress> mAddress;
     int mJobId = 0;
     QString mHoldUntil; ///< what the job is held for when it is whole; null when it is not held meanwhile
     SendProgress mProgress;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program tapeprint: reads its command line, and runs the dialog with or without a window.
 #include "dialog/Application.h"
+#include "dialog/FontReading.h"
 #include "dialog/ToolkitStart.h"
 #include "job/OutputFile.h"
 #include "tapeprint/CommandLine.h"
@@ -77,16 +78,25 @@ int main(int argc, char **argv)
         !problem.isNull()) {
         return tapeprint::writeReport(tapeprint::failedRun(problem), line->json);
     }
-    if (!wantsWindow && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "minimal"); // the toolkit's quickest: it reads no fonts
+    if (!wantsWindow) {
+        // By itself the toolkit would load whatever style is installed.
+        QApplication::setStyle(QStringLiteral("fusion"));
+        if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+            qputenv("QT_QPA_PLATFORM", "minimal"); // the toolkit's quickest: it reads no fonts
+        }
     }
     // The toolkit gets no arguments: its own options would take lp's letters away.
     int toolkitArgc = 1;
     auto start = std::make_optional<tapeprint::dialog::ToolkitStart>(
         tapeprint::wordsForNoStart(wantsWindow, line->json), line->json ? STDOUT_FILENO : STDERR_FILENO, wantsWindow);
+    std::optional<tapeprint::dialog::FontReading> fonts;
+    if (wantsWindow) {
+        fonts.emplace();
+    }
     const tapeprint::dialog::Application application(toolkitArgc, argv);
     tapeprint::dialog::nameCrashingPanels();
     start.reset();
+    fonts.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
     QApplication::setDesktopFileName(QStringLiteral("org.tapeprint.TapePrint")); // whose icon a Wayland desktop shows
 

@@ -5,7 +5,10 @@
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
 #include <QIcon>
+#include <QPixmap>
 #include <QSignalSpy>
+
+#include <cstdlib>
 
 #include <gtest/gtest.h>
 
@@ -104,6 +107,37 @@ TEST(PrinterModel, Row_SaysWhatThereIsToKnow)
     EXPECT_TRUE(model.index(1).data(Qt::ToolTipRole).toString().contains(u"Found on the network"_qs));
     EXPECT_FALSE(model.index(1).data(Qt::DecorationRole).value<QIcon>().isNull()); // its name begins where others do
     EXPECT_EQ(model.index(2).data(Qt::AccessibleTextRole).toString(), u"gone, not there any more"_qs);
+}
+
+TEST(PrinterModel, MarksOfAllStates_DifferByShapeWithoutTheirColours)
+{
+    PrinterRow warned = row(u"warned"_qs);
+    warned.printer.reasons = job::stateReasons({u"media-low"_qs});
+    PrinterRow closed = row(u"closed"_qs);
+    closed.printer.isAccepting = false;
+    PrinterModel model;
+    model.setRows({row(u"idle"_qs), row(u"busy"_qs, job::PrinterState::Processing),
+                   row(u"paused"_qs, job::PrinterState::Stopped), warned, closed});
+    constexpr int side = 16;
+    std::vector<QImage> shapes;
+    for (int i = 0; i < model.rowCount(); ++i) {
+        const QPixmap mark = model.index(i).data(Qt::DecorationRole).value<QIcon>().pixmap(QSize(side, side), 1.0);
+        shapes.push_back(mark.toImage().convertToFormat(QImage::Format_Alpha8));
+    }
+    const auto differingDots = [](const QImage &one, const QImage &other) {
+        int dots = 0;
+        for (int y = 0; y < side; ++y) {
+            for (int x = 0; x < side; ++x) {
+                dots += std::abs(one.constScanLine(y)[x] - other.constScanLine(y)[x]) > 127 ? 1 : 0;
+            }
+        }
+        return dots;
+    };
+    for (std::size_t i = 0; i < shapes.size(); ++i) {
+        for (std::size_t j = 0; j < i; ++j) {
+            EXPECT_GT(differingDots(shapes[i], shapes[j]), side * side / 10) << i << " and " << j;
+        }
+    }
 }
 
 TEST(PrinterModel, FiveHundredPrintersOfWhichOneComes_TakeNoTimeToSpeakOf)

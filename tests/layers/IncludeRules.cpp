@@ -33,7 +33,7 @@ const std::array<Room, 12> &rooms()
     static const std::array<Room, 12> table = {{
         {"tapeprint", {"dialog", "job", "pdekit"}, {"cups/"}},
         {"portal", {"dialog", "job", "pdekit"}, {"cups/ppd.h"}},
-        {"dialog", {"job", "pdekit"}, {"cups/"}},
+        {"dialog", {"job", "pdekit"}, {"cups/", "fontconfig/"}},
         {"job", {"pdekit"}, {"cups/", "qpdf/"}, false},
         {"drawing", {"job"}, {"poppler-qt6.h"}, false},
         {"panel", {"plugin", "controls", "ppd", "pagesettings", "pdekit"}, {"cups/ppd.h"}},

@@ -9,8 +9,10 @@
 #include <QThread>
 #include <QTime>
 
+#include <algorithm>
 #include <atomic>
 #include <csignal>
+#include <vector>
 
 #include <cups/cups.h>
 
@@ -169,6 +171,20 @@ TEST_F(BrokenOff, ProgramKilledAtAnyStep_PrintsNothingByHalvesAndTheNextJobWell)
         EXPECT_NE(job.state, IPP_JSTATE_PROCESSING) << job.id;
     }
     EXPECT_EQ(filterCallsOf(printLabel()).size(), 1U);
+}
+
+// What a queue can do is the longest answer of a server.
+TEST_F(BrokenOff, OneDocument_IsSentWithoutAskingWhatTheQueueCanDo)
+{
+    const auto server = serverThat([](const SeenRequest & /*request*/) { return Meddling::PassOn; });
+    EXPECT_EQ(filterCallsOf(printLabel()).size(), 1U);
+    const std::vector<int> seen = server.operations();
+    // Opening the queue ends with its PPD, which is no IPP request.
+    constexpr int ppd = 0;
+    const auto sending = std::find(seen.rbegin(), seen.rend(), ppd).base();
+    EXPECT_EQ(std::vector<int>(sending, seen.end()),
+              (std::vector<int>{IPP_OP_GET_PRINTER_ATTRIBUTES, IPP_OP_CREATE_JOB, IPP_OP_SEND_DOCUMENT,
+                                IPP_OP_GET_JOB_ATTRIBUTES, IPP_OP_GET_PRINTER_ATTRIBUTES}));
 }
 
 TEST_F(BrokenOff, SeveralDocuments_ArePrintedWhenTheLastIsIn)
