@@ -8,6 +8,8 @@
 #include "job/EpsPage.h"
 #include "job/LaidOutDocument.h"
 
+#include <QFile>
+
 #include <cmath>
 
 using namespace tapeprint::job;
@@ -61,6 +63,19 @@ void checkLaidOut(const LabelPlan &plan, const QString &document)
     }
 }
 
+/// The page of a drawing holds the whole of it, behind what makes a page of it.
+void checkDrawing(const QString &path, const QRectF &box, const QByteArray &bytes)
+{
+    static const fuzz::MemoryFile page;
+    page.hold(nullptr, 0);
+    QString said;
+    require(writeEpsPage(path, box, page.path(), &said));
+    QFile written(page.path());
+    require(written.open(QIODevice::ReadOnly));
+    const QByteArray text = written.readAll();
+    require(text.startsWith("%!PS-Adobe-3.0\n<< /PageSize [") && text.contains(bytes));
+}
+
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
@@ -81,6 +96,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     if (const std::optional<QRectF> box = epsBoxOf(bytes)) {
         require(std::isfinite(box->width()) && std::isfinite(box->height()) && box->isValid());
+        checkDrawing(path, *box, bytes);
     }
     return 0;
 }

@@ -12,11 +12,17 @@
 #include "dialog/PaperMenu.h"
 #include "job/Conflicts.h"
 #include "job/CustomSizes.h"
+#include "job/CustomValues.h"
 #include "job/PlainText.h"
 #include "job/PpdMarks.h"
 
 #include <QComboBox>
 #include <QLabel>
+
+#include <algorithm>
+#include <clocale>
+
+#include <pdekit/Numbers.h>
 
 using namespace tapeprint;
 using fuzz::require;
@@ -46,7 +52,37 @@ void checkUntouched(const job::JobOptions &options)
     }
 }
 
-/// Picks the last choice of each option, as the page's pop-ups do.
+/// An own value with each parameter at its least, as the page's fields take it.
+QString ownValue(const std::vector<job::CustomParameter> &parameters)
+{
+    QStringList values;
+    for (const job::CustomParameter &parameter : parameters) {
+        const QString number = pdekit::fixedDecimals(parameter.least, parameter.isWhole() ? 0 : 3);
+        const auto length = static_cast<qsizetype>(std::clamp(parameter.least, 1.0, 100.0));
+        values.append(parameter.isText() ? QString(length, u'7') : number);
+        if (!job::customProblem(parameter, values.last(), false).isNull()) {
+            return {};
+        }
+    }
+    return job::customValue(parameters, values);
+}
+
+/// An own value is an option's value, and is not shown where it is secret.
+void checkOwnValue(job::Job &job, const job::OfferedOption &option)
+{
+    const QString value = ownValue(option.customValues);
+    if (value.isNull()) {
+        return;
+    }
+    job.changeOption(option.keyword, value);
+    require(job.options().value(option.keyword) == value);
+    job::markedValue(job.ppd(), option.keyword);
+    const bool isSecret = std::any_of(option.customValues.begin(), option.customValues.end(),
+                                      [](const job::CustomParameter &parameter) { return parameter.isSecret(); });
+    require(!isSecret || job::withoutSecret(job.ppd(), option.keyword, value) != value);
+}
+
+/// Picks the last choice of each option, as the page's pop-ups do, and a value of one's own where it takes one.
 void checkPicks(job::Job &job, const std::vector<job::OptionGroup> &groups)
 {
     int picked = 0;
@@ -54,6 +90,9 @@ void checkPicks(job::Job &job, const std::vector<job::OptionGroup> &groups)
     for (const job::OptionGroup &group : groups) {
         for (const job::OfferedOption &option : group.options) {
             checkText(option.text);
+            if (!option.customValues.empty() && picked < mostPicked) {
+                checkOwnValue(job, option);
+            }
             if (option.choices.empty() || option.takesSeveral || ++picked > mostPicked) {
                 continue;
             }
@@ -95,11 +134,20 @@ void checkWindow(job::Job &job, const dialog::Panels &panels)
     menu.follow();
 }
 
+/// Of a description's languages libcups keeps one: the environment's, as long as the program has set none.
+bool prepare()
+{
+    fuzz::makeApplication();
+    qputenv("LC_ALL", "de_DE.UTF-8");
+    std::setlocale(LC_MESSAGES, "C");
+    return true;
+}
+
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static const bool isReady = fuzz::makeApplication();
+    static const bool isReady = prepare();
     static const fuzz::MemoryFile memory;
     job::Problem error;
     job::Destination destination;

@@ -93,6 +93,29 @@ QString markOf(const QString &bundlePath, BundleGuard::Step step)
            (step == BundleGuard::Step::Loading ? QLatin1String("-loading") : QLatin1String("-panels"));
 }
 
+/// Opens a mark and locks it. \return -1 when there can be none, or when another process is just running the code.
+int lockedMark(const QByteArray &path)
+{
+    constexpr int attempts = 100;
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        const int file = open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+        if (file < 0) {
+            return -1;
+        }
+        struct stat status {
+        };
+        if (flock(file, LOCK_EX | LOCK_NB) != 0 || fstat(file, &status) != 0) {
+            close(file);
+            return -1;
+        }
+        if (status.st_nlink > 0) {
+            return file;
+        }
+        close(file); // between the two calls the code came back elsewhere, and this mark was taken away
+    }
+    return -1;
+}
+
 } // namespace
 
 BundleGuard::BundleGuard(const QString &bundlePath, Step step)
@@ -102,30 +125,28 @@ BundleGuard::BundleGuard(const QString &bundlePath, Step step)
         return;
     }
     mPath = folder + markOf(bundlePath, step);
-    mFile = open(QFile::encodeName(mPath).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    mFile = lockedMark(QFile::encodeName(mPath));
     if (mFile < 0) {
         return;
     }
-    if (flock(mFile, LOCK_EX | LOCK_NB) == 0) {
-        const Mark before = Mark::read(mFile, stampOf(modulePath(bundlePath)));
-        Mark now = before;
-        if (before.isRunning) { // and yet nobody holds it
-            ++now.ends;
-        }
-        const bool isSkipped = before.isRunning || before.ends >= mostEnds;
-        now.isRunning = !isSkipped;
-        if (now.write(mFile) && !isSkipped) {
-            return;
-        }
-        if (isSkipped) {
-            mReason = now.ends < mostEnds
-                          ? LoadingTexts::tr("the program ended while this plug-in was starting; it is tried again the "
-                                             "next time")
-                          : LoadingTexts::tr("the program ended while this plug-in was starting, and again the next "
-                                             "time; it is tried again when the bundle has changed");
-        }
+    const Mark before = Mark::read(mFile, stampOf(modulePath(bundlePath)));
+    Mark now = before;
+    if (before.isRunning) { // and yet nobody holds it
+        ++now.ends;
     }
-    close(mFile); // another process is just loading it, or the mark tells what it told
+    const bool isSkipped = before.isRunning || before.ends >= mostEnds;
+    now.isRunning = !isSkipped;
+    if (now.write(mFile) && !isSkipped) {
+        return;
+    }
+    if (isSkipped) {
+        mReason = now.ends < mostEnds
+                      ? LoadingTexts::tr("the program ended while this plug-in was starting; it is tried again the "
+                                         "next time")
+                      : LoadingTexts::tr("the program ended while this plug-in was starting, and again the next "
+                                         "time; it is tried again when the bundle has changed");
+    }
+    close(mFile); // the mark tells what it told
     mFile = -1;
 }
 

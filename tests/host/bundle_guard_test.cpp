@@ -7,6 +7,10 @@
 
 #include <pdekit/BundleLoading.h>
 
+#include <atomic>
+#include <thread>
+#include <vector>
+
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -85,6 +89,26 @@ TEST_F(Guard, AfterTwoEndsInARow_LeavesTheCodeOutUntilItChanges)
     }
     hosttest::writeFile(folder, u"Some.bundle/Some.so"_qs, "mended code");
     EXPECT_TRUE(reason().isNull());
+}
+
+TEST_F(Guard, OfManyProgramsAtOnce_IsNoReasonForAny)
+{
+    // A lock belongs to an opening of the file: threads are to each other what programs are.
+    constexpr int programs = 4;
+    constexpr int starts = 1000;
+    std::atomic<int> refused{0};
+    std::vector<std::thread> running;
+    for (int program = 0; program < programs; ++program) {
+        running.emplace_back([&] {
+            for (int start = 0; start < starts; ++start) {
+                refused += reason().isNull() ? 0 : 1;
+            }
+        });
+    }
+    for (std::thread &program : running) {
+        program.join();
+    }
+    EXPECT_EQ(refused, 0);
 }
 
 TEST_F(Guard, TellsStepsAndBundlesApart)

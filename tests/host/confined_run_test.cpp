@@ -92,6 +92,12 @@ TEST_F(ConfinedProgram, WritesIntoItsOwnTemporaryFolderAlone)
     EXPECT_FALSE(QFileInfo::exists(u"/tmp/a"_qs));
 }
 
+TEST_F(ConfinedProgram, SeesTheMachinesSettingsThatAreForEverybodyAlone)
+{
+    run(u"cat /etc/passwd | wc -c; cat /etc/shadow | wc -c"_qs); // root, who may read the second, finds nothing in it
+    EXPECT_EQ(output, QByteArray::number(QFileInfo(u"/etc/passwd"_qs).size()) + "\n0\n");
+}
+
 TEST_F(ConfinedProgram, SeesNoHomeNoSessionAndNoOtherProcess)
 {
     qputenv("TAPEPRINT_TEST_SECRET", "secret");

@@ -293,4 +293,14 @@ TEST(LayoutChoices_Options, ManyPages_AreHeldAtSixteen)
     EXPECT_EQ(layoutChoicesOf(options({{u"number-up"_qs, u"99999999999"_qs}})).pagesPerSheet, 16);
 }
 
+// As many as make rows and columns on the paper; with any other number the filters would print a page a sheet.
+TEST(PageLayout_Paper, PagesASheet_AreThoseThatTheFiltersKnow)
+{
+    const std::array<int, 17> expected{1, 1, 2, 3, 4, 1, 6, 1, 8, 9, 10, 1, 12, 1, 1, 15, 16};
+    for (std::size_t asked = 0; asked < expected.size(); ++asked) {
+        EXPECT_EQ(pagesPerPaper(static_cast<int>(asked)), expected[asked]) << asked;
+    }
+    EXPECT_EQ(pagesPerPaper(17), 1);
+}
+
 } // namespace

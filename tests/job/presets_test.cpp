@@ -345,6 +345,19 @@ TEST_F(LastSettings, AreKeptForEachTapeOfAQueue)
     EXPECT_FALSE(lastSettings(u"other"_qs, u"W12"_qs).has_value());
 }
 
+TEST_F(LastSettings, WithoutAName_AreNone)
+{
+    ASSERT_TRUE(
+        keepLastSettings(u"tape"_qs, u"W12"_qs, options({{u"PageSize"_qs, u"W12"_qs}, {u"A"_qs, u"1"_qs}}), &error));
+    QFile file(folder.filePath(u"tapeprint/last-settings.ini"_qs));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    const QByteArray damaged = file.readAll().replace("A=1", "=1");
+    ASSERT_TRUE(file.resize(0) && file.seek(0));
+    ASSERT_EQ(file.write(damaged), damaged.size());
+    file.close();
+    EXPECT_EQ(lastSettings(u"tape"_qs, u"W12"_qs).value().lines(), QStringList{u"PageSize=W12"_qs});
+}
+
 TEST_F(LastSettings, OfCustomSizes_AreThoseOfOneTape)
 {
     const JobOptions longLabel = options({{u"PageSize"_qs, u"Custom.12x80mm"_qs}});

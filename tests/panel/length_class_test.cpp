@@ -189,6 +189,27 @@ TEST(OneDot, WithoutTheOption_IsTheStepOfAnEntry)
     EXPECT_EQ(panel->getOneDotMM(), 0.1);
 }
 
+TEST(LengthGroups, AreEnabledWithTheirOptionOnAFreeTapeAlone)
+{
+    PanelOfTheClass panel(PpdText::withEveryOption());
+    panel.show();
+    const auto isEnabled = [](PanelOfTheClass &shown, const char *field) {
+        shown->initializeUI_Margin();
+        shown->initializeUI_PrintTapeLength();
+        return shown.outlet<QLineEdit>(field)->isEnabled();
+    };
+    for (const char *field : {"mMarginTxFld", "mTapeLengthTxFld"}) {
+        panel->setTapeState(0);
+        EXPECT_TRUE(isEnabled(panel, field)) << field;
+        panel->setTapeState(1);
+        EXPECT_FALSE(isEnabled(panel, field)) << field;
+    }
+    PanelOfTheClass bare(PpdText::withEveryOption().withoutOption("KsMargin").withoutOption("KsPrintTapeLength"));
+    bare.show();
+    EXPECT_FALSE(isEnabled(bare, "mMarginTxFld"));
+    EXPECT_FALSE(isEnabled(bare, "mTapeLengthTxFld"));
+}
+
 TEST(Rules, OfAPanelWithoutAPpd_AreTheDefaults)
 {
     PanelOfTheClass panel(OpenPpd{});

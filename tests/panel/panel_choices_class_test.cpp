@@ -127,6 +127,16 @@ INSTANTIATE_TEST_SUITE_P(
                       Overlap{0x70000, {kVendor}}, Overlap{0x90000, {}}),
     [](const auto &test) { return "Code" + QByteArray::number(test.param.item, 16).toStdString(); });
 
+TEST(ChoiceTitles, OfOptionsThatThePpdLacks_AreTheInterfacesInWords)
+{
+    PanelOfTheClass panel(PpdText::withEveryOption().withoutOption("KsPriority").withoutOption("Resolution"));
+    panel.show();
+    EXPECT_EQ(panel.outlet<pdekit::RadioMatrix>("mPrintQualityRdBtn")->titles(),
+              (QStringList{u"Speed"_qs, u"Quality"_qs}));
+    EXPECT_EQ(panel.outlet<pdekit::RadioMatrix>("mResolutionRdBtn")->titles(),
+              (QStringList{u"300 × 300 dpi"_qs, u"300 × 600 dpi"_qs}));
+}
+
 } // namespace
 
 TEST_P(EachMarkedItem, Marked_TakesItsSelectionsFromThePpdsMarks)

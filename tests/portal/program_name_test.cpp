@@ -90,6 +90,18 @@ TEST(ProgramsButton, HasItsLetterAndNoMarksOfOurOwn)
     EXPECT_FALSE(buttonText(u"\u202Eog"_qs).contains(QChar(0x202E)));
 }
 
+TEST(ProgramsOptions, OfAnotherType_CountAsMissing)
+{
+    using namespace tapeprint::portal;
+    EXPECT_TRUE(truthIn({{u"modal"_qs, u"false"_qs}}, u"modal"_qs, true));
+    EXPECT_FALSE(truthIn({{u"modal"_qs, 1}}, u"modal"_qs, false));
+    EXPECT_FALSE(truthIn({{u"modal"_qs, false}}, u"modal"_qs, true));
+    EXPECT_EQ(numberIn({{u"token"_qs, u"7"_qs}}, u"token"_qs), 0U);
+    EXPECT_EQ(numberIn({{u"token"_qs, 7U}}, u"token"_qs), 7U);
+    EXPECT_EQ(textIn({{u"accept_label"_qs, 7}}, u"accept_label"_qs), QString());
+    EXPECT_EQ(textIn({{u"accept_label"_qs, u"Go"_qs}}, u"accept_label"_qs), u"Go"_qs);
+}
+
 TEST(CallingWindow, OnlyAnX11NumberIsOne)
 {
     EXPECT_EQ(x11WindowIn(u"x11:200003"_qs), std::optional<WId>(0x200003));

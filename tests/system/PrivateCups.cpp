@@ -107,6 +107,20 @@ QString describedBy(const QString &description)
     return QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-%1.ppd").arg(description);
 }
 
+struct AnswerDeleter {
+    void operator()(ipp_t *answer) const { ippDelete(answer); }
+};
+using Answer = std::unique_ptr<ipp_t, AnswerDeleter>;
+
+/// All that the server knows of one job; null when it answers nothing.
+Answer askAboutJob(const Connection &connection, int jobId)
+{
+    ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(jobId);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
+    return Answer(cupsDoRequest(connection.get(), request, "/"));
+}
+
 } // namespace
 
 PrivateCups::PrivateCups() = default;
@@ -301,14 +315,9 @@ std::vector<ServerJob> PrivateCups::jobs() const
 
 QByteArray PrivateCups::attributeOfJob(int jobId, const char *name) const
 {
-    const Connection connection = connectTo(socket());
-    ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
-    const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(jobId);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
-    ipp_t *response = cupsDoRequest(connection.get(), request, "/");
+    const Answer answer = askAboutJob(connectTo(socket()), jobId);
     std::array<char, 1024> text{};
-    ippAttributeString(ippFindAttribute(response, name, IPP_TAG_ZERO), text.data(), text.size());
-    ippDelete(response);
+    ippAttributeString(ippFindAttribute(answer.get(), name, IPP_TAG_ZERO), text.data(), text.size());
     return text.data();
 }
 
@@ -316,10 +325,14 @@ std::optional<ServerJob> PrivateCups::waitForEnd(int jobId) const
 {
     std::optional<ServerJob> ended;
     waitUntil([&] {
-        for (const ServerJob &job : jobs()) {
-            if (job.id == jobId && job.state > IPP_JSTATE_STOPPED) {
-                ended = job;
-            }
+        // The one job: a list of all ends with the 500th.
+        const Answer answer = askAboutJob(connectTo(socket()), jobId);
+        const auto find = [&answer](const char *name) { return ippFindAttribute(answer.get(), name, IPP_TAG_ZERO); };
+        const int state = ippGetInteger(find("job-state"), 0);
+        if (state > IPP_JSTATE_STOPPED) {
+            const QString queue = QString::fromUtf8(ippGetString(find("job-printer-uri"), 0, nullptr));
+            ended = ServerJob{jobId, queue.section(u'/', -1),
+                              QString::fromUtf8(ippGetString(find("job-name"), 0, nullptr)), state};
         }
         return ended.has_value();
     });

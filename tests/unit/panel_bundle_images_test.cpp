@@ -93,3 +93,15 @@ TEST(BundleImages, WithoutABundle_ThereAreNone)
 {
     EXPECT_FALSE(BundleImages(nullptr, QStringLiteral("tiff")).imageNamed("Red").has_value());
 }
+
+TEST_F(BundleImagesTest, ImageOnAFineScreen_HasTwiceTheDotsAndTheSameSize)
+{
+    QImage large(32, 32, QImage::Format_RGB32);
+    large.fill(Qt::red);
+    ASSERT_TRUE(large.save(path(QStringLiteral("Red.tiff")), "TIFF"));
+    const auto image = images().imageNamed("Red");
+    ASSERT_TRUE(image.has_value());
+    const QPixmap shown = image->pixmap(QSize(8, 8), 2.0);
+    EXPECT_EQ(shown.size(), QSize(16, 16));
+    EXPECT_EQ(shown.devicePixelRatio(), 2.0);
+}
