@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 
 #include <cmath>
+#include <utility>
 
 namespace tapeprint::dialog
 {
@@ -43,10 +44,17 @@ QString number(double value, int decimals)
 {
     constexpr double hair = 1e-6;
     const double places = std::pow(10.0, decimals);
-    return QLocale().toString(std::floor(value * places + 0.5 + hair) / places, 'f', decimals);
+    return numbersLocale().toString(std::floor(value * places + 0.5 + hair) / places, 'f', decimals);
 }
 
 } // namespace
+
+QLocale numbersLocale()
+{
+    QLocale locale = QLocale().zeroDigit() == QLatin1String("0") ? QLocale() : QLocale::c();
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale;
+}
 
 double inUnit(double lengthPt, LengthUnit unit)
 {
@@ -112,10 +120,14 @@ void MeasureUnit::choose(LengthUnit unit)
 {
     const LengthUnit before = this->unit();
     mChosen = unit;
-    QSettings(mSettingsPath, QSettings::IniFormat)
-        .setValue(unitSetting, unit == LengthUnit::Inch ? inchWord : millimetreWord);
+    QSettings settings(mSettingsPath, QSettings::IniFormat);
+    settings.setValue(unitSetting, unit == LengthUnit::Inch ? inchWord : millimetreWord);
+    settings.sync();
     if (unit != before) {
         Q_EMIT changed();
+    }
+    if (settings.status() != QSettings::NoError && !std::exchange(mSaidNotKept, true)) {
+        Q_EMIT notKept(mSettingsPath);
     }
 }
 

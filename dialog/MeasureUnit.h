@@ -3,6 +3,7 @@
 // of the printer's description, and job options stay in millimetres and points.
 #pragma once
 
+#include <QLocale>
 #include <QObject>
 #include <QString>
 
@@ -19,6 +20,10 @@ double pointsOf(double value, LengthUnit unit);
 
 /// With how many decimals a length is shown and entered: tenths of a millimetre, hundredths of an inch.
 int decimalsOf(LengthUnit unit);
+
+/// How the dialog writes numbers: as the person does, but in the digits and without the groups of the panels' fields.
+/// One length must not stand in the window in two ways.
+QLocale numbersLocale();
 
 /// The sign of a unit as it stands behind a number: "mm" or "in".
 QString unitSign(LengthUnit unit);
@@ -44,7 +49,7 @@ public:
     /// The unit in which the printer's description counts; nothing when it does not say. It holds until the person
     /// chooses one.
     void setDescribed(std::optional<LengthUnit> unit);
-    /// The person chooses a unit: it is remembered.
+    /// The person chooses a unit: it is remembered, or else said once that it is not.
     void choose(LengthUnit unit);
 
     QString measureText(double lengthPt) const { return dialog::measureText(lengthPt, unit()); }
@@ -53,12 +58,15 @@ public:
 Q_SIGNALS:
     /// Lengths are to be shown in another unit.
     void changed();
+    /// The choice holds, but the next window will not know of it: the file cannot be written.
+    void notKept(const QString &settingsPath);
 
 private:
     QString mSettingsPath;
     std::optional<LengthUnit> mChosen;
     std::optional<LengthUnit> mDescribed;
     LengthUnit mCountrys;
+    bool mSaidNotKept = false;
 };
 
 } // namespace tapeprint::dialog

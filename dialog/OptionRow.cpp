@@ -5,18 +5,36 @@
 #include "dialog/ChoiceModel.h"
 #include "dialog/CustomFields.h"
 #include "dialog/PlainText.h"
+#include "dialog/PopUp.h"
 #include "dialog/StateMark.h"
 #include "job/PpdMarks.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListView>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace tapeprint::dialog
 {
+
+namespace
+{
+
+/// As many letters as the longest choice has; a choice that is a sentence does not make the window wide.
+int lettersOf(const job::OfferedOption &option)
+{
+    constexpr qsizetype mostLetters = 30;
+    qsizetype letters = 0;
+    for (const job::OfferedChoice &choice : option.choices) {
+        letters = std::max(letters, choice.text.size());
+    }
+    return static_cast<int>(std::min(letters, mostLetters));
+}
+
+} // namespace
 
 OptionRow::OptionRow(const job::OfferedOption &option, const MeasureUnit &unit, QWidget *parent)
     : QWidget(parent), mKey(option.keyword)
@@ -33,10 +51,9 @@ OptionRow::OptionRow(const job::OfferedOption &option, const MeasureUnit &unit, 
 void OptionRow::makePopUp(const job::OfferedOption &option, const MeasureUnit &unit)
 {
     auto *grid = qobject_cast<QGridLayout *>(layout());
-    mPopUp = new QComboBox(this);
+    mPopUp = new PopUp(this);
     mPopUp->setObjectName(mKey);
-    mPopUp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    mPopUp->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    mPopUp->setWishedLetters(lettersOf(option));
     mChoices = new ChoiceModel(option, mPopUp);
     mPopUp->setModel(mChoices);
     if (auto *list = qobject_cast<QListView *>(mPopUp->view())) {

@@ -11,7 +11,6 @@
 #include <vector>
 
 class QCheckBox;
-class QComboBox;
 class QLabel;
 
 namespace tapeprint::dialog
@@ -20,6 +19,7 @@ namespace tapeprint::dialog
 class ChoiceModel;
 class CustomFields;
 class MeasureUnit;
+class PopUp;
 
 class OptionRow : public QWidget
 {
@@ -50,7 +50,7 @@ private:
     void pickBoxes(QCheckBox *clicked);
 
     QString mKey;
-    QComboBox *mPopUp = nullptr;     ///< null where there are check boxes
+    PopUp *mPopUp = nullptr;         ///< null where there are check boxes
     ChoiceModel *mChoices = nullptr; ///< the pop-up's
     std::vector<QCheckBox *> mBoxes;
     CustomFields *mFields = nullptr; ///< null where there are no own values

@@ -73,6 +73,7 @@ void OptionsPage::makeSome()
     }
     if (isWhole()) {
         mMaking.stop();
+        Q_EMIT completed();
     } else {
         mMaking.start();
     }

@@ -46,6 +46,8 @@ public:
 Q_SIGNALS:
     /// The person picked a choice, or entered a value.
     void picked(const QString &key, const QString &choice);
+    /// The last row has been made while the window was shown.
+    void completed();
 
 private:
     void makeSome();

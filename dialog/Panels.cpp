@@ -219,8 +219,9 @@ void Panels::tell(const QString &key, const QString &choice)
         const QString newChoice = mToTell.front().second;
         mToTell.pop_front();
         if (told == mostChangesInARow) {
+            const auto sender = mSenders.find(changedKey);
             mCalls.tell(tr("Panels change %1 without end (%2): it is printed as it stands.")
-                            .arg(changedKey, mSenders[changedKey]));
+                            .arg(changedKey, sender == mSenders.end() ? QString() : sender->second));
             break;
         }
         for (PanelEntry &entry : mPanels) {

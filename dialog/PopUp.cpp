@@ -32,6 +32,28 @@ PopUp::PopUp(QWidget *parent) : QComboBox(parent)
     view()->setTextElideMode(Qt::ElideMiddle);
 }
 
+void PopUp::setWishedLetters(int letters)
+{
+    mWishedLetters = letters;
+    updateGeometry();
+}
+
+QSize PopUp::sizeHint() const
+{
+    const int more = std::max(mWishedLetters - minimumContentsLength(), 0);
+    return QComboBox::sizeHint() + QSize(more * fontMetrics().averageCharWidth(), 0);
+}
+
+int PopUp::listWidth() const
+{
+    constexpr int mostMeasured = 1000; // of ten thousand papers, measuring each would be felt
+    int width = 0;
+    for (int row = 0; row < std::min(count(), mostMeasured); ++row) {
+        width = std::max(width, view()->sizeHintForIndex(model()->index(row, modelColumn(), rootModelIndex())).width());
+    }
+    return width;
+}
+
 int PopUp::textWidth() const
 {
     QStyleOptionComboBox option;
@@ -50,7 +72,7 @@ void PopUp::showPopup()
 {
     const int bar = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
     const int most = screen()->availableSize().width() * 2 / 3;
-    view()->setMinimumWidth(std::min(view()->sizeHintForColumn(modelColumn()) + bar, most));
+    view()->setMinimumWidth(std::min(listWidth() + bar, most));
     QComboBox::showPopup();
 }
 

@@ -16,6 +16,9 @@ class PopUp : public QComboBox
 public:
     explicit PopUp(QWidget *parent = nullptr);
 
+    /// Asks for room for so many letters where there is room; less than the least is no matter.
+    void setWishedLetters(int letters);
+    QSize sizeHint() const override;
     /// Whether the text of the current item is shortened.
     bool isCut() const;
     void showPopup() override;
@@ -26,6 +29,9 @@ protected:
 
 private:
     int textWidth() const;
+    int listWidth() const;
+
+    int mWishedLetters = 0;
 };
 
 } // namespace tapeprint::dialog

@@ -269,7 +269,7 @@ std::optional<Amount> PreviewArea::amount() const
     if (!areAllKnown || mPage.isEmpty()) {
         return std::nullopt;
     }
-    return Amount{mPage.isTape, mPlan.labelCount(), job::pointsFromMm(mPlan.tapeLengthMm())};
+    return Amount{mPage.isTape, mPlan.sheetCount(), job::pointsFromMm(mPlan.tapeLengthMm())};
 }
 
 void PreviewArea::showWords()

@@ -15,6 +15,7 @@
 #include "dialog/SummaryView.h"
 #include "dialog/TabOrder.h"
 #include "dialog/TapeLook.h"
+#include "job/PlainText.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -26,6 +27,7 @@
 #include <QScreen>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -54,6 +56,10 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     }
     buildControls();
     addCommandButton();
+    connect(&mUnit, &MeasureUnit::notKept, this, [this](const QString &path) {
+        say(QMessageBox::Warning,
+            tr("The unit holds for this window alone: %1 cannot be written.").arg(job::harmless(path)));
+    });
     addHelpButton();
     if (mSetup.takeSettings) {
         askForSettings();
@@ -129,6 +135,15 @@ void PrintDialog::makePages()
     connect(mJobPage, &JobPage::dropped, &mJob, &job::Job::dropOption);
     mOptionsPage = new OptionsPage(mJob, mPanels, mUnit, mPages);
     connect(mOptionsPage, &OptionsPage::picked, this, &PrintDialog::pickOption);
+    // The last rows are shown, and then count, a little later.
+    const auto growSoon = [this] {
+        constexpr int shownMs = 50;
+        QTimer::singleShot(shownMs, this, &PrintDialog::growUnlessSized);
+    };
+    connect(mOptionsPage, &OptionsPage::completed, this, growSoon);
+    if (mOptionsPage->isWhole()) {
+        growSoon();
+    }
     // What a printer has of its own comes first: its panels, or where there are none, its options.
     const bool hasPanels = !mPanels.entries().empty();
     if (!hasPanels && !mOptionsPage->isEmpty()) {

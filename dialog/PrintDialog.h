@@ -105,6 +105,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     /// One page of the chooser: a panel's view, or the dialog's own options.
@@ -133,6 +134,8 @@ private:
     void followPrinters();
     void showNoDestination();
     void growToContents();
+    void growUnlessSized();
+    void stayOnScreen();
     void showWhetherPrintable();
     bool isPrinting() const { return mRun.phase() != PrintRun::Phase::Idle; }
     void showDestination();
@@ -257,6 +260,7 @@ private:
     QPushButton *mCancelButton = nullptr;
     QPushButton *mPrintButton = nullptr;
 
+    bool mWasPainted = false;
     QSize mGrownSize;    ///< that the window took for its contents; invalid before it did
     QSize mWishedSize;   ///< that a panel gave its view and waits to be fitted; invalid when there is none
     QStringList mAlerts; ///< what panels said of the values that were laid down

@@ -98,6 +98,7 @@ QWidget *PrintDialog::makeDestinationRows()
     mTapeLabel = makeLabel({}, mTapePopUp);
     mCopiesField = new QSpinBox(rows);
     mCopiesField->setObjectName(QStringLiteral("copies"));
+    mCopiesField->setLocale(numbersLocale());
     mCopiesField->setRange(1, mostCopies);
     grid->addWidget(mTapeLabel, 1, 0);
     grid->addWidget(mTapePopUp, 1, 1);

@@ -4,6 +4,7 @@
 #include "dialog/LayoutPage.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/OptionsPage.h"
+#include "dialog/PanelArea.h"
 #include "dialog/PlainText.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
@@ -16,6 +17,9 @@
 #include <QShowEvent>
 #include <QThread>
 #include <QTimer>
+
+#include <algorithm>
+#include <utility>
 
 namespace tapeprint::dialog
 {
@@ -79,21 +83,54 @@ void PrintDialog::takeDestination(job::Destination destination)
 void PrintDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    // Some widgets know what they wish for only when they are shown. A size that somebody gave the window stays.
-    QTimer::singleShot(0, this, [this] {
-        if (size() == mGrownSize) {
-            growToContents();
-        }
-    });
+    // Some widgets know what they wish for only when they are shown.
+    QTimer::singleShot(0, this, &PrintDialog::growUnlessSized);
+}
+
+void PrintDialog::paintEvent(QPaintEvent *event)
+{
+    QDialog::paintEvent(event);
+    // Only now the window has a frame, and soon the toolkit hears where it is. It centred the window without one, so
+    // that a tall one lost its title.
+    constexpr int frameMs = 200;
+    if (!std::exchange(mWasPainted, true)) {
+        QTimer::singleShot(frameMs, this, [this] {
+            growUnlessSized();
+            stayOnScreen();
+        });
+    }
+}
+
+/// A size that somebody gave the window stays.
+void PrintDialog::growUnlessSized()
+{
+    if (size() == mGrownSize) {
+        growToContents();
+    }
 }
 
 void PrintDialog::growToContents()
 {
+    // What scrolls tells of a new size only while it is seen.
+    mPanelArea->updateGeometry();
     // A layout tells the one around it by an event of its own, and some may still wait behind whatever called this.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     // The toolkit by itself opens a window at no more than two thirds of the screen.
-    resize((isVisible() ? size() : QSize()).expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
+    const QSize room = screen()->availableSize() - (frameSize() - size());
+    resize((isVisible() ? size() : QSize()).expandedTo(sizeHint()).boundedTo(room));
     mGrownSize = size();
+    stayOnScreen();
+}
+
+void PrintDialog::stayOnScreen()
+{
+    const QRect room = screen()->availableGeometry();
+    const QRect frame = frameGeometry();
+    const QPoint corner(std::max(std::min(frame.left(), room.right() + 1 - frame.width()), room.left()),
+                        std::max(std::min(frame.top(), room.bottom() + 1 - frame.height()), room.top()));
+    if (isVisible() && isWindow() && corner != frame.topLeft()) {
+        move(corner);
+    }
 }
 
 void PrintDialog::showNoDestination()

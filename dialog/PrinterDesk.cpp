@@ -138,6 +138,8 @@ void PrinterDesk::take(const job::Destination &destination)
     mConfiguredAt = destination.queue ? destination.queue->configuredAt : 0;
     mDigest = destination.ppdDigest;
     mWasListed = false;
+    mIsOfNetwork = std::any_of(mOnNetwork.begin(), mOnNetwork.end(),
+                               [this](const job::Printer &printer) { return printer.fullName() == *mOpen; });
     mLastKnown = rowOfDestination(destination).printer;
     followOpenPrinter();
     // A destination that is no queue stays on offer, whatever is picked.
@@ -287,8 +289,9 @@ const job::Printer *PrinterDesk::openPrinter() const
 
 bool PrinterDesk::isGone() const
 {
-    // A printer that was named without being listed, such as one on the network, may be there all the same.
-    return mWasListed && mPrinters && openPrinter() == nullptr;
+    // A printer that was named without being listed may be there all the same. The server takes the queue of one on the
+    // network away when nobody has used it for a while, and makes it anew for a job.
+    return mWasListed && !mIsOfNetwork && mPrinters && openPrinter() == nullptr;
 }
 
 void PrinterDesk::fillRows()

@@ -103,6 +103,7 @@ private:
     std::optional<QString> mOpen;     ///< the name of the open printer; empty for a destination that is no queue
     std::optional<QString> mWanted;   ///< the name of the printer that is being opened
     job::Printer mLastKnown;          ///< the open printer as the server told of it last
+    bool mIsOfNetwork = false;        ///< the open printer was found on the network
     bool mWasListed = false;          ///< the open printer has been on the server's list
     bool mTriedTheOnly = false;       ///< the server's only printer was opened without being asked for
     int mConfiguredAt = 0;            ///< of the open printer, when its PPD was looked at

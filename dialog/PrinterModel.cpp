@@ -18,6 +18,9 @@ namespace
 
 StateMark markOf(const PrinterRow &row)
 {
+    if (row.printer.isDiscovered && !row.isGone) {
+        return StateMark::Network; // its state is known when it is open
+    }
     if (row.isGone || !row.printer.isAccepting) {
         return StateMark::Failure;
     }
@@ -89,7 +92,7 @@ QVariant PrinterModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return textOf(row.printer);
     case Qt::DecorationRole:
-        return row.printer.name.isEmpty() || row.printer.isDiscovered ? QVariant() : QVariant(iconOf(markOf(row)));
+        return row.printer.name.isEmpty() ? QVariant() : QVariant(iconOf(markOf(row)));
     case Qt::ToolTipRole:
         return plainToolTip(toolTipOf(row));
     case Qt::AccessibleTextRole: {

@@ -9,6 +9,7 @@
 #include <QPixmap>
 
 #include <algorithm>
+#include <array>
 
 namespace tapeprint::dialog
 {
@@ -70,6 +71,19 @@ void drawFailure(QPainter &painter)
     painter.drawLine(QPointF(0.67, 0.33), QPointF(0.33, 0.67));
 }
 
+void drawNetwork(QPainter &painter)
+{
+    const std::array<QPointF, 3> dots{QPointF(0.5, 0.2), QPointF(0.2, 0.76), QPointF(0.8, 0.76)};
+    painter.setPen(QPen(blue, 0.08));
+    painter.drawLine(dots[0], dots[1]);
+    painter.drawLine(dots[0], dots[2]);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(blue);
+    for (const QPointF &dot : dots) {
+        painter.drawEllipse(dot, 0.16, 0.16);
+    }
+}
+
 void draw(QPainter &painter, StateMark mark)
 {
     switch (mark) {
@@ -84,6 +98,9 @@ void draw(QPainter &painter, StateMark mark)
         break;
     case StateMark::Warning:
         drawWarning(painter);
+        break;
+    case StateMark::Network:
+        drawNetwork(painter);
         break;
     case StateMark::Failure:
         drawFailure(painter);

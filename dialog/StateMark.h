@@ -14,7 +14,8 @@ enum class StateMark {
     Busy,    ///< a triangle that points forward
     Paused,  ///< two bars
     Warning, ///< a triangle with an exclamation mark
-    Failure  ///< a disc with a cross
+    Failure, ///< a disc with a cross
+    Network  ///< three dots and the lines between them
 };
 
 /// A mark as an icon of any size.

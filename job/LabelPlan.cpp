@@ -57,11 +57,41 @@ bool isInSet(PageSet set, int number)
     return set == PageSet::All || (set == PageSet::Odd) == (number % 2 == 1);
 }
 
-/// Whether the filters put so many pages on a sheet of paper that lies, and turn it against the clock.
+/// A sheet as its pages are read, and how it then lies on the paper.
+struct SheetOfPages {
+    QRectF area;
+    QTransform toPaper;
+    bool turnsPages = false; ///< whether upright pages are turned against the clock, and lying ones are not
+};
+
+/// Whether the filters put so many pages on a sheet of paper that lies when one page would stand.
 bool liesOnPaper(int pagesPerSheet)
 {
     static constexpr std::array lying{2, 3, 6, 8, 10, 15};
     return std::find(lying.begin(), lying.end(), pagesPerSheet) != lying.end();
+}
+
+/// Several pages on paper as the filters lay them: the orientation turns the sheet and not its pages, and a sheet that
+/// lies already comes to stand when it is to lie.
+SheetOfPages sheetOfPaper(const QRectF &paper, const LayoutChoices &choices)
+{
+    const int asked = choices.turn == Turn::Right  ? 1
+                      : choices.turn == Turn::Half ? 2
+                      : choices.turn == Turn::Left ? 3
+                                                   : 0;
+    const bool isAskedToLie = asked % 2 == 1;
+    const int more = !liesOnPaper(choices.pagesPerSheet) ? 0 : isAskedToLie ? 1 : 3;
+    const int quarters = (asked + more) % 4;
+    const std::array<QTransform, 4> turned{
+        QTransform(1, 0, 0, 1, paper.left(), paper.top()), QTransform(0, 1, -1, 0, paper.right(), paper.top()),
+        QTransform(-1, 0, 0, -1, paper.right(), paper.bottom()), QTransform(0, -1, 1, 0, paper.left(), paper.bottom())};
+    const QSizeF size = quarters % 2 == 1 ? paper.size().transposed() : paper.size();
+    return {QRectF(QPointF(), size), turned[static_cast<std::size_t>(quarters)], isAskedToLie};
+}
+
+bool lies(const QSizeF &page)
+{
+    return page.width() > page.height();
 }
 
 /// Pages dealt out to sheets. \param set which of the sheets are wanted when they hold several pages.
@@ -69,10 +99,27 @@ std::vector<Label> dealOut(const std::vector<PageOfAll> &pages, const TapePage &
                            PageSet set)
 {
     // Paper is laid out on what can be printed of it, as the filters do; tape keeps its margins free as well.
-    const QRectF upright = page.layoutRect();
-    const bool lies = !page.isTape && choices.turn == Turn::Automatic && liesOnPaper(choices.pagesPerSheet);
-    const QRectF area = lies ? QRectF(QPointF(), upright.size().transposed()) : upright;
-    const QTransform backUp = lies ? QTransform(0, -1, 1, 0, upright.left(), upright.bottom()) : QTransform();
+    const bool isSheetTurned = !page.isTape && choices.pagesPerSheet > 1;
+    const SheetOfPages sheetPages =
+        isSheetTurned ? sheetOfPaper(page.layoutRect(), choices) : SheetOfPages{page.layoutRect(), QTransform()};
+    const auto choicesFor = [&](const PageOfAll &source) {
+        LayoutChoices own = choices;
+        if (isSheetTurned) {
+            own.turn = lies(source.size) != sheetPages.turnsPages ? Turn::Left : Turn::None;
+        }
+        return own;
+    };
+    const auto placesFor = [&](const PageOfAll &source) {
+        if (!isSheetTurned) {
+            return placesOnSheet(choices.pagesPerSheet, sheetPages.area, source.size, choices);
+        }
+        // The order is that of the sheet, whichever way its pages are turned.
+        LayoutChoices upright = choices;
+        upright.turn = Turn::None;
+        const bool isTurned = choicesFor(source).turn == Turn::Left;
+        return placesOnSheet(choices.pagesPerSheet, sheetPages.area, isTurned ? source.size.transposed() : source.size,
+                             upright);
+    };
     const auto perSheet = static_cast<std::size_t>(choices.pagesPerSheet);
     std::vector<Label> sheets;
     for (std::size_t first = 0; first < pages.size(); first += perSheet) {
@@ -82,11 +129,12 @@ std::vector<Label> dealOut(const std::vector<PageOfAll> &pages, const TapePage &
         Label sheet;
         const std::size_t count = std::min(perSheet, pages.size() - first);
         // A sheet that is not full keeps the places of a full one.
-        const std::vector<QRectF> places = placesOnSheet(choices.pagesPerSheet, area, pages[first].size, choices);
+        const std::vector<QRectF> places = placesFor(pages[first]);
         for (std::size_t i = 0; i < count; ++i) {
-            PlacedPage laid = placed(pages[first + i], places[std::min(i, places.size() - 1)], choices);
-            laid.place *= backUp;
-            laid.clip = backUp.mapRect(laid.clip);
+            const PageOfAll &source = pages[first + i];
+            PlacedPage laid = placed(source, places[std::min(i, places.size() - 1)], choicesFor(source));
+            laid.place *= sheetPages.toPaper;
+            laid.clip = sheetPages.toPaper.mapRect(laid.clip);
             sheet.push_back(laid);
         }
         sheets.push_back(std::move(sheet));
@@ -95,6 +143,22 @@ std::vector<Label> dealOut(const std::vector<PageOfAll> &pages, const TapePage &
 }
 
 } // namespace
+
+std::size_t LabelPlan::sheetCount() const
+{
+    if (!page.isTwoSided) {
+        return labelCount();
+    }
+    std::size_t sheets = 0;
+    std::size_t sides = 0; // of the document so far
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        const bool isSameDocument = i > 0 && !labels[i].empty() && !labels[i - 1].empty() &&
+                                    labels[i].front().document == labels[i - 1].front().document;
+        sides = isSameDocument ? sides + 1 : 1;
+        sheets += sides % 2;
+    }
+    return sheets * static_cast<std::size_t>(copies);
+}
 
 double LabelPlan::tapeLengthMm() const
 {

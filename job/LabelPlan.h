@@ -37,6 +37,8 @@ struct LabelPlan {
 
     /// How much comes out of the printer with all copies.
     std::size_t labelCount() const { return labels.size() * static_cast<std::size_t>(copies); }
+    /// Labels, or sheets of paper: printed on both sides, two labels are one, and each document and copy begins anew.
+    std::size_t sheetCount() const;
     double tapeLengthMm() const;
 };
 

@@ -4,6 +4,7 @@
 
 #include "job/IppQuestion.h"
 #include "job/PlainText.h"
+#include "job/Reason.h"
 #include "job/Texts.h"
 
 #include <QSet>
@@ -90,10 +91,14 @@ QString details(const Printer &printer, bool isTape, ReasonWeight from)
     }
     // A printer that works leaves the last message standing, which says nothing of now. "Paused" is what CUPS writes
     // when whoever paused it gives no reason.
-    const QString message = harmless(printer.stateMessage.simplified());
+    const QString message = reasonText(printer.stateMessage);
     const bool says = !message.isEmpty() && message.compare(QLatin1String("paused"), Qt::CaseInsensitive) != 0;
     if (says && !printer.isWorking()) {
         words.append(message);
+    }
+    // "Paused" says no more than that the printer is stopped, when somebody says why.
+    if (says && printer.state == PrinterState::Stopped && words.size() > 1) {
+        words.removeOne(StateReason::parse(QStringLiteral("paused")).words(isTape));
     }
     words.removeDuplicates();
     return words.join(QLatin1String(", "));

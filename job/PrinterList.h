@@ -40,7 +40,7 @@ struct Printer {
     bool isWorking() const;
     /// Whether there is something that the person should know before printing.
     bool isFine() const;
-    /// The state in a few words, such as "Stopped: paused, out of tape".
+    /// The state in a few words, such as "Stopped: out of tape".
     QString stateWords(bool isTape) const;
     /// What the person should know before printing, as a sentence; null when all is fine.
     QString notice(bool isTape) const;

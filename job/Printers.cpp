@@ -15,8 +15,10 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <memory>
 #include <span>
+#include <thread>
 
 #include <cups/cups.h>
 
@@ -166,6 +168,42 @@ http_status_t fetchPpdOfQueueOrClass(const ServerConnection &server, const QStri
     return member.isEmpty() ? status : fetchPpd(server, member, file);
 }
 
+/// A printer found on the network has no queue until the print server is asked for one, which lasts as long as it is
+/// used. Its description is made from what the printer says of itself, and is there a while later. Where the server
+/// makes none, the printer is one without a description.
+void makeQueueOf(const ServerConnection &server, const cups_dest_t &found)
+{
+    constexpr std::chrono::seconds timeToDescribe{10};
+    constexpr std::chrono::milliseconds betweenLooks{100};
+    ipp_t *request = ippNewRequest(IPP_OP_CUPS_CREATE_LOCAL_PRINTER);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    const auto add = [&](ipp_tag_t type, const char *name, const QString &value) {
+        if (!value.isEmpty()) {
+            ippAddString(request, IPP_TAG_PRINTER, type, name, nullptr, value.toUtf8().constData());
+        }
+    };
+    add(IPP_TAG_URI, "device-uri", optionOf(found, "device-uri"));
+    add(IPP_TAG_NAME, "printer-name", QString::fromUtf8(found.name));
+    add(IPP_TAG_TEXT, "printer-info", optionOf(found, "printer-info"));
+    add(IPP_TAG_TEXT, "printer-location", optionOf(found, "printer-location"));
+    const Response response = askServer(server, request);
+    const MemoryFile description(mostPpdBytes + 1);
+    if (!response || ippGetStatusCode(response.get()) > IPP_STATUS_OK_EVENTS_COMPLETE || !description.isOpen()) {
+        return;
+    }
+    const auto end = std::chrono::steady_clock::now() + timeToDescribe;
+    while (!server.isStopped() && std::chrono::steady_clock::now() < end &&
+           fetchPpd(server, QString::fromUtf8(found.name), description) == HTTP_STATUS_NOT_FOUND) {
+        std::this_thread::sleep_for(betweenLooks);
+    }
+}
+
+bool isDiscovered(const cups_dest_t &destination)
+{
+    return (optionOf(destination, "printer-type").toUInt() & CUPS_PRINTER_DISCOVERED) != 0U;
+}
+
 } // namespace
 
 QueueName QueueName::parse(const QString &text)
@@ -198,6 +236,9 @@ std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueN
     // libcups answers any instance of a queue that exists: whether the person has one of that name is asked apart.
     if (destination && (instance.isEmpty() || SavedDestinations::read().hasInstance(wanted))) {
         PrintQueue queue = queueFrom(*destination);
+        if (isDiscovered(*destination)) {
+            makeQueueOf(server, *destination);
+        }
         completeFromServer(server, queue);
         return queue;
     }

@@ -4,6 +4,7 @@
 #include "job/TapePage.h"
 
 #include "job/CustomSizes.h"
+#include "job/UsualOptions.h"
 
 #include <algorithm>
 #include <cmath>
@@ -222,6 +223,7 @@ TapePage tapePageOf(ppd_file_t *ppd, const JobOptions &options, const TapeKeywor
     const std::optional<double> lengthPt = positiveLengthPt(options, keywords.lengthOption);
     page.isTape = !keywords.isEmpty() && lengthPt.has_value();
     if (!page.isTape) {
+        page.isTwoSided = isTwoSided(options, ppd);
         return page;
     }
     page.freeEndsPt = positiveLengthPt(options, keywords.marginOption).value_or(0.0);

@@ -33,6 +33,7 @@ struct TapePage {
     PageLength length = PageLength::Paper;
     bool isTape = false; ///< whether the printer prints on tape: the pages are then laid out on it by the job itself
     bool hasFixedLength = false; ///< whether the tape is one whose length nobody chooses
+    bool isTwoSided = false;     ///< whether the printer prints on both sides of the paper
 
     bool isEmpty() const { return sizePt.isEmpty(); }
     QRectF wholeRect() const { return {QPointF(), sizePt}; }

@@ -9,6 +9,7 @@
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <array>
 
 namespace tapeprint::job
 {
@@ -80,6 +81,21 @@ bool isCollated(const JobOptions &options, ppd_file_t *ppd)
         return options.value(OptionName::sheetCollate) != u"uncollated";
     }
     return isYes(markedChoice(ppd, QStringLiteral("Collate")));
+}
+
+bool isTwoSided(const JobOptions &options, ppd_file_t *ppd)
+{
+    if (options.contains(OptionName::sides)) {
+        return options.value(OptionName::sides).startsWith(QLatin1String("two-sided"));
+    }
+    // What makers call the option by which the filters tell.
+    static const std::array names{QStringLiteral("Duplex"),     QStringLiteral("JCLDuplex"),
+                                  QStringLiteral("EFDuplex"),   QStringLiteral("EFDuplexing"),
+                                  QStringLiteral("KD03Duplex"), QStringLiteral("ARDuplex")};
+    return std::any_of(names.begin(), names.end(), [&](const QString &name) {
+        const QString choice = options.contains(name) ? options.value(name) : markedChoice(ppd, name);
+        return choice == u"DuplexNoTumble" || choice == u"DuplexTumble";
+    });
 }
 
 JobOptions collating(bool collated, const JobOptions &options, ppd_file_t *ppd)

@@ -22,6 +22,7 @@ inline const QString billing = QStringLiteral("job-billing");
 inline const QString pageSet = QStringLiteral("page-set");
 inline const QString outputOrder = QStringLiteral("outputorder");
 inline const QString collate = QStringLiteral("collate");
+inline const QString sides = QStringLiteral("sides");
 inline const QString sheetCollate = QStringLiteral("sheet-collate");
 inline const QString documentHandling = QStringLiteral("multiple-document-handling");
 inline const QString printScaling = QStringLiteral("print-scaling");
@@ -42,6 +43,9 @@ bool isReversed(const JobOptions &options);
 /// Whether copies come out one after the other, instead of all copies of each page. \param ppd its marks count where
 /// the job says nothing; may be null.
 bool isCollated(const JobOptions &options, ppd_file_t *ppd);
+
+/// Whether paper is printed on both sides. \param ppd as above.
+bool isTwoSided(const JobOptions &options, ppd_file_t *ppd);
 
 /// The options that make copies collated or not, of those that the filters read; where a PPD has an option of its own
 /// for it, by that option's name.

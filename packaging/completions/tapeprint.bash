@@ -4,7 +4,7 @@
 # The words that the program has for a question, with the printer that the line names so far.
 _tapeprint_ask() {
     local printer=() i
-    for ((i = 1; i < COMP_CWORD; i++)); do
+    for ((i = 1; i < COMP_CWORD - 1; i++)); do # what is being typed names no printer yet
         case ${COMP_WORDS[i]} in
         -d | --ppd | -h | -U) printer+=("${COMP_WORDS[i]}" "${COMP_WORDS[i + 1]-}") ;;
         esac

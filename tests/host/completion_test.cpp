@@ -59,6 +59,7 @@ TEST_F(Completions, OfBash_FollowThePrinterOfTheLine)
     EXPECT_EQ(offered(u"--ppd te"_qs), QStringList{u"test.ppd"_qs});
     EXPECT_EQ(offered(u"lab"_qs), QStringList{u"label.txt"_qs});
     EXPECT_EQ(offered(u"-t lab"_qs), QStringList());
+    EXPECT_EQ(offered(u"-d "_qs), QStringList()); // without a server there is no queue, and a file is none
 }
 
 /// A shell that is not on the machine reads nothing; the other two are tried where they are.

@@ -44,6 +44,16 @@ TEST_F(MeasureUnitTest, LengthsOfBothUnits_AreThereAndBackTheSamePoints)
     EXPECT_EQ(measureText(1.5 * inchPt, LengthUnit::Millimetre), u"38.1 mm"_qs);
 }
 
+TEST_F(MeasureUnitTest, Thousand_IsWrittenWithoutGroupsInThePanelsDigits)
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    EXPECT_EQ(measureText(1000.0 / 25.4 * inchPt, LengthUnit::Millimetre), u"1000,0 mm"_qs);
+    QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
+    EXPECT_EQ(measureText(1000.0 / 25.4 * inchPt, LengthUnit::Millimetre), u"1000.0 mm"_qs);
+    QLocale::setDefault(before);
+}
+
 TEST_F(MeasureUnitTest, MuchTape_IsToldInMetresOrFeet)
 {
     EXPECT_EQ(tapeText(35.9 * inchPt, LengthUnit::Inch), u"35.9 in"_qs);
@@ -64,6 +74,23 @@ TEST_F(MeasureUnitTest, UnitOfTheDescription_HoldsUntilThePersonChoosesOne)
     unit.setDescribed(LengthUnit::Inch); // another printer that counts in inches
     EXPECT_EQ(unit.unit(), LengthUnit::Millimetre);
     EXPECT_EQ(changes.count(), 1);
+}
+
+TEST_F(MeasureUnitTest, UnitThatCannotBeKept_HoldsAndIsSaidOnce)
+{
+    hosttest::writeFile(folder, u"file"_qs, {});
+    MeasureUnit unit(folder.filePath(u"file/dialog.ini"_qs)); // there is no folder of that name
+    const QSignalSpy said(&unit, &MeasureUnit::notKept);
+    unit.choose(LengthUnit::Inch);
+    unit.choose(LengthUnit::Millimetre);
+    unit.choose(LengthUnit::Inch);
+    EXPECT_EQ(unit.unit(), LengthUnit::Inch);
+    ASSERT_EQ(said.count(), 1);
+    EXPECT_EQ(said[0][0].toString(), folder.filePath(u"file/dialog.ini"_qs));
+    MeasureUnit kept(settings);
+    const QSignalSpy nothing(&kept, &MeasureUnit::notKept);
+    kept.choose(LengthUnit::Inch);
+    EXPECT_EQ(nothing.count(), 0);
 }
 
 TEST_F(MeasureUnitTest, ChosenUnit_IsRememberedByTheNextWindow)

@@ -4,6 +4,7 @@
 #include "WindowTime.h"
 
 #include "dialog/OptionsPage.h"
+#include "dialog/PopUp.h"
 #include "job/PpdMarks.h"
 #include "tests/support/TextPrinting.h"
 
@@ -192,6 +193,18 @@ TEST_F(OptionsPageTest, OptionThatTakesSeveral_HasBoxesOfWhichOneStaysChecked)
     child<QCheckBox>(u"Add/C"_qs)->click();
     EXPECT_TRUE(child<QCheckBox>(u"Add/C"_qs)->isChecked());
     EXPECT_EQ(carried(u"Add"_qs), u"C"_qs);
+}
+
+TEST_F(OptionsPageTest, ChosenText_IsWholeWhereThereIsRoomAndNeedsNone)
+{
+    open(pickOne("Tone", "*Tone A/As the printer is set up: \"\"\n*Tone B/Off: \"\"\n"));
+    auto *popUp = child<PopUp>(u"Tone"_qs);
+    page->resize(page->sizeHint());
+    page->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(page.get()));
+    EXPECT_FALSE(popUp->isCut());
+    page->resize(page->minimumSizeHint());
+    EXPECT_TRUE(QTest::qWaitFor([popUp] { return popUp->isCut(); }));
 }
 
 TEST_F(OptionsPageTest, HostileTexts_AreDrawnAsTheyStand)

@@ -105,6 +105,7 @@ TEST(PrinterModel, Row_SaysWhatThereIsToKnow)
     EXPECT_FALSE(index.data(Qt::DecorationRole).value<QIcon>().isNull());
     EXPECT_TRUE(index.data(PrinterModel::SearchRole).toString().contains(u"Hall"_qs));
     EXPECT_TRUE(model.index(1).data(Qt::ToolTipRole).toString().contains(u"Found on the network"_qs));
+    EXPECT_FALSE(model.index(1).data(Qt::DecorationRole).value<QIcon>().isNull()); // its name begins where others do
     EXPECT_EQ(model.index(2).data(Qt::AccessibleTextRole).toString(), u"gone, not there any more"_qs);
 }
 

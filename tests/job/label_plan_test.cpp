@@ -156,6 +156,78 @@ TEST(LabelPlan_Sheets, TwoPagesOnPaper_StandOnASheetThatLiesTurnedAgainstTheCloc
     EXPECT_EQ(four.labels[0][0].place.map(QPointF(0, 0)), QPointF(0, 0));
 }
 
+/// Where a sheet's pages stand, and where the top left corner of the first goes.
+struct LaidPages {
+    std::vector<QRectF> clips;
+    QPointF corner;
+};
+
+LaidPages laidOnPaper(int count, const QSizeF &size, const QString &orientation)
+{
+    TapePage paper;
+    paper.sizePt = {600, 800};
+    const LabelPlan plan =
+        planLabels({pages(count, size)}, paper,
+                   options({{u"number-up"_qs, QString::number(count)}, {u"orientation-requested"_qs, orientation}}));
+    LaidPages laid;
+    for (const PlacedPage &page : plan.labels.at(0)) {
+        laid.clips.push_back(page.clip);
+    }
+    laid.corner = plan.labels[0][0].place.map(QPointF(0, 0));
+    return laid;
+}
+
+// The expected places are those of CUPS's own filters on a page of 600 x 800 points.
+TEST(LabelPlan_Sheets, OrientationOfTwoPagesOnPaper_TurnsTheirSheet)
+{
+    const QSizeF page(398.5, 600);
+    const QRectF upper(0, 0, 600, 398.5);
+    const QRectF lower(0, 401.5, 600, 398.5);
+    const LaidPages upright = laidOnPaper(2, page, u"3"_qs);
+    EXPECT_EQ(upright.clips, std::vector({lower, upper}));
+    EXPECT_EQ(upright.corner, QPointF(0, 800));
+    // A sheet that lies by itself stands when it is to lie; its pages are turned against the clock to fill it.
+    const LaidPages lying = laidOnPaper(2, page, u"4"_qs);
+    EXPECT_EQ(lying.clips, std::vector({upper, lower}));
+    EXPECT_EQ(lying.corner, QPointF(0, 398.5));
+    const LaidPages lyingTheOtherWay = laidOnPaper(2, page, u"5"_qs);
+    EXPECT_EQ(lyingTheOtherWay.clips, std::vector({lower, upper}));
+    EXPECT_EQ(lyingTheOtherWay.corner, QPointF(600, 401.5));
+    const LaidPages overhead = laidOnPaper(2, page, u"6"_qs);
+    EXPECT_EQ(overhead.clips, std::vector({upper, lower}));
+    EXPECT_EQ(overhead.corner, QPointF(600, 0));
+}
+
+TEST(LabelPlan_Sheets, OrientationOfFourPagesOnPaper_TurnsTheirSheet)
+{
+    const QRectF topLeft(0, 0, 298.5, 398.5);
+    const QRectF topRight(301.5, 0, 298.5, 398.5);
+    const QRectF bottomLeft(0, 401.5, 298.5, 398.5);
+    const QRectF bottomRight(301.5, 401.5, 298.5, 398.5);
+    const LaidPages lying = laidOnPaper(4, {298.5, 398.5}, u"4"_qs);
+    EXPECT_EQ(lying.clips, std::vector({bottomLeft, topLeft, bottomRight, topRight}));
+    EXPECT_EQ(lying.corner, QPointF(298.5, 800)); // on its head
+    const LaidPages overhead = laidOnPaper(4, {298.5, 398.5}, u"6"_qs);
+    EXPECT_EQ(overhead.clips, std::vector({bottomRight, bottomLeft, topRight, topLeft}));
+    EXPECT_EQ(overhead.corner, QPointF(600, 800));
+    // Pages that lie are turned one by one, and keep the sheet's order.
+    const LaidPages wide = laidOnPaper(4, {398.5, 298.5}, u"3"_qs);
+    EXPECT_EQ(wide.clips, std::vector({topLeft, topRight, bottomLeft, bottomRight}));
+    EXPECT_EQ(wide.corner, QPointF(0, 398.5));
+}
+
+TEST(LabelPlan_Sheets, BothSidesOfPaper_CountOnceForEachDocumentAndCopy)
+{
+    TapePage paper = tape();
+    paper.isTape = false;
+    const JobOptions twoCopies = options({{u"copies"_qs, u"2"_qs}});
+    EXPECT_EQ(planLabels({pages(5), pages(2)}, paper, twoCopies).sheetCount(), 14U);
+    paper.isTwoSided = true;
+    EXPECT_EQ(planLabels({pages(5), pages(2)}, paper, twoCopies).sheetCount(), 8U); // 3 and 1, twice
+    EXPECT_EQ(planLabels({pages(5)}, paper, options({{u"number-up"_qs, u"2"_qs}})).sheetCount(), 2U);
+    EXPECT_EQ(planLabels({}, paper, {}).sheetCount(), 0U);
+}
+
 TEST(LabelPlan_Sheets, NumberUpLayout_SaysWhereTheFirstPageStands)
 {
     // Two pages on a tape that is four times as long as wide stand one above the other.

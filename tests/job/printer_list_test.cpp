@@ -135,7 +135,7 @@ TEST(PrinterState, Words_NameStateReasonsAndMessage)
               u"Printing: being connected"_qs);
     EXPECT_EQ(printer(PrinterState::Stopped, {u"paused"_qs}, u"Paused"_qs).stateWords(true), u"Stopped: paused"_qs);
     EXPECT_EQ(printer(PrinterState::Stopped, {u"paused"_qs, u"media-empty"_qs}, u"load \u202Etape"_qs).stateWords(true),
-              u"Stopped: paused, out of tape, load \\u202Etape"_qs);
+              u"Stopped: out of tape, load \\u202Etape"_qs);
     // What a driver said of the job before says nothing of now.
     EXPECT_EQ(printer(PrinterState::Idle, {}, u"Rendering completed"_qs).stateWords(true), u"Ready"_qs);
     Printer rejecting = printer(PrinterState::Idle);
@@ -152,8 +152,9 @@ TEST(PrinterState, Notice_IsGivenOfWhatThePersonHasToKnowAlone)
     EXPECT_TRUE(printer(PrinterState::Processing, {u"offline-report"_qs}).notice(true).isNull());
     EXPECT_EQ(printer(PrinterState::Idle, {u"media-low-warning"_qs, u"offline-report"_qs}).notice(false),
               u"The printer tape says: little paper is left."_qs);
-    EXPECT_EQ(printer(PrinterState::Stopped, {u"paused"_qs}, u"out of tape"_qs).notice(true),
-              u"The printer tape is stopped: paused, out of tape. A job waits until it goes on."_qs);
+    // Whoever stopped it said why, in a sentence of their own.
+    EXPECT_EQ(printer(PrinterState::Stopped, {u"paused"_qs}, u"Out of tape."_qs).notice(true),
+              u"The printer tape is stopped: Out of tape. A job waits until it goes on."_qs);
     EXPECT_EQ(printer(PrinterState::Stopped).notice(true),
               u"The printer tape is stopped. A job waits until it goes on."_qs);
     Printer rejecting = printer(PrinterState::Stopped, {u"paused"_qs});

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the options mean that any job can have, and titles that every print server takes.
+#include "job/TapePage.h"
 #include "job/UsualOptions.h"
 #include "tests/job/TapePpd.h"
 #include "tests/support/TextPrinting.h"
@@ -25,6 +26,24 @@ TEST(Collating, EveryNameThatTheFiltersRead_Counts)
     EXPECT_TRUE(isCollated(options({{handling, u"separate-documents-collated-copies"_qs}}), nullptr));
     EXPECT_FALSE(isCollated(options({{handling, u"separate-documents-uncollated-copies"_qs}}), nullptr));
     EXPECT_TRUE(isCollated(options({{u"sheet-collate"_qs, u"collated"_qs}}), nullptr));
+}
+
+TEST(BothSides, AreToldByEveryNameThatTheFiltersRead)
+{
+    EXPECT_FALSE(isTwoSided({}, nullptr));
+    EXPECT_TRUE(isTwoSided(options({{u"sides"_qs, u"two-sided-long-edge"_qs}}), nullptr));
+    EXPECT_FALSE(isTwoSided(options({{u"sides"_qs, u"one-sided"_qs}, {u"Duplex"_qs, u"DuplexTumble"_qs}}), nullptr));
+    EXPECT_TRUE(isTwoSided(options({{u"EFDuplex"_qs, u"DuplexTumble"_qs}}), nullptr));
+    const PpdFile ppd = jobtest::ppdOf(jobtest::tapePpdText(
+        "*OpenUI *Duplex/Two-Sided: PickOne\n*DefaultDuplex: DuplexNoTumble\n*Duplex None/Off: \"\"\n"
+        "*Duplex DuplexNoTumble/Long Edge: \"\"\n*CloseUI: *Duplex\n"));
+    EXPECT_TRUE(isTwoSided({}, ppd.get()));
+    EXPECT_FALSE(isTwoSided(options({{u"Duplex"_qs, u"None"_qs}}), ppd.get()));
+    // A tape has but one side, whatever its description says.
+    EXPECT_TRUE(tapePageOf(ppd.get(), {}, {}).isTwoSided);
+    TapeKeywords keywords;
+    keywords.lengthOption = u"Length"_qs;
+    EXPECT_FALSE(tapePageOf(ppd.get(), options({{u"Length"_qs, u"100"_qs}}), keywords).isTwoSided);
 }
 
 TEST(Collating, DescriptionWithAnOptionForIt_SaysItByThatName)
