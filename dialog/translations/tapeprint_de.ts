@@ -898,6 +898,10 @@
         <source>%1 does not accept the settings. Nothing was printed.</source>
         <translation>%1 nimmt die Einstellungen nicht an. Gedruckt wurde nichts.</translation>
     </message>
+    <message>
+        <source>The unit holds for this window alone: %1 cannot be written.</source>
+        <translation>Die Einheit gilt nur für dieses Fenster: %1 kann nicht geschrieben werden.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>

@@ -898,6 +898,10 @@
         <source>%1 does not accept the settings. Nothing was printed.</source>
         <translation>%1 does not accept the settings. Nothing was printed.</translation>
     </message>
+    <message>
+        <source>The unit holds for this window alone: %1 cannot be written.</source>
+        <translation>The unit holds for this window alone: %1 cannot be written.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>

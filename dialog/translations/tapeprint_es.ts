@@ -898,6 +898,10 @@
         <source>%1 does not accept the settings. Nothing was printed.</source>
         <translation>%1 no acepta los ajustes. No se imprimió nada.</translation>
     </message>
+    <message>
+        <source>The unit holds for this window alone: %1 cannot be written.</source>
+        <translation>La unidad vale solo para esta ventana: no se puede escribir %1.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>

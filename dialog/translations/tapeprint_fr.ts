@@ -898,6 +898,10 @@
         <source>%1 does not accept the settings. Nothing was printed.</source>
         <translation>%1 n’accepte pas les réglages. Rien n’a été imprimé.</translation>
     </message>
+    <message>
+        <source>The unit holds for this window alone: %1 cannot be written.</source>
+        <translation>L’unité ne vaut que pour cette fenêtre : %1 ne peut pas être écrit.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>

@@ -898,6 +898,10 @@
         <source>%1 does not accept the settings. Nothing was printed.</source>
         <translation>%1 non accetta le impostazioni. Non è stato stampato nulla.</translation>
     </message>
+    <message>
+        <source>The unit holds for this window alone: %1 cannot be written.</source>
+        <translation>L’unità vale solo per questa finestra: impossibile scrivere %1.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>

@@ -894,6 +894,10 @@
         <source>%1 does not accept the settings. Nothing was printed.</source>
         <translation>%1が設定を受け付けません。何も印刷されていません。</translation>
     </message>
+    <message>
+        <source>The unit holds for this window alone: %1 cannot be written.</source>
+        <translation>単位はこのウィンドウでのみ有効です。%1 に書き込めません。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>

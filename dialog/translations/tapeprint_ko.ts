@@ -894,6 +894,10 @@
         <source>%1 does not accept the settings. Nothing was printed.</source>
         <translation>%1이(가) 설정을 받아들이지 않습니다. 아무것도 인쇄되지 않았습니다.</translation>
     </message>
+    <message>
+        <source>The unit holds for this window alone: %1 cannot be written.</source>
+        <translation>단위는 이 창에서만 적용됩니다. %1에 쓸 수 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>

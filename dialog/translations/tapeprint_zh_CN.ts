@@ -894,6 +894,10 @@
         <source>%1 does not accept the settings. Nothing was printed.</source>
         <translation>%1不接受这些设置。没有打印任何内容。</translation>
     </message>
+    <message>
+        <source>The unit holds for this window alone: %1 cannot be written.</source>
+        <translation>单位仅对此窗口有效：无法写入 %1。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
