@@ -43,8 +43,11 @@ protected:
     void SetUp() override
     {
         ASSERT_NO_FATAL_FAILURE(PortalSession::SetUp());
+        ASSERT_NO_FATAL_FAILURE(prepareSession());
         ASSERT_NO_FATAL_FAILURE(startSession(false));
     }
+    /// What has to be there before the session's bus is.
+    virtual void prepareSession() {}
 
     Reply prepare(const QString &token, const QString &parentWindow = {})
     {
@@ -378,16 +381,14 @@ TEST_F(Backend, WithoutBusOrDisplayOrWithAnotherInItsPlace_SaysWhyAndEnds)
 class BackendOnWayland : public Backend
 {
 protected:
-    void SetUp() override
+    void prepareSession() override
     {
-        ASSERT_NO_FATAL_FAILURE(PortalSession::SetUp());
         moreOfSession = {{u"DISPLAY"_qs, QString()}, {u"WAYLAND_DISPLAY"_qs, socket}, {u"WAYLAND_DEBUG"_qs, u"1"_qs}};
         ASSERT_NO_FATAL_FAILURE(startProgram(
             compositor, u"weston"_qs,
             {u"--backend=headless-backend.so"_qs, u"--socket="_qs + socket, u"--idle-time=0"_qs, u"--no-config"_qs}));
         ASSERT_TRUE(waitUntil([this] { return QFileInfo::exists(folder.path(u"run"_qs) + u'/' + socket); }))
             << compositor.readAllStandardError().toStdString();
-        ASSERT_NO_FATAL_FAILURE(startSession(false));
     }
     void TearDown() override
     {
