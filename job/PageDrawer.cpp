@@ -19,8 +19,8 @@ using OpenPdf = PageDrawer *(*)(const QString &path);
 /// How the module is loaded. Poppler keeps objects that go when the program ends.
 ///
 /// Bound deeply, its libraries look for a name among themselves before they look through the seventy that the program
-/// has loaded by then: a third of the time that loading takes. Not where somebody stands between them and the C library,
-/// as sanitizers and preloaded allocators do: what one of these hands out, the other cannot free.
+/// has loaded by then: a third of the time that loading takes. Not where somebody stands between them and the C
+/// library, as sanitizers and preloaded allocators do: what one of these hands out, the other cannot free.
 QLibrary::LoadHints loadHints()
 {
 #ifdef __SANITIZE_ADDRESS__
