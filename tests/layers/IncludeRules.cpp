@@ -167,7 +167,7 @@ std::string checkUnnamedInclude(const fs::path &file, std::string_view path)
     if (path.find('/') == std::string_view::npos && fs::exists(file.parent_path() / path)) {
         return {};
     }
-    return "\"" + std::string(path) + "\" does not begin with a room's name";
+    return std::string("\"").append(path).append("\" does not begin with a room's name");
 }
 
 std::string checkInclude(const Room &room, const fs::path &file, const Include &include,
