@@ -93,6 +93,9 @@ Line parse(const QByteArray &raw)
     }
     const qsizetype slash = name.indexOf('/');
     line.queue = slash < 0 ? name : name.left(slash);
+    if (line.queue.isEmpty()) {
+        return {}; // "Dest /": about no queue, and written anew its options would be taken for one
+    }
     line.instance = slash < 0 ? QByteArray() : name.mid(slash + 1);
     return line;
 }

@@ -213,6 +213,13 @@ TEST_F(Presets, OneIsTheDefaultAtMost)
     EXPECT_EQ(written(), "Dest office A=1\nDest tape/red Ink=Red\nDefault tape\n");
 }
 
+TEST_F(Presets, ALineWithoutAQueue_StaysAsItIsWhenAnotherBecomesTheDefault)
+{
+    write(ownPath(), "Default / A=1\nDest tape/red Ink=Red\n");
+    ASSERT_TRUE(makePresetDefault(u"tape"_qs, u"red"_qs, &error)) << error.sentence.toStdString();
+    EXPECT_EQ(written(), "Default / A=1\nDefault tape/red Ink=Red\n");
+}
+
 TEST_F(Presets, Deleting_AMissingOne_IsSaid)
 {
     write(ownPath(), "Dest tape/red Ink=Red\n");
