@@ -14,9 +14,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <utility>
+#include <vector>
 
 #include <unistd.h>
 
@@ -35,24 +37,53 @@ constexpr std::chrono::milliseconds farewell(30);
 /// needs would go away beneath it.
 std::atomic<int> workers = 0;
 
+/// A worker's thread, until it has been waited for.
+struct StartedWorker {
+    std::thread thread;
+    std::shared_ptr<const std::atomic<bool>> isDone;
+};
+
+/// Of the window's thread alone. It is never taken down: threads may outlive it.
+std::vector<StartedWorker> &startedWorkers()
+{
+    static auto *const all = new std::vector<StartedWorker>;
+    return *all;
+}
+
+/// Waits for the threads whose work is done: what they hold of libraries they give back after that.
+void joinDoneWorkers()
+{
+    for (StartedWorker &worker : startedWorkers()) {
+        if (*worker.isDone) {
+            worker.thread.join();
+        }
+    }
+    std::erase_if(startedWorkers(), [](const StartedWorker &worker) { return !worker.thread.joinable(); });
+}
+
 void endWithoutWorkers(int status, void * /*nothing*/)
 {
     if (workers > 0) {
         std::fflush(nullptr);
         ::_exit(status);
     }
+    joinDoneWorkers();
 }
 
 /// Runs a worker's work in a thread of its own.
 void startWorker(std::function<void()> work)
 {
     [[maybe_unused]] static const int registered = ::on_exit(endWithoutWorkers, nullptr);
+    joinDoneWorkers();
     ++workers;
-    std::thread([work = std::move(work)]() mutable {
+    const auto isDone = std::make_shared<std::atomic<bool>>(false);
+    std::thread thread([work = std::move(work), isDone]() mutable {
         work();
         work = nullptr; // and what it holds
+        *isDone = true;
         --workers;
-    }).detach();
+    });
+    startedWorkers().push_back({std::move(thread), isDone});
 }
 
 bool isWhite(const QImage &image)
