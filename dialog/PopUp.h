@@ -19,6 +19,7 @@ public:
     /// Asks for room for so many letters where there is room; less than the least is no matter.
     void setWishedLetters(int letters);
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
     /// Whether the text of the current item is shortened.
     bool isCut() const;
     void showPopup() override;
