@@ -294,11 +294,6 @@ PageRenderer::~PageRenderer()
     }
 }
 
-void PageRenderer::prepare()
-{
-    startWorker(job::loadDrawer);
-}
-
 void PageRenderer::setDocuments(const QStringList &pdfPaths, const QStringList &shownAs)
 {
     ++mGeneration;

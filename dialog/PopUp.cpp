@@ -7,6 +7,7 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QListView>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
@@ -34,6 +35,11 @@ void PopUp::setWishedLetters(int letters)
 {
     mWishedLetters = letters;
     updateGeometry();
+}
+
+void PopUp::setHasItemsAlike(bool hasItemsAlike)
+{
+    mHasItemsAlike = hasItemsAlike;
 }
 
 QSize PopUp::sizeHint() const
@@ -83,6 +89,11 @@ void PopUp::showPopup()
     const int bar = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
     const int most = screen()->availableSize().width() * 2 / 3;
     view()->setTextElideMode(Qt::ElideMiddle);
+    if (auto *list = qobject_cast<QListView *>(view()); list != nullptr && mHasItemsAlike) {
+        // Or each of ten thousand would be measured and placed before the first is seen.
+        list->setUniformItemSizes(true);
+        list->setLayoutMode(QListView::Batched);
+    }
     view()->setMinimumWidth(std::min(listWidth() + bar, most));
     QComboBox::showPopup();
 }
