@@ -18,6 +18,7 @@
 #include <ctime>
 #include <mutex>
 #include <string>
+#include <system_error>
 #include <thread>
 
 #include <cerrno>
@@ -186,8 +187,12 @@ private:
 BundleGuard::BundleGuard(const QString &bundlePath, Step step)
 {
     takeMark(bundlePath, step);
-    if (mReason.isNull()) {
+    if (!mReason.isNull()) {
+        return;
+    }
+    try {
         mWaiting = std::make_unique<Waiting>(bundlePath);
+    } catch (const std::system_error &) { // no thread is to be had: the code runs unwatched
     }
 }
 
