@@ -83,13 +83,14 @@ public:
         const job::SettledJob &job, const job::PrintWatch &watch, job::Problem *error)>;
 
     /// \param job and \param panels outlive the window. With a destination opened already, the window shows it; else it
-    /// opens the one of the request, away from its thread, and can be shown meanwhile.
+    /// opens the one of the request, away from its thread, and can be shown meanwhile. One that has printed and closed
+    /// may be shown again, for another job with what stands in it.
     PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction);
     ~PrintDialog() override;
 
     /// Whether the first printer is open, or it is known that there is none to open by itself.
     bool isSettled() const { return !mPrinters.isOpening(); }
-    /// What became of the job; nothing when nothing was printed.
+    /// What became of the job; nothing when nothing was printed since the window was shown.
     const std::optional<job::PrintedJob> &printed() const { return mRun.printed(); }
 
     /// Escape: the window closes, or, while a job is laid out and sent, that ends and the window stays. A job that the
@@ -183,6 +184,7 @@ private:
     void print();
     void cancel();
     void leaveJob();
+    void openAgain();
     void showPrinting();
     void tellJob(const QString &words, int percent);
     void failPrinting(const job::Problem &problem);

@@ -5,6 +5,7 @@
 #include "dialog/PrintDialog.h"
 #include "dialog/SaveButton.h"
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -143,6 +144,15 @@ void PrintDialog::leaveJob()
 {
     mRun.leave();
     accept();
+}
+
+void PrintDialog::openAgain()
+{
+    mClosed = false;
+    mRun.forget();
+    QApplication::instance()->installEventFilter(this);
+    showPrinting();
+    showCurrentPanel();
 }
 
 void PrintDialog::reject()
