@@ -69,8 +69,8 @@ QString PresetNameDialog::name() const
 void PresetNameDialog::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isReturn && mField->hasFocus() && !mButtons->button(QDialogButtonBox::Save)->isEnabled() &&
-        mOffer->isVisible()) {
+    const bool isOnAButton = focusWidget() != nullptr && mButtons->isAncestorOf(focusWidget()); // Cancel is pressed
+    if (isReturn && !isOnAButton && !mButtons->button(QDialogButtonBox::Save)->isEnabled() && mOffer->isVisible()) {
         takeOffer();
         return;
     }
