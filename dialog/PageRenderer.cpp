@@ -2,6 +2,7 @@
 // Wishes go to the worker under a lock, answers come back as queued calls.
 #include "dialog/PageRenderer.h"
 
+#include "dialog/DetachedThread.h"
 #include "job/PageDrawer.h"
 
 #include <QMetaObject>
@@ -11,16 +12,10 @@
 #include <chrono>
 #include <cmath>
 #include <condition_variable>
-#include <cstdio>
-#include <cstdlib>
-#include <functional>
 #include <memory>
 #include <mutex>
-#include <thread>
 #include <utility>
 #include <vector>
-
-#include <unistd.h>
 
 namespace tapeprint::dialog
 {
@@ -32,59 +27,6 @@ constexpr double mostDotsAPage = 16e6;      ///< a page that would take more is 
 constexpr qsizetype mostBytes = 64LL << 20; ///< of all pictures kept
 /// A worker with nothing to do, or whose page can be stopped, is gone within this.
 constexpr std::chrono::milliseconds farewell(30);
-
-/// How many workers there are. A program must not end under one that is deep in a document: the objects that Poppler
-/// needs would go away beneath it.
-std::atomic<int> workers = 0;
-
-/// A worker's thread, until it has been waited for.
-struct StartedWorker {
-    std::thread thread;
-    std::shared_ptr<const std::atomic<bool>> isDone;
-};
-
-/// Of the window's thread alone. It is never taken down: threads may outlive it.
-std::vector<StartedWorker> &startedWorkers()
-{
-    static auto *const all = new std::vector<StartedWorker>;
-    return *all;
-}
-
-/// Waits for the threads whose work is done: what they hold of libraries they give back after that.
-void joinDoneWorkers()
-{
-    for (StartedWorker &worker : startedWorkers()) {
-        if (*worker.isDone) {
-            worker.thread.join();
-        }
-    }
-    std::erase_if(startedWorkers(), [](const StartedWorker &worker) { return !worker.thread.joinable(); });
-}
-
-void endWithoutWorkers(int status, void * /*nothing*/)
-{
-    if (workers > 0) {
-        std::fflush(nullptr);
-        ::_exit(status);
-    }
-    joinDoneWorkers();
-}
-
-/// Runs a worker's work in a thread of its own.
-void startWorker(std::function<void()> work)
-{
-    [[maybe_unused]] static const int registered = ::on_exit(endWithoutWorkers, nullptr);
-    joinDoneWorkers();
-    ++workers;
-    const auto isDone = std::make_shared<std::atomic<bool>>(false);
-    std::thread thread([work = std::move(work), isDone]() mutable {
-        work();
-        work = nullptr; // and what it holds
-        *isDone = true;
-        --workers;
-    });
-    startedWorkers().push_back({std::move(thread), isDone});
-}
 
 bool isWhite(const QImage &image)
 {
@@ -109,7 +51,7 @@ public:
     static std::shared_ptr<Worker> start(PageRenderer *owner)
     {
         auto worker = std::make_shared<Worker>(owner);
-        startWorker([worker] { worker->run(); });
+        startDetached([worker] { worker->run(); });
         return worker;
     }
 

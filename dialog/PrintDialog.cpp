@@ -52,7 +52,9 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     // toolkit loads in this one would have to wait until Poppler and all that it brings is in.
     mPrinters.start(mJob.destination());
     buildControls();
-    addCommandButton();
+    if (mSetup.showsCommand) {
+        addCommandButton();
+    }
     connect(&mUnit, &MeasureUnit::notKept, this, [this](const QString &path) {
         say(QMessageBox::Warning,
             tr("The unit holds for this window alone: %1 cannot be written.").arg(job::harmless(path)));
@@ -125,8 +127,11 @@ void PrintDialog::makePages()
         const PanelEntry &entry = mPanels.entries()[i];
         addPage(entry.view != nullptr ? entry.view.data() : makeWordsForNoView(), entry.name, i);
     }
-    mLayoutPage = new LayoutPage(mJob, mPages);
-    connect(mLayoutPage, &LayoutPage::picked, this, &PrintDialog::pickOption);
+    // Without a description nobody lays pages out.
+    if (mJob.ppd() != nullptr) {
+        mLayoutPage = new LayoutPage(mJob, mPages);
+        connect(mLayoutPage, &LayoutPage::picked, this, &PrintDialog::pickOption);
+    }
     mJobPage = new JobPage(mJob, mSetup.title, mPages);
     connect(mJobPage, &JobPage::picked, this, &PrintDialog::pickOption);
     connect(mJobPage, &JobPage::dropped, &mJob, &job::Job::dropOption);
@@ -146,7 +151,9 @@ void PrintDialog::makePages()
     if (!hasPanels && !mOptionsPage->isEmpty()) {
         addPage(mOptionsPage, tr("Printer Options"), std::nullopt);
     }
-    addPage(mLayoutPage, tr("Layout"), std::nullopt);
+    if (mLayoutPage) {
+        addPage(mLayoutPage, tr("Layout"), std::nullopt);
+    }
     addPage(mJobPage, tr("Job"), std::nullopt);
     if (hasPanels && !mOptionsPage->isEmpty()) {
         addPage(mOptionsPage, tr("More Options"), std::nullopt);

@@ -74,6 +74,7 @@ public:
         /// been printed. Null: the window prints.
         std::function<void(const job::SettledJob &job, const std::function<bool()> &keep)> takeSettings = nullptr;
         QString acceptLabel = {}; ///< of the button that does so; empty: Print
+        bool showsCommand = true; ///< whether a command could print it: not when the documents have no names
         QString aboutPages = {};  ///< a sentence about the pages that come later; null when there is none
     };
     /// What Print does when the settings are final, away from the window's thread. \param watch its stop flag becomes
@@ -83,13 +84,14 @@ public:
         const job::SettledJob &job, const job::PrintWatch &watch, job::Problem *error)>;
 
     /// \param job and \param panels outlive the window. With a destination opened already, the window shows it; else it
-    /// opens the one of the request, away from its thread, and can be shown meanwhile.
+    /// opens the one of the request, away from its thread, and can be shown meanwhile. One that has printed and closed
+    /// may be shown again, for another job with what stands in it.
     PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction printAction);
     ~PrintDialog() override;
 
     /// Whether the first printer is open, or it is known that there is none to open by itself.
     bool isSettled() const { return !mPrinters.isOpening(); }
-    /// What became of the job; nothing when nothing was printed.
+    /// What became of the job; nothing when nothing was printed since the window was shown.
     const std::optional<job::PrintedJob> &printed() const { return mRun.printed(); }
 
     /// Escape: the window closes, or, while a job is laid out and sent, that ends and the window stays. A job that the
@@ -157,6 +159,7 @@ private:
     void pickPage(int index);
     void follow();
     void followInThePreview();
+    QString whyNoPreview(const job::TapePage &page) const;
     void makeConflictNotice();
     void followConflicts();
     void resolveConflicts();
@@ -182,6 +185,7 @@ private:
     void print();
     void cancel();
     void leaveJob();
+    void openAgain();
     void showPrinting();
     void tellJob(const QString &words, int percent);
     void failPrinting(const job::Problem &problem);
@@ -203,6 +207,7 @@ private:
     bool isInPanel(const QWidget &widget) const;
     void helpPeople();
     QString whyGrey(const QWidget &control) const;
+    QString whyGreyInThePages(const QWidget &control) const;
 
     job::Job &mJob;
     Panels &mPanels;
@@ -254,7 +259,8 @@ private:
     QHBoxLayout *mAmountPlace = nullptr;      ///< before Cancel, for what is said beside Print; it gives way first
     AmountLabel *mAmount = nullptr;
     SaveButton *mSaveButton = nullptr;
-    JobRow *mJobRow = nullptr;          ///< shown while it prints
+    QStackedWidget *mFooter = nullptr; ///< the buttons beside Cancel and Print; while it prints, the job's row
+    JobRow *mJobRow = nullptr;
     QPushButton *mHelpButton = nullptr; ///< there while a panel that has help is in front
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;

@@ -82,6 +82,9 @@ void PrintDialog::takeDestination(job::Destination destination)
 
 void PrintDialog::showEvent(QShowEvent *event)
 {
+    if (mClosed) {
+        openAgain();
+    }
     QDialog::showEvent(event);
     // Some widgets know what they wish for only when they are shown.
     QTimer::singleShot(0, this, &PrintDialog::growUnlessSized);

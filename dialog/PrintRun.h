@@ -52,6 +52,8 @@ public:
 
     /// What became of it; nothing when nothing was printed.
     const std::optional<job::PrintedJob> &printed() const { return mPrinted; }
+    /// What became of an earlier job is of no interest any more. Only while nothing is printed.
+    void forget() { mPrinted.reset(); }
     /// The last news of a job that is followed.
     const std::optional<job::JobNews> &news() const { return mNews; }
 

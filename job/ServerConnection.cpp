@@ -28,12 +28,23 @@ constexpr int mostQuestions = 3;
 /// The innermost connection of the thread: connections may be nested.
 thread_local ServerConnection *current = nullptr; // NOLINT(*-avoid-non-const-global-variables): one a thread
 
+ServerConnection::Patience &patience()
+{
+    static ServerConnection::Patience ofAll;
+    return ofAll;
+}
+
 QString serverName()
 {
     return harmless(QString::fromUtf8(cupsServer()));
 }
 
 } // namespace
+
+void ServerConnection::setPatience(Patience patienceOfAll)
+{
+    patience() = std::move(patienceOfAll);
+}
 
 ServerConnection::ServerConnection(const std::atomic<bool> *stop, Passwords passwords)
     : mStop(stop), mPasswords(passwords), mThreadsUser(cupsUser()), mOuter(std::exchange(current, this))
@@ -124,7 +135,11 @@ bool ServerConnection::mayWaitOn()
     if (now - std::exchange(mLastTick, now) > 2 * tick) {
         mSilentSince = now - tick; // something was sent or came since
     }
-    mIsSilent = mIsSilent || now - mSilentSince >= longestSilence;
+    mIsSilent = mIsSilent || now - mSilentSince >= patience().longest;
+    if (!mIsSilent && !isOver() && patience().tell && now - mSilentSince >= patience().beforeWord &&
+        !std::exchange(mIsToldOf, true)) {
+        patience().tell(serverName());
+    }
     return !mIsSilent && !isOver();
 }
 

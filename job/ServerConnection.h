@@ -10,7 +10,9 @@
 
 #include <atomic>
 #include <chrono>
+#include <functional>
 #include <memory>
+#include <optional>
 
 #include <cups/cups.h>
 
@@ -29,8 +31,16 @@ namespace tapeprint::job
 class ServerConnection
 {
 public:
-    /// A server that works says something within this time; it is patience with silence, not with long answers.
-    static constexpr std::chrono::seconds longestSilence{10};
+    /// Patience with a server that says nothing, not with long answers.
+    struct Patience {
+        std::chrono::milliseconds beforeWord{10000}; ///< a server that works says something within this time
+        std::chrono::milliseconds longest{10000};    ///< then it is taken for gone
+        /// Says that a server is waited for; once for each connection, in the connection's thread. May be null.
+        std::function<void(const QString &server)> tell = nullptr;
+    };
+    /// Of all connections of the program; set before the first. A person at a window changes the printer or the server,
+    /// a program that nobody sits at prints when a busy server comes to it.
+    static void setPatience(Patience patience);
 
     /// Whether the person is asked when the server wants a password.
     enum class Passwords { Ask, GoWithout };
@@ -79,6 +89,7 @@ private:
     Clock::time_point mLastTick;           ///< when libcups last waited in vain
     Clock::time_point mSilentSince;
     bool mIsSilent = false;
+    bool mIsToldOf = false; ///< its silence
     bool mHasBeenOpen = false;
     int mQuestions = 0;
     bool mWasRefused = false; ///< no password was given, or none that is good

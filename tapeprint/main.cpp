@@ -4,6 +4,7 @@
 #include "dialog/FontReading.h"
 #include "dialog/ToolkitStart.h"
 #include "job/OutputFile.h"
+#include "job/ServerConnection.h"
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Completion.h"
 #include "tapeprint/Display.h"
@@ -17,8 +18,11 @@
 #include <QApplication>
 #include <QFile>
 
+#include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <optional>
+#include <utility>
 
 #include <unistd.h>
 
@@ -34,6 +38,20 @@ void passMessage(QtMsgType type, const QMessageLogContext &context, const QStrin
     if (!message.startsWith(QLatin1String("QStandardPaths: "))) {
         nextMessageHandler(type, context, message);
     }
+}
+
+/// A server that fifty programs print on at once may have nothing to say to one of them for long. It is waited for, and
+/// that is said; an interrupt ends it.
+void bePatientWithServers(bool isSilent)
+{
+    tapeprint::job::ServerConnection::Patience patience;
+    patience.longest = std::chrono::minutes(1);
+    if (!isSilent) {
+        patience.tell = [](const QString &server) {
+            std::fputs(qPrintable(QStringLiteral("tapeprint: Waiting for the print server %1.\n").arg(server)), stderr);
+        };
+    }
+    tapeprint::job::ServerConnection::setPatience(std::move(patience));
 }
 
 QStringList argumentsOf(int argc, char **argv)
@@ -104,6 +122,7 @@ int main(int argc, char **argv)
 
     if (!wantsWindow) {
         tapeprint::job::setPasswordAsker(tapeprint::askOnTerminal); // the window has its own
+        bePatientWithServers(line->silent);
     }
     tapeprint::RunReport run = wantsWindow ? tapeprint::runWindow(*line) : tapeprint::runUnattended(*line);
     // Standard output is the printer's.

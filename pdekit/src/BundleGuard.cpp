@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The marks of code that runs. A mark that nobody holds locked is one whose program ended within that code.
+// The marks of code that runs. A mark that nobody holds locked is one whose program ended within that code; one that
+// has been locked for long is one whose program waits for code that hangs.
 #include "pdekit/BundleLoading.h"
 
 #include "BundleModule.h"
@@ -12,7 +13,15 @@
 #include <QFileInfo>
 
 #include <array>
+#include <chrono>
+#include <condition_variable>
+#include <ctime>
+#include <mutex>
+#include <string>
+#include <system_error>
+#include <thread>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -26,6 +35,10 @@ namespace
 
 /// After so many ends in a row a bundle is left alone until it changes.
 constexpr int mostEnds = 2;
+/// After so long the person is told what the program waits for. A plug-in takes a tenth of a second.
+constexpr std::chrono::seconds silence(5);
+/// After so long no other program waits for the same code.
+constexpr std::time_t patienceSeconds = 60;
 
 /// What a mark says: how often in a row a program ended in that code, and whether it was begun since.
 struct Mark {
@@ -93,8 +106,18 @@ QString markOf(const QString &bundlePath, BundleGuard::Step step)
            (step == BundleGuard::Step::Loading ? QLatin1String("-loading") : QLatin1String("-panels"));
 }
 
-/// Opens a mark and locks it. \return -1 when there can be none, or when another process is just running the code.
-int lockedMark(const QByteArray &path)
+/// Whether the process that holds a mark has been within the code for long. It wrote the mark when it began.
+bool isWaitedFor(int file, const QByteArray &module)
+{
+    struct stat status {
+    };
+    return fstat(file, &status) == 0 && Mark::read(file, module).isRunning &&
+           std::time(nullptr) - status.st_mtim.tv_sec >= patienceSeconds;
+}
+
+/// Opens a mark and locks it. \param isHung whether another process waits for the code. \return -1 when there can be no
+/// mark, or when another process is just running the code.
+int lockedMark(const QByteArray &path, const QByteArray &module, bool *isHung)
 {
     constexpr int attempts = 100;
     for (int attempt = 0; attempt < attempts; ++attempt) {
@@ -105,6 +128,7 @@ int lockedMark(const QByteArray &path)
         struct stat status {
         };
         if (flock(file, LOCK_EX | LOCK_NB) != 0 || fstat(file, &status) != 0) {
+            *isHung = isWaitedFor(file, module);
             close(file);
             return -1;
         }
@@ -118,18 +142,77 @@ int lockedMark(const QByteArray &path)
 
 } // namespace
 
+/// Says what the program waits for, in a thread of its own: the program's own does not come back. What it says is made
+/// beforehand: the code may hold whatever lock there is.
+class BundleGuard::Waiting
+{
+public:
+    explicit Waiting(const QString &bundlePath)
+        : mWords(std::string(program_invocation_short_name) + ": waiting for the plug-in " +
+                 QFile::encodeName(bundlePath).toStdString() +
+                 ", which does not come back. End the program if it never does: at the next start the plug-in is left "
+                 "out.\n"),
+          mThread([this] { wait(); })
+    {
+    }
+    Waiting(const Waiting &) = delete;
+    Waiting &operator=(const Waiting &) = delete;
+    ~Waiting()
+    {
+        {
+            const std::lock_guard lock(mMutex);
+            mIsOver = true;
+        }
+        mWaking.notify_one();
+        mThread.join();
+    }
+
+private:
+    void wait()
+    {
+        std::unique_lock lock(mMutex);
+        if (!mWaking.wait_for(lock, silence, [this] { return mIsOver; })) {
+            // Without anybody there to read it, it is not said.
+            [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, mWords.data(), mWords.size());
+        }
+    }
+
+    std::string mWords;
+    std::mutex mMutex;
+    std::condition_variable mWaking;
+    bool mIsOver = false; ///< under the lock
+    std::thread mThread;
+};
+
 BundleGuard::BundleGuard(const QString &bundlePath, Step step)
+{
+    takeMark(bundlePath, step);
+    if (!mReason.isNull()) {
+        return;
+    }
+    try {
+        mWaiting = std::make_unique<Waiting>(bundlePath);
+    } catch (const std::system_error &) { // no thread is to be had: the code runs unwatched
+    }
+}
+
+void BundleGuard::takeMark(const QString &bundlePath, Step step)
 {
     const QString folder = folderOfMarks();
     if (folder.isEmpty() || !QDir().mkpath(folder)) {
         return;
     }
     mPath = folder + markOf(bundlePath, step);
-    mFile = lockedMark(QFile::encodeName(mPath));
+    const QByteArray module = stampOf(modulePath(bundlePath));
+    bool isHung = false;
+    mFile = lockedMark(QFile::encodeName(mPath), module, &isHung);
+    if (isHung) {
+        mReason = LoadingTexts::tr("another program has been waiting for this plug-in for a minute or more");
+    }
     if (mFile < 0) {
         return;
     }
-    const Mark before = Mark::read(mFile, stampOf(modulePath(bundlePath)));
+    const Mark before = Mark::read(mFile, module);
     Mark now = before;
     if (before.isRunning) { // and yet nobody holds it
         ++now.ends;

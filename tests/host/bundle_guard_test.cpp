@@ -128,6 +128,23 @@ TEST_F(Guard, WhileAnotherProgramRunsTheCode_IsNoReason)
     EXPECT_EQ(marks().size(), 1); // still the other's
 }
 
+TEST_F(Guard, WhileAnotherProgramHasBeenInTheCodeForAMinute_LeavesItOut)
+{
+    const BundleGuard others(bundle, BundleGuard::Step::Loading);
+    QFile mark(state.filePath(u"tapeprint/plug-ins/"_qs + marks().value(0)));
+    ASSERT_TRUE(mark.open(QIODevice::ReadWrite));
+    const auto beganBefore = [&mark](int seconds) {
+        return mark.setFileTime(QDateTime::currentDateTime().addSecs(-seconds), QFileDevice::FileModificationTime);
+    };
+    ASSERT_TRUE(beganBefore(50));
+    EXPECT_TRUE(reason().isNull());
+    ASSERT_TRUE(beganBefore(61));
+    EXPECT_TRUE(reason().contains(u"another program has been waiting for this plug-in"_qs)) << reason().toStdString();
+    EXPECT_EQ(marks().size(), 1); // still the other's
+    hosttest::writeFile(folder, u"Some.bundle/Some.so"_qs, "mended code");
+    EXPECT_TRUE(reason().isNull());
+}
+
 TEST_F(Guard, WhereNothingCanBeWritten_IsNoReason)
 {
     for (const char *place : {"/proc/nowhere", "/dev/null"}) {
@@ -185,6 +202,26 @@ TEST_F(EndedProgram, WhileItsPanelsWereMade_IsNamedToo)
 {
     const QString way = u"ends making panels"_qs;
     EXPECT_EQ(start(way).status, 3);
+    const Outcome next = start(way);
+    EXPECT_EQ(next.status, 0);
+    EXPECT_TRUE(next.messages.contains("HostTestMisbehaving.bundle is not used")) << next.messages.toStdString();
+}
+
+TEST_F(EndedProgram, WhileItWaitedForABundle_NamesItMeanwhileAndAtTheNextStart)
+{
+    const QString way = u"hangs in its constructor"_qs;
+    variables.back().second = way;
+    QProcess program;
+    Program::start(program, programPath(), {u"--ppd"_qs, ppd, u"--show-options"_qs});
+    ASSERT_TRUE(program.waitForStarted());
+    program.setReadChannel(QProcess::StandardError);
+    ASSERT_TRUE(program.waitForReadyRead(60000));
+    const QByteArray said = program.readAllStandardError();
+    EXPECT_TRUE(said.startsWith("tapeprint: waiting for the plug-in " + bundles.toUtf8())) << said.toStdString();
+    EXPECT_TRUE(said.contains("HostTestMisbehaving.bundle, which does not come back")) << said.toStdString();
+    EXPECT_EQ(program.state(), QProcess::Running);
+    program.kill();
+    ASSERT_TRUE(program.waitForFinished());
     const Outcome next = start(way);
     EXPECT_EQ(next.status, 0);
     EXPECT_TRUE(next.messages.contains("HostTestMisbehaving.bundle is not used")) << next.messages.toStdString();

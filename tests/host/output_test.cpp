@@ -239,6 +239,30 @@ TEST_F(Output, ThatIsAPipe_GetsTheBytesAndStaysAPipe)
     EXPECT_TRUE(S_ISFIFO(FileStamp::ofPath(path(u"pipe"_qs))->mode));
 }
 
+TEST_F(Output, ThatIsASocket_IsRefusedAtOnce)
+{
+    ASSERT_EQ(mknod(QFile::encodeName(path(u"socket"_qs)).constData(), S_IFSOCK | 0600, 0), 0);
+    // The system says of it what it says of a pipe that nobody reads from.
+    expectFailure(testsupport::unwritableOutput, job(u"socket"_qs, document), "socket");
+}
+
+TEST_F(Output, ThatIsAPipeWithoutAReader_IsWaitedForUntilAStop)
+{
+    makePipe(u"pipe"_qs);
+    std::atomic<bool> stop{false};
+    std::thread person([&stop] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        stop = true;
+    });
+    QElapsedTimer waited;
+    waited.start();
+    Problem problem;
+    EXPECT_EQ(OutputFile::open({path(u"pipe"_qs), true, {}, &stop}, &problem), nullptr);
+    EXPECT_GE(waited.elapsed(), 300);
+    EXPECT_LT(waited.elapsed(), 3000);
+    person.join();
+}
+
 TEST_F(Output, WhoseReaderGoesAway_IsSaid)
 {
     writeFilter("head -c 3000000 /dev/zero\n");

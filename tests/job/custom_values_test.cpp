@@ -234,6 +234,19 @@ TEST(PpdMarks, OptionThatTakesSeveral_KeepsEachOfThem)
     EXPECT_EQ(markedValue(ppd.get(), u"Add"_qs), u"B,C"_qs);
 }
 
+TEST(JobWithCustomValues, ChangeWithoutAnOptionOrAValue_IsNone)
+{
+    Destination destination;
+    destination.ppd = ppdOf(tapePpdText(everyKind + jobtest::customPages));
+    Job job;
+    job.open(std::move(destination), jobtest::options({{u"Int"_qs, u"Custom.42"_qs}}));
+    const JobOptions before = job.options();
+    job.changeOption(u"Int"_qs, {});
+    job.changeOption({}, u"Custom.7"_qs);
+    EXPECT_TRUE(job.options() == before);
+    EXPECT_EQ(markedValue(job.ppd(), u"Int"_qs), u"Custom.42"_qs);
+}
+
 TEST(JobWithCustomValues, RevertsToThem)
 {
     Destination destination;

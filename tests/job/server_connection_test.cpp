@@ -30,6 +30,7 @@ protected:
     {
         cupsSetServer(nullptr);
         setPasswordAsker(nullptr);
+        ServerConnection::setPatience({});
     }
 
     /// \return whether the server answered a request.
@@ -81,6 +82,35 @@ TEST_F(ServerConnectionTest, SilentServer_IsLeftWithinASecondAfterAStop)
     person.join();
     EXPECT_TRUE(server->isStopped());
     EXPECT_TRUE(server->problem().isNull()); // the person knows
+}
+
+TEST_F(ServerConnectionTest, SilentServer_IsSaidOnceAndLeftWhenPatienceEnds)
+{
+    std::vector<std::string> told;
+    ServerConnection::setPatience({milliseconds(600), milliseconds(1500),
+                                   [&told](const QString &server) { told.push_back(server.toStdString()); }});
+    const MeddlingServer silent(socket, {}, [](const SeenRequest &) { return Meddling::KeepSilent; });
+    const auto server = ServerConnection::open(&stop);
+    const auto start = steady_clock::now();
+    EXPECT_FALSE(ask(*server));
+    EXPECT_GT(steady_clock::now() - start, milliseconds(1400));
+    EXPECT_LT(steady_clock::now() - start, milliseconds(6000));
+    EXPECT_TRUE(server->isUnreachable());
+    EXPECT_EQ(told, std::vector<std::string>{socket.toStdString()});
+}
+
+TEST_F(ServerConnectionTest, ServerThatAnswersAfterTheWordAboutItsSilence_IsHeard)
+{
+    int told = 0;
+    ServerConnection::setPatience({milliseconds(600), milliseconds(60000), [&told](const QString &) { ++told; }});
+    const MeddlingServer slow(socket, {}, [](const SeenRequest &) {
+        std::this_thread::sleep_for(milliseconds(1800));
+        return Meddling::AnswerOk;
+    });
+    const auto server = ServerConnection::open(&stop);
+    EXPECT_TRUE(ask(*server));
+    EXPECT_EQ(told, 1);
+    EXPECT_FALSE(server->isUnreachable());
 }
 
 TEST_F(ServerConnectionTest, SilentServer_GetsNoMoreThanTheTimeAllowed)

@@ -29,6 +29,7 @@ const QString kTrackingAreasNotice = QStringLiteral("NSViewDidUpdateTrackingArea
 class ViewPanel : public BasePDE13_v100_
 {
 public:
+    using BasePDE13_v100_::connectOutlet;
     using BasePDE13_v100_::kPDEView;
 
     void viewDidLoad() override { ++loads; }
@@ -66,6 +67,19 @@ protected:
     std::shared_ptr<ResizingCallback> callback = std::make_shared<ResizingCallback>();
     std::unique_ptr<ViewPanel> panel = std::make_unique<ViewPanel>();
 };
+
+TEST_F(PanelBaseView, OutletOfItsName_IsTheView)
+{
+    QWidget other;
+    QWidget view;
+    panel->connectOutlet(u"label"_qs, &other);
+    EXPECT_EQ(panel->kPDEView, nullptr);
+    panel->connectOutlet(u"kPDEView"_qs, &view);
+    EXPECT_EQ(panel->kPDEView, &view);
+    panel->connectOutlet(u"label"_qs, &other);
+    EXPECT_EQ(panel->kPDEView, &view);
+    panel->kPDEView = nullptr; // which is not the panel's to delete
+}
 
 TEST_F(PanelBaseView, InterfaceFile_IsLoadedOnTheFirstRequestOnly)
 {

@@ -92,31 +92,55 @@ protected:
         return calls.empty() ? QByteArrayList() : calls.front().options().split(' ');
     }
 
-    /// Opens a window with an option asked for, sets the copies, prints, and waits until the window is gone. \return
-    /// the job's number.
-    int printedByAWindow(const QByteArray &colour, int copies)
+    /// A window on the queue, with what it stands on.
+    class Window
     {
-        job::Job printJob;
-        dialog::Panels panels(printJob, {QStringLiteral(TAPEPRINT_BUNDLE_DIR)});
-        job::JobRequest request;
-        request.queue = u"tape"_qs;
-        request.options.set(u"KsTapeColor"_qs, QString::fromLatin1(colour));
-        std::atomic<int> id{0};
-        dialog::PrintDialog window(
-            printJob, panels,
-            dialog::PrintDialog::Setup{request, u"label"_qs, {document}, dialog::PrinterSource::server()},
-            [&](const job::SettledJob &settled, const job::PrintWatch &watch, job::Problem *error) {
-                auto printed = job::printJob(settled, u"label"_qs, {document}, watch, error);
-                id = printed ? printed->job.id : -1;
-                return printed;
-            });
-        window.show();
-        auto *print = window.findChild<QPushButton *>(u"print"_qs);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return print->isEnabled(); }, systemtest::patienceMs));
-        printJob.setCopies(copies);
-        print->click();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return id != 0 && !window.isVisible(); }, systemtest::patienceMs));
-        return id;
+    public:
+        Window(const QString &document, const QString &colour)
+            : mWindow(
+                  mJob, mPanels,
+                  dialog::PrintDialog::Setup{request(colour), u"label"_qs, {document}, dialog::PrinterSource::server()},
+                  [this, document](const job::SettledJob &settled, const job::PrintWatch &watch, job::Problem *error) {
+                      auto printed = job::printJob(settled, u"label"_qs, {document}, watch, error);
+                      mId = printed ? printed->job.id : -1;
+                      return printed;
+                  })
+        {
+        }
+
+        /// Is shown, has options set as a person sets them, prints, and is closed. \return the job's number.
+        int print(const std::function<void(job::Job &)> &set)
+        {
+            mId = 0;
+            mWindow.show();
+            auto *print = mWindow.findChild<QPushButton *>(u"print"_qs);
+            EXPECT_TRUE(QTest::qWaitFor([&] { return print->isEnabled(); }, systemtest::patienceMs));
+            set(mJob);
+            print->click();
+            EXPECT_TRUE(QTest::qWaitFor([&] { return mId != 0 && !mWindow.isVisible(); }, systemtest::patienceMs));
+            return mId;
+        }
+
+    private:
+        static job::JobRequest request(const QString &colour)
+        {
+            job::JobRequest request;
+            request.queue = u"tape"_qs;
+            request.options.set(u"KsTapeColor"_qs, colour);
+            return request;
+        }
+
+        std::atomic<int> mId{0};
+        job::Job mJob;
+        dialog::Panels mPanels{mJob, {QStringLiteral(TAPEPRINT_BUNDLE_DIR)}};
+        dialog::PrintDialog mWindow;
+    };
+
+    /// That a job was printed with a colour and a number of copies.
+    void expectPrinted(int id, const QString &colour, int copies)
+    {
+        ASSERT_TRUE(optionsOf(id).contains("KsTapeColor=" + colour.toLatin1())) << id;
+        EXPECT_EQ(cups.filterCalls(id).front().copies().toInt(), copies) << id;
     }
 
     PrivateCups cups;
@@ -149,6 +173,42 @@ TEST_F(Load, JobsAtOnceByTheCommandLine_EachHasItsOwnOptions)
     }
 }
 
+/// Of the jobs in a row: each has other options than the one before.
+QString colourOf(int job)
+{
+    return job % 2 == 0 ? u"KsTapeColorRed"_qs : u"KsTapeColorWhite"_qs;
+}
+
+int copiesOf(int job)
+{
+    return job % 3 + 1;
+}
+
+constexpr int warmUp = 5;
+
+TEST_F(Load, JobsInARowThroughOneWindow_HaveEachTheirOwnOptionsAndLeaveNothing)
+{
+    ASSERT_NO_FATAL_FAILURE(startServer());
+    if (IsSkipped()) {
+        return;
+    }
+    const int count = countOf("TAPEPRINT_LOAD_IN_A_ROW", 15);
+    Window window(document, colourOf(0));
+    Holdings before;
+    for (int job = 0; job < warmUp + count; ++job) {
+        if (job == warmUp) {
+            before = Holdings::now();
+        }
+        const int id = window.print([job](job::Job &shown) {
+            shown.changeOption(u"KsTapeColor"_qs, colourOf(job));
+            shown.setCopies(copiesOf(job));
+        });
+        ASSERT_NO_FATAL_FAILURE(expectPrinted(id, colourOf(job), copiesOf(job)));
+    }
+    QTest::qWait(500); // threads that are told to end
+    expectNoGrowth(before, count, "jobs in a row through one window");
+}
+
 TEST_F(Load, WindowsInARow_PrintEachTheirOwnOptionsAndLeaveNothing)
 {
     ASSERT_NO_FATAL_FAILURE(startServer());
@@ -156,17 +216,14 @@ TEST_F(Load, WindowsInARow_PrintEachTheirOwnOptionsAndLeaveNothing)
         return;
     }
     const int count = countOf("TAPEPRINT_LOAD_IN_A_ROW", 15);
-    constexpr int warmUp = 5;
     Holdings before;
     for (int job = 0; job < warmUp + count; ++job) {
         if (job == warmUp) {
             before = Holdings::now();
         }
-        const QByteArray colour = job % 2 == 0 ? "KsTapeColorRed" : "KsTapeColorWhite";
-        const int copies = job % 3 + 1;
-        const int id = printedByAWindow(colour, copies);
-        EXPECT_TRUE(optionsOf(id).contains("KsTapeColor=" + colour)) << job << " as " << id;
-        EXPECT_EQ(cups.filterCalls(id).front().copies().toInt(), copies) << job;
+        const int id =
+            Window(document, colourOf(job)).print([job](job::Job &shown) { shown.setCopies(copiesOf(job)); });
+        ASSERT_NO_FATAL_FAILURE(expectPrinted(id, colourOf(job), copiesOf(job)));
     }
     QTest::qWait(500); // threads that are told to end
     expectNoGrowth(before, count, "windows in a row");
@@ -175,12 +232,12 @@ TEST_F(Load, WindowsInARow_PrintEachTheirOwnOptionsAndLeaveNothing)
 TEST_F(Load, PanelsOpenedAgainAndAgain_TakeNothing)
 {
     const int count = countOf("TAPEPRINT_LOAD_OPENINGS", 300);
-    constexpr int warmUp = 50;
+    constexpr int first = 50;
     job::Job printJob;
     dialog::Panels panels(printJob, {QStringLiteral(TAPEPRINT_BUNDLE_DIR)});
     Holdings before;
-    for (int opening = 0; opening < warmUp + count; ++opening) {
-        if (opening == warmUp) {
+    for (int opening = 0; opening < first + count; ++opening) {
+        if (opening == first) {
             before = Holdings::now();
         }
         job::Problem error;

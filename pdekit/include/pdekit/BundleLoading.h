@@ -80,8 +80,11 @@ PDEKIT_EXPORT LoadedBundles loadBundles(const QStringList &folders, ppd_file_t *
 /// While one of these lives, code of a bundle runs that may end the program or never come back. If it does, the next
 /// guard of that bundle and step knows. loadBundles() guards its own step; a dialog guards the making of panels.
 ///
+/// Of code that does not come back for five seconds a line on standard error names the bundle, and once it has been
+/// away for a minute the guards of other programs leave it out.
+///
 /// The marks are files in $XDG_STATE_HOME/tapeprint/plug-ins (~/.local/state without the variable). Where they cannot
-/// be written, nothing is guarded.
+/// be written, nothing is left out.
 class PDEKIT_EXPORT BundleGuard
 {
 public:
@@ -99,13 +102,18 @@ public:
     BundleGuard &operator=(const BundleGuard &) = delete;
 
     /// Why the code is not to be run, as part of a sentence; null when it may run. After a program ended in it, it is
-    /// left out once; after two in a row until the module has changed or the mark is removed.
+    /// left out once; after two in a row until the module has changed or the mark is removed; and as long as another
+    /// program waits for it.
     QString reasonToSkip() const { return mReason; }
 
 private:
+    class Waiting;
+    void takeMark(const QString &bundlePath, Step step);
+
     int mFile = -1; ///< locked while the code runs
     QString mPath;
     QString mReason;
+    std::unique_ptr<Waiting> mWaiting; ///< null when the code is not run
 };
 
 } // namespace pdekit
