@@ -51,7 +51,8 @@ void SummaryView::showSummary(const std::vector<PanelSummary> &summary)
     }
     clear();
     constexpr int gaps = 4; // the style's, before and after a text
-    header()->resizeSection(0, titleWidth + gaps * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1));
+    header()->resizeSection(0, titleWidth +
+                                   gaps * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1));
     addTopLevelItems(items);
     updateGeometry();
 }
