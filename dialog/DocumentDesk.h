@@ -23,7 +23,7 @@ public:
     explicit DocumentDesk(QStringList files, QObject *parent = nullptr);
 
     /// Sees to it that there are PDFs for a job as it stands: for tape of every document, with what is drawn on them
-    /// when the tape is to fit; for paper the documents that are PDFs already.
+    /// when the tape is to fit; for paper of those that are none already.
     /// \return whether they are being made: changed() follows.
     bool follow(const job::SettledJob &job);
 
@@ -41,13 +41,15 @@ private:
     struct Needs {
         bool isTape = false;
         bool drawn = false;
-        QSizeF textPagePt; ///< empty when no document is text
+        QSizeF textPagePt;                    ///< empty when no document is text
+        std::optional<job::PaperSheet> sheet; ///< for paper, when a document is no PDF
 
         bool operator==(const Needs &) const = default;
     };
 
     QStringList mFiles;
     bool mHasText = false;
+    bool mArePdfs = true; ///< whether each is one already
     std::optional<Needs> mNeeds;
     std::optional<job::PdfDocuments> mDocuments;
     QString mProblem;

@@ -51,7 +51,9 @@ JobPage::JobPage(const job::Job &job, const QString &documentTitle, QWidget *par
     mTitle->setPlaceholderText(job::jobTitle(documentTitle));
     mTitle->setMaxLength(mostTextLength);
     form->addRow(tr("Title:"), mTitle);
-    addPages(form);
+    if (job.ppd() != nullptr) {
+        addPages(form);
+    }
     if (!job.destination().isFile()) {
         addQueue(form);
     }
@@ -195,7 +197,7 @@ QString JobPage::chosenPages() const
 
 bool JobPage::isReady()
 {
-    if (!job::wellFormedPageRanges(mPages->text()).isNull()) {
+    if (mPages == nullptr || !job::wellFormedPageRanges(mPages->text()).isNull()) {
         return true;
     }
     mPages->setFocus();
@@ -209,6 +211,16 @@ void JobPage::follow()
     if (options.value(OptionName::jobName) != mTitle->text().trimmed()) {
         setText(mTitle, options.value(OptionName::jobName));
     }
+    followPages();
+    followQueue();
+}
+
+void JobPage::followPages()
+{
+    if (mPages == nullptr) {
+        return;
+    }
+    const job::JobOptions &options = mJob.options();
     // A list that is being typed is another text for the same pages, or none yet.
     const QString typed = job::wellFormedPageRanges(mPages->text());
     if (!typed.isNull() && typed != job::wellFormedPageRanges(chosenPages())) {
@@ -217,9 +229,14 @@ void JobPage::follow()
     mPageSet->setCurrentIndex(static_cast<int>(job::pageSetOf(options)));
     mReverse->setChecked(job::isReversed(options));
     mCollate->setChecked(job::isCollated(options, mJob.ppd()));
+}
+
+void JobPage::followQueue()
+{
     if (mPriority == nullptr) {
         return;
     }
+    const job::JobOptions &options = mJob.options();
     const QSignalBlocker quiet(mPriority);
     mPriority->setValue(options.contains(OptionName::jobPriority)
                             ? pdekit::intValue(options.value(OptionName::jobPriority))

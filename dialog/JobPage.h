@@ -45,11 +45,14 @@ private:
     void pickPages(const QString &typed);
     void pickCollating(bool collated);
     void pickHold();
+    void followPages();
+    void followQueue();
     void followHold();
     QString chosenPages() const;
 
     const job::Job &mJob;
     QLineEdit *mTitle = nullptr;
+    // Null where the printer has no description: then nobody chooses pages out of a document.
     QLineEdit *mPages = nullptr;
     QLabel *mPagesProblem = nullptr;
     QComboBox *mPageSet = nullptr;

@@ -32,7 +32,6 @@ JobRow::JobRow(QWidget *parent)
     layout->addWidget(mWords, 1);
     layout->addWidget(mBar);
     layout->addWidget(mClose);
-    hide();
 }
 
 void JobRow::tell(const QString &words, int percent)

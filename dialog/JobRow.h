@@ -11,7 +11,7 @@ class QPushButton;
 namespace tapeprint::dialog
 {
 
-/// Hidden while nothing is printed.
+/// Stands in the place of buttons that nobody presses while something is printed.
 class JobRow : public QWidget
 {
     Q_OBJECT

@@ -9,6 +9,7 @@
 #include <QDialogButtonBox>
 #include <QFontMetrics>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -62,6 +63,18 @@ PresetNameDialog::PresetNameDialog(const QString &title, const QString &name, QS
 QString PresetNameDialog::name() const
 {
     return mField->text();
+}
+
+/// Return on a name that cannot be kept takes the one that is offered; a second one saves it, now that it was seen.
+void PresetNameDialog::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isOnAButton = focusWidget() != nullptr && mButtons->isAncestorOf(focusWidget()); // Cancel is pressed
+    if (isReturn && !isOnAButton && !mButtons->button(QDialogButtonBox::Save)->isEnabled() && mOffer->isVisible()) {
+        takeOffer();
+        return;
+    }
+    QDialog::keyPressEvent(event);
 }
 
 void PresetNameDialog::takeOffer()

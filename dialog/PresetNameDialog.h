@@ -27,6 +27,9 @@ public:
     /// A name that CUPS can keep, once the dialog was accepted.
     QString name() const;
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void follow();
     void takeOffer();

@@ -104,9 +104,10 @@ QWidget *PreviewArea::makePaging()
     return mPaging;
 }
 
-void PreviewArea::setDocuments(const QStringList &pdfPaths, const QStringList &shownAs)
+void PreviewArea::setDocuments(const QStringList &pdfPaths, const QStringList &shownAs, job::LaidOnSheets laidOn)
 {
     mExpectsDocuments = false;
+    mLaidOn = std::move(laidOn);
     mRenderer.setDocuments(pdfPaths, shownAs);
     planAnew();
 }
@@ -116,6 +117,15 @@ void PreviewArea::setProblem(const QString &problem)
     mExpectsDocuments = false;
     mProblem = problem;
     showWords();
+}
+
+void PreviewArea::setNoPreview(const QString &why)
+{
+    if (why != mWhyNone) {
+        mWhyNone = why;
+        mPreview->setVisible(why.isNull());
+        showWords();
+    }
 }
 
 void PreviewArea::awaitProgram(const QString &about)
@@ -157,7 +167,7 @@ void PreviewArea::planAnew()
         }
         mDrawn = mRenderer.drawn();
     }
-    mPlan = job::planLabels(mSizes, mPage, mOptions, fitsLength ? mDrawn : std::vector<job::DrawnRects>());
+    mPlan = job::planLabels(mSizes, mPage, mOptions, fitsLength ? mDrawn : std::vector<job::DrawnRects>(), mLaidOn);
     turnTo(mLabel);
 }
 
@@ -230,6 +240,9 @@ bool PreviewArea::isBlank()
 
 QStringList PreviewArea::messages()
 {
+    if (!mWhyNone.isNull()) {
+        return {mWhyNone};
+    }
     QStringList sentences = mAwaited;
     if (!mProblem.isNull()) {
         sentences.append(tr("There is no preview: %1").arg(mProblem));
@@ -264,7 +277,7 @@ std::optional<Amount> PreviewArea::amount() const
     // As long as not every document is known, the number would be wrong.
     const std::vector<ReadDocument> &documents = mRenderer.documents();
     const bool areAllKnown =
-        !mSizes.empty() &&
+        mProblem.isNull() && !mSizes.empty() &&
         std::all_of(documents.begin(), documents.end(), [](const auto &document) { return document.problem.isNull(); });
     if (!areAllKnown || mPage.isEmpty()) {
         return std::nullopt;

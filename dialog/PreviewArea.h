@@ -30,12 +30,16 @@ public:
     explicit PreviewArea(QWidget *parent = nullptr);
 
     /// The documents of the job, as PDF files; they are shown as soon as they are read. \param shownAs how sentences
-    /// name them, one by one; where it ends, by their paths.
-    void setDocuments(const QStringList &pdfPaths, const QStringList &shownAs = {});
+    /// name them, one by one; where it ends, by their paths. \param laidOn which are sheets of paper as they are.
+    void setDocuments(const QStringList &pdfPaths, const QStringList &shownAs = {}, job::LaidOnSheets laidOn = {});
     /// Documents are being made, and will be given by setDocuments() or refused by setProblem().
     void expectDocuments() { mExpectsDocuments = true; }
     /// Why the documents cannot be shown, in a sentence; null when they can.
     void setProblem(const QString &problem);
+    /// There is nothing to draw, whatever the documents. \param why in a sentence; null when there is something again.
+    void setNoPreview(const QString &why);
+    /// That sentence; null when there is none.
+    const QString &whyNone() const { return mWhyNone; }
     /// The documents are another program's, which makes them when the settings are final. \param about a sentence about
     /// them; null when there is none.
     void awaitProgram(const QString &about);
@@ -85,11 +89,13 @@ private:
     job::JobOptions mOptions;
     TapeLook mLook;
     QString mProblem;
+    QString mWhyNone;
     bool mExpectsDocuments = false;
     QStringList mAwaited; ///< sentences about documents that another program makes later
     bool mShowsAmount = true;
     std::vector<job::PageSizes> mSizes; ///< of the documents that are shown, or were until others are read
     std::vector<job::DrawnRects> mDrawn;
+    job::LaidOnSheets mLaidOn;
     job::LabelPlan mPlan;
     std::size_t mLabel = 0;
 

@@ -128,8 +128,11 @@ void PrintDialog::makePages()
         const PanelEntry &entry = mPanels.entries()[i];
         addPage(entry.view != nullptr ? entry.view.data() : makeWordsForNoView(), entry.name, i);
     }
-    mLayoutPage = new LayoutPage(mJob, mPages);
-    connect(mLayoutPage, &LayoutPage::picked, this, &PrintDialog::pickOption);
+    // Without a description nobody lays pages out.
+    if (mJob.ppd() != nullptr) {
+        mLayoutPage = new LayoutPage(mJob, mPages);
+        connect(mLayoutPage, &LayoutPage::picked, this, &PrintDialog::pickOption);
+    }
     mJobPage = new JobPage(mJob, mSetup.title, mPages);
     connect(mJobPage, &JobPage::picked, this, &PrintDialog::pickOption);
     connect(mJobPage, &JobPage::dropped, &mJob, &job::Job::dropOption);
@@ -149,7 +152,9 @@ void PrintDialog::makePages()
     if (!hasPanels && !mOptionsPage->isEmpty()) {
         addPage(mOptionsPage, tr("Printer Options"), std::nullopt);
     }
-    addPage(mLayoutPage, tr("Layout"), std::nullopt);
+    if (mLayoutPage) {
+        addPage(mLayoutPage, tr("Layout"), std::nullopt);
+    }
     addPage(mJobPage, tr("Job"), std::nullopt);
     if (hasPanels && !mOptionsPage->isEmpty()) {
         addPage(mOptionsPage, tr("More Options"), std::nullopt);

@@ -158,6 +158,7 @@ private:
     void pickPage(int index);
     void follow();
     void followInThePreview();
+    QString whyNoPreview(const job::TapePage &page) const;
     void makeConflictNotice();
     void followConflicts();
     void resolveConflicts();
@@ -205,6 +206,7 @@ private:
     bool isInPanel(const QWidget &widget) const;
     void helpPeople();
     QString whyGrey(const QWidget &control) const;
+    QString whyGreyInThePages(const QWidget &control) const;
 
     job::Job &mJob;
     Panels &mPanels;
@@ -256,7 +258,8 @@ private:
     QHBoxLayout *mAmountPlace = nullptr;      ///< before Cancel, for what is said beside Print; it gives way first
     AmountLabel *mAmount = nullptr;
     SaveButton *mSaveButton = nullptr;
-    JobRow *mJobRow = nullptr;          ///< shown while it prints
+    QStackedWidget *mFooter = nullptr; ///< the buttons beside Cancel and Print; while it prints, the job's row
+    JobRow *mJobRow = nullptr;
     QPushButton *mHelpButton = nullptr; ///< there while a panel that has help is in front
     QPushButton *mRevertButton = nullptr;
     QPushButton *mCancelButton = nullptr;

@@ -169,8 +169,18 @@ void PrintDialog::followInThePreview()
     TapeLook look = tapeLookOf(mJob.ppd(), current.options, mJob.tape());
     look.unit = mUnit.unit();
     mPreview->follow(current.page, current.options, look);
-    mPreview->setVisible(!current.page.isEmpty());
+    mPreview->setNoPreview(whyNoPreview(current.page));
+    mPreview->show();
     fitTape();
+}
+
+QString PrintDialog::whyNoPreview(const job::TapePage &page) const
+{
+    if (mJob.ppd() == nullptr) {
+        return tr("This printer has no description: what is printed is handed to it as it is. So there is no preview, "
+                  "and nobody knows how many pages come out.");
+    }
+    return page.isEmpty() ? tr("There is no preview: the printer's description names no paper.") : QString();
 }
 
 job::SettledJob PrintDialog::currentJob() const

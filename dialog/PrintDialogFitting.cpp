@@ -31,14 +31,13 @@ bool isSameLength(double leftMm, double rightMm)
 
 void PrintDialog::takeDocuments()
 {
-    if (!mDesk.problem().isNull()) {
+    mPreview->setProblem(mDesk.problem());
+    if (!mDesk.documents()) {
         mFitWanted = false;
         mPreview->setDocuments({}, {});
-        mPreview->setProblem(mDesk.problem());
         return;
     }
-    mPreview->setProblem(QString());
-    mPreview->setDocuments(mDesk.documents()->pdfs, mDesk.documents()->files);
+    mPreview->setDocuments(mDesk.documents()->pdfs, mDesk.documents()->files, mDesk.documents()->laidOn);
     fitTape();
 }
 

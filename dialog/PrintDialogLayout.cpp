@@ -7,7 +7,8 @@
 //   notices
 //   Settings [     ]                | Summary
 //   page of the chooser             | Preview, Fit Length
-//   mMoreButtonsPlace     mAmountPlace, progress     Cancel, Print
+//   mMoreButtonsPlace         mAmountPlace, Save     Cancel, Print
+//   or, while it prints: what is told of the job
 #include "dialog/AmountLabel.h"
 #include "dialog/JobRow.h"
 #include "dialog/NoticesArea.h"
@@ -70,8 +71,6 @@ void PrintDialog::buildControls()
     middle->addWidget(makePagesArea());
     middle->addWidget(makeResultArea());
     layout->addLayout(middle, 1);
-    mJobRow = new JobRow(this);
-    layout->addWidget(mJobRow);
     layout->addWidget(makeButtons());
 }
 
@@ -201,7 +200,17 @@ QWidget *PrintDialog::makeFitControls(QWidget *parent)
 
 QWidget *PrintDialog::makeButtons()
 {
-    auto *buttons = new QWidget(this);
+    auto *row = new QWidget(this);
+    auto *rowLayout = new QHBoxLayout(row);
+    rowLayout->setContentsMargins({});
+    // While a job is sent, what is told of it stands where nothing can be pressed then: no room is taken from the
+    // pages.
+    mFooter = new QStackedWidget(row);
+    auto *buttons = new QWidget(mFooter);
+    mJobRow = new JobRow(mFooter);
+    mFooter->addWidget(buttons);
+    mFooter->addWidget(mJobRow);
+    mFooter->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto *layout = new QHBoxLayout(buttons);
     layout->setContentsMargins({});
     mRevertButton = new QPushButton(tr("Re&vert"), buttons);
@@ -211,10 +220,10 @@ QWidget *PrintDialog::makeButtons()
     mMoreButtonsPlace = new QHBoxLayout;
     mMoreButtonsPlace->addWidget(mRevertButton);
     mAmountPlace = new QHBoxLayout;
-    mCancelButton = new QPushButton(tr("Cancel"), buttons);
+    mCancelButton = new QPushButton(tr("Cancel"), row);
     mCancelButton->setObjectName(QStringLiteral("cancel"));
     mCancelButton->setAutoDefault(false);
-    mPrintButton = new QPushButton(tr("&Print"), buttons);
+    mPrintButton = new QPushButton(tr("&Print"), row);
     mPrintButton->setObjectName(QStringLiteral("print"));
     mPrintButton->setDefault(true);
     layout->addLayout(mMoreButtonsPlace);
@@ -224,9 +233,10 @@ QWidget *PrintDialog::makeButtons()
     mAmountPlace->addWidget(mAmount);
     mSaveButton = new SaveButton(mSetup.title, buttons);
     layout->addWidget(mSaveButton);
-    layout->addWidget(mCancelButton);
-    layout->addWidget(mPrintButton);
-    return buttons;
+    rowLayout->addWidget(mFooter, 1);
+    rowLayout->addWidget(mCancelButton);
+    rowLayout->addWidget(mPrintButton);
+    return row;
 }
 
 } // namespace tapeprint::dialog

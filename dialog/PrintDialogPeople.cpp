@@ -7,7 +7,9 @@
 #include "dialog/NoticesArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/TabOrder.h"
+#include "job/PlainText.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -82,8 +84,25 @@ QString PrintDialog::whyGrey(const QWidget &control) const
     if (&control == mTapePopUp) {
         return tr("The printer offers no choice here.");
     }
-    return mPages->isAncestorOf(&control) ? tr("Not available with this printer, this tape or the other settings.")
-                                          : QString();
+    return mPages->isAncestorOf(&control) ? whyGreyInThePages(control) : QString();
+}
+
+/// A panel tells of no control why it is switched off, nor which option it stands for: what can be said is which
+/// control it is, whose, and what such a thing depends on.
+QString PrintDialog::whyGreyInThePages(const QWidget &control) const
+{
+    const QAccessibleInterface *heard = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(&control));
+    QString name = heard == nullptr ? QString() : job::harmless(heard->text(QAccessible::Name).simplified());
+    while (name.endsWith(u':') || name.endsWith(u'：')) {
+        name.chop(1);
+    }
+    const Page *page = currentPage();
+    if (name.isEmpty() || page == nullptr || !page->panel || !isInPanel(control)) {
+        return tr("Not available with this printer, this tape or the other settings.");
+    }
+    return tr("“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.",
+              "a control, and the page of settings that it stands on")
+        .arg(name.trimmed(), mPanels.entries()[*page->panel].name);
 }
 
 } // namespace tapeprint::dialog

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStackedWidget>
 
 namespace tapeprint::dialog
 {
@@ -70,7 +71,7 @@ void PrintDialog::showPrinting()
     const bool isSent = mRun.phase() == PrintRun::Phase::Following;
     // What is being printed is not to be changed under the person's hands.
     for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (widget != mCancelButton->parentWidget() && widget != mJobRow && widget != mNotices && !widget->isWindow()) {
+        if (widget != mCancelButton->parentWidget() && widget != mNotices && !widget->isWindow()) {
             widget->setEnabled(!isPrinting);
         }
     }
@@ -83,7 +84,7 @@ void PrintDialog::showPrinting()
     mCancelButton->setEnabled(true);
     mCancelButton->setText(isSent ? tr("Cancel Job") : tr("Cancel"));
     mJobRow->setCanClose(isSent);
-    mJobRow->setVisible(isPrinting);
+    mFooter->setCurrentIndex(isPrinting ? 1 : 0);
     if (isPrinting) {
         (isSent ? mJobRow->closeButton() : mCancelButton)->setFocus();
     } else {

@@ -4,6 +4,7 @@
 #include "dialog/AmountLabel.h"
 #include "dialog/JobPage.h"
 #include "dialog/OptionsPage.h"
+#include "dialog/PlainText.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 
@@ -76,6 +77,7 @@ bool PrintDialog::isAmountAgreed()
 void PrintDialog::showAmount()
 {
     mAmount->showAmount(mPreview->amount(), mPreview->isCounting(), mUnit.unit());
+    mAmount->setToolTip(plainToolTip(mPreview->whyNone()));
     if (mCountTimer.isActive() && !mPreview->isCounting()) {
         mCountTimer.start(0);
     }

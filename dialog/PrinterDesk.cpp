@@ -4,7 +4,10 @@
 
 #include "job/PlainText.h"
 
+#include <QDateTime>
+
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace tapeprint::dialog
@@ -15,6 +18,9 @@ namespace
 
 constexpr int lookPauseMs = 10000;
 constexpr int gatePauseMs = 50;
+constexpr int lookAgainMs = 1500;
+constexpr qint64 justConfiguredSeconds = 3;
+constexpr int mostChecks = 5;
 
 PrinterRow rowOfDestination(const job::Destination &destination)
 {
@@ -34,15 +40,17 @@ PrinterRow rowOfDestination(const job::Destination &destination)
 PrinterDesk::PrinterDesk(PrinterSource source, job::JobRequest request, QObject *parent)
     : QObject(parent), mSource(std::move(source)), mRequest(std::move(request))
 {
-    for (QTimer *timer : {&mReadTimer, &mLookTimer, &mGateTimer}) {
+    for (QTimer *timer : {&mReadTimer, &mLookTimer, &mGateTimer, &mAgainTimer}) {
         timer->setSingleShot(true);
     }
     mReadTimer.setInterval(mSource.pause);
     mLookTimer.setInterval(lookPauseMs);
     mGateTimer.setInterval(gatePauseMs);
+    mAgainTimer.setInterval(lookAgainMs);
     connect(&mReadTimer, &QTimer::timeout, this, &PrinterDesk::read);
     connect(&mLookTimer, &QTimer::timeout, this, &PrinterDesk::look);
     connect(&mGateTimer, &QTimer::timeout, this, &PrinterDesk::deliver);
+    connect(&mAgainTimer, &QTimer::timeout, this, &PrinterDesk::checkDescription);
 }
 
 void PrinterDesk::start(const job::Destination &destination)
@@ -135,7 +143,7 @@ void PrinterDesk::take(const job::Destination &destination)
     mWanted.reset();
     mOpenProblem = {};
     mOpen = destination.queue ? destination.queue->fullName() : QString(QLatin1String(""));
-    mConfiguredAt = destination.queue ? destination.queue->configuredAt : 0;
+    takeTimeOf(destination);
     mDigest = destination.ppdDigest;
     mWasListed = false;
     mIsOfNetwork = std::any_of(mOnNetwork.begin(), mOnNetwork.end(),
@@ -177,7 +185,8 @@ void PrinterDesk::takeList(const std::optional<job::PrinterList> &printers, cons
         if (printers && mOpenProblem.kind == job::Problem::Unreachable) {
             openWhatTheServerAllows(); // it has failed at that alone
         }
-        return; // as a rule
+        followDescription(); // a look at it may have failed, or been too early
+        return;              // as a rule
     }
     mServerProblem = problem;
     if (printers) {
@@ -199,10 +208,27 @@ void PrinterDesk::followOpenPrinter()
         mWasListed = true;
         mLastKnown = *printer;
         mLastKnown.instance = job::QueueName::parse(*mOpen).instance;
-        // A reading from before the printer was opened may be older than what was opened.
-        if (printer->configuredAt > mConfiguredAt) {
-            checkDescription();
-        }
+        followDescription();
+    }
+}
+
+void PrinterDesk::followDescription()
+{
+    // A reading from before the printer was opened may be older than what was opened.
+    const job::Printer *printer = openPrinter();
+    if (printer != nullptr && printer->configuredAt > mConfiguredAt && mChecksLeft > 0) {
+        checkDescription();
+    }
+}
+
+/// The server counts in whole seconds, and lpadmin changes a queue in several steps: what was read in the second of a
+/// change may be what was there before the last of them.
+void PrinterDesk::takeTimeOf(const job::Destination &destination)
+{
+    mConfiguredAt = destination.queue ? destination.queue->configuredAt : 0;
+    mChecksLeft = mostChecks;
+    if (std::abs(QDateTime::currentSecsSinceEpoch() - mConfiguredAt) <= justConfiguredSeconds) {
+        mAgainTimer.start();
     }
 }
 
@@ -253,9 +279,10 @@ bool PrinterDesk::lacksDefault() const
 
 void PrinterDesk::checkDescription()
 {
-    if (!mSource.open || mChecking.isRunning()) {
+    if (!mSource.open || !hasOpen() || isOpening() || mChecking.isRunning()) {
         return;
     }
+    --mChecksLeft;
     mChecking.start([this, request = requestFor(*mOpen),
                      open = mSource.open](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
         job::Problem problem;
@@ -270,7 +297,7 @@ void PrinterDesk::takeCheck(const Arrival &destination)
     if (destination == nullptr || !destination->queue) {
         return; // the next reading asks again
     }
-    mConfiguredAt = destination->queue->configuredAt;
+    takeTimeOf(*destination);
     mFresh = destination->ppdDigest == mDigest ? nullptr : destination;
     Q_EMIT changed();
 }

@@ -78,6 +78,8 @@ private:
     void openWhatTheServerAllows();
     void openTheOnlyPrinter();
     bool lacksDefault() const;
+    void followDescription();
+    void takeTimeOf(const job::Destination &destination);
     void checkDescription();
     void takeCheck(const Arrival &destination);
     void fillRows();
@@ -95,7 +97,8 @@ private:
     BackgroundWork mChecking;
     QTimer mReadTimer;
     QTimer mLookTimer;
-    QTimer mGateTimer; ///< asks a closed gate again
+    QTimer mGateTimer;  ///< asks a closed gate again
+    QTimer mAgainTimer; ///< looks once more at a description that may not have been the last of its second
 
     std::optional<job::PrinterList> mPrinters; ///< as the server told last
     job::PrinterList mOnNetwork;
@@ -107,6 +110,7 @@ private:
     bool mWasListed = false;          ///< the open printer has been on the server's list
     bool mTriedTheOnly = false;       ///< the server's only printer was opened without being asked for
     int mConfiguredAt = 0;            ///< of the open printer, when its PPD was looked at
+    int mChecksLeft = 0;              ///< looks at its PPD that may still fail, one after the other
     QByteArray mDigest;               ///< of the open printer's PPD
     Arrival mArrived;                 ///< waits for the gate
     Arrival mFresh;                   ///< the open printer with its new PPD

@@ -8,12 +8,41 @@
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
 namespace tapeprint::dialog
 {
+
+namespace
+{
+
+/// After a hyphen a line may end, and "-" alone at its end reads like another command. This keeps "-o" together, and is
+/// not seen.
+constexpr QChar wordJoiner(0x2060);
+
+/// Shows a command. What is copied out of it is the command alone.
+class CommandField : public QPlainTextEdit
+{
+public:
+    CommandField(const QString &command, QWidget *parent)
+        : QPlainTextEdit(QString(command).replace(u'-', QStringLiteral("-") + wordJoiner), parent)
+    {
+    }
+
+protected:
+    QMimeData *createMimeDataFromSelection() const override
+    {
+        auto *copied = new QMimeData;
+        copied->setText(textCursor().selection().toPlainText().remove(wordJoiner));
+        return copied;
+    }
+};
+
+} // namespace
 
 ShowCommand::ShowCommand(const QString &tapeprint, const QString &lp, QWidget *parent) : QDialog(parent)
 {
@@ -33,7 +62,7 @@ ShowCommand::ShowCommand(const QString &tapeprint, const QString &lp, QWidget *p
 
 void ShowCommand::addCommand(QVBoxLayout *layout, const QString &title, const QString &command, const QString &name)
 {
-    auto *field = new QPlainTextEdit(command, this);
+    auto *field = new CommandField(command, this);
     field->setObjectName(name + QLatin1String("Command"));
     field->setReadOnly(true);
     field->setTabChangesFocus(true);

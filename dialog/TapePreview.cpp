@@ -2,6 +2,8 @@
 // Drawing the label: at scale as long as that leaves something to see, with breaks where tape is longer than the room.
 #include "dialog/TapePreview.h"
 
+#include "job/CustomSizes.h"
+
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QPainter>
@@ -115,8 +117,9 @@ void TapePreview::showLabel(ShownLabel label)
         mShown = {};
     }
     const bool isEmpty = mShown.page.isEmpty();
-    mLengthText = isEmpty ? QString() : measureText(drawn.width(), mShown.look.unit);
-    mWidthText = isEmpty ? QString() : measureText(drawn.height(), mShown.look.unit);
+    const QSizeF told = mShown.page.isTape ? drawn : job::standardSize(drawn);
+    mLengthText = isEmpty ? QString() : measureText(told.width(), mShown.look.unit);
+    mWidthText = isEmpty ? QString() : measureText(told.height(), mShown.look.unit);
     nameIt();
     if (const QString words = describe(); words != accessibleDescription()) {
         setAccessibleDescription(words);

@@ -31,10 +31,15 @@ constexpr qint64 pieceBytes = 65536;
 constexpr qint64 pdfHeaderWithin = 1024;
 
 /// A PPD of one page, so that the filter sets text on exactly that page, whatever the printer's own description says.
-QByteArray pageDescription(const QSizeF &sizePt)
+QByteArray pageDescription(const QSizeF &sizePt, const QMarginsF &unprintablePt)
 {
-    const QByteArray size =
-        (pdekit::fixedDecimals(sizePt.width(), 2) + u' ' + pdekit::fixedDecimals(sizePt.height(), 2)).toLatin1();
+    const auto pair = [](double across, double along) {
+        return (pdekit::fixedDecimals(across, 2) + u' ' + pdekit::fixedDecimals(along, 2)).toLatin1();
+    };
+    const QByteArray size = pair(sizePt.width(), sizePt.height());
+    const QByteArray area =
+        pair(unprintablePt.left(), unprintablePt.bottom()) + ' ' +
+        pair(sizePt.width() - unprintablePt.right(), sizePt.height() - unprintablePt.top()); // from the lower left
     return R"PPD(*PPD-Adobe: "4.3"
 *FormatVersion: "4.3"
 *FileVersion: "1.0"
@@ -62,14 +67,14 @@ QByteArray pageDescription(const QSizeF &sizePt)
 *PageRegion Page/Page: ""
 *CloseUI: *PageRegion
 *DefaultImageableArea: Page
-*ImageableArea Page: "0 0 )PPD" +
-           size + "\"\n*DefaultPaperDimension: Page\n*PaperDimension Page: \"" + size + "\"\n";
+*ImageableArea Page: ")PPD" +
+           area + "\"\n*DefaultPaperDimension: Page\n*PaperDimension Page: \"" + size + "\"\n";
 }
 
-bool writeDescription(const QString &path, const QSizeF &sizePt, Problem *error)
+bool writeDescription(const QString &path, const QSizeF &sizePt, const QMarginsF &unprintablePt, Problem *error)
 {
     QFile file(path);
-    const QByteArray text = pageDescription(sizePt);
+    const QByteArray text = pageDescription(sizePt, unprintablePt);
     if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush()) {
         return true;
     }
@@ -94,9 +99,17 @@ struct Input {
     QString file;
 };
 
-/// Runs cupsfilter from a document type to PDF. \param description a PPD, or null.
-bool convertByFilters(const Input &document, const QString &type, const QString &description,
-                      const QStringList &options, const QString &path, const std::atomic<bool> &stop, Problem *error)
+/// What the filters are to do.
+struct Wanted {
+    QString from = {};                              ///< the document's type; null: what CUPS takes it for
+    QString to = QStringLiteral("application/pdf"); ///< the type to make
+    QString description = {};                       ///< a PPD, or null
+    QStringList options = {};                       ///< NAME=VALUE
+};
+
+/// Runs cupsfilter.
+bool convertByFilters(const Input &document, const Wanted &wanted, const QString &path, const std::atomic<bool> &stop,
+                      Problem *error)
 {
     ConfinedCommand command;
     command.program = findCupsfilter();
@@ -106,13 +119,15 @@ bool convertByFilters(const Input &document, const QString &type, const QString 
     }
     const QString source = QFileInfo(document.file).absoluteFilePath();
     command.readable << source;
-    command.arguments << QStringLiteral("-i") << type << QStringLiteral("-m") << QStringLiteral("application/pdf")
-                      << QStringLiteral("-e");
-    if (!description.isNull()) {
-        command.readable << description;
-        command.arguments << QStringLiteral("-p") << description;
+    if (!wanted.from.isNull()) {
+        command.arguments << QStringLiteral("-i") << wanted.from;
     }
-    for (const QString &option : options) {
+    command.arguments << QStringLiteral("-m") << wanted.to << QStringLiteral("-e");
+    if (!wanted.description.isNull()) {
+        command.readable << wanted.description;
+        command.arguments << QStringLiteral("-p") << wanted.description;
+    }
+    for (const QString &option : wanted.options) {
         command.arguments << QStringLiteral("-o") << option;
     }
     command.arguments << source;
@@ -174,7 +189,7 @@ bool textToPdf(const QString &document, const QSizeF &pagePt, const QString &pat
 {
     const QString text = asUtf8(document, path, error);
     const QString description = path + QLatin1String(".ppd");
-    if (text.isNull() || !writeDescription(description, pagePt, error)) {
+    if (text.isNull() || !writeDescription(description, pagePt, {}, error)) {
         return false;
     }
     // The margins of the label are kept free by the layout; text begins at the very edge of its page.
@@ -182,8 +197,11 @@ bool textToPdf(const QString &document, const QSizeF &pagePt, const QString &pat
     for (const char *edge : {"page-left=0", "page-right=0", "page-top=0", "page-bottom=0"}) {
         options << QString::fromLatin1(edge);
     }
-    const bool done =
-        convertByFilters({document, text}, QStringLiteral("text/plain"), description, options, path, stop, error);
+    Wanted wanted;
+    wanted.from = QStringLiteral("text/plain");
+    wanted.description = description;
+    wanted.options = options;
+    const bool done = convertByFilters({document, text}, wanted, path, stop, error);
     QFile::remove(description);
     if (text != document) {
         QFile::remove(text);
@@ -193,12 +211,13 @@ bool textToPdf(const QString &document, const QSizeF &pagePt, const QString &pat
 
 bool postScriptToPdf(const QString &document, const QString &path, const std::atomic<bool> &stop, Problem *error)
 {
-    const QString type = QStringLiteral("application/postscript");
+    Wanted wanted;
+    wanted.from = QStringLiteral("application/postscript");
     QFile file(document);
     const std::optional<QRectF> box =
         file.open(QIODevice::ReadOnly) ? epsBoxOf(file.read(looksAtBytes)) : std::optional<QRectF>();
     if (!box) {
-        return convertByFilters({document, document}, type, {}, {}, path, stop, error);
+        return convertByFilters({document, document}, wanted, path, stop, error);
     }
     const QString page = path + QLatin1String(".ps");
     QString reason;
@@ -206,7 +225,7 @@ bool postScriptToPdf(const QString &document, const QString &path, const std::at
         *error = noRoomForTemporaryFiles(reason);
         return false;
     }
-    const bool done = convertByFilters({document, page}, type, {}, {}, path, stop, error);
+    const bool done = convertByFilters({document, page}, wanted, path, stop, error);
     QFile::remove(page);
     return done;
 }
@@ -268,6 +287,30 @@ bool convertToPdf(const QString &document, const QSizeF &textPagePt, const QStri
                   "or plain text.")
             .arg(harmless(document))};
     return false;
+}
+
+bool convertForPaper(const QString &document, const PaperSheet &sheet, const QString &path,
+                     const std::atomic<bool> &stop, Problem *error)
+{
+    const DocumentKind kind = documentKindOf(document);
+    if (kind == DocumentKind::Unknown) {
+        *error = {Problem::BadDocument,
+                  Texts::tr("%1 is handed to the print server as it is, which may know what to make of it.")
+                      .arg(harmless(document))};
+        return false;
+    }
+    Wanted wanted;
+    wanted.description = path + QLatin1String(".ppd");
+    wanted.options = sheet.options;
+    if (kind == DocumentKind::Picture) {
+        wanted.to = QStringLiteral("application/vnd.cups-pdf"); // the next filter lays nothing out any more
+    }
+    if (!writeDescription(wanted.description, sheet.sizePt, sheet.unprintablePt, error)) {
+        return false;
+    }
+    const bool done = convertByFilters({document, document}, wanted, path, stop, error);
+    QFile::remove(wanted.description);
+    return done;
 }
 
 } // namespace tapeprint::job

@@ -5,8 +5,10 @@
 
 #include "job/Problem.h"
 
+#include <QMarginsF>
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 #include <atomic>
 #include <optional>
@@ -28,6 +30,21 @@ QString noRoomForTemporaryFiles(const QString &reason);
 /// null sentence. \param error takes a sentence that names the document. \return whether the file is there.
 bool convertToPdf(const QString &document, const QSizeF &textPagePt, const QString &path, const std::atomic<bool> &stop,
                   Problem *error);
+
+/// The sheet of paper that CUPS's filters lay a document on which is no PDF.
+struct PaperSheet {
+    QSizeF sizePt;
+    QMarginsF unprintablePt;
+    QStringList options; ///< those of the job that the filters read, NAME=VALUE
+
+    bool operator==(const PaperSheet &) const = default;
+};
+
+/// Makes a PDF of a document in the way in which a print server's filters do it for a printer of paper, as far as
+/// CUPS's own filters go: text is set on the sheet and laid out later, as the pages of a PDF are; a picture is laid on
+/// it for good. For being shown and counted: what is printed is made by the server. Parameters as above.
+bool convertForPaper(const QString &document, const PaperSheet &sheet, const QString &path,
+                     const std::atomic<bool> &stop, Problem *error);
 
 /// Whether a document's PDF depends on the page that text is set on.
 inline bool dependsOnTextPage(DocumentKind kind)

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <cups/pwg.h>
 #include <pdekit/Numbers.h>
 
 namespace tapeprint::job
@@ -88,6 +89,28 @@ bool takesCustomSize(const ppd_file_t *ppd, const QSizeF &sizePt)
     };
     return ppd->variable_sizes != 0 && holds(sizePt.width(), ppd->custom_min[0], ppd->custom_max[0]) &&
            holds(sizePt.height(), ppd->custom_min[1], ppd->custom_max[1]);
+}
+
+QSizeF standardSize(const QSizeF &sizePt)
+{
+    constexpr double mostApartPt = 1.0;
+    constexpr double unitsPerMm = 100.0; // libcups counts so
+    const auto isWhole = [](double points) { return std::abs(points - std::round(points)) < limitSlackPt; };
+    if (!isWhole(sizePt.width()) || !isWhole(sizePt.height())) {
+        return sizePt; // nobody rounded it
+    }
+    const bool lies = sizePt.width() > sizePt.height();
+    const QSizeF upright = lies ? sizePt.transposed() : sizePt;
+    const auto units = [](double points) { return qRound(mmFromPoints(points) * unitsPerMm); };
+    // Where no standard is near it makes one up, of about the size asked for.
+    const pwg_media_t *media = pwgMediaForSize(units(upright.width()), units(upright.height()));
+    if (media == nullptr || QLatin1String(media->pwg).startsWith(QLatin1String("custom_"))) {
+        return sizePt;
+    }
+    const QSizeF standard(pointsFromMm(media->width / unitsPerMm), pointsFromMm(media->length / unitsPerMm));
+    const bool isNear = std::abs(standard.width() - upright.width()) <= mostApartPt &&
+                        std::abs(standard.height() - upright.height()) <= mostApartPt;
+    return !isNear ? sizePt : lies ? standard.transposed() : standard;
 }
 
 NamedSizes::NamedSizes(const QString &path)

@@ -29,6 +29,11 @@ std::vector<CustomParameter> customSizeParameters(const ppd_file_t *ppd);
 /// Whether a printer takes a size. \param ppd not null.
 bool takesCustomSize(const ppd_file_t *ppd, const QSizeF &sizePt);
 
+/// The size that a standard says for a paper whose description gives it in whole points, such as 210 by 297 mm for 595
+/// by 842 points: for being shown. A size in parts of points, and one that lies farther than a point beside every
+/// standard's, stays.
+QSizeF standardSize(const QSizeF &sizePt);
+
 /// A size that a person gave a name.
 struct NamedSize {
     QString name;

@@ -142,6 +142,16 @@ std::vector<Label> dealOut(const std::vector<PageOfAll> &pages, const TapePage &
     return sheets;
 }
 
+/// Pages of which each is a sheet.
+std::vector<Label> asTheyAre(const std::vector<PageOfAll> &pages)
+{
+    std::vector<Label> sheets;
+    for (const PageOfAll &page : pages) {
+        sheets.push_back({{page.document, page.page, QTransform(), QRectF({}, page.size)}});
+    }
+    return sheets;
+}
+
 } // namespace
 
 std::size_t LabelPlan::sheetCount() const
@@ -189,7 +199,7 @@ std::vector<int> selectedPages(int total, const JobOptions &options)
 }
 
 LabelPlan planLabels(const std::vector<PageSizes> &documents, const TapePage &page, const JobOptions &options,
-                     const std::vector<DrawnRects> &drawn)
+                     const std::vector<DrawnRects> &drawn, const LaidOnSheets &laidOn)
 {
     LabelPlan plan;
     plan.page = page;
@@ -210,7 +220,9 @@ LabelPlan planLabels(const std::vector<PageSizes> &documents, const TapePage &pa
             page.isTape ? selected.cend() : std::find_if(first, selected.cend(), [first](const PageOfAll &source) {
                 return source.document != first->document;
             });
-        for (Label &sheet : dealOut({first, end}, page, choices, pageSetOf(options))) {
+        const bool areSheets = !page.isTape && first->document < laidOn.size() && laidOn[first->document];
+        for (Label &sheet :
+             areSheets ? asTheyAre({first, end}) : dealOut({first, end}, page, choices, pageSetOf(options))) {
             plan.labels.push_back(std::move(sheet));
         }
         first = end;

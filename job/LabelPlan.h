@@ -53,10 +53,13 @@ const QStringList &selectionOptionNames();
 /// What of a document's pages is drawn on, in points; an empty rectangle for a page that is blank or not looked at.
 using DrawnRects = std::vector<QRectF>;
 
+/// Of which documents each page is a sheet as it is, because a filter has laid it out; empty: of none. For paper alone.
+using LaidOnSheets = std::vector<bool>;
+
 /// The plan of a job: pages are selected, dealt out to sheets, and the sheets reversed when the job says so, as CUPS's
 /// filters do it. \param documents the page sizes of each document, in their order. \param drawn what of the pages
 /// is drawn on, for fit-length; without it pages count whole.
 LabelPlan planLabels(const std::vector<PageSizes> &documents, const TapePage &page, const JobOptions &options,
-                     const std::vector<DrawnRects> &drawn = {});
+                     const std::vector<DrawnRects> &drawn = {}, const LaidOnSheets &laidOn = {});
 
 } // namespace tapeprint::job

@@ -2,7 +2,6 @@
 // The steps from documents to labels, in their order.
 #include "job/LaidOutJob.h"
 
-#include "job/Conversion.h"
 #include "job/LaidOutDocument.h"
 #include "job/PdfPages.h"
 #include "job/PlainText.h"
@@ -69,6 +68,73 @@ std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList
     }
     if (job.fitsLength() && !findDrawnRects(documents, stop, error)) {
         return std::nullopt;
+    }
+    return documents;
+}
+
+PaperSheet paperSheetOf(const SettledJob &job)
+{
+    PaperSheet sheet{job.page.sizePt, job.page.unprintablePt, {}};
+    for (const char *name : {"orientation-requested",
+                             "landscape",
+                             "print-scaling",
+                             "fit-to-page",
+                             "fitplot",
+                             "fill",
+                             "crop-to-fit",
+                             "scaling",
+                             "natural-scaling",
+                             "ppi",
+                             "position",
+                             "mirror",
+                             "cpi",
+                             "lpi",
+                             "columns",
+                             "prettyprint",
+                             "wrap",
+                             "page-left",
+                             "page-right",
+                             "page-top",
+                             "page-bottom"}) {
+        const QString option = QString::fromLatin1(name);
+        const QString value = job.options.value(option);
+        const bool isWord = std::all_of(value.begin(), value.end(), [](QChar letter) {
+            return letter.isLetterOrNumber() || letter == u'-' || letter == u'.';
+        });
+        if (!value.isEmpty() && isWord) {
+            sheet.options.append(option + u'=' + value);
+        }
+    }
+    return sheet;
+}
+
+PdfDocuments collectForPaper(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
+                             Problem *error)
+{
+    const PaperSheet sheet = paperSheetOf(job);
+    PdfDocuments documents;
+    for (const QString &file : files) {
+        const DocumentKind kind = documentKindOf(file);
+        QString pdf = file;
+        if (kind != DocumentKind::Pdf) {
+            QString reason;
+            Problem problem;
+            const std::shared_ptr<PrivateFile> made = PrivateFile::create(QStringLiteral("document.pdf"), &reason);
+            if (!made) {
+                problem = noRoomForTemporaryFiles(reason);
+            }
+            if (!made || !convertForPaper(file, sheet, made->path(), stop, &problem)) {
+                if (error->isNull()) {
+                    *error = problem;
+                }
+                continue;
+            }
+            pdf = made->path();
+            documents.made.push_back(made);
+        }
+        documents.files.append(file);
+        documents.pdfs.append(pdf);
+        documents.laidOn.push_back(kind == DocumentKind::Picture);
     }
     return documents;
 }

@@ -3,6 +3,7 @@
 // they become.
 #pragma once
 
+#include "job/Conversion.h"
 #include "job/LabelPlan.h"
 #include "job/PrivateFile.h"
 #include "job/Problem.h"
@@ -26,12 +27,21 @@ struct PdfDocuments {
     std::vector<PageSizes> sizes;                   ///< of each one's pages
     std::vector<DrawnRects> drawn;                  ///< what is drawn on each one's pages; empty until it was asked for
     std::vector<std::shared_ptr<PrivateFile>> made; ///< those of the PDFs that were made here
+    LaidOnSheets laidOn = {};                       ///< which of them the filters have laid on sheets already
 };
 
 /// Makes PDFs of a job's documents, which are only read. With fit-length it also looks at what is drawn on them.
 /// \param error takes a sentence about the first document that cannot be used.
 std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
                                         Problem *error);
+
+/// The sheet for documents of a job for paper that are no PDFs.
+PaperSheet paperSheetOf(const SettledJob &job);
+
+/// Makes PDFs of the documents of a job for paper, for being shown and counted. One that cannot be used is left out.
+/// \param error takes a sentence about the first of those.
+PdfDocuments collectForPaper(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
+                             Problem *error);
 
 /// Looks at what is drawn on the pages of documents. \return false when it was stopped or a document cannot be read.
 bool findDrawnRects(PdfDocuments &documents, const std::atomic<bool> &stop, Problem *error);

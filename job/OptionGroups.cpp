@@ -19,6 +19,7 @@ namespace
 
 const QLatin1String installedGroup("InstallableOptions");
 const QLatin1String groupOfTheRest("General"); // libcups puts there what stands in no group
+const QLatin1String groupOfCommands("JCL");    // and there what the description has sent in a printer's job language
 
 /// How a person compares two texts.
 QString wording(const QString &text)
@@ -127,6 +128,9 @@ private:
         }
         if (text == groupOfTheRest) {
             text = Texts::tr("General", "options that the printer's description puts in no group");
+        }
+        if (text == groupOfCommands) {
+            text = Texts::tr("Printer Commands", "options that are sent before the job, in the printer's own language");
         }
         return within.isEmpty() ? text
                                 : Texts::tr("%1: %2", "a group of options and a group within it").arg(within, text);

@@ -56,6 +56,8 @@ const std::array meanings{
     Meaning{QLatin1String("timed-out"), QT_TRANSLATE_NOOP("tapeprint::job::Texts", "it does not answer")},
     Meaning{QLatin1String("connecting-to-device"), QT_TRANSLATE_NOOP("tapeprint::job::Texts", "being connected"),
             nullptr, ReasonWeight::Report},
+    Meaning{QLatin1String("cups-waiting-for-job-completed"),
+            QT_TRANSLATE_NOOP("tapeprint::job::Texts", "the printer is at work"), nullptr, ReasonWeight::Report},
     Meaning{QLatin1String("spool-area-full"),
             QT_TRANSLATE_NOOP("tapeprint::job::Texts", "the print server's disk is full")},
     Meaning{QLatin1String("cups-missing-filter"),
@@ -83,6 +85,10 @@ StateReason StateReason::parse(const QString &keyword)
         if (keyword.endsWith(ending)) {
             return {keyword.chopped(ending.size()), weight};
         }
+    }
+    // What the backend of network printers notes of a job there is no fault of the printer's.
+    if (keyword.startsWith(QLatin1String("cups-remote-"))) {
+        return {keyword, ReasonWeight::Report};
     }
     const Meaning *meaning = meaningOf(keyword);
     return {keyword, meaning == nullptr ? ReasonWeight::Error : meaning->weightWithoutEnding};

@@ -12,9 +12,15 @@
 #include "tapeprint/OutputPath.h"
 
 #include <QEventLoop>
+#include <QGuiApplication>
+#include <QMessageBox>
 #include <QTimer>
 
 #include <atomic>
+#include <functional>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace tapeprint
 {
@@ -34,6 +40,36 @@ void waitABit(dialog::PrintDialog &window)
     }
 }
 
+/// Whether nobody reads standard error: it is no terminal, and the program has none either, as when a desktop started
+/// it. Without a display that people see, nobody reads a window.
+bool isOnlyTheWindowSeen()
+{
+    const QString platform = QGuiApplication::platformName();
+    if (isatty(STDERR_FILENO) != 0 || !(platform == u"xcb" || platform.startsWith(u"wayland"))) {
+        return false;
+    }
+    const int terminal = ::open("/dev/tty", O_RDONLY | O_NOCTTY | O_CLOEXEC);
+    if (terminal >= 0) {
+        ::close(terminal);
+    }
+    return terminal < 0;
+}
+
+/// What keeps the window from being opened is said in one of its own where nobody would see it else.
+/// \param again asks for the problem once more, now that there are the person's own words for it.
+RunReport failedBeforeTheWindow(const job::Problem &problem, const std::function<job::Problem()> &again)
+{
+    if (isOnlyTheWindowSeen()) {
+        const dialog::Translations translations;
+        const job::Problem said = again();
+        QMessageBox box(QMessageBox::Critical, QStringLiteral("Tape Print"), {}, QMessageBox::Ok);
+        box.setTextFormat(Qt::PlainText);
+        box.setText(said.isNull() ? problem.sentence : said.sentence);
+        box.exec();
+    }
+    return failedRun(problem);
+}
+
 } // namespace
 
 RunReport runWindow(const CommandLine &line)
@@ -41,7 +77,13 @@ RunReport runWindow(const CommandLine &line)
     job::Problem error;
     std::optional<job::DocumentSpool> documents = job::DocumentSpool::collect(line.files, &error);
     if (!documents) {
-        return failedRun(error);
+        return failedBeforeTheWindow(error, [&line] {
+            job::Problem said;
+            if (!line.files.isEmpty()) { // what came on standard input has been read
+                job::DocumentSpool::collect(line.files, &said);
+            }
+            return said;
+        });
     }
     job::JobRequest request = line.request;
     request.documents = documents->sources();
@@ -51,7 +93,11 @@ RunReport runWindow(const CommandLine &line)
     std::optional<job::Destination> destination;
     const bool isQueue = request.ppdPath.isEmpty() || !request.queue.isEmpty();
     if (!isQueue && !(destination = job::openDestination(request, &error))) {
-        return failedRun(error);
+        return failedBeforeTheWindow(error, [&request] {
+            job::Problem said;
+            job::openDestination(request, &said);
+            return said;
+        });
     }
 
     // The window speaks the person's language; what is said on standard output and standard error does not, because

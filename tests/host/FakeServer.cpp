@@ -82,7 +82,7 @@ std::optional<job::Destination> FakeServer::open(const job::JobRequest &request,
         std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
     return locked([&]() -> std::optional<job::Destination> {
-        if (mIsSilent) {
+        if (mIsSilent || mFails) {
             *problem = {job::Problem::Unreachable, u"silence"_qs};
             return std::nullopt;
         }

@@ -45,6 +45,16 @@ public:
     {
         locked([&] { mIsSilent = isSilent; });
     }
+    /// Openings of printers fail, though the server lists them.
+    void setFails(bool fails)
+    {
+        locked([&] { mFails = fails; });
+    }
+    /// A queue gets another description in the second in which it was configured before.
+    void describeInTheSameSecond(const QString &name, const QByteArray &morePpd)
+    {
+        locked([&] { find(name)->morePpd = morePpd; });
+    }
     /// Holds the opening of a printer up until it is let go; the window's change of mind ends it as well.
     void hold(const QString &name)
     {
@@ -83,6 +93,7 @@ private:
     int mReadings = 0;
     int mFiles = 0;
     bool mIsSilent = false;
+    bool mFails = false;
 };
 
 } // namespace hosttest

@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -20,12 +21,14 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
+#include <QThread>
 #include <QTimeEdit>
 #include <QTimer>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <functional>
 
 namespace
@@ -88,12 +91,19 @@ protected:
             all.append(PdfPage{"/MediaBox[0 0 144 36]", "0 0 72 18 re f"});
         }
         files = {hosttest::writeFile(folder, u"label.pdf"_qs, hosttest::pdf(all))};
+        openFiles(isTape ? u"mm"_qs : u"plain"_qs, asked, hasQueue);
+    }
+
+    /// \param printer a sample printer; null: a queue without a description.
+    void openFiles(const QString &printer, const job::JobOptions &asked = {}, bool hasQueue = true)
+    {
         job::Destination destination;
-        destination.ppdPath =
-            QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-%1.ppd").arg(isTape ? u"mm"_qs : u"plain"_qs);
-        job::Problem error;
-        destination.ppd = job::openPpdFile(destination.ppdPath, &error);
-        ASSERT_NE(destination.ppd, nullptr) << error.sentence.toStdString();
+        if (!printer.isNull()) {
+            destination.ppdPath = QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-%1.ppd").arg(printer);
+            job::Problem error;
+            destination.ppd = job::openPpdFile(destination.ppdPath, &error);
+            ASSERT_NE(destination.ppd, nullptr) << error.sentence.toStdString();
+        }
         if (hasQueue) {
             destination.queue = job::PrintQueue();
             destination.queue->name = u"Queue"_qs;
@@ -103,6 +113,9 @@ protected:
             printJob, panels, PrintDialog::Setup{{}, u"label.pdf"_qs, files, {}},
             [this](const job::SettledJob &job, const job::PrintWatch &watch, job::Problem *problem) {
                 settled = job;
+                while (isHeld && !watch.stop) {
+                    QThread::msleep(5);
+                }
                 if (!job.pdfPath.isEmpty()) {
                     return job::printJob(job, u"label.pdf"_qs, files, watch, problem);
                 }
@@ -202,7 +215,83 @@ protected:
     Panels panels{printJob, {QStringLiteral(TAPEPRINT_BUNDLE_DIR)}};
     std::unique_ptr<PrintDialog> dialog;
     std::optional<job::SettledJob> settled; ///< what Print did last
+    std::atomic<bool> isHeld = false;       ///< whether printing lasts
 };
+
+TEST_F(JobPageTest, PrinterWithoutADescription_IsOfferedWhatWorksThereAndSaysWhyThereIsNoPreview)
+{
+    files = {
+        hosttest::writeFile(folder, u"label.pdf"_qs, hosttest::pdf(QList<PdfPage>{{"/MediaBox[0 0 144 36]", {}}}))};
+    ASSERT_NO_FATAL_FAILURE(openFiles({}));
+    const auto *chooser = child<QComboBox>(u"pageChooser"_qs);
+    ASSERT_EQ(chooser->count(), 1);
+    EXPECT_EQ(chooser->itemText(0), u"Job"_qs);
+    EXPECT_EQ(dialog->findChild<QComboBox *>(u"layoutSize"_qs), nullptr);
+    EXPECT_EQ(dialog->findChild<QLineEdit *>(u"pageRanges"_qs), nullptr);
+    EXPECT_EQ(dialog->findChild<QCheckBox *>(u"reverse"_qs), nullptr);
+    EXPECT_NE(dialog->findChild<QSpinBox *>(u"jobPriority"_qs), nullptr);
+    const auto *words = child<QLabel>(u"previewMessages"_qs);
+    EXPECT_TRUE(words->isVisible());
+    EXPECT_EQ(words->text(),
+              u"This printer has no description: what is printed is handed to it as it is. So there is no "
+              "preview, and nobody knows how many pages come out."_qs);
+    EXPECT_FALSE(child<QWidget>(u"tapePreview"_qs)->isVisible());
+    EXPECT_EQ(child<QLabel>(u"amount"_qs)->text(), u"Amount not known"_qs);
+    EXPECT_TRUE(child<QLabel>(u"amount"_qs)->toolTip().contains(u"handed to it as it is"_qs));
+    clickPrint();
+    EXPECT_TRUE(settled);
+}
+
+TEST_F(JobPageTest, PictureAndTextOnPaper_AreShownAndCounted)
+{
+    QImage picture(200, 100, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(folder.filePath(u"picture.png"_qs)));
+    QByteArray lines;
+    for (int line = 1; line <= 50; ++line) {
+        lines += QByteArray::number(line) + '\n';
+    }
+    files = {folder.filePath(u"picture.png"_qs), hosttest::writeFile(folder, u"lines.txt"_qs, lines)};
+    ASSERT_NO_FATAL_FAILURE(openFiles(u"plain"_qs));
+    // 24 by 100 mm hold 23 lines, six to an inch: 50 take three sheets.
+    EXPECT_TRUE(saysAmount(u"4 sheet(s)"_qs)) << child<QLabel>(u"amount"_qs)->text().toStdString();
+    EXPECT_FALSE(child<QLabel>(u"previewMessages"_qs)->isVisible());
+    // The filters leave a picture alone when pages share a sheet.
+    turnTo(u"Layout"_qs);
+    pickByKeys(u"layoutNumber"_qs, u"4"_qs);
+    EXPECT_TRUE(saysAmount(u"2 sheet(s)"_qs)) << child<QLabel>(u"amount"_qs)->text().toStdString();
+}
+
+TEST_F(JobPageTest, FileThatNobodyHereKnows_IsSaidToGoAsItIs)
+{
+    files = {hosttest::writeFile(folder, u"drawing.bin"_qs, QByteArray("\0\1\2\3 bytes", 10))};
+    ASSERT_NO_FATAL_FAILURE(openFiles(u"plain"_qs));
+    EXPECT_EQ(child<QLabel>(u"previewMessages"_qs)->text(),
+              u"There is no preview: "_qs + files.first() +
+                  u" is handed to the print server as it is, which may know what to make of it."_qs);
+    EXPECT_TRUE(saysAmount(u"Amount not known"_qs));
+    clickPrint();
+    EXPECT_TRUE(settled);
+}
+
+TEST_F(JobPageTest, WhatIsToldOfAJob_TakesNoRoomFromThePages)
+{
+    open(1);
+    const auto *area = child<QWidget>(u"previewArea"_qs);
+    auto *row = child<QLabel>(u"jobWords"_qs);
+    const QRect before = area->geometry();
+    const QSize window = dialog->size();
+    const int buttonsAt = child<QPushButton>(u"print"_qs)->mapTo(dialog.get(), QPoint()).y();
+    isHeld = true;
+    clickPrint();
+    ASSERT_TRUE(QTest::qWaitFor([row] { return row->isVisible() && !row->text().isEmpty(); }, patienceMs));
+    QApplication::processEvents();
+    EXPECT_EQ(area->geometry(), before);
+    EXPECT_EQ(dialog->size(), window);
+    EXPECT_EQ(child<QPushButton>(u"print"_qs)->mapTo(dialog.get(), QPoint()).y(), buttonsAt);
+    isHeld = false;
+    ASSERT_TRUE(QTest::qWaitFor([this] { return child<QPushButton>(u"revert"_qs)->isVisible(); }, patienceMs));
+}
 
 TEST_F(JobPageTest, TypedTitle_IsTheJobsAndNoneIsTheDocuments)
 {

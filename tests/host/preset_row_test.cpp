@@ -334,14 +334,26 @@ TEST(PresetName, OfferedInThePlaceOfABadOne_CanBeTaken)
     QTest::keyClicks(field, u"Small labels/12 mm"_qs);
     EXPECT_EQ(remark->text(), u"CUPS cannot keep a preset whose name has blanks, slashes, quotes or one of # < >."_qs);
     EXPECT_EQ(offer->text(), u"Take \"Small-labels-12-mm\""_qs);
-    QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_TRUE(dialog.isVisible()); // it is not taken as it stands
     QTest::mouseClick(offer, Qt::LeftButton);
     EXPECT_EQ(dialog.name(), u"Small-labels-12-mm"_qs);
     EXPECT_FALSE(offer->isVisible());
     field->setText(u"RED"_qs);
     EXPECT_EQ(remark->text(), u"The preset RED will be replaced."_qs);
     QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+}
+
+TEST(PresetName, ReturnOnABadOne_TakesTheOneOfferedAndReturnOnThatSavesIt)
+{
+    PresetNameDialog dialog(u"Save"_qs, {}, {}, PresetNameDialog::TakenNames::Replace, nullptr);
+    auto *field = dialog.findChild<QLineEdit *>(u"presetName"_qs);
+    dialog.show();
+    QTest::keyClicks(field, u"Small labels"_qs);
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(dialog.name(), u"Small-labels"_qs);
+    EXPECT_TRUE(dialog.isVisible()); // the person has not seen that name yet
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
 }
 

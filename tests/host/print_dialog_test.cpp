@@ -21,6 +21,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -124,11 +126,29 @@ TEST_F(PrintDialogTest, ShowCommand_ShowsTheSettingsAsTheyStandAndCopiesThem)
     QTimer::singleShot(0, dialog.get(), [this, &shown] {
         auto *box = dialog->findChild<ShowCommand *>();
         ASSERT_NE(box, nullptr);
-        shown = box->findChild<QPlainTextEdit *>(u"tapeprintCommand"_qs)->toPlainText();
+        auto *field = box->findChild<QPlainTextEdit *>(u"tapeprintCommand"_qs);
+        field->selectAll();
+        field->copy();
+        shown = QApplication::clipboard()->text();
+        EXPECT_NE(shown, u"nothing"_qs);
+        // No line ends behind the hyphen of an option, however narrow the field is.
+        for (const int width : {120, 150, 180, 210, 240}) {
+            field->setFixedWidth(width);
+            QApplication::processEvents();
+            const QTextBlock block = field->document()->firstBlock();
+            ASSERT_GT(block.layout()->lineCount(), 1);
+            for (int i = 0; i < block.layout()->lineCount(); ++i) {
+                const QTextLine line = block.layout()->lineAt(i);
+                const QString text = block.text().mid(line.textStart(), line.textLength()).remove(QChar(0x2060));
+                EXPECT_FALSE(text.endsWith(u'-')) << width << ": " << text.toStdString();
+            }
+        }
+        QApplication::clipboard()->setText(u"nothing"_qs);
         EXPECT_EQ(box->findChild<QPlainTextEdit *>(u"lpCommand"_qs), nullptr); // there is no queue
         QTest::mouseClick(box->findChild<QPushButton *>(u"tapeprintCopy"_qs), Qt::LeftButton);
         box->reject();
     });
+    QApplication::clipboard()->setText(u"nothing"_qs);
     click(u"showCommand"_qs);
     EXPECT_EQ(shown, u"tapeprint --no-dialog --ppd "_qs + printJob.destination().ppdPath + u" --output "_qs +
                          outputPath + u" -o PageSize=W12 -o KsMargin=5.0 -t label.txt"_qs);

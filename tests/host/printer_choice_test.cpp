@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDateTime>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -296,6 +297,26 @@ TEST_F(PrinterChoice, NewDescription_IsSaidAndLoadedWithTheChoicesKept)
     EXPECT_EQ(notices(), QString());
     EXPECT_EQ(choice("CutMedia"), u"Label"_qs);
     EXPECT_TRUE(canPrint());
+}
+
+TEST_F(PrinterChoice, NewDescriptionThatCannotBeReadAtFirst_IsSaidWhenItCan)
+{
+    openWith(u"tape"_qs);
+    const std::size_t before = server->opened().size();
+    server->setFails(true);
+    server->describe(u"tape"_qs, "*TestMark: \"new\"\n");
+    ASSERT_TRUE(waitFor([&] { return server->opened().size() > before; }));
+    server->setFails(false); // nothing on the server's list changes by it
+    EXPECT_TRUE(waitForNotice(u"The description of the printer tape has changed"_qs));
+}
+
+TEST_F(PrinterChoice, DescriptionThatChangesTwiceInASecond_IsSaid)
+{
+    const auto now = static_cast<int>(QDateTime::currentSecsSinceEpoch());
+    server->change(u"tape"_qs, [now](job::Printer &printer) { printer.configuredAt = now; });
+    openWith(u"tape"_qs);
+    server->describeInTheSameSecond(u"tape"_qs, "*TestMark: \"new\"\n");
+    EXPECT_TRUE(waitForNotice(u"The description of the printer tape has changed"_qs));
 }
 
 TEST_F(PrinterChoice, SettingsOfTheQueueThatLeaveItsDescriptionAlone_AreNotSpokenOf)

@@ -210,6 +210,16 @@ TEST_F(TapePreviewTest, LandscapePage_LiesOnTheTapeAsItIsRead)
     EXPECT_NEAR(ink.height(), found.height(), 3);
 }
 
+TEST_F(TapePreviewTest, PaperInWholePoints_IsMeasuredAsItsStandardSays)
+{
+    tape.isTape = false;
+    showTape(595.0, 842.0);
+    EXPECT_EQ(preview->accessibleDescription(), u"Length 297.0 mm, width 210.0 mm"_qs);
+    tape.isTape = true; // no standard is about tape
+    showTape(595.0, 842.0);
+    EXPECT_EQ(preview->accessibleDescription(), u"Length 297.0 mm, width 209.9 mm"_qs);
+}
+
 TEST_F(TapePreviewTest, PageThatStandsLikeThePaper_LiesDownWithIt)
 {
     showTape(36.0, 144.0);

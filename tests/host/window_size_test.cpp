@@ -288,7 +288,9 @@ TEST_P(WindowParts, GreyedControl_SaysWhyInItsTooltip)
     ASSERT_FALSE(popUp->isEnabled());
     QHelpEvent help(QEvent::ToolTip, {5, 5}, popUp->mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(popUp, &help);
-    EXPECT_TRUE(QToolTip::text().contains(u"Not available with this printer"_qs)) << QToolTip::text().toStdString();
+    // Which control it is, and who has switched it off.
+    EXPECT_TRUE(QToolTip::text().contains(u"“Print Mode” is switched off by “Page Settings”: this printer"_qs))
+        << QToolTip::text().toStdString();
     EXPECT_TRUE(popUp->toolTip().isEmpty()); // the panel's own view is left as it is
 }
 

@@ -52,6 +52,22 @@ TEST(CustomSize, LimitsAreTheDescriptions)
     EXPECT_TRUE(customSizeParameters(nullptr).empty());
 }
 
+TEST(StandardSize, IsSaidForOneInWholePointsAndNoOther)
+{
+    const auto expectMm = [](const QSizeF &points, double width, double height) {
+        EXPECT_NEAR(mmFromPoints(points.width()), width, 0.001);
+        EXPECT_NEAR(mmFromPoints(points.height()), height, 0.001);
+    };
+    expectMm(standardSize({595.0, 842.0}), 210.0, 297.0);          // A4
+    expectMm(standardSize({842.0, 595.0}), 297.0, 210.0);          // lying
+    expectMm(standardSize({420.0, 595.0}), 148.0, 210.0);          // A5
+    expectMm(standardSize({612.0, 792.0}), 215.9, 279.4);          // Letter
+    EXPECT_EQ(standardSize({597.0, 842.0}), QSizeF(597.0, 842.0)); // two points wider than A4
+    const QSizeF own(pointsFromMm(209.9), pointsFromMm(297.0));    // somebody's own, a little narrower
+    EXPECT_EQ(standardSize(own), own);
+    EXPECT_EQ(standardSize({}), QSizeF());
+}
+
 TEST(NamedSizes, AreRememberedReplacedAndForgotten)
 {
     const QTemporaryDir folder;

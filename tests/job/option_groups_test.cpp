@@ -56,6 +56,17 @@ QStringList offered(const QByteArray &lines, const QSet<QString> &elsewhere = pa
     return result;
 }
 
+TEST(OptionGroups, OfPrinterCommandsWithoutATitle_GetOneThatSaysSomething)
+{
+    const QByteArray commands = QByteArray(option("JCLEcono/Toner saving", "Off On"))
+                                    .replace("*OpenUI", "*JCLOpenUI")
+                                    .replace("*CloseUI", "*JCLCloseUI")
+                                    .replace("AnySetup", "JCLSetup");
+    EXPECT_EQ(offered(commands), QStringList{u"Printer Commands | Toner saving: Off, On"_qs});
+    EXPECT_EQ(offered(group("JCL/Language of the Printer", commands)),
+              QStringList{u"Language of the Printer | Toner saving: Off, On"_qs});
+}
+
 TEST(OptionGroups, StandInTheDescriptionsOrderUnderItsTexts)
 {
     EXPECT_EQ(

@@ -30,6 +30,8 @@ TEST(StateReasons, Keywords_AreReadWithTheirWeightAndSaidInWords)
         {"paused", ReasonWeight::Error, "paused", "paused"},
         {"offline-report", ReasonWeight::Report, "switched off or not connected", "switched off or not connected"},
         {"connecting-to-device", ReasonWeight::Report, "being connected", "being connected"},
+        {"cups-waiting-for-job-completed", ReasonWeight::Report, "the printer is at work", "the printer is at work"},
+        {"cups-remote-processing", ReasonWeight::Report, "cups remote processing", "cups remote processing"},
         {"timed-out", ReasonWeight::Error, "it does not answer", "it does not answer"},
         {"shutdown", ReasonWeight::Error, "switched off or not connected", "switched off or not connected"},
         {"spool-area-full-warning", ReasonWeight::Warning, "the print server's disk is full",

@@ -16,6 +16,10 @@ int main(int argc, char **argv)
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     qputenv("XDG_STATE_HOME", settings.path().toLocal8Bit());
+    // Without a runtime folder the toolkit remarks on it in each program.
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+        qputenv("XDG_RUNTIME_DIR", settings.path().toLocal8Bit());
+    }
     ::testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();

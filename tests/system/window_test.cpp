@@ -291,6 +291,22 @@ TEST_F(WindowJob, CancelWhileTheServerIsSilentInTheMiddle_CancelsTheJobAndTheWin
     EXPECT_TRUE(cups.filterCalls(1).empty());
 }
 
+TEST_F(WindowJob, FileThatIsMissing_IsSaidInAWindowWhereNobodyReadsStandardError)
+{
+    // As a desktop starts the program: without a terminal.
+    const QString problem = dialog.openUnconnected(
+        {u"/usr/bin/setsid"_qs,
+         {QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), u"-d"_qs, u"tape"_qs, workFolder + u"/missing.pdf"_qs},
+         variables(),
+         workFolder});
+    ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+    EXPECT_EQ(dialog.title(), "Tape Print");
+    dialog.press({u"Return"_qs});
+    const Outcome outcome = dialog.waitForEnd();
+    EXPECT_EQ(outcome.status, testsupport::badDocument);
+    EXPECT_TRUE(outcome.messages.contains("missing.pdf")) << outcome.messages.toStdString();
+}
+
 TEST_F(WindowJob, Cancel_PrintsNothing)
 {
     ASSERT_NO_FATAL_FAILURE(open());
