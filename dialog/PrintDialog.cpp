@@ -55,7 +55,9 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
         PageRenderer::prepare();
     }
     buildControls();
-    addCommandButton();
+    if (mSetup.showsCommand) {
+        addCommandButton();
+    }
     connect(&mUnit, &MeasureUnit::notKept, this, [this](const QString &path) {
         say(QMessageBox::Warning,
             tr("The unit holds for this window alone: %1 cannot be written.").arg(job::harmless(path)));

@@ -74,6 +74,7 @@ public:
         /// been printed. Null: the window prints.
         std::function<void(const job::SettledJob &job, const std::function<bool()> &keep)> takeSettings = nullptr;
         QString acceptLabel = {}; ///< of the button that does so; empty: Print
+        bool showsCommand = true; ///< whether a command could print it: not when the documents have no names
         QString aboutPages = {};  ///< a sentence about the pages that come later; null when there is none
     };
     /// What Print does when the settings are final, away from the window's thread. \param watch its stop flag becomes

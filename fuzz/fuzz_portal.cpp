@@ -290,6 +290,7 @@ void checkCaller(const QVariantMap &options)
     portal::numberIn(options, QStringLiteral("token"));
     const std::optional<WId> window = portal::x11WindowIn(caller.parentWindow);
     require(!window || *window != 0);
+    require(portal::waylandHandleIn(caller.parentWindow).size() <= 256);
     const portal::ParentWindow parent(caller.parentWindow);
 }
 

@@ -234,7 +234,9 @@ bool postScriptToPdf(const QString &document, const QString &path, const std::at
 
 QString noRoomForTemporaryFiles(const QString &reason)
 {
-    return Texts::tr("A temporary file cannot be written (%1): make room in the folder for temporary files.")
+    return Texts::tr(
+               "A temporary file cannot be written (%1): see that the folder for temporary files can be written to "
+               "and has room.")
         .arg(reason);
 }
 

@@ -2,6 +2,7 @@
 // Written with libqpdf: Qt's own writer of PDFs rounds pages to whole points, which would stretch a picture.
 #include "job/PicturePdf.h"
 
+#include "job/Conversion.h"
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
@@ -133,9 +134,7 @@ bool pictureToPdf(const QString &picture, const QString &path, Problem *error)
     try {
         writePage(onWhite(image), pageOf(image), path);
     } catch (const std::exception &failure) {
-        *error = Texts::tr("The pages of the document %1 cannot be written (%2): make room in the folder for temporary "
-                           "files.")
-                     .arg(harmless(picture), harmless(QString::fromUtf8(failure.what()).simplified()));
+        *error = noRoomForTemporaryFiles(harmless(QString::fromUtf8(failure.what()).simplified()));
         return false;
     }
     return true;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// On X11 another program's window has a number. On Wayland it has a handle of the xdg-foreign protocol, which Qt 6.4
-// gives no public way to import: the dialog then stands by itself.
+// On X11 another program's window has a number, on Wayland a handle. One of the other kind than the display is of no
+// use: the dialog then stands by itself.
 #include "portal/ParentWindow.h"
 
 #include "portal/Log.h"
@@ -30,31 +30,45 @@ std::optional<WId> x11WindowIn(const QString &parentWindow)
     return isNumber && number != 0 ? std::optional<WId>(number) : std::nullopt;
 }
 
+QByteArray waylandHandleIn(const QString &parentWindow)
+{
+    if (!parentWindow.startsWith(waylandPrefix)) {
+        return {};
+    }
+    const QByteArray handle = parentWindow.mid(waylandPrefix.size()).toUtf8();
+    return isWaylandHandle(handle) ? handle : QByteArray();
+}
+
 ParentWindow::ParentWindow(const QString &handle)
 {
     if (handle.isEmpty()) {
         return;
     }
-    const bool isX11 = QGuiApplication::platformName() == QLatin1String("xcb");
+    const QString platform = QGuiApplication::platformName();
+    const bool isX11 = platform == QLatin1String("xcb");
+    const bool isWayland = platform.startsWith(QLatin1String("wayland"));
     if (const std::optional<WId> number = x11WindowIn(handle); number && isX11) {
         mWindow.reset(QWindow::fromWinId(*number));
-    } else if (handle.startsWith(waylandPrefix)) {
-        qCInfo(portalLog) << "the dialog stands by itself: windows of other programs cannot be had on Wayland";
-    } else {
+    } else if (mWaylandHandle = waylandHandleIn(handle); mWaylandHandle.isEmpty() || !isWayland) {
+        mWaylandHandle.clear();
         qCWarning(portalLog) << "the caller's window cannot be used, the dialog stands by itself:" << handle.left(64);
     }
 }
 
-void ParentWindow::adopt(QWidget &window, bool isModal) const
+void ParentWindow::adopt(QWidget &window, bool isModal)
 {
-    if (!mWindow) {
+    if (!mWindow && mWaylandHandle.isEmpty()) {
         return;
     }
     if (isModal) {
         window.setWindowModality(Qt::WindowModal);
     }
     window.winId(); // from now on it has a native window
-    window.windowHandle()->setTransientParent(mWindow.get());
+    if (mWindow) {
+        window.windowHandle()->setTransientParent(mWindow.get());
+    } else {
+        mForeign = std::make_unique<WaylandParent>(mWaylandHandle, *window.windowHandle());
+    }
 }
 
 } // namespace tapeprint::portal

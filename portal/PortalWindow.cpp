@@ -3,7 +3,6 @@
 // returned.
 #include "portal/PortalWindow.h"
 
-#include <QPushButton>
 #include <QThread>
 
 #include <utility>
@@ -17,11 +16,18 @@ namespace
 constexpr int lookMs = 20;
 constexpr int waitMs = 250;
 
+/// The document comes by a descriptor: it has no name by which a command could find it.
+dialog::PrintDialog::Setup withoutCommand(dialog::PrintDialog::Setup setup)
+{
+    setup.showsCommand = false;
+    return setup;
+}
+
 } // namespace
 
-PortalWindow::PortalWindow(const dialog::PrintDialog::Setup &setup, dialog::PrintDialog::PrintAction print,
+PortalWindow::PortalWindow(dialog::PrintDialog::Setup setup, dialog::PrintDialog::PrintAction print,
                            const QString &parentWindow, bool isModal)
-    : mWindow(setup, std::move(print)), mParent(parentWindow)
+    : mWindow(withoutCommand(std::move(setup)), std::move(print)), mParent(parentWindow)
 {
     mDismissTimer.setInterval(lookMs);
     mQuietTimer.setInterval(lookMs);
@@ -31,10 +37,6 @@ PortalWindow::PortalWindow(const dialog::PrintDialog::Setup &setup, dialog::Prin
         mDismissTimer.stop();
         Q_EMIT closed(result == QDialog::Accepted);
     });
-    // The document has no name by which a command could find it.
-    if (auto *command = dialog().findChild<QPushButton *>(QStringLiteral("showCommand"))) {
-        command->hide();
-    }
     mParent.adopt(dialog(), isModal);
     // A printer that opens at once is there when the window comes up, which then has its size.
     mShowTimer.setSingleShot(true);

@@ -17,8 +17,8 @@ class PortalWindow : public QObject
 
 public:
     /// \param parentWindow as the portal names it. \param isModal whether that window is to wait for ours.
-    PortalWindow(const dialog::PrintDialog::Setup &setup, dialog::PrintDialog::PrintAction print,
-                 const QString &parentWindow, bool isModal);
+    PortalWindow(dialog::PrintDialog::Setup setup, dialog::PrintDialog::PrintAction print, const QString &parentWindow,
+                 bool isModal);
 
     const job::Job &job() const { return mWindow.job(); }
     dialog::PrintDialog &dialog() { return mWindow.dialog(); }

@@ -154,6 +154,16 @@ TEST_F(PrintDialogTest, ShowCommand_ShowsTheSettingsAsTheyStandAndCopiesThem)
     EXPECT_EQ(QApplication::clipboard()->text(), shown);
 }
 
+TEST_F(PrintDialogTest, DocumentsWithoutNames_NoCommandIsOffered)
+{
+    EXPECT_NE(dialog->findChild<QPushButton *>(u"showCommand"_qs), nullptr);
+    dialog.reset();
+    PrintDialog::Setup setup{{}, u"label.txt"_qs, files, {}};
+    setup.showsCommand = false;
+    dialog = std::make_unique<PrintDialog>(printJob, panels, setup, nullptr);
+    EXPECT_EQ(dialog->findChild<QPushButton *>(u"showCommand"_qs), nullptr);
+}
+
 TEST_F(PrintDialogTest, PickOfATape_IsToldToThePanelBeforeAndAfterItIsShownWithIt)
 {
     takeCalls();

@@ -21,6 +21,7 @@ using tapeprint::portal::Caller;
 using tapeprint::portal::headingFor;
 using tapeprint::portal::jobNameFor;
 using tapeprint::portal::programName;
+using tapeprint::portal::waylandHandleIn;
 using tapeprint::portal::x11WindowIn;
 
 class CallingProgram : public testing::Test
@@ -109,6 +110,17 @@ TEST(CallingWindow, OnlyAnX11NumberIsOne)
     for (const QString &junk : {u""_qs, u"x11:"_qs, u"x11:0"_qs, u"x11:-1"_qs, u"x11:zz"_qs, u"x11:100000000"_qs,
                                 u"wayland:abc"_qs, u"200003"_qs}) {
         EXPECT_EQ(x11WindowIn(junk), std::nullopt) << junk.toStdString();
+    }
+}
+
+TEST(CallingWindow, OnlyAShortWordIsAHandleOnWayland)
+{
+    EXPECT_EQ(waylandHandleIn(u"wayland:ffd1c1e4-9a1b"_qs), "ffd1c1e4-9a1b");
+    EXPECT_EQ(waylandHandleIn(u"wayland:"_qs + QString(256, u'a')), QByteArray(256, 'a'));
+    for (const QString &junk :
+         {u""_qs, u"wayland:"_qs, u"x11:200003"_qs, u"ffd1c1e4-9a1b"_qs, u"wayland:two words"_qs, u"wayland:a\nb"_qs,
+          u"wayland:\u00e9"_qs, QString(u"wayland:a\0b"_qs), u"wayland:"_qs + QString(257, u'a')}) {
+        EXPECT_EQ(waylandHandleIn(junk), QByteArray()) << junk.toStdString();
     }
 }
 

@@ -11,6 +11,9 @@
 #include <QDBusVariant>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <array>
 #include <csignal>
@@ -49,11 +52,10 @@ protected:
     /// What has to be there before the session's bus is.
     virtual void prepareSession() {}
 
-    Reply prepare(const QString &token, const QString &parentWindow = {})
+    Reply prepare(const QString &token, const QString &parentWindow = {}, const QVariantMap &options = {})
     {
-        return callBackend(u"PreparePrint"_qs,
-                           {QVariant::fromValue(handle(token)), u"org.example.Program"_qs, parentWindow, u"Title"_qs,
-                            QVariantMap(), QVariantMap(), QVariantMap()});
+        return callBackend(u"PreparePrint"_qs, {QVariant::fromValue(handle(token)), u"org.example.Program"_qs,
+                                                parentWindow, u"Title"_qs, QVariantMap(), QVariantMap(), options});
     }
     Reply print(const QString &token, int descriptor, const QVariantMap &options = {})
     {
@@ -346,6 +348,21 @@ TEST_F(Backend, IdleForAWhile_Leaves)
     EXPECT_EQ(program.exitCode(), 0);
 }
 
+TEST_F(Backend, OptionsOfLaterPortals_OpenTheDialogAsTheirLackDoes)
+{
+    Reply reply = prepare(u"later"_qs, {},
+                          {{u"modal"_qs, true},
+                           {u"accept_label"_qs, u"_Go"_qs},
+                           {u"has_current_page"_qs, true},
+                           {u"has_selected_pages"_qs, false},
+                           {u"supported_output_file_formats"_qs, QStringList{u"pdf"_qs, u"svg"_qs}}});
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    EXPECT_FALSE(reply.isFinished());
+    EXPECT_EQ(dialog.title(), "Title \xe2\x80\x93 org.example.Program");
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(reply), cancelled);
+}
+
 TEST_F(Backend, Sigterm_EndsItAndItsWindow)
 {
     Reply reply = prepare(u"one"_qs);
@@ -377,35 +394,49 @@ TEST_F(Backend, WithoutBusOrDisplayOrWithAnotherInItsPlace_SaysWhyAndEnds)
     EXPECT_TRUE(second.messages.contains("another one has it")) << second.messages.toStdString();
 }
 
-/// A session on Wayland, whose protocol the backend writes down.
+/// A session on Wayland.
 class BackendOnWayland : public Backend
 {
 protected:
-    void prepareSession() override
+    /// Starts the display, which makes the socket.
+    void startDisplay(const QString &file, const QStringList &arguments)
     {
-        moreOfSession = {{u"DISPLAY"_qs, QString()}, {u"WAYLAND_DISPLAY"_qs, socket}, {u"WAYLAND_DEBUG"_qs, u"1"_qs}};
-        ASSERT_NO_FATAL_FAILURE(startProgram(
-            compositor, u"weston"_qs,
-            {u"--backend=headless-backend.so"_qs, u"--socket="_qs + socket, u"--idle-time=0"_qs, u"--no-config"_qs}));
+        moreOfSession.insert(moreOfSession.end(), {{u"DISPLAY"_qs, QString()}, {u"WAYLAND_DISPLAY"_qs, socket}});
+        ASSERT_NO_FATAL_FAILURE(startProgram(compositor, file, arguments));
         ASSERT_TRUE(waitUntil([this] { return QFileInfo::exists(folder.path(u"run"_qs) + u'/' + socket); }))
             << compositor.readAllStandardError().toStdString();
     }
     void TearDown() override
     {
+        systemtest::endProcess(program);
         Backend::TearDown();
         systemtest::endProcess(compositor);
     }
 
-    const QString socket = u"wayland-of-test"_qs;
+    QString socket = u"wayland-1"_qs;
     QProcess compositor;
+    QProcess program; ///< one that prints
 };
 
-TEST_F(BackendOnWayland, ParentOfAnotherProgram_TheDialogStandsByItselfAndIsThereAtOnce)
+/// On a display that lends no windows. The backend writes down what it says to it.
+class BackendOnPlainWayland : public BackendOnWayland
+{
+protected:
+    void prepareSession() override
+    {
+        ASSERT_NO_FATAL_FAILURE(
+            startDisplay(u"weston"_qs, {u"--backend=headless-backend.so"_qs, u"--socket="_qs + socket,
+                                        u"--idle-time=0"_qs, u"--no-config"_qs}));
+        moreOfSession.emplace_back(u"WAYLAND_DEBUG"_qs, u"1"_qs);
+    }
+};
+
+TEST_F(BackendOnPlainWayland, ParentOfAnotherProgram_TheDialogStandsByItselfAndIsThereAtOnce)
 {
     QElapsedTimer time;
     time.start();
     Reply reply = prepare(u"one"_qs, u"wayland:0123456789abcdef"_qs);
-    EXPECT_TRUE(backendSays("the dialog stands by itself"));
+    EXPECT_TRUE(backendSays("the dialog stands by itself: the display has no windows of other programs to give"));
     EXPECT_TRUE(backendSays("set_title(\"Title \u2013 org.example.Program\")"));
     EXPECT_TRUE(backendSays("set_app_id(\"org.tapeprint.TapePrint\")")); // whose icon the desktop shows
     // The portal waits 25 seconds for a backend: one that waits for the portal would be given up.
@@ -413,6 +444,72 @@ TEST_F(BackendOnWayland, ParentOfAnotherProgram_TheDialogStandsByItselfAndIsTher
     EXPECT_FALSE(reply.isFinished());
     closeRequest(u"one"_qs);
     EXPECT_EQ(responseOf(reply), ended);
+}
+
+/// On a display that lends windows. It tiles those that stand by themselves; one over another floats.
+class BackendOnTilingWayland : public BackendOnWayland
+{
+protected:
+    void prepareSession() override
+    {
+        const QString configuration =
+            systemtest::writeFile(folder.path(u"sway.conf"_qs), "xwayland disable\nfocus_follows_mouse no\n");
+        moreOfSession = {{u"WLR_BACKENDS"_qs, u"headless"_qs}, {u"WLR_RENDERER"_qs, u"pixman"_qs}};
+        // It refuses to be root; among users of its own it is not.
+        ASSERT_NO_FATAL_FAILURE(startDisplay(u"unshare"_qs, {u"--user"_qs, u"sway"_qs, u"--config"_qs, configuration}));
+    }
+    /// Whether the dialog is on the display, in one of the two ways.
+    bool dialogStands(const QString &way)
+    {
+        const QString control = QDir(folder.path(u"run"_qs)).entryList({u"sway-ipc.*"_qs}, QDir::System).value(0);
+        QProcess question;
+        startProgram(question, u"swaymsg"_qs,
+                     {u"--socket"_qs, folder.path(u"run/"_qs + control), u"--raw"_qs, u"--type"_qs, u"get_tree"_qs});
+        question.waitForFinished();
+        return holdsDialog(QJsonDocument::fromJson(question.readAllStandardOutput()).object(), way);
+    }
+
+private:
+    static bool holdsDialog(const QJsonObject &node, const QString &way)
+    {
+        for (const QString &list : {u"nodes"_qs, u"floating_nodes"_qs}) {
+            for (const QJsonValue &entry : node[list].toArray()) {
+                const bool isDialog = entry[u"app_id"_qs].toString() == u"org.tapeprint.TapePrint"_qs;
+                if ((isDialog && list == way) || holdsDialog(entry.toObject(), way)) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+};
+
+TEST_F(BackendOnTilingWayland, WindowOfAnotherProgram_TheDialogStandsOverIt)
+{
+    ASSERT_NO_FATAL_FAILURE(startPortal());
+    ASSERT_NO_FATAL_FAILURE(
+        startProgram(program, QStringLiteral(TAPEPRINT_SOURCE_DIR "/tests/system/print_by_gtk.py"), {}));
+    EXPECT_TRUE(waitUntil([this] { return dialogStands(u"floating_nodes"_qs); }))
+        << program.readAllStandardError().toStdString() << bus.messages().toStdString();
+}
+
+TEST_F(BackendOnTilingWayland, HandleThatNobodyGaveOut_TheDialogStandsByItself)
+{
+    const std::array<QPair<QString, QByteArray>, 4> handles{{
+        {u"wayland:0123456789abcdef"_qs, "the display does not know the caller's window"},
+        {u"wayland:"_qs + QString(5000, u'a'), "the caller's window cannot be used"}, // no message is so long
+        {u"wayland:with\nlines"_qs, "the caller's window cannot be used"},
+        {u"x11:1234"_qs, "the caller's window cannot be used"},
+    }};
+    for (const auto &[parent, said] : handles) {
+        const QString token = u"of_%1"_qs.arg(parent.size());
+        Reply reply = prepare(token, parent);
+        EXPECT_TRUE(waitUntil([this] { return dialogStands(u"nodes"_qs); })) << parent.toStdString();
+        EXPECT_TRUE(backendSays(said)) << parent.toStdString();
+        closeRequest(token);
+        EXPECT_EQ(responseOf(reply), ended) << parent.toStdString();
+        EXPECT_TRUE(waitUntil([this] { return !dialogStands(u"nodes"_qs); }));
+    }
 }
 
 } // namespace
