@@ -4,6 +4,7 @@
 
 #include "job/PlainText.h"
 #include "job/PrivateFile.h"
+#include "job/Texts.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -34,7 +35,7 @@ bool staysAsNamed(const FileStamp &file)
 void sayUnreadable(const QString &path, const QString &reason, Problem *error)
 {
     *error = {Problem::BadDocument,
-              QStringLiteral("The document %1 cannot be read (%2): name a readable file.").arg(harmless(path), reason)};
+              Texts::tr("The document %1 cannot be read (%2): name a readable file.").arg(harmless(path), reason)};
 }
 
 } // namespace
@@ -67,7 +68,7 @@ bool DocumentSpool::add(const QString &file, Problem *error)
         return false;
     }
     if (S_ISDIR(source->mode)) {
-        sayUnreadable(file, QStringLiteral("it is a folder"), error);
+        sayUnreadable(file, Texts::tr("it is a folder"), error);
         return false;
     }
     QFile input(file);
@@ -81,7 +82,7 @@ bool DocumentSpool::add(const QString &file, Problem *error)
     }
     if (source->size == 0) {
         *error = {Problem::BadDocument,
-                  QStringLiteral("The document %1 is empty: name a file with something to print.").arg(harmless(file))};
+                  Texts::tr("The document %1 is empty: name a file with something to print.").arg(harmless(file))};
         return false;
     }
     mFiles.append(file);

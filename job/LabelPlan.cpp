@@ -146,6 +146,7 @@ std::vector<Label> dealOut(const std::vector<PageOfAll> &pages, const TapePage &
 std::vector<Label> asTheyAre(const std::vector<PageOfAll> &pages)
 {
     std::vector<Label> sheets;
+    sheets.reserve(pages.size());
     for (const PageOfAll &page : pages) {
         sheets.push_back({{page.document, page.page, QTransform(), QRectF({}, page.size)}});
     }

@@ -2,6 +2,7 @@
 // Options that do not go together: the window says it and resolves it, and neither it nor the command line prints with
 // a conflict that nobody saw. And the sheet for a page size of one's own.
 #include "ProgramTest.h"
+#include "ShownWindow.h"
 
 #include "dialog/ConflictNotice.h"
 #include "dialog/CustomSizeSheet.h"
@@ -55,9 +56,7 @@ protected:
                 *error = job::Problem(u"nothing is printed here"_qs);
                 return std::optional<job::PrintedJob>();
             });
-        dialog->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
-        QApplication::processEvents();
+        ASSERT_TRUE(hosttest::show(*dialog));
     }
     template <typename Widget>
     Widget *child(const QString &name)

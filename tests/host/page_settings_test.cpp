@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The Page Settings panel in the dialog: which printers get it, what is said of values that it cannot show, and what
 // stays of typed lengths when the tape or its material changes.
+#include "ShownWindow.h"
 #include "TestPrinter.h"
 
 #include "dialog/PrintDialog.h"
@@ -57,9 +58,7 @@ protected:
         panels.open(std::move(destination), asked);
         dialog = std::make_unique<PrintDialog>(job, panels, PrintDialog::Setup{{}, u"label"_qs, {}, {}},
                                                PrintDialog::PrintAction());
-        dialog->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
-        QApplication::processEvents();
+        ASSERT_TRUE(hosttest::show(*dialog));
     }
 
     template <typename Widget>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The window, with real clicks and keys.
+#include "ShownWindow.h"
 #include "TestPrinter.h"
 
 #include "dialog/PreviewArea.h"
@@ -54,9 +55,7 @@ protected:
             [this](const job::SettledJob &job, const std::atomic<bool> &stop, job::Problem *error) {
                 return job::printJob(job, u"label.txt"_qs, files, stop, error);
             });
-        dialog->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
-        QApplication::processEvents();
+        ASSERT_TRUE(hosttest::show(*dialog));
     }
 
     template <typename Widget>
@@ -353,9 +352,7 @@ protected:
         panels.open(std::move(destination), {});
         dialog = std::make_unique<PrintDialog>(printJob, panels, PrintDialog::Setup{{}, u"label.txt"_qs, files, {}},
                                                PrintDialog::PrintAction());
-        dialog->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
-        QApplication::processEvents();
+        ASSERT_TRUE(hosttest::show(*dialog));
     }
 
     /// The text of a control's label.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Panels that do wrong in every call of the protocol: printing goes on, or ends with a sentence that names the bundle.
 #include "ProgramTest.h"
+#include "ShownWindow.h"
 #include "TestPrinter.h"
 
 #include "dialog/Application.h"
@@ -64,9 +65,7 @@ protected:
             [this](const job::SettledJob &job, const std::atomic<bool> &stop, job::Problem *error) {
                 return job::printJob(job, u"label.txt"_qs, files, stop, error);
             });
-        dialog->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
-        QApplication::processEvents();
+        ASSERT_TRUE(hosttest::show(*dialog));
     }
 
     /// Presses Print, closes every message, and answers their texts. Ends when the window closes or rests.

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 // The connection to the print server when the server is silent, goes away, or wants a password.
+#include "job/JobRequests.h"
 #include "job/ServerConnection.h"
 #include "tests/support/MeddlingServer.h"
 
 #include <QTemporaryDir>
 
+#include <array>
 #include <chrono>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -149,6 +152,28 @@ TEST_F(ServerConnectionTest, ServerThatSaysAByteNowAndThen_IsLeftAfterAStopAndAf
     start = steady_clock::now();
     EXPECT_FALSE(ask(*server));
     EXPECT_LT(steady_clock::now() - start, milliseconds(3000));
+}
+
+TEST_F(ServerConnectionTest, JobThatIsOverOrForgotten_CountsAsCancelled)
+{
+    const std::vector<std::pair<ipp_status_t, bool>> answers{{IPP_STATUS_OK, true},
+                                                             {IPP_STATUS_ERROR_NOT_POSSIBLE, true},
+                                                             {IPP_STATUS_ERROR_NOT_FOUND, true},
+                                                             {IPP_STATUS_ERROR_NOT_AUTHORIZED, false},
+                                                             {IPP_STATUS_ERROR_INTERNAL, false}};
+    for (const auto &[status, isCancelled] : answers) {
+        // The shortest answer there is: a version, a status, a number and the end.
+        const std::array<char, 9> bytes{2, 0, static_cast<char>(status >> 8), static_cast<char>(status & 0xFF), 0, 0, 0,
+                                        1, 3};
+        const QByteArray answer(bytes.data(), bytes.size());
+        MeddlingServer answering(socket, {}, [](const SeenRequest &) { return Meddling::OwnReply; });
+        answering.replyWith([&answer](int piece) {
+            return piece == 0 ? "HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\nContent-Length: 9\r\n\r\n" + answer
+                              : QByteArray();
+        });
+        const auto server = ServerConnection::open(&stop);
+        EXPECT_EQ(cancelJob(*server, 1), isCancelled) << ippErrorString(status);
+    }
 }
 
 TEST_F(ServerConnectionTest, NoServer_IsSaidAtOnce)

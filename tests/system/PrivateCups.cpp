@@ -243,6 +243,23 @@ std::vector<std::pair<QString, QString>> PrivateCups::clientVariables() const
             {QStringLiteral("XDG_RUNTIME_DIR"), mFolder.path(QStringLiteral("home/runtime"))}};
 }
 
+void PrivateCups::useHere() const
+{
+    for (const auto &[name, value] : clientVariables()) {
+        qputenv(name.toLocal8Bit().constData(), value.toLocal8Bit());
+    }
+}
+
+QString PrivateCups::startWithTape()
+{
+    QString problem = start();
+    if (problem.isNull()) {
+        problem = addRecordedQueue(u"tape"_qs, u"mm"_qs);
+    }
+    useHere();
+    return problem;
+}
+
 QString PrivateCups::recordingFilter()
 {
     // The server runs no filter that others than root could have changed.

@@ -83,6 +83,10 @@ public:
 
     /// Environment variables that make clients use this server and no file of the user's or the machine's.
     std::vector<std::pair<QString, QString>> clientVariables() const;
+    /// Sets them in this process. Threads that are started from now on read them.
+    void useHere() const;
+    /// Starts the server with a recorded queue "tape", and uses it here. \return null, or what went wrong.
+    QString startWithTape();
 
 private:
     void guard(QByteArray &configuration);

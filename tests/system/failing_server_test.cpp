@@ -148,13 +148,8 @@ protected:
         if (const QString reason = PrivateCups::reasonToSkip(); !reason.isNull()) {
             GTEST_SKIP() << reason.toStdString();
         }
-        QString problem = cups.start();
+        const QString problem = cups.startWithTape();
         ASSERT_TRUE(problem.isNull()) << problem.toStdString();
-        problem = cups.addRecordedQueue(u"tape"_qs, u"mm"_qs);
-        ASSERT_TRUE(problem.isNull()) << problem.toStdString();
-        for (const auto &[name, value] : cups.clientVariables()) {
-            qputenv(name.toLocal8Bit().constData(), value.toLocal8Bit());
-        }
         qputenv("CUPS_SERVER", QFile::encodeName(socket()));
         cupsSetServer(QFile::encodeName(socket()).constData());
         server = std::make_unique<MeddlingServer>(socket(), cups.socket(), [this](const SeenRequest &request) {

@@ -46,14 +46,7 @@ protected:
         const QString problem = cups.start();
         ASSERT_TRUE(problem.isNull()) << problem.toStdString();
         succeed(cups.addPlainQueue(u"tape"_qs, u"mm"_qs));
-        useServer();
-    }
-    void useServer()
-    {
-        // Threads that are started from now on read them.
-        for (const auto &[name, value] : cups.clientVariables()) {
-            qputenv(name.toLocal8Bit().constData(), value.toLocal8Bit());
-        }
+        cups.useHere();
     }
     static void succeed(const QString &problem) { ASSERT_TRUE(problem.isNull()) << problem.toStdString(); }
 

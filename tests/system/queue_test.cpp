@@ -74,6 +74,16 @@ TEST_F(QueueJob, QueueDefaults_BecomeThePanelsFirstSelections)
               panelOptionsMm({"KsTapeColor=KsTapeColorYellow", "KsTapeMaterial=KsTapeMaterialCloth"}));
 }
 
+TEST_F(QueueJob, WhatTheServerTellsOfAQueue_IsNoOptionOfAJob)
+{
+    const Outcome outcome = tapeprint({u"-d"_qs, u"tape"_qs, u"--show-options"_qs});
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    EXPECT_TRUE(outcome.output.contains("KsTapeLength=")) << outcome.output.toStdString();
+    for (const char *told : {"printer-", "marker-", "device-uri", "queued-job-count", "auth-info"}) {
+        EXPECT_FALSE(outcome.output.contains(told)) << outcome.output.toStdString();
+    }
+}
+
 TEST_F(QueueJob, CopiesAndTitle_AreTheFiltersOwnArguments)
 {
     const std::vector<FilterCall> calls = printed({u"-n"_qs, u"3"_qs, u"-t"_qs, u"Büro \"A\" 'B'"_qs, document});
