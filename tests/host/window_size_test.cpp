@@ -9,6 +9,7 @@
 #include "dialog/PopUp.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
+#include "dialog/SummaryView.h"
 #include "dialog/Translations.h"
 #include "tests/support/TextPrinting.h"
 
@@ -238,6 +239,60 @@ TEST_P(WindowParts, ManyNotices_ScrollAndTakeTheKeys)
     EXPECT_EQ(notices->focusPolicy(), Qt::TabFocus);
     notices->setSentences({});
     EXPECT_FALSE(notices->isVisible());
+}
+
+TEST_P(WindowParts, NoticesUnderThePointer_CanBeSelectedAndCopied)
+{
+    NoticesArea notices;
+    notices.setSentences(u"The printer needs 24 mm tape."_qs);
+    notices.resize(400, 60);
+    notices.show();
+    auto *words = notices.findChild<QLabel *>(u"notices"_qs);
+    const QPoint start(1, words->height() / 2);
+    QEnterEvent enter(start, start, start);
+    QApplication::sendEvent(words, &enter);
+    QTest::mousePress(words, Qt::LeftButton, {}, start);
+    QTest::mouseMove(words, {words->width() - 1, words->height() - 1});
+    QTest::mouseRelease(words, Qt::LeftButton, {}, {words->width() - 1, words->height() - 1});
+    EXPECT_EQ(words->selectedText(), u"The printer needs 24 mm tape."_qs);
+}
+
+TEST_P(WindowParts, NoticesInALargerFontOrLonger_GrowWithTheirWords)
+{
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    auto *notices = new NoticesArea(&window);
+    layout->addWidget(notices);
+    layout->addStretch();
+    window.resize(400, 600);
+    window.show();
+    notices->setSentences(u"One line."_qs);
+    QApplication::processEvents();
+    const int lineHeight = notices->height();
+    notices->setSentences(u"One line.\nAnd another."_qs);
+    QApplication::processEvents();
+    const int twoLines = notices->height();
+    EXPECT_GT(twoLines, lineHeight);
+    QFont larger = notices->font();
+    larger.setPointSizeF(larger.pointSizeF() * 2.0);
+    notices->setFont(larger);
+    QApplication::processEvents();
+    EXPECT_GT(notices->height(), twoLines * 3 / 2);
+    const auto *words = notices->findChild<QLabel *>(u"notices"_qs);
+    EXPECT_GE(words->height(), 2 * words->fontMetrics().lineSpacing());
+}
+
+TEST_P(WindowParts, SummaryTitle_IsShownWhole)
+{
+    SummaryView view;
+    const QString title = u"Length of the tape that is printed on"_qs;
+    view.showSummary({{u"Panel"_qs, {{title, u"2.0 m"_qs}}}});
+    view.resize(600, 100);
+    view.show();
+    const int wished =
+        static_cast<const QAbstractItemView &>(view).sizeHintForColumn(0); // the text and the style's gaps
+    EXPECT_GE(view.columnWidth(0), wished);
+    EXPECT_LT(view.columnWidth(0), wished + 20);
 }
 
 TEST_P(WindowParts, TabKey_GoesAsTheEyeReads)
