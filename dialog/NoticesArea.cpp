@@ -2,6 +2,7 @@
 // The height follows from the width at which the sentences are wrapped.
 #include "dialog/NoticesArea.h"
 
+#include <QHash>
 #include <QLabel>
 #include <QResizeEvent>
 #include <QScrollBar>
@@ -17,6 +18,48 @@ namespace
 
 constexpr int mostLines = 4;
 constexpr int margin = 4;
+
+/// Wrapped sentences. The layouts ask for their height at a few widths over and over, and each answer costs the shaping
+/// of every word: it is remembered. A label that can be selected from keeps a whole text document, which costs twice
+/// that: this one can be from when the pointer comes.
+class Sentences : public QLabel
+{
+public:
+    explicit Sentences(QWidget *parent) : QLabel(parent)
+    {
+        setWordWrap(true);
+        setTextFormat(Qt::PlainText);
+    }
+
+    int heightForWidth(int width) const override
+    {
+        if (mMeasured != text()) {
+            mMeasured = text();
+            mHeights.clear();
+        }
+        const auto known = mHeights.constFind(width);
+        return known != mHeights.constEnd() ? *known : *mHeights.insert(width, QLabel::heightForWidth(width));
+    }
+    QSize sizeHint() const override { return minimumSizeHint(); }
+    /// As narrow as may be, which costs no measuring: the area around it sets the width.
+    QSize minimumSizeHint() const override { return {1, fontMetrics().lineSpacing()}; }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        mHeights.clear(); // of another font or style
+        QLabel::changeEvent(event);
+    }
+    void enterEvent(QEnterEvent *event) override
+    {
+        setTextInteractionFlags(Qt::TextSelectableByMouse);
+        QLabel::enterEvent(event);
+    }
+
+private:
+    mutable QString mMeasured;
+    mutable QHash<int, int> mHeights;
+};
 
 } // namespace
 
@@ -35,11 +78,8 @@ NoticesArea::NoticesArea(QWidget *parent) : QScrollArea(parent)
     auto *content = new QWidget;
     mColumn = new QVBoxLayout(content);
     mColumn->setContentsMargins(margin, margin, margin, margin);
-    mSentences = new QLabel(content);
+    mSentences = new Sentences(content);
     mSentences->setObjectName(QStringLiteral("notices"));
-    mSentences->setWordWrap(true);
-    mSentences->setTextFormat(Qt::PlainText);
-    mSentences->setTextInteractionFlags(Qt::TextSelectableByMouse);
     mColumn->addWidget(mSentences);
     setWidget(content);
     hide();

@@ -12,7 +12,6 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QListView>
 #include <QStyle>
 
 #include <algorithm>
@@ -56,11 +55,7 @@ void OptionRow::makePopUp(const job::OfferedOption &option, const MeasureUnit &u
     mPopUp->setWishedLetters(lettersOf(option));
     mChoices = new ChoiceModel(option, mPopUp);
     mPopUp->setModel(mChoices);
-    if (auto *list = qobject_cast<QListView *>(mPopUp->view())) {
-        // Or each of ten thousand would be measured and placed before the first is seen.
-        list->setUniformItemSizes(true);
-        list->setLayoutMode(QListView::Batched);
-    }
+    mPopUp->setHasItemsAlike(true);
     connect(mPopUp, &QComboBox::activated, this, &OptionRow::pickRow);
     grid->addWidget(mPopUp, 0, 0);
     if (!option.customValues.empty()) {

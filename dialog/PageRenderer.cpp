@@ -236,11 +236,6 @@ PageRenderer::~PageRenderer()
     }
 }
 
-void PageRenderer::prepare()
-{
-    startDetached(job::loadDrawer);
-}
-
 void PageRenderer::setDocuments(const QStringList &pdfPaths, const QStringList &shownAs)
 {
     ++mGeneration;

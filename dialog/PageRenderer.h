@@ -48,9 +48,6 @@ public:
     explicit PageRenderer(QObject *parent = nullptr);
     ~PageRenderer() override;
 
-    /// Loads what draws pages, in a thread of its own, before there is a document to be drawn.
-    static void prepare();
-
     /// Takes the documents to show, given as paths of PDF files; earlier ones are dropped. Their pictures stand for the
     /// new ones' until these are read and rendered.
     /// \param shownAs how sentences name them, one by one; where it ends, by their paths.

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
-// The toolkit cuts a text that is too long in the middle of a letter; here it ends in dots.
+// The toolkit cuts a text that is too long in the middle of a letter; here it ends in dots. And it makes the list that
+// opens as soon as anything is set that the list or the size depends on: here it is made when it opens first.
 #include "dialog/PopUp.h"
 
 #include "dialog/PlainText.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QListView>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
@@ -26,10 +28,7 @@ constexpr int leastLetters = 12;
 
 PopUp::PopUp(QWidget *parent) : QComboBox(parent)
 {
-    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(leastLetters);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    view()->setTextElideMode(Qt::ElideMiddle);
 }
 
 void PopUp::setWishedLetters(int letters)
@@ -38,10 +37,27 @@ void PopUp::setWishedLetters(int letters)
     updateGeometry();
 }
 
+void PopUp::setHasItemsAlike(bool hasItemsAlike)
+{
+    mHasItemsAlike = hasItemsAlike;
+}
+
 QSize PopUp::sizeHint() const
 {
-    const int more = std::max(mWishedLetters - minimumContentsLength(), 0);
-    return QComboBox::sizeHint() + QSize(more * fontMetrics().averageCharWidth(), 0);
+    const int more = std::max(mWishedLetters - leastLetters, 0);
+    return minimumSizeHint() + QSize(more * fontMetrics().averageCharWidth(), 0);
+}
+
+QSize PopUp::minimumSizeHint() const
+{
+    constexpr int beforeText = 4;
+    constexpr int aroundText = 2;
+    const QFontMetrics metrics = fontMetrics();
+    const int width = leastLetters * metrics.horizontalAdvance(u'X') + iconSize().width() + beforeText;
+    const int height = std::max(metrics.height(), iconSize().height()) + aroundText;
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, {width, height}, this);
 }
 
 int PopUp::listWidth() const
@@ -72,6 +88,12 @@ void PopUp::showPopup()
 {
     const int bar = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
     const int most = screen()->availableSize().width() * 2 / 3;
+    view()->setTextElideMode(Qt::ElideMiddle);
+    if (auto *list = qobject_cast<QListView *>(view()); list != nullptr && mHasItemsAlike) {
+        // Or each of ten thousand would be measured and placed before the first is seen.
+        list->setUniformItemSizes(true);
+        list->setLayoutMode(QListView::Batched);
+    }
     view()->setMinimumWidth(std::min(listWidth() + bar, most));
     QComboBox::showPopup();
 }

@@ -18,7 +18,10 @@ public:
 
     /// Asks for room for so many letters where there is room; less than the least is no matter.
     void setWishedLetters(int letters);
+    /// All items are as high as the first, which is worth knowing where there are thousands.
+    void setHasItemsAlike(bool hasItemsAlike);
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
     /// Whether the text of the current item is shortened.
     bool isCut() const;
     void showPopup() override;
@@ -32,6 +35,7 @@ private:
     int listWidth() const;
 
     int mWishedLetters = 0;
+    bool mHasItemsAlike = false;
 };
 
 } // namespace tapeprint::dialog

@@ -7,7 +7,6 @@
 #include "dialog/LayoutPage.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/OptionsPage.h"
-#include "dialog/PageRenderer.h"
 #include "dialog/PanelArea.h"
 #include "dialog/PaperMenu.h"
 #include "dialog/PlainText.h"
@@ -48,12 +47,10 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     mRestTimer.setSingleShot(true);
     mRestTimer.setInterval(0);
     mCountTimer.setSingleShot(true);
-    // The printer is opened and what draws pages is loaded, in threads, while the controls are made: for the first of
-    // them, the toolkit reads all fonts.
+    // The printer is opened, in a thread, while the controls are made: for the first of them, the toolkit reads all
+    // fonts. What draws pages is not loaded beside that: two threads at most have something to do, and whatever the
+    // toolkit loads in this one would have to wait until Poppler and all that it brings is in.
     mPrinters.start(mJob.destination());
-    if (!mSetup.files.isEmpty()) {
-        PageRenderer::prepare();
-    }
     buildControls();
     if (mSetup.showsCommand) {
         addCommandButton();

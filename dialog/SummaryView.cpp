@@ -22,13 +22,16 @@ SummaryView::SummaryView(QWidget *parent) : QTreeWidget(parent)
     setSelectionMode(QAbstractItemView::NoSelection);
     setAlternatingRowColors(true);
     setWordWrap(true);
-    header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    // Left to itself the header would measure every line at each change of the view's size.
+    header()->setSectionResizeMode(0, QHeaderView::Fixed);
+    header()->setMinimumSectionSize(0);
     header()->setStretchLastSection(true);
 }
 
 void SummaryView::showSummary(const std::vector<PanelSummary> &summary)
 {
     QList<QTreeWidgetItem *> items;
+    int titleWidth = 0;
     for (const PanelSummary &panel : summary) {
         // One panel needs no heading of its own.
         if (summary.size() > 1) {
@@ -43,9 +46,13 @@ void SummaryView::showSummary(const std::vector<PanelSummary> &summary)
             auto *item = new QTreeWidgetItem({title, value});
             item->setToolTip(1, plainToolTip(value));
             items.append(item);
+            titleWidth = std::max(titleWidth, fontMetrics().horizontalAdvance(title));
         }
     }
     clear();
+    constexpr int gaps = 4; // the style's, before and after a text
+    header()->resizeSection(0, titleWidth +
+                                   gaps * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1));
     addTopLevelItems(items);
     updateGeometry();
 }

@@ -49,12 +49,6 @@ QString usualFolder()
 
 } // namespace
 
-void loadDrawer()
-{
-    QString ignored;
-    loadOpenPdf(usualFolder(), &ignored);
-}
-
 std::unique_ptr<PageDrawer> openDrawerOf(const QString &folder, const QString &path, QString *problem)
 {
     *problem = QString();

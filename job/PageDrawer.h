@@ -40,9 +40,6 @@ public:
     virtual QImage draw(int page, const Part &part, const std::atomic<bool> &stop) const = 0;
 };
 
-/// Loads the code behind it, which else the first document does. Whatever keeps it from loading is said there.
-void loadDrawer();
-
 /// Opens a document, which is only read. \param problem takes why none can be opened here at all: a part of this
 /// program is missing. \return null also for a document that is none, or broken; the problem is null then.
 std::unique_ptr<PageDrawer> openDrawer(const QString &path, QString *problem);

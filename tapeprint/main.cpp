@@ -103,6 +103,8 @@ int main(int argc, char **argv)
             qputenv("QT_QPA_PLATFORM", "minimal"); // the toolkit's quickest: it reads no fonts
         }
     }
+    // A handful of short texts is matched at a start: compiling the patterns to machine code costs more than it saves.
+    qputenv("QT_ENABLE_REGEXP_JIT", "0");
     // The toolkit gets no arguments: its own options would take lp's letters away.
     int toolkitArgc = 1;
     auto start = std::make_optional<tapeprint::dialog::ToolkitStart>(

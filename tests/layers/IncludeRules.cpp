@@ -32,7 +32,7 @@ const std::array<Room, 12> &rooms()
 {
     static const std::array<Room, 12> table = {{
         {"tapeprint", {"dialog", "job", "pdekit"}, {"cups/"}},
-        {"portal", {"dialog", "job", "pdekit"}, {"cups/ppd.h"}},
+        {"portal", {"dialog", "job", "pdekit"}, {"cups/ppd.h", "qpa/qplatformnativeinterface.h"}},
         {"dialog", {"job", "pdekit"}, {"cups/", "fontconfig/"}},
         {"job", {"pdekit"}, {"cups/", "qpdf/"}, false},
         {"drawing", {"job"}, {"poppler-qt6.h"}, false},
