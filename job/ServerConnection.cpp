@@ -9,7 +9,13 @@
 #include "job/Texts.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <thread>
 #include <utility>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace tapeprint::job
 {
@@ -23,6 +29,8 @@ constexpr milliseconds tick{200};
 constexpr milliseconds connectPatience{5000};
 /// One attempt to connect, which nothing interrupts.
 constexpr milliseconds connectAttempt{800};
+/// Until the next attempt when too many others are being connected.
+constexpr milliseconds whileOthersAreServed{50};
 constexpr int mostQuestions = 3;
 
 /// The innermost connection of the thread: connections may be nested.
@@ -37,6 +45,34 @@ ServerConnection::Patience &patience()
 QString serverName()
 {
     return harmless(QString::fromUtf8(cupsServer()));
+}
+
+/// Whether there is somebody at the other end: libcups may take a local socket on which too many others wait to be let
+/// in for one that is connected.
+bool isConnected(int descriptor)
+{
+    sockaddr_storage other{};
+    socklen_t size = sizeof other;
+    // The socket interface takes every kind of address through this one type.
+    return getpeername(descriptor, reinterpret_cast<sockaddr *>(&other), &size) == 0;
+}
+
+/// Whether a local server is there and has only too many callers for now. libcups has one word for every failure to
+/// connect.
+bool isCrowded()
+{
+    const QByteArray path(cupsServer());
+    sockaddr_un address{};
+    if (!path.startsWith('/') || static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) {
+        return false;
+    }
+    address.sun_family = AF_UNIX;
+    std::copy_n(path.constData(), path.size(), static_cast<char *>(address.sun_path));
+    const int probe = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    const bool isThere = connect(probe, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0 ||
+                         errno == EAGAIN; // it has room again, or has none yet
+    close(probe);
+    return isThere;
 }
 
 } // namespace
@@ -81,21 +117,28 @@ std::unique_ptr<ServerConnection> ServerConnection::open(const std::atomic<bool>
 
 bool ServerConnection::isOpen() const
 {
-    return mHttp != nullptr && httpGetFd(mHttp) >= 0;
+    return mHasLine && httpGetFd(mHttp) >= 0;
 }
 
 bool ServerConnection::reconnect()
 {
     mIsSilent = false;
+    mHasLine = false;
     const Clock::time_point start = Clock::now();
-    while (mHttp != nullptr && !isOver() && Clock::now() - start < connectPatience) {
+    milliseconds patienceNow = connectPatience;
+    while (mHttp != nullptr && !isOver() && Clock::now() - start < patienceNow) {
         const Clock::time_point attempt = Clock::now();
-        if (httpReconnect2(mHttp, static_cast<int>(connectAttempt.count()), nullptr) == 0) {
+        const bool isReached = httpReconnect2(mHttp, static_cast<int>(connectAttempt.count()), nullptr) == 0;
+        mHasLine = isReached && isConnected(httpGetFd(mHttp));
+        if (mHasLine) {
             mHasBeenOpen = true;
             watchLine();
             return true;
         }
-        if (Clock::now() - attempt < connectAttempt / 2) {
+        if (isReached || isCrowded()) {
+            patienceNow = patience().longest;
+            std::this_thread::sleep_for(whileOthersAreServed);
+        } else if (Clock::now() - attempt < connectAttempt / 2) {
             break; // refused, which another attempt does not change
         }
     }

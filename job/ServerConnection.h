@@ -88,6 +88,7 @@ private:
     std::optional<Clock::time_point> mEnd; ///< when all calls end
     Clock::time_point mLastTick;           ///< when libcups last waited in vain
     Clock::time_point mSilentSince;
+    bool mHasLine = false; ///< it was connected, whatever became of that since
     bool mIsSilent = false;
     bool mIsToldOf = false; ///< its silence
     bool mHasBeenOpen = false;

@@ -45,7 +45,10 @@ void passMessage(QtMsgType type, const QMessageLogContext &context, const QStrin
 void bePatientWithServers(bool isSilent)
 {
     tapeprint::job::ServerConnection::Patience patience;
-    patience.longest = std::chrono::minutes(1);
+    constexpr int usualSeconds = 60;
+    bool isGiven = false;
+    const int given = qEnvironmentVariableIntValue("TAPEPRINT_PATIENCE", &isGiven);
+    patience.longest = std::chrono::seconds(isGiven && given > 0 ? given : usualSeconds);
     if (!isSilent) {
         patience.tell = [](const QString &server) {
             std::fputs(qPrintable(QStringLiteral("tapeprint: Waiting for the print server %1.\n").arg(server)), stderr);

@@ -4,14 +4,23 @@
 #include "job/ServerConnection.h"
 #include "tests/support/MeddlingServer.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <array>
+#include <cerrno>
 #include <chrono>
+#include <memory>
+#include <optional>
 #include <string>
 #include <thread>
 #include <utility>
 #include <vector>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -183,6 +192,84 @@ TEST_F(ServerConnectionTest, NoServer_IsSaidAtOnce)
     EXPECT_FALSE(server->isOpen());
     EXPECT_TRUE(server->problem().contains(u"server.sock does not answer")) << server->problem().toStdString();
     EXPECT_LT(steady_clock::now() - start, milliseconds(1000));
+}
+
+/// A server that takes no more callers: as many wait on its socket as it lets wait.
+class FullServer
+{
+public:
+    explicit FullServer(const QString &path) : mDoor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
+    {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        const QByteArray name = QFile::encodeName(path);
+        std::copy_n(name.constData(), name.size(), static_cast<char *>(address.sun_path));
+        // The socket interface takes every kind of address through this one type.
+        auto *any = reinterpret_cast<sockaddr *>(&address);
+        mIsFull = bind(mDoor, any, sizeof address) == 0 && listen(mDoor, 0) == 0;
+        int status = 0;
+        while (mIsFull && status == 0) {
+            mWaiting.push_back(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+            status = connect(mWaiting.back(), any, sizeof address);
+        }
+        mIsFull = mIsFull && errno == EAGAIN;
+    }
+    ~FullServer()
+    {
+        for (const int caller : mWaiting) {
+            close(caller);
+        }
+        close(mDoor);
+    }
+    FullServer(const FullServer &) = delete;
+    FullServer &operator=(const FullServer &) = delete;
+
+    bool isFull() const { return mIsFull; }
+
+private:
+    int mDoor;
+    bool mIsFull = false;
+    std::vector<int> mWaiting;
+};
+
+TEST_F(ServerConnectionTest, ServerWithAFullQueueOfCallers_IsCalledAgainUntilItHasRoom)
+{
+    auto full = std::make_unique<FullServer>(socket);
+    ASSERT_TRUE(full->isFull());
+    std::optional<MeddlingServer> free;
+    std::thread rush([&] {
+        std::this_thread::sleep_for(milliseconds(700));
+        full.reset();
+        QFile::remove(socket);
+        free.emplace(socket, QString(), [](const SeenRequest &) { return Meddling::AnswerOk; });
+    });
+    const auto server = ServerConnection::open(&stop);
+    EXPECT_TRUE(server->isOpen());
+    EXPECT_TRUE(ask(*server));
+    rush.join();
+}
+
+TEST_F(ServerConnectionTest, ServerWhoseQueueStaysFull_IsLeftWhenPatienceEndsOrAtAStop)
+{
+    ServerConnection::setPatience({milliseconds(300), milliseconds(900), nullptr});
+    const FullServer full(socket);
+    ASSERT_TRUE(full.isFull());
+    const auto start = steady_clock::now();
+    const auto server = ServerConnection::open(&stop);
+    EXPECT_GT(steady_clock::now() - start, milliseconds(800));
+    EXPECT_LT(steady_clock::now() - start, milliseconds(3000));
+    EXPECT_FALSE(server->isOpen());
+    EXPECT_TRUE(server->isUnreachable());
+    EXPECT_FALSE(ask(*server));
+    ServerConnection::setPatience({});
+    std::thread person([this] {
+        std::this_thread::sleep_for(milliseconds(300));
+        stop = true;
+    });
+    const auto second = steady_clock::now();
+    EXPECT_FALSE(ServerConnection::open(&stop)->isOpen());
+    EXPECT_LT(steady_clock::now() - second, milliseconds(2000));
+    person.join();
 }
 
 TEST_F(ServerConnectionTest, ServerThatComesBack_TakesTheSameConnectionAnew)

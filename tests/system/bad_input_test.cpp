@@ -101,7 +101,7 @@ TEST_F(BadInput, ServerThatHangs_IsNamed)
     // It takes connections, and says nothing on them.
     const int server = boundSocket(folder.path(u"hung.sock"_qs));
     ASSERT_EQ(listen(server, 5), 0);
-    moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"hung.sock"_qs)}};
+    moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"hung.sock"_qs)}, {u"TAPEPRINT_PATIENCE"_qs, u"2"_qs}};
     expectFailure(testsupport::unreachable, {u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document},
                   "hung.sock does not answer");
     close(server);
