@@ -84,6 +84,10 @@
         <source>it does not serve printer panels</source>
         <translation>es bietet keine Bereiche für Drucker</translation>
     </message>
+    <message>
+        <source>another program has been waiting for this plug-in for a minute or more</source>
+        <translation>ein anderes Programm wartet seit einer Minute oder länger auf dieses Plug-in</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::AmountLabel</name>
@@ -902,6 +906,19 @@
         <source>The unit holds for this window alone: %1 cannot be written.</source>
         <translation>Die Einheit gilt nur für dieses Fenster: %1 kann nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>This printer has no description: what is printed is handed to it as it is. So there is no preview, and nobody knows how many pages come out.</source>
+        <translation>Dieser Drucker hat keine Beschreibung: Was gedruckt wird, bekommt er so, wie es ist. Daher gibt es keine Vorschau, und wie viele Seiten herauskommen, weiß niemand.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the printer&apos;s description names no paper.</source>
+        <translation>Keine Vorschau: Die Beschreibung des Druckers nennt kein Papier.</translation>
+    </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>„%1“ ist von „%2“ ausgeschaltet: Dieser Drucker, das gewählte Band oder eine andere Einstellung dort bietet es nicht an.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1252,10 +1269,6 @@
         <translation>Die Filter des Druckers laufen ohne Abschottung, weil dieser Rechner sie nicht erlaubt (%1): Lassen Sie Benutzer Namensräume anlegen.</translation>
     </message>
     <message>
-        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>Eine temporäre Datei kann nicht geschrieben werden (%1). Schaffen Sie im Ordner für temporäre Dateien Platz.</translation>
-    </message>
-    <message>
         <source>The filters could not make pages of the document %1: %2.</source>
         <translation>Die Filter konnten aus dem Dokument %1 keine Seiten machen: %2.</translation>
     </message>
@@ -1370,10 +1383,6 @@
     <message>
         <source>more than %1 MiB of memory would be needed</source>
         <translation>mehr als %1 MiB Speicher wären nötig</translation>
-    </message>
-    <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>Die Seiten des Dokuments %1 können nicht geschrieben werden (%2). Schaffen Sie im Ordner für temporäre Dateien Platz.</translation>
     </message>
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
@@ -1856,6 +1865,27 @@
     <message>
         <source>%1 failed: %2.</source>
         <translation>%1 ist gescheitert: %2.</translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): see that the folder for temporary files can be written to and has room.</source>
+        <translation>Eine temporäre Datei kann nicht geschrieben werden (%1): Prüfen Sie, ob der Ordner für temporäre Dateien beschreibbar ist und Platz hat.</translation>
+    </message>
+    <message>
+        <source>%1 is handed to the print server as it is, which may know what to make of it.</source>
+        <translation>%1 geht so, wie es ist, an den Druckserver, der vielleicht etwas damit anfangen kann.</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty: name a file with something to print.</source>
+        <translation>Das Dokument %1 ist leer: Nennen Sie eine Datei, in der etwas zu drucken ist.</translation>
+    </message>
+    <message>
+        <source>Printer Commands</source>
+        <comment>options that are sent before the job, in the printer&apos;s own language</comment>
+        <translation>Druckerbefehle</translation>
+    </message>
+    <message>
+        <source>the printer is at work</source>
+        <translation>der Drucker arbeitet</translation>
     </message>
 </context>
 <context>

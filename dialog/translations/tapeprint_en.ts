@@ -84,6 +84,10 @@
         <source>it does not serve printer panels</source>
         <translation>it does not serve printer panels</translation>
     </message>
+    <message>
+        <source>another program has been waiting for this plug-in for a minute or more</source>
+        <translation>another program has been waiting for this plug-in for a minute or more</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::AmountLabel</name>
@@ -902,6 +906,19 @@
         <source>The unit holds for this window alone: %1 cannot be written.</source>
         <translation>The unit holds for this window alone: %1 cannot be written.</translation>
     </message>
+    <message>
+        <source>This printer has no description: what is printed is handed to it as it is. So there is no preview, and nobody knows how many pages come out.</source>
+        <translation>This printer has no description: what is printed is handed to it as it is. So there is no preview, and nobody knows how many pages come out.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the printer&apos;s description names no paper.</source>
+        <translation>There is no preview: the printer&apos;s description names no paper.</translation>
+    </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1252,10 +1269,6 @@
         <translation>The printer&apos;s filters run without confinement, because this machine does not allow it (%1): let users make name spaces.</translation>
     </message>
     <message>
-        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>A temporary file cannot be written (%1): make room in the folder for temporary files.</translation>
-    </message>
-    <message>
         <source>The filters could not make pages of the document %1: %2.</source>
         <translation>The filters could not make pages of the document %1: %2.</translation>
     </message>
@@ -1370,10 +1383,6 @@
     <message>
         <source>more than %1 MiB of memory would be needed</source>
         <translation>more than %1 MiB of memory would be needed</translation>
-    </message>
-    <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</translation>
     </message>
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
@@ -1856,6 +1865,27 @@
     <message>
         <source>%1 failed: %2.</source>
         <translation>%1 failed: %2.</translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): see that the folder for temporary files can be written to and has room.</source>
+        <translation>A temporary file cannot be written (%1): see that the folder for temporary files can be written to and has room.</translation>
+    </message>
+    <message>
+        <source>%1 is handed to the print server as it is, which may know what to make of it.</source>
+        <translation>%1 is handed to the print server as it is, which may know what to make of it.</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty: name a file with something to print.</source>
+        <translation>The document %1 is empty: name a file with something to print.</translation>
+    </message>
+    <message>
+        <source>Printer Commands</source>
+        <comment>options that are sent before the job, in the printer&apos;s own language</comment>
+        <translation>Printer Commands</translation>
+    </message>
+    <message>
+        <source>the printer is at work</source>
+        <translation>the printer is at work</translation>
     </message>
 </context>
 <context>

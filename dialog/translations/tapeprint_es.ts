@@ -84,6 +84,10 @@
         <source>it does not serve printer panels</source>
         <translation>no ofrece paneles de impresora</translation>
     </message>
+    <message>
+        <source>another program has been waiting for this plug-in for a minute or more</source>
+        <translation>otro programa espera a este complemento desde hace un minuto o más</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::AmountLabel</name>
@@ -902,6 +906,19 @@
         <source>The unit holds for this window alone: %1 cannot be written.</source>
         <translation>La unidad vale solo para esta ventana: no se puede escribir %1.</translation>
     </message>
+    <message>
+        <source>This printer has no description: what is printed is handed to it as it is. So there is no preview, and nobody knows how many pages come out.</source>
+        <translation>Esta impresora no tiene descripción: recibe lo que se imprime tal como está. Por eso no hay vista previa y no se sabe cuántas páginas saldrán.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the printer&apos;s description names no paper.</source>
+        <translation>Sin vista previa: la descripción de la impresora no indica ningún papel.</translation>
+    </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>«%1» está desactivado por «%2»: esta impresora, la cinta elegida u otro ajuste de allí no lo ofrece.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1252,10 +1269,6 @@
         <translation>Los filtros de la impresora se ejecutan sin aislamiento porque este equipo no lo permite (%1): permita que los usuarios creen espacios de nombres.</translation>
     </message>
     <message>
-        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>No se puede escribir un archivo temporal (%1). Libere espacio en la carpeta de archivos temporales.</translation>
-    </message>
-    <message>
         <source>The filters could not make pages of the document %1: %2.</source>
         <translation>Los filtros no pudieron generar páginas del documento %1: %2.</translation>
     </message>
@@ -1370,10 +1383,6 @@
     <message>
         <source>more than %1 MiB of memory would be needed</source>
         <translation>se necesitarían más de %1 MiB de memoria</translation>
-    </message>
-    <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>No se pueden escribir las páginas del documento %1 (%2). Libere espacio en la carpeta de archivos temporales.</translation>
     </message>
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
@@ -1856,6 +1865,27 @@
     <message>
         <source>%1 failed: %2.</source>
         <translation>%1 falló: %2.</translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): see that the folder for temporary files can be written to and has room.</source>
+        <translation>No se puede escribir un archivo temporal (%1): compruebe que se puede escribir en la carpeta de archivos temporales y que hay espacio.</translation>
+    </message>
+    <message>
+        <source>%1 is handed to the print server as it is, which may know what to make of it.</source>
+        <translation>%1 se entrega tal como está al servidor de impresión, que quizá sepa qué hacer con él.</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty: name a file with something to print.</source>
+        <translation>El documento %1 está vacío: indique un archivo con algo que imprimir.</translation>
+    </message>
+    <message>
+        <source>Printer Commands</source>
+        <comment>options that are sent before the job, in the printer&apos;s own language</comment>
+        <translation>Comandos de la impresora</translation>
+    </message>
+    <message>
+        <source>the printer is at work</source>
+        <translation>la impresora está trabajando</translation>
     </message>
 </context>
 <context>

@@ -84,6 +84,10 @@
         <source>it does not serve printer panels</source>
         <translation>il ne fournit pas de volets d’imprimante</translation>
     </message>
+    <message>
+        <source>another program has been waiting for this plug-in for a minute or more</source>
+        <translation>un autre programme attend ce module depuis une minute ou plus</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::AmountLabel</name>
@@ -902,6 +906,19 @@
         <source>The unit holds for this window alone: %1 cannot be written.</source>
         <translation>L’unité ne vaut que pour cette fenêtre : %1 ne peut pas être écrit.</translation>
     </message>
+    <message>
+        <source>This printer has no description: what is printed is handed to it as it is. So there is no preview, and nobody knows how many pages come out.</source>
+        <translation>Cette imprimante n’a pas de description : ce qui est imprimé lui est remis tel quel. Il n’y a donc pas d’aperçu, et nul ne sait combien de pages sortiront.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the printer&apos;s description names no paper.</source>
+        <translation>Pas d’aperçu : la description de l’imprimante n’indique aucun papier.</translation>
+    </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>« %1 » est désactivé par « %2 » : cette imprimante, le ruban choisi ou un autre réglage ne le propose pas.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1252,10 +1269,6 @@
         <translation>Les filtres de l’imprimante s’exécutent sans confinement, car cette machine ne le permet pas (%1) : autorisez les utilisateurs à créer des espaces de noms.</translation>
     </message>
     <message>
-        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>Un fichier temporaire ne peut pas être écrit (%1). Libérez de la place dans le dossier des fichiers temporaires.</translation>
-    </message>
-    <message>
         <source>The filters could not make pages of the document %1: %2.</source>
         <translation>Les filtres n’ont pas pu faire de pages du document %1 : %2.</translation>
     </message>
@@ -1370,10 +1383,6 @@
     <message>
         <source>more than %1 MiB of memory would be needed</source>
         <translation>plus de %1 Mio de mémoire seraient nécessaires</translation>
-    </message>
-    <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>Les pages du document %1 ne peuvent pas être écrites (%2). Libérez de la place dans le dossier des fichiers temporaires.</translation>
     </message>
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
@@ -1856,6 +1865,27 @@
     <message>
         <source>%1 failed: %2.</source>
         <translation>%1 a échoué : %2.</translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): see that the folder for temporary files can be written to and has room.</source>
+        <translation>Un fichier temporaire ne peut pas être écrit (%1) : vérifiez que le dossier des fichiers temporaires est accessible en écriture et qu’il y reste de la place.</translation>
+    </message>
+    <message>
+        <source>%1 is handed to the print server as it is, which may know what to make of it.</source>
+        <translation>%1 est remis tel quel au serveur d’impression, qui saura peut-être quoi en faire.</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty: name a file with something to print.</source>
+        <translation>Le document %1 est vide : indiquez un fichier qui contient quelque chose à imprimer.</translation>
+    </message>
+    <message>
+        <source>Printer Commands</source>
+        <comment>options that are sent before the job, in the printer&apos;s own language</comment>
+        <translation>Commandes de l’imprimante</translation>
+    </message>
+    <message>
+        <source>the printer is at work</source>
+        <translation>l’imprimante travaille</translation>
     </message>
 </context>
 <context>

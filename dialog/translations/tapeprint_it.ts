@@ -84,6 +84,10 @@
         <source>it does not serve printer panels</source>
         <translation>non offre pannelli per stampanti</translation>
     </message>
+    <message>
+        <source>another program has been waiting for this plug-in for a minute or more</source>
+        <translation>un altro programma attende questo plug-in da un minuto o più</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::AmountLabel</name>
@@ -902,6 +906,19 @@
         <source>The unit holds for this window alone: %1 cannot be written.</source>
         <translation>L’unità vale solo per questa finestra: impossibile scrivere %1.</translation>
     </message>
+    <message>
+        <source>This printer has no description: what is printed is handed to it as it is. So there is no preview, and nobody knows how many pages come out.</source>
+        <translation>Questa stampante non ha una descrizione: riceve ciò che si stampa così com’è. Perciò non c’è anteprima e non si sa quante pagine usciranno.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the printer&apos;s description names no paper.</source>
+        <translation>Nessuna anteprima: la descrizione della stampante non indica alcuna carta.</translation>
+    </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>«%1» è disattivato da «%2»: questa stampante, il nastro scelto o un’altra impostazione non lo offre.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1252,10 +1269,6 @@
         <translation>I filtri della stampante vengono eseguiti senza isolamento perché questo computer non lo consente (%1): consentire agli utenti di creare spazi dei nomi.</translation>
     </message>
     <message>
-        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>Impossibile scrivere un file temporaneo (%1). Liberare spazio nella cartella dei file temporanei.</translation>
-    </message>
-    <message>
         <source>The filters could not make pages of the document %1: %2.</source>
         <translation>I filtri non sono riusciti a creare pagine dal documento %1: %2.</translation>
     </message>
@@ -1370,10 +1383,6 @@
     <message>
         <source>more than %1 MiB of memory would be needed</source>
         <translation>servirebbero più di %1 MiB di memoria</translation>
-    </message>
-    <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>Impossibile scrivere le pagine del documento %1 (%2). Liberare spazio nella cartella dei file temporanei.</translation>
     </message>
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
@@ -1856,6 +1865,27 @@
     <message>
         <source>%1 failed: %2.</source>
         <translation>%1: errore: %2.</translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): see that the folder for temporary files can be written to and has room.</source>
+        <translation>Impossibile scrivere un file temporaneo (%1): verificare che la cartella dei file temporanei sia scrivibile e abbia spazio.</translation>
+    </message>
+    <message>
+        <source>%1 is handed to the print server as it is, which may know what to make of it.</source>
+        <translation>%1 viene passato così com’è al server di stampa, che forse sa che cosa farne.</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty: name a file with something to print.</source>
+        <translation>Il documento %1 è vuoto: indicare un file con qualcosa da stampare.</translation>
+    </message>
+    <message>
+        <source>Printer Commands</source>
+        <comment>options that are sent before the job, in the printer&apos;s own language</comment>
+        <translation>Comandi della stampante</translation>
+    </message>
+    <message>
+        <source>the printer is at work</source>
+        <translation>la stampante è al lavoro</translation>
     </message>
 </context>
 <context>

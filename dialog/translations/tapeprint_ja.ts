@@ -84,6 +84,10 @@
         <source>it does not serve printer panels</source>
         <translation>プリンターのパネルを提供していません</translation>
     </message>
+    <message>
+        <source>another program has been waiting for this plug-in for a minute or more</source>
+        <translation>別のプログラムが 1 分以上このプラグインを待っています</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::AmountLabel</name>
@@ -898,6 +902,19 @@
         <source>The unit holds for this window alone: %1 cannot be written.</source>
         <translation>単位はこのウィンドウでのみ有効です。%1 に書き込めません。</translation>
     </message>
+    <message>
+        <source>This printer has no description: what is printed is handed to it as it is. So there is no preview, and nobody knows how many pages come out.</source>
+        <translation>このプリンターには記述がなく、印刷するものはそのまま渡されます。そのためプレビューはなく、何ページ出るかは分かりません。</translation>
+    </message>
+    <message>
+        <source>There is no preview: the printer&apos;s description names no paper.</source>
+        <translation>プレビューはありません：プリンターの記述に用紙がありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>「%1」は「%2」により無効です：このプリンター、選んだテープ、またはそこの別の設定では使えません。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1248,10 +1265,6 @@
         <translation>このコンピューターでは許可されていないため (%1)、プリンターのフィルターは隔離されずに実行されます。ユーザーが名前空間を作れるようにしてください。</translation>
     </message>
     <message>
-        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>一時ファイルを書き込めません（%1）。一時ファイルのフォルダーの空き容量を増やしてください。</translation>
-    </message>
-    <message>
         <source>The filters could not make pages of the document %1: %2.</source>
         <translation>フィルターは文書 %1 をページにできませんでした: %2。</translation>
     </message>
@@ -1366,10 +1379,6 @@
     <message>
         <source>more than %1 MiB of memory would be needed</source>
         <translation>%1 MiB を超えるメモリーが必要です</translation>
-    </message>
-    <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>文書 %1 のページを書き込めません（%2）。一時ファイルのフォルダーの空き容量を増やしてください。</translation>
     </message>
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
@@ -1852,6 +1861,27 @@
     <message>
         <source>%1 failed: %2.</source>
         <translation>%1が失敗しました：%2。</translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): see that the folder for temporary files can be written to and has room.</source>
+        <translation>一時ファイルを書き込めません（%1）：一時ファイルのフォルダーに書き込めるか、空きがあるかを確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 is handed to the print server as it is, which may know what to make of it.</source>
+        <translation>%1 はそのままプリントサーバーに渡されます。サーバーで処理できるかもしれません。</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty: name a file with something to print.</source>
+        <translation>文書 %1 は空です：印刷する内容のあるファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>Printer Commands</source>
+        <comment>options that are sent before the job, in the printer&apos;s own language</comment>
+        <translation>プリンターコマンド</translation>
+    </message>
+    <message>
+        <source>the printer is at work</source>
+        <translation>プリンターは動作中です</translation>
     </message>
 </context>
 <context>

@@ -84,6 +84,10 @@
         <source>it does not serve printer panels</source>
         <translation>프린터 패널을 제공하지 않습니다</translation>
     </message>
+    <message>
+        <source>another program has been waiting for this plug-in for a minute or more</source>
+        <translation>다른 프로그램이 1분 이상 이 플러그인을 기다리고 있습니다</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::AmountLabel</name>
@@ -898,6 +902,19 @@
         <source>The unit holds for this window alone: %1 cannot be written.</source>
         <translation>단위는 이 창에서만 적용됩니다. %1에 쓸 수 없습니다.</translation>
     </message>
+    <message>
+        <source>This printer has no description: what is printed is handed to it as it is. So there is no preview, and nobody knows how many pages come out.</source>
+        <translation>이 프린터에는 설명이 없어 인쇄할 내용이 그대로 전달됩니다. 그래서 미리 보기가 없으며 몇 페이지가 나올지 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the printer&apos;s description names no paper.</source>
+        <translation>미리 보기 없음: 프린터 설명에 용지가 없습니다.</translation>
+    </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>“%1”은(는) “%2”에 의해 꺼져 있습니다: 이 프린터, 선택한 테이프 또는 다른 설정에서 제공하지 않습니다.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1248,10 +1265,6 @@
         <translation>이 컴퓨터에서 허용되지 않아(%1) 프린터 필터가 격리 없이 실행됩니다. 사용자가 네임스페이스를 만들 수 있게 하십시오.</translation>
     </message>
     <message>
-        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>임시 파일을 쓸 수 없습니다(%1). 임시 파일 폴더의 공간을 확보하십시오.</translation>
-    </message>
-    <message>
         <source>The filters could not make pages of the document %1: %2.</source>
         <translation>필터가 문서 %1을(를) 페이지로 만들지 못했습니다: %2.</translation>
     </message>
@@ -1366,10 +1379,6 @@
     <message>
         <source>more than %1 MiB of memory would be needed</source>
         <translation>%1 MiB가 넘는 메모리가 필요합니다</translation>
-    </message>
-    <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>문서 %1의 페이지를 쓸 수 없습니다(%2). 임시 파일 폴더의 공간을 확보하십시오.</translation>
     </message>
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
@@ -1852,6 +1861,27 @@
     <message>
         <source>%1 failed: %2.</source>
         <translation>%1에서 오류가 발생했습니다: %2.</translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): see that the folder for temporary files can be written to and has room.</source>
+        <translation>임시 파일을 쓸 수 없습니다(%1): 임시 파일 폴더에 쓸 수 있고 공간이 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 is handed to the print server as it is, which may know what to make of it.</source>
+        <translation>%1을(를) 그대로 인쇄 서버에 전달합니다. 서버에서 처리할 수도 있습니다.</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty: name a file with something to print.</source>
+        <translation>문서 %1이(가) 비어 있습니다: 인쇄할 내용이 있는 파일을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>Printer Commands</source>
+        <comment>options that are sent before the job, in the printer&apos;s own language</comment>
+        <translation>프린터 명령</translation>
+    </message>
+    <message>
+        <source>the printer is at work</source>
+        <translation>프린터가 작업 중입니다</translation>
     </message>
 </context>
 <context>

@@ -84,6 +84,10 @@
         <source>it does not serve printer panels</source>
         <translation>hij levert geen printerpanelen</translation>
     </message>
+    <message>
+        <source>another program has been waiting for this plug-in for a minute or more</source>
+        <translation>een ander programma wacht al een minuut of langer op deze plug-in</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::AmountLabel</name>
@@ -902,6 +906,19 @@
         <source>The unit holds for this window alone: %1 cannot be written.</source>
         <translation>De eenheid geldt alleen voor dit venster: %1 kan niet worden geschreven.</translation>
     </message>
+    <message>
+        <source>This printer has no description: what is printed is handed to it as it is. So there is no preview, and nobody knows how many pages come out.</source>
+        <translation>Deze printer heeft geen beschrijving: wat wordt afgedrukt, krijgt hij zoals het is. Daarom is er geen voorbeeld en is niet bekend hoeveel pagina’s eruit komen.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the printer&apos;s description names no paper.</source>
+        <translation>Geen voorbeeld: de beschrijving van de printer noemt geen papier.</translation>
+    </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>“%1” is uitgeschakeld door “%2”: deze printer, de gekozen tape of een andere instelling daar biedt het niet aan.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1252,10 +1269,6 @@
         <translation>De filters van de printer draaien zonder afscherming, omdat deze computer dat niet toestaat (%1): laat gebruikers naamruimten maken.</translation>
     </message>
     <message>
-        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>Een tijdelijk bestand kan niet worden geschreven (%1). Maak ruimte vrij in de map voor tijdelijke bestanden.</translation>
-    </message>
-    <message>
         <source>The filters could not make pages of the document %1: %2.</source>
         <translation>De filters konden van het document %1 geen pagina’s maken: %2.</translation>
     </message>
@@ -1370,10 +1383,6 @@
     <message>
         <source>more than %1 MiB of memory would be needed</source>
         <translation>er zou meer dan %1 MiB geheugen nodig zijn</translation>
-    </message>
-    <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>De pagina’s van het document %1 kunnen niet worden geschreven (%2). Maak ruimte vrij in de map voor tijdelijke bestanden.</translation>
     </message>
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
@@ -1856,6 +1865,27 @@
     <message>
         <source>%1 failed: %2.</source>
         <translation>%1 is mislukt: %2.</translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): see that the folder for temporary files can be written to and has room.</source>
+        <translation>Een tijdelijk bestand kan niet worden geschreven (%1): controleer of de map voor tijdelijke bestanden beschrijfbaar is en ruimte heeft.</translation>
+    </message>
+    <message>
+        <source>%1 is handed to the print server as it is, which may know what to make of it.</source>
+        <translation>%1 gaat zoals het is naar de afdrukserver, die er misschien raad mee weet.</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty: name a file with something to print.</source>
+        <translation>Het document %1 is leeg: noem een bestand waarin iets af te drukken is.</translation>
+    </message>
+    <message>
+        <source>Printer Commands</source>
+        <comment>options that are sent before the job, in the printer&apos;s own language</comment>
+        <translation>Printeropdrachten</translation>
+    </message>
+    <message>
+        <source>the printer is at work</source>
+        <translation>de printer is bezig</translation>
     </message>
 </context>
 <context>

@@ -84,6 +84,10 @@
         <source>it does not serve printer panels</source>
         <translation>não oferece painéis de impressora</translation>
     </message>
+    <message>
+        <source>another program has been waiting for this plug-in for a minute or more</source>
+        <translation>outro programa espera por esta extensão há um minuto ou mais</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::AmountLabel</name>
@@ -902,6 +906,19 @@
         <source>The unit holds for this window alone: %1 cannot be written.</source>
         <translation>A unidade vale apenas para esta janela: não é possível gravar %1.</translation>
     </message>
+    <message>
+        <source>This printer has no description: what is printed is handed to it as it is. So there is no preview, and nobody knows how many pages come out.</source>
+        <translation>Esta impressora não tem descrição: recebe o que é impresso tal como está. Por isso não há pré-visualização e não se sabe quantas páginas saem.</translation>
+    </message>
+    <message>
+        <source>There is no preview: the printer&apos;s description names no paper.</source>
+        <translation>Sem pré-visualização: a descrição da impressora não indica nenhum papel.</translation>
+    </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>«%1» está desativado por «%2»: esta impressora, a fita escolhida ou outra definição não o oferece.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1252,10 +1269,6 @@
         <translation>Os filtros da impressora são executados sem isolamento, porque esta máquina não o permite (%1): deixe os utilizadores criar espaços de nomes.</translation>
     </message>
     <message>
-        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>Não é possível gravar um ficheiro temporário (%1). Liberte espaço na pasta dos ficheiros temporários.</translation>
-    </message>
-    <message>
         <source>The filters could not make pages of the document %1: %2.</source>
         <translation>Os filtros não conseguiram criar páginas do documento %1: %2.</translation>
     </message>
@@ -1370,10 +1383,6 @@
     <message>
         <source>more than %1 MiB of memory would be needed</source>
         <translation>seriam necessários mais de %1 MiB de memória</translation>
-    </message>
-    <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>Não é possível gravar as páginas do documento %1 (%2). Liberte espaço na pasta dos ficheiros temporários.</translation>
     </message>
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
@@ -1856,6 +1865,27 @@
     <message>
         <source>%1 failed: %2.</source>
         <translation>%1 falhou: %2.</translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): see that the folder for temporary files can be written to and has room.</source>
+        <translation>Não é possível escrever um ficheiro temporário (%1): verifique se é possível escrever na pasta de ficheiros temporários e se há espaço.</translation>
+    </message>
+    <message>
+        <source>%1 is handed to the print server as it is, which may know what to make of it.</source>
+        <translation>%1 é entregue tal como está ao servidor de impressão, que talvez saiba o que fazer com ele.</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty: name a file with something to print.</source>
+        <translation>O documento %1 está vazio: indique um ficheiro com algo para imprimir.</translation>
+    </message>
+    <message>
+        <source>Printer Commands</source>
+        <comment>options that are sent before the job, in the printer&apos;s own language</comment>
+        <translation>Comandos da impressora</translation>
+    </message>
+    <message>
+        <source>the printer is at work</source>
+        <translation>a impressora está a trabalhar</translation>
     </message>
 </context>
 <context>

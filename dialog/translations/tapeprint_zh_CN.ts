@@ -84,6 +84,10 @@
         <source>it does not serve printer panels</source>
         <translation>它不提供打印机面板</translation>
     </message>
+    <message>
+        <source>another program has been waiting for this plug-in for a minute or more</source>
+        <translation>另一个程序已等待此插件一分钟或更久</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::AmountLabel</name>
@@ -898,6 +902,19 @@
         <source>The unit holds for this window alone: %1 cannot be written.</source>
         <translation>单位仅对此窗口有效：无法写入 %1。</translation>
     </message>
+    <message>
+        <source>This printer has no description: what is printed is handed to it as it is. So there is no preview, and nobody knows how many pages come out.</source>
+        <translation>此打印机没有描述：要打印的内容会原样交给它。因此没有预览，也不知道会打印多少页。</translation>
+    </message>
+    <message>
+        <source>There is no preview: the printer&apos;s description names no paper.</source>
+        <translation>没有预览：打印机的描述中没有列出纸张。</translation>
+    </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>“%1”被“%2”停用：此打印机、所选标签带或其中的其他设置不提供它。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1248,10 +1265,6 @@
         <translation>由于这台计算机不允许（%1），打印机的过滤器在没有隔离的情况下运行：请允许用户创建命名空间。</translation>
     </message>
     <message>
-        <source>A temporary file cannot be written (%1): make room in the folder for temporary files.</source>
-        <translation>无法写入临时文件（%1）。请在临时文件夹中腾出空间。</translation>
-    </message>
-    <message>
         <source>The filters could not make pages of the document %1: %2.</source>
         <translation>过滤器无法将文档 %1 转换为页面：%2。</translation>
     </message>
@@ -1366,10 +1379,6 @@
     <message>
         <source>more than %1 MiB of memory would be needed</source>
         <translation>需要超过 %1 MiB 的内存</translation>
-    </message>
-    <message>
-        <source>The pages of the document %1 cannot be written (%2): make room in the folder for temporary files.</source>
-        <translation>无法写入文档 %1 的页面（%2）。请在临时文件夹中腾出空间。</translation>
     </message>
     <message>
         <source>The PPD file %1 is cut off: its end is missing. Copy it anew.</source>
@@ -1852,6 +1861,27 @@
     <message>
         <source>%1 failed: %2.</source>
         <translation>%1失败：%2。</translation>
+    </message>
+    <message>
+        <source>A temporary file cannot be written (%1): see that the folder for temporary files can be written to and has room.</source>
+        <translation>无法写入临时文件（%1）：请检查临时文件夹是否可写并有足够空间。</translation>
+    </message>
+    <message>
+        <source>%1 is handed to the print server as it is, which may know what to make of it.</source>
+        <translation>%1 会原样交给打印服务器，服务器也许知道如何处理。</translation>
+    </message>
+    <message>
+        <source>The document %1 is empty: name a file with something to print.</source>
+        <translation>文档 %1 是空的：请指定一个有内容可打印的文件。</translation>
+    </message>
+    <message>
+        <source>Printer Commands</source>
+        <comment>options that are sent before the job, in the printer&apos;s own language</comment>
+        <translation>打印机命令</translation>
+    </message>
+    <message>
+        <source>the printer is at work</source>
+        <translation>打印机正在工作</translation>
     </message>
 </context>
 <context>
