@@ -16,6 +16,7 @@ namespace tapeprint::dialog
 namespace
 {
 
+constexpr int firstLookMs = 300;
 constexpr int lookPauseMs = 10000;
 constexpr int gatePauseMs = 50;
 constexpr int lookAgainMs = 1500;
@@ -62,7 +63,8 @@ void PrinterDesk::start(const job::Destination &destination)
     }
     fillRows();
     read();
-    look();
+    // Printers of the network take their time in any case: the window is made first.
+    QTimer::singleShot(firstLookMs, this, &PrinterDesk::look);
 }
 
 job::JobRequest PrinterDesk::requestFor(const QString &name) const
