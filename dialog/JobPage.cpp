@@ -2,6 +2,7 @@
 // Options go by CUPS's own names. An option at its usual value is not sent at all.
 #include "dialog/JobPage.h"
 
+#include "dialog/MeasureUnit.h"
 #include "job/PageRanges.h"
 #include "job/UsualOptions.h"
 
@@ -108,6 +109,7 @@ void JobPage::addPages(QFormLayout *form)
 void JobPage::addQueue(QFormLayout *form)
 {
     mPriority = new QSpinBox(this);
+    mPriority->setLocale(numbersLocale());
     mPriority->setObjectName(QStringLiteral("jobPriority"));
     mPriority->setRange(leastPriority, mostPriority);
     mPriority->setToolTip(tr("1 is the lowest, 100 the highest"));

@@ -2,6 +2,7 @@
 // The program tapeprint-portal: the print dialog for programs that print through the desktop portal. The session's bus
 // starts it when it is needed.
 #include "dialog/Application.h"
+#include "dialog/ContrastStyle.h"
 #include "dialog/DisplayCheck.h"
 #include "dialog/PasswordQuestion.h"
 #include "dialog/ToolkitStart.h"
@@ -117,6 +118,7 @@ int main(int argc, char **argv)
     auto start = std::make_optional<tapeprint::dialog::ToolkitStart>(lineOf(unusableDisplay()), STDERR_FILENO, true);
     const tapeprint::dialog::Application application(argc, argv);
     tapeprint::dialog::nameCrashingPanels();
+    tapeprint::dialog::ContrastStyle::takeWhereWanted();
     start.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint-portal"));
     // Whose icon a Wayland desktop shows; on X11 the window has to bring it.

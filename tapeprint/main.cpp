@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program tapeprint: reads its command line, and runs the dialog with or without a window.
 #include "dialog/Application.h"
+#include "dialog/ContrastStyle.h"
 #include "dialog/FontReading.h"
 #include "dialog/ToolkitStart.h"
 #include "job/OutputFile.h"
@@ -118,6 +119,9 @@ int main(int argc, char **argv)
     }
     const tapeprint::dialog::Application application(toolkitArgc, argv);
     tapeprint::dialog::nameCrashingPanels();
+    if (wantsWindow) {
+        tapeprint::dialog::ContrastStyle::takeWhereWanted();
+    }
     start.reset();
     fonts.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint"));

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+// Outlines in the colour of the text, for desktops of high contrast: the toolkit's own are a darker shade of the
+// window, and of black there is none, so that an empty check box or a field is nowhere to be seen.
+#pragma once
+
+#include <QPalette>
+#include <QProxyStyle>
+
+namespace tapeprint::dialog
+{
+
+/// The toolkit's style with an outline around all that can be clicked or typed into.
+class ContrastStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    ContrastStyle();
+
+    /// Whether the toolkit's outlines cannot be told from these colours.
+    static bool isWanted(const QPalette &palette);
+    /// Takes it for the program where it is wanted. Asked once, at the start: a desktop whose colours change while a
+    /// print dialog is open is rare.
+    static void takeWhereWanted();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget = nullptr) const override;
+};
+
+} // namespace tapeprint::dialog

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: Apache-2.0
+// The outlines of a desktop of high contrast, by what is painted.
+#include "dialog/ContrastStyle.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QImage>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+
+#include <functional>
+#include <memory>
+#include <ostream>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using tapeprint::dialog::ContrastStyle;
+
+QPalette paletteOf(const QColor &window, const QColor &base, const QColor &text)
+{
+    QPalette palette(window, window);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::ButtonText, text);
+    return palette;
+}
+
+TEST(ContrastStyle, IsForColoursThatTheToolkitsOutlinesCannotBeToldFrom)
+{
+    EXPECT_TRUE(ContrastStyle::isWanted(paletteOf(Qt::black, Qt::black, Qt::white)));
+    EXPECT_FALSE(ContrastStyle::isWanted(paletteOf(Qt::white, Qt::white, Qt::black)));
+    EXPECT_FALSE(ContrastStyle::isWanted(paletteOf({239, 239, 239}, Qt::white, Qt::black)));
+    EXPECT_FALSE(ContrastStyle::isWanted(paletteOf({49, 54, 59}, {35, 38, 41}, Qt::white)));
+}
+
+struct Part {
+    const char *name;
+    std::function<std::unique_ptr<QWidget>()> make;
+    friend std::ostream &operator<<(std::ostream &out, const Part &part) { return out << part.name; }
+};
+
+class ContrastStylePart : public testing::TestWithParam<Part>
+{
+protected:
+    /// \return how many dots of the part are at least half as light as the text, all of them outlines: no text is in
+    /// it.
+    static int lightDots(QStyle *style)
+    {
+        const std::unique_ptr<QWidget> widget = GetParam().make();
+        widget->setStyle(style);
+        widget->setPalette(paletteOf(Qt::black, Qt::black, Qt::white));
+        widget->resize(120, 30);
+        const QImage image = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        int dots = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                dots += qGray(image.pixel(x, y)) >= 128 ? 1 : 0;
+            }
+        }
+        return dots;
+    }
+};
+
+TEST_P(ContrastStylePart, OnBlack_HasAnOutlineToBeSeen)
+{
+    ContrastStyle style;
+    constexpr int around = 20; // the smallest is a circle of a dozen dots across
+    EXPECT_GT(lightDots(&style), around);
+}
+
+INSTANTIATE_TEST_SUITE_P(Parts, ContrastStylePart,
+                         testing::Values(Part{"check box", [] { return std::make_unique<QCheckBox>(); }},
+                                         Part{"radio button", [] { return std::make_unique<QRadioButton>(); }},
+                                         Part{"field", [] { return std::make_unique<QLineEdit>(); }},
+                                         Part{"pop-up", [] { return std::make_unique<QComboBox>(); }},
+                                         Part{"button", [] { return std::make_unique<QPushButton>(); }},
+                                         Part{"slider", [] { return std::make_unique<QSlider>(Qt::Horizontal); }}));
+
+} // namespace
