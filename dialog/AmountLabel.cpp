@@ -35,8 +35,8 @@ bool AmountLabel::isAgreed()
     QMessageBox box(QMessageBox::Question, window()->windowTitle(), {}, QMessageBox::Cancel, window());
     box.setTextFormat(Qt::PlainText);
     box.setText(tr("This is an unusual amount: %1.").arg(text()));
-    QPushButton *print = box.addButton(mAmount->isTape ? tr("Print %Ln Label(s)", nullptr, pieces)
-                                                       : tr("Print %Ln Sheet(s)", nullptr, pieces),
+    QPushButton *print = box.addButton(mAmount->isTape ? tr("Print %n Label(s)", nullptr, pieces)
+                                                       : tr("Print %n Sheet(s)", nullptr, pieces),
                                        QMessageBox::AcceptRole);
     print->setObjectName(QStringLiteral("printUnusual"));
     box.setDefaultButton(QMessageBox::Cancel);

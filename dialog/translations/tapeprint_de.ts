@@ -108,17 +108,17 @@
         <translation>Das ist eine ungewöhnliche Menge: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Label(s)</source>
+        <source>Print %n Label(s)</source>
         <translation>
-            <numerusform>%Ln Etikett drucken</numerusform>
-            <numerusform>%Ln Etiketten drucken</numerusform>
+            <numerusform>%n Etikett drucken</numerusform>
+            <numerusform>%n Etiketten drucken</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Sheet(s)</source>
+        <source>Print %n Sheet(s)</source>
         <translation>
-            <numerusform>%Ln Blatt drucken</numerusform>
-            <numerusform>%Ln Blätter drucken</numerusform>
+            <numerusform>%n Blatt drucken</numerusform>
+            <numerusform>%n Blätter drucken</numerusform>
         </translation>
     </message>
 </context>

@@ -108,17 +108,17 @@
         <translation>This is an unusual amount: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Label(s)</source>
+        <source>Print %n Label(s)</source>
         <translation>
-            <numerusform>Print %Ln Label</numerusform>
-            <numerusform>Print %Ln Labels</numerusform>
+            <numerusform>Print %n Label</numerusform>
+            <numerusform>Print %n Labels</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Sheet(s)</source>
+        <source>Print %n Sheet(s)</source>
         <translation>
-            <numerusform>Print %Ln Sheet</numerusform>
-            <numerusform>Print %Ln Sheets</numerusform>
+            <numerusform>Print %n Sheet</numerusform>
+            <numerusform>Print %n Sheets</numerusform>
         </translation>
     </message>
 </context>

@@ -108,17 +108,17 @@
         <translation>Es una cantidad poco habitual: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Label(s)</source>
+        <source>Print %n Label(s)</source>
         <translation>
-            <numerusform>Imprimir %Ln etiqueta</numerusform>
-            <numerusform>Imprimir %Ln etiquetas</numerusform>
+            <numerusform>Imprimir %n etiqueta</numerusform>
+            <numerusform>Imprimir %n etiquetas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Sheet(s)</source>
+        <source>Print %n Sheet(s)</source>
         <translation>
-            <numerusform>Imprimir %Ln hoja</numerusform>
-            <numerusform>Imprimir %Ln hojas</numerusform>
+            <numerusform>Imprimir %n hoja</numerusform>
+            <numerusform>Imprimir %n hojas</numerusform>
         </translation>
     </message>
 </context>

@@ -108,17 +108,17 @@
         <translation>C’est une quantité inhabituelle : %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Label(s)</source>
+        <source>Print %n Label(s)</source>
         <translation>
-            <numerusform>Imprimer %Ln étiquette</numerusform>
-            <numerusform>Imprimer %Ln étiquettes</numerusform>
+            <numerusform>Imprimer %n étiquette</numerusform>
+            <numerusform>Imprimer %n étiquettes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Sheet(s)</source>
+        <source>Print %n Sheet(s)</source>
         <translation>
-            <numerusform>Imprimer %Ln feuille</numerusform>
-            <numerusform>Imprimer %Ln feuilles</numerusform>
+            <numerusform>Imprimer %n feuille</numerusform>
+            <numerusform>Imprimer %n feuilles</numerusform>
         </translation>
     </message>
 </context>

@@ -108,17 +108,17 @@
         <translation>È una quantità insolita: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Label(s)</source>
+        <source>Print %n Label(s)</source>
         <translation>
-            <numerusform>Stampa %Ln etichetta</numerusform>
-            <numerusform>Stampa %Ln etichette</numerusform>
+            <numerusform>Stampa %n etichetta</numerusform>
+            <numerusform>Stampa %n etichette</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Sheet(s)</source>
+        <source>Print %n Sheet(s)</source>
         <translation>
-            <numerusform>Stampa %Ln foglio</numerusform>
-            <numerusform>Stampa %Ln fogli</numerusform>
+            <numerusform>Stampa %n foglio</numerusform>
+            <numerusform>Stampa %n fogli</numerusform>
         </translation>
     </message>
 </context>

@@ -108,15 +108,15 @@
         <translation>いつになく多い量です：%1。</translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Label(s)</source>
+        <source>Print %n Label(s)</source>
         <translation>
-            <numerusform>ラベル %Ln 枚を印刷</numerusform>
+            <numerusform>ラベル %n 枚を印刷</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Sheet(s)</source>
+        <source>Print %n Sheet(s)</source>
         <translation>
-            <numerusform>%Ln 枚を印刷</numerusform>
+            <numerusform>%n 枚を印刷</numerusform>
         </translation>
     </message>
 </context>

@@ -108,15 +108,15 @@
         <translation>평소와 다른 양입니다: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Label(s)</source>
+        <source>Print %n Label(s)</source>
         <translation>
-            <numerusform>레이블 %Ln장 인쇄</numerusform>
+            <numerusform>레이블 %n장 인쇄</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Sheet(s)</source>
+        <source>Print %n Sheet(s)</source>
         <translation>
-            <numerusform>%Ln장 인쇄</numerusform>
+            <numerusform>%n장 인쇄</numerusform>
         </translation>
     </message>
 </context>

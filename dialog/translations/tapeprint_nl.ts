@@ -108,17 +108,17 @@
         <translation>Dit is een ongewone hoeveelheid: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Label(s)</source>
+        <source>Print %n Label(s)</source>
         <translation>
-            <numerusform>%Ln etiket afdrukken</numerusform>
-            <numerusform>%Ln etiketten afdrukken</numerusform>
+            <numerusform>%n etiket afdrukken</numerusform>
+            <numerusform>%n etiketten afdrukken</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Sheet(s)</source>
+        <source>Print %n Sheet(s)</source>
         <translation>
-            <numerusform>%Ln vel afdrukken</numerusform>
-            <numerusform>%Ln vellen afdrukken</numerusform>
+            <numerusform>%n vel afdrukken</numerusform>
+            <numerusform>%n vellen afdrukken</numerusform>
         </translation>
     </message>
 </context>

@@ -108,17 +108,17 @@
         <translation>É uma quantidade invulgar: %1.</translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Label(s)</source>
+        <source>Print %n Label(s)</source>
         <translation>
-            <numerusform>Imprimir %Ln etiqueta</numerusform>
-            <numerusform>Imprimir %Ln etiquetas</numerusform>
+            <numerusform>Imprimir %n etiqueta</numerusform>
+            <numerusform>Imprimir %n etiquetas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Sheet(s)</source>
+        <source>Print %n Sheet(s)</source>
         <translation>
-            <numerusform>Imprimir %Ln folha</numerusform>
-            <numerusform>Imprimir %Ln folhas</numerusform>
+            <numerusform>Imprimir %n folha</numerusform>
+            <numerusform>Imprimir %n folhas</numerusform>
         </translation>
     </message>
 </context>

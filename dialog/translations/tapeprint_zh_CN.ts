@@ -108,15 +108,15 @@
         <translation>数量异常：%1。</translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Label(s)</source>
+        <source>Print %n Label(s)</source>
         <translation>
-            <numerusform>打印 %Ln 张标签</numerusform>
+            <numerusform>打印 %n 张标签</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Print %Ln Sheet(s)</source>
+        <source>Print %n Sheet(s)</source>
         <translation>
-            <numerusform>打印 %Ln 张</numerusform>
+            <numerusform>打印 %n 张</numerusform>
         </translation>
     </message>
 </context>
