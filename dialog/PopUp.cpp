@@ -15,6 +15,11 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <numeric>
+#include <utility>
+#include <vector>
 
 namespace tapeprint::dialog
 {
@@ -62,12 +67,18 @@ QSize PopUp::minimumSizeHint() const
 
 int PopUp::listWidth() const
 {
-    constexpr int mostMeasured = 1000; // of ten thousand papers, measuring each would be felt
-    int width = 0;
-    for (int row = 0; row < std::min(count(), mostMeasured); ++row) {
-        width = std::max(width, view()->sizeHintForIndex(model()->index(row, modelColumn(), rootModelIndex())).width());
+    // The widest text is one of those with the most letters; of ten thousand papers, measuring each would be felt.
+    constexpr std::size_t mostMeasured = 50;
+    std::vector<std::pair<qsizetype, int>> lettersAndRow;
+    for (int row = 0; row < count(); ++row) {
+        lettersAndRow.emplace_back(itemText(row).size(), row);
     }
-    return width;
+    const auto end = lettersAndRow.begin() + static_cast<std::ptrdiff_t>(std::min(lettersAndRow.size(), mostMeasured));
+    std::partial_sort(lettersAndRow.begin(), end, lettersAndRow.end(), std::greater<>());
+    return std::accumulate(lettersAndRow.begin(), end, 0, [this](int width, const auto &measured) {
+        const QModelIndex index = model()->index(measured.second, modelColumn(), rootModelIndex());
+        return std::max(width, view()->sizeHintForIndex(index).width());
+    });
 }
 
 int PopUp::textWidth() const
@@ -88,6 +99,9 @@ void PopUp::showPopup()
 {
     const int bar = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
     const int most = screen()->availableSize().width() * 2 / 3;
+    // Else the toolkit measures every item for a size that is not asked for.
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(leastLetters);
     view()->setTextElideMode(Qt::ElideMiddle);
     if (auto *list = qobject_cast<QListView *>(view()); list != nullptr && mHasItemsAlike) {
         // Or each of ten thousand would be measured and placed before the first is seen.
