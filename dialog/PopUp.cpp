@@ -99,9 +99,6 @@ void PopUp::showPopup()
 {
     const int bar = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
     const int most = screen()->availableSize().width() * 2 / 3;
-    // Else the toolkit measures every item for a size that is not asked for.
-    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(leastLetters);
     view()->setTextElideMode(Qt::ElideMiddle);
     if (auto *list = qobject_cast<QListView *>(view()); list != nullptr && mHasItemsAlike) {
         // Or each of ten thousand would be measured and placed before the first is seen.
