@@ -70,6 +70,7 @@ int PopUp::listWidth() const
     // The widest text is one of those with the most letters; of ten thousand papers, measuring each would be felt.
     constexpr std::size_t mostMeasured = 50;
     std::vector<std::pair<qsizetype, int>> lettersAndRow;
+    lettersAndRow.reserve(static_cast<std::size_t>(count()));
     for (int row = 0; row < count(); ++row) {
         lettersAndRow.emplace_back(itemText(row).size(), row);
     }
