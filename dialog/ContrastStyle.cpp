@@ -54,10 +54,24 @@ bool ContrastStyle::isWanted(const QPalette &palette)
            contrast(palette.color(QPalette::Base), window) < justToBeSeen;
 }
 
+QPalette ContrastStyle::withGreyTexts(QPalette palette)
+{
+    const QColor window = palette.color(QPalette::Window);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        const QColor text = palette.color(QPalette::Active, role);
+        const auto half = [](int one, int other) { return (one + other) / 2; };
+        palette.setColor(QPalette::Disabled, role,
+                         QColor(half(text.red(), window.red()), half(text.green(), window.green()),
+                                half(text.blue(), window.blue())));
+    }
+    return palette;
+}
+
 void ContrastStyle::takeWhereWanted()
 {
     if (QApplication::style()->name() == toolkitsOwn && isWanted(QApplication::palette())) {
         QApplication::setStyle(new ContrastStyle); // the application's from here on
+        QApplication::setPalette(withGreyTexts(QApplication::palette()));
     }
 }
 

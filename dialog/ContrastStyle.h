@@ -19,6 +19,9 @@ public:
 
     /// Whether the toolkit's outlines cannot be told from these colours.
     static bool isWanted(const QPalette &palette);
+    /// The colours with texts of controls that are off halfway between window and text: the toolkit makes these a shade
+    /// of the window, too.
+    static QPalette withGreyTexts(QPalette palette);
     /// Takes it for the program where it is wanted. Asked once, at the start: a desktop whose colours change while a
     /// print dialog is open is rare.
     static void takeWhereWanted();

@@ -39,6 +39,17 @@ TEST(ContrastStyle, IsForColoursThatTheToolkitsOutlinesCannotBeToldFrom)
     EXPECT_FALSE(ContrastStyle::isWanted(paletteOf({49, 54, 59}, {35, 38, 41}, Qt::white)));
 }
 
+TEST(ContrastStyle, TextsOfControlsThatAreOff_CanBeRead)
+{
+    QPalette black = paletteOf(Qt::black, Qt::black, Qt::white);
+    black.setColor(QPalette::Disabled, QPalette::WindowText, Qt::black);
+    const QPalette readable = ContrastStyle::withGreyTexts(black);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        EXPECT_EQ(readable.color(QPalette::Disabled, role), QColor(127, 127, 127)) << role;
+        EXPECT_EQ(readable.color(QPalette::Active, role), QColor(Qt::white)) << role;
+    }
+}
+
 struct Part {
     const char *name;
     std::function<std::unique_ptr<QWidget>()> make;
