@@ -109,6 +109,11 @@ protected:
     {
         std::vector<std::pair<QString, QString>> variables = cups.clientVariables();
         variables.insert(variables.end(), network.begin(), network.end());
+#ifdef __SANITIZE_ADDRESS__
+        // The sanitizer's runtime would insist on being loaded before all others.
+        variables.emplace_back(u"ASAN_OPTIONS"_qs,
+                               qEnvironmentVariable("ASAN_OPTIONS") + u":verify_asan_link_order=0"_qs);
+#endif
         return {QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), arguments, variables};
     }
 
