@@ -110,7 +110,8 @@ protected:
         std::vector<std::pair<QString, QString>> variables = cups.clientVariables();
         variables.insert(variables.end(), network.begin(), network.end());
 #ifdef __SANITIZE_ADDRESS__
-        // The sanitizer's runtime would insist on being loaded before all others.
+        // The sanitizer's runtime would insist on being loaded before all others, and refuse a library bound deeply.
+        variables.emplace_back(u"NSS_WRAPPER_DISABLE_DEEPBIND"_qs, u"1"_qs);
         variables.emplace_back(u"ASAN_OPTIONS"_qs,
                                qEnvironmentVariable("ASAN_OPTIONS") + u":verify_asan_link_order=0"_qs);
 #endif
