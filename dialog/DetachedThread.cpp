@@ -51,7 +51,7 @@ Threads &threads()
     return *only;
 }
 
-/// A program must not end under a thread that is deep in its work: the objects that Poppler and libcups need would go
+/// A program must not end under a thread that is deep in its work: the objects that its libraries need would go
 /// away beneath it.
 void endWithoutThreads(int status, void * /*nothing*/)
 {

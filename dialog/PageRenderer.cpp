@@ -3,7 +3,6 @@
 #include "dialog/PageRenderer.h"
 
 #include "dialog/DetachedThread.h"
-#include "job/PageDrawer.h"
 
 #include <QMetaObject>
 

@@ -14,6 +14,7 @@
 #include "dialog/SummaryView.h"
 #include "dialog/TabOrder.h"
 #include "dialog/TapeLook.h"
+#include "job/PageDrawer.h"
 #include "job/PlainText.h"
 
 #include <QCheckBox>
@@ -48,9 +49,11 @@ PrintDialog::PrintDialog(job::Job &job, Panels &panels, Setup setup, PrintAction
     mRestTimer.setInterval(0);
     mCountTimer.setSingleShot(true);
     // The printer is opened, in a thread, while the controls are made: for the first of them, the toolkit reads all
-    // fonts. What draws pages is not loaded beside that: two threads at most have something to do, and whatever the
-    // toolkit loads in this one would have to wait until Poppler and all that it brings is in.
+    // fonts. The process that draws pages starts beside both.
     mPrinters.start(mJob.destination());
+    if (!mSetup.files.isEmpty()) {
+        job::PageDrawer::prepare();
+    }
     buildControls();
     if (mSetup.showsCommand) {
         addCommandButton();

@@ -19,9 +19,9 @@ namespace tapeprint::job
 namespace
 {
 
-// The bounds of one process. They are there for what never ends, not to ration work: on two busy cores, 2,000 labels
-// take all filters together 28 seconds and none of them 100 MB of address space, an image of 200 megapixels 3 seconds.
-constexpr qint64 mostMemoryBytes = qint64(4) << 30;
+// The bounds of one process, with mostMemory. They are there for what never ends, not to ration work: on two busy
+// cores, 2,000 labels take all filters together 28 seconds and none of them 100 MB of address space, an image of 200
+// megapixels 3 seconds.
 constexpr int mostProcessorSeconds = 1800;
 /// The temporary folder is memory: a document and its copy between two filters have to fit.
 constexpr qint64 mostTemporaryBytes = qint64(2) << 30;
@@ -116,7 +116,7 @@ QStringList boundArguments(const ConfinedCommand &command, const QString &tempor
     for (const auto &[name, value] : command.environment) {
         arguments << name + u'=' + value;
     }
-    arguments << QStringLiteral("prlimit") << QStringLiteral("--as=%1").arg(mostMemoryBytes)
+    arguments << QStringLiteral("prlimit") << QStringLiteral("--as=") + command.mostMemory
               << QStringLiteral("--cpu=%1").arg(mostProcessorSeconds) << QStringLiteral("--core=0")
               << QStringLiteral("--") << command.program << command.arguments;
     return arguments;
@@ -184,6 +184,11 @@ bool isPossible()
     return !obstacle().isMissing && obstacle().reason.isNull();
 }
 
+ConfinedLaunch withBoundsAlone(const ConfinedCommand &command)
+{
+    return {findEnv(), boundArguments(command, QDir::tempPath()), false};
+}
+
 } // namespace
 
 QString confinementProblem()
@@ -200,10 +205,14 @@ QString confinementProblem()
 
 ConfinedLaunch confine(const ConfinedCommand &command)
 {
-    if (isPossible()) {
-        return {findBubblewrap(), confinedArguments(command), true};
-    }
-    return {findEnv(), boundArguments(command, QDir::tempPath()), false};
+    return isPossible() ? confineUntried(command) : withBoundsAlone(command);
+}
+
+ConfinedLaunch confineUntried(const ConfinedCommand &command)
+{
+    const QString bubblewrap = findBubblewrap();
+    return bubblewrap.isEmpty() ? withBoundsAlone(command)
+                                : ConfinedLaunch{bubblewrap, confinedArguments(command), true};
 }
 
 } // namespace tapeprint::job

@@ -23,6 +23,8 @@ struct ConfinedCommand {
     QStringList writable = {};
     /// Variables beside the few that every program gets (PATH, HOME, TMPDIR, USER, LANG); a later one replaces them.
     std::vector<std::pair<QString, QString>> environment = {};
+    /// Address space of one process.
+    QString mostMemory = QString::number(qint64(4) << 30); ///< in bytes, or "unlimited"
 };
 
 /// What a process is started with. The variables are among the arguments: the starter's environment is not passed on.
@@ -35,6 +37,10 @@ struct ConfinedLaunch {
 /// How to start a program so that it runs confined, or, where this machine does not allow that, with bounds alone. Ends
 /// with the process that started it when it is confined; runConfined() sees to that in either case.
 ConfinedLaunch confine(const ConfinedCommand &command);
+
+/// The same for who cannot wait until it has been tried whether this machine allows it. When the program does not come
+/// to life, confinementProblem() says whether that was the reason.
+ConfinedLaunch confineUntried(const ConfinedCommand &command);
 
 /// Why nothing can be confined on this machine, in a sentence for the person; null when it can be. Asked once, then
 /// remembered; safe to call in any thread.

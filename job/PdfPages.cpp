@@ -12,10 +12,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <exception>
-#include <vector>
-
-#include <qpdf/QPDF.hh>
 
 namespace tapeprint::job
 {
@@ -54,19 +50,6 @@ bool looksLikePdf(const QString &path)
     return file.open(QIODevice::ReadOnly) && file.read(headerWithin).contains("%PDF-");
 }
 
-/// Boxes of a document's pages; none when QPDF cannot read what can be drawn.
-std::vector<PageBox> readBoxes(const QString &path)
-{
-    try {
-        QPDF document;
-        document.setSuppressWarnings(true);
-        document.processFile(QFile::encodeName(path).constData());
-        return pageBoxesOf(document);
-    } catch (const std::exception &) {
-        return {};
-    }
-}
-
 /// Where the page's top left lies from that of what is seen, as both are shown; in the document's units.
 QPointF originOf(const PageBox &box)
 {
@@ -96,28 +79,6 @@ bool isAsSeen(const PageBox &box, const QSizeF &drawn)
     return std::abs(size.width() - drawn.width()) < slack && std::abs(size.height() - drawn.height()) < slack;
 }
 
-/// The rectangle of the dots of an image that are not white. Poppler makes white a shade less where it enlarges a
-/// picture; no printer makes a dot of that.
-QRect inkOf(const QImage &image)
-{
-    constexpr int leastWhite = 254;
-    const auto isInk = [](QRgb dot) {
-        return qRed(dot) < leastWhite || qGreen(dot) < leastWhite || qBlue(dot) < leastWhite;
-    };
-    QRect ink;
-    for (int y = 0; y < image.height(); ++y) {
-        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        const QRgb *end = line + image.width();
-        const QRgb *first = std::find_if(line, end, isInk);
-        if (first == end) {
-            continue;
-        }
-        const auto last = std::find_if(std::reverse_iterator(end), std::reverse_iterator(first), isInk);
-        ink |= QRect(QPoint(static_cast<int>(first - line), y), QPoint(static_cast<int>(last.base() - line) - 1, y));
-    }
-    return ink;
-}
-
 } // namespace
 
 /// The dots that the drawer is asked for.
@@ -131,7 +92,6 @@ struct PdfPages::Document {
     };
 
     std::unique_ptr<PageDrawer> drawer;
-    std::vector<PageBox> boxes;
 
     Place placeOf(int page) const;
 };
@@ -143,12 +103,12 @@ PdfPages::Document::Place PdfPages::Document::placeOf(int page) const
     if (drawn.isEmpty()) {
         return place;
     }
-    const auto index = static_cast<std::size_t>(page);
-    if (index < boxes.size() && boxes[index].page.isEmpty()) {
+    const std::optional<PageBox> box = drawer->box(page);
+    if (box && box->page.isEmpty()) {
         return place; // the drawer would make a sheet of paper of it
     }
-    if (index < boxes.size() && isAsSeen(boxes[index], drawn)) {
-        place = {boxes[index].sizePt(), originOf(boxes[index]), boxes[index].unitPt};
+    if (box && isAsSeen(*box, drawn)) {
+        place = {box->sizePt(), originOf(*box), box->unitPt};
     } else {
         place.sizePt = drawn;
     }
@@ -170,7 +130,7 @@ std::unique_ptr<PdfPages> PdfPages::open(const QString &path, Problem *error, co
         return nullptr;
     }
     auto document = std::make_unique<Document>();
-    document->drawer = openDrawer(path, &reason);
+    document->drawer = PageDrawer::open(path, &reason);
     if (!reason.isNull()) {
         *error =
             Texts::tr("The part of this program that draws pages cannot be loaded (%1): install it again.").arg(reason);
@@ -191,7 +151,6 @@ std::unique_ptr<PdfPages> PdfPages::open(const QString &path, Problem *error, co
         *error = {Problem::BadDocument, Texts::tr("%1 has no page.").arg(name)};
         return nullptr;
     }
-    document->boxes = readBoxes(path);
     return std::unique_ptr<PdfPages>(new PdfPages(std::move(document)));
 }
 
@@ -256,11 +215,11 @@ std::optional<QRectF> PdfPages::drawnRect(int page, const std::atomic<bool> &sto
     QRect ink;
     for (int row = 0; row < height; row += rows) {
         const QRect band(left, top + row, width, std::min(rows, height - row));
-        const QImage image = mDocument->drawer->draw(page, {band, dotsPerUnit, false}, stop);
-        if (image.isNull()) {
+        const std::optional<QRect> drawn = mDocument->drawer->drawnOn(page, {band, dotsPerUnit, false}, stop);
+        if (!drawn) {
             return std::nullopt;
         }
-        ink |= inkOf(image.convertToFormat(QImage::Format_RGB32)).translated(band.topLeft());
+        ink |= *drawn;
     }
     if (ink.isEmpty()) {
         return std::nullopt;

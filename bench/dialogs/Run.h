@@ -27,6 +27,9 @@ using Variables = std::vector<std::pair<std::string, std::string>>;
 
 /// Starts a program with variables beside those of this one. \return its process.
 pid_t startProgram(const Program &program, const Variables &variables);
+/// What the living processes took that a program has started, and those that these have: the sum of their processor
+/// time, and the peak of the largest.
+Cost costOfStarted(pid_t process);
 /// Waits for a program's end.
 Cost waitForProgram(pid_t process);
 
