@@ -5,6 +5,7 @@
 #include "job/PageBox.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <exception>
 #include <iterator>
 #include <string>
@@ -129,7 +130,8 @@ job::DrawerRect inkOf(const poppler::image &image)
     int top = 0;
     int bottom = 0;
     for (int y = 0; y < image.height(); ++y) {
-        const auto *line = reinterpret_cast<const std::uint32_t *>(image.const_data() + y * image.bytes_per_row());
+        const auto *line = reinterpret_cast<const std::uint32_t *>(image.const_data() + static_cast<std::ptrdiff_t>(y) *
+                                                                                            image.bytes_per_row());
         const std::uint32_t *end = line + width;
         const std::uint32_t *first = std::find_if(line, end, isInk);
         if (first == end) {

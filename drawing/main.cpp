@@ -103,7 +103,7 @@ bool sayRows(const poppler::image &image)
         return say(image.const_data(), row * static_cast<std::size_t>(image.height()));
     }
     for (int y = 0; y < image.height(); ++y) {
-        if (!say(image.const_data() + y * image.bytes_per_row(), row)) {
+        if (!say(image.const_data() + static_cast<std::ptrdiff_t>(y) * image.bytes_per_row(), row)) {
             return false;
         }
     }

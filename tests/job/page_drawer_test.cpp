@@ -286,11 +286,13 @@ TEST_P(FakeDocument, IsNone)
     EXPECT_EQ(open(QByteArray(GetParam()) + "\ntime.sleep(3600)\n"), nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Answers, FakeDocument,
-    testing::Values("greet(); question(); document(state=3)", "greet(); question(); document(count=-1)",
-                    "greet(); question(); document(count=200001)", "greet(); question(); document(count=3); sys.exit()",
-                    "greet(7); question(); document()", "greet(); question(); asker.sendall(b'123'); sys.exit()"));
+INSTANTIATE_TEST_SUITE_P(Answers, FakeDocument,
+                         testing::Values("greet(); question(); document(state=3)",
+                                         "greet(); question(); document(count=-1)",
+                                         "greet(); question(); document(page() * 200001, count=200001)",
+                                         "greet(); question(); document(count=3); sys.exit()",
+                                         "greet(7); question(); document()",
+                                         "greet(); question(); asker.sendall(b'123'); sys.exit()"));
 
 /// Programs that answer a question about a page wrongly.
 class FakePage : public FakeDrawer, public testing::WithParamInterface<const char *>
