@@ -290,9 +290,9 @@ TEST_F(Backend, PipeThatNeverEnds_IsEndedByClose)
     EXPECT_FALSE(reply.isFinished());
     closeRequest(u"one"_qs);
     EXPECT_EQ(responseOf(reply), ended);
+    EXPECT_TRUE(waitUntil([this, &pipe] { return !holds(pipe); })); // though it has not ended
     ::close(ends[0]);
     ::close(ends[1]);
-    EXPECT_TRUE(waitUntil([this, &pipe] { return !holds(pipe); }));
 }
 
 TEST_F(Backend, WithoutAWritableHomeAndTemporaryFolder_ShowsTheDialogAndSaysWhyNothingIsPrinted)
