@@ -64,7 +64,6 @@ void PortalSession::TearDown()
     }
     // The bus's end is what ends it, long before it would leave for having nothing to do. One that has ended and whose
     // parent has not looked yet has no command line.
-    constexpr int soonMs = 20000;
     const QString commandLine = QStringLiteral("/proc/%1/cmdline").arg(backend);
     EXPECT_TRUE(backend == 0 || waitUntil([&] { return contentsOf(commandLine).isEmpty(); }, soonMs))
         << "the backend is still there";

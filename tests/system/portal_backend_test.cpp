@@ -26,6 +26,7 @@ namespace
 
 using systemtest::backendName;
 using systemtest::portalPath;
+using systemtest::soonMs;
 using systemtest::waitUntil;
 using systemtest::waitWithEvents;
 using systemtest::WindowUnderTest;
@@ -290,7 +291,7 @@ TEST_F(Backend, PipeThatNeverEnds_IsEndedByClose)
     EXPECT_FALSE(reply.isFinished());
     closeRequest(u"one"_qs);
     EXPECT_EQ(responseOf(reply), ended);
-    EXPECT_TRUE(waitUntil([this, &pipe] { return !holds(pipe); })); // though it has not ended
+    EXPECT_TRUE(waitUntil([this, &pipe] { return !holds(pipe); }, soonMs)); // though it has not ended
     ::close(ends[0]);
     ::close(ends[1]);
 }
