@@ -29,6 +29,7 @@ public:
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void initStyleOption(QStyleOptionComboBox *option) const override;
 
 private:
     int textWidth() const;
@@ -36,6 +37,7 @@ private:
 
     int mWishedLetters = 0;
     bool mHasItemsAlike = false;
+    bool mIsOpeningLongList = false;
 };
 
 } // namespace tapeprint::dialog
