@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Each text is put between Unicode's marks of an isolate that takes its direction from its first letter.
+// A text that does not begin with a letter from the right is put between Unicode's marks of an isolate from the left.
 #include "dialog/OwnDirectionStyle.h"
 
 #include <QApplication>
@@ -14,9 +14,9 @@ namespace
 
 QString isolated(const QString &text)
 {
-    constexpr QChar firstStrongIsolate(0x2068);
+    constexpr QChar leftToRightIsolate(0x2066);
     constexpr QChar endOfIsolate(0x2069);
-    return text.isEmpty() ? text : firstStrongIsolate + text + endOfIsolate;
+    return text.isEmpty() || text.isRightToLeft() ? text : leftToRightIsolate + text + endOfIsolate;
 }
 
 /// A menu's text has its keys behind a tabulator, in a column of their own.

@@ -248,10 +248,10 @@ TEST_F(PageSettings, ControlThatGoesOff_NamesTheOneThatWasChanged)
     QTest::mouseClick(button(u"mResolutionRdBtn"_qs, 1), Qt::LeftButton);
     QWidget *speed = button(u"mPrintQualityRdBtn"_qs, 0);
     ASSERT_FALSE(speed->isEnabled());
-    EXPECT_EQ(reasonOf(speed), u"“Print Quality” does not go with what is set for “Resolution”."_qs);
+    EXPECT_TRUE(reasonOf(speed).contains(u"“Print Quality” does not go with what is set for “Resolution”."_qs))
+        << QToolTip::text().toStdString();
     // This was off from the start.
-    EXPECT_TRUE(
-        reasonOf(button(u"mCompressRdBtn"_qs, 0)).startsWith(u"“Compression” is switched off by “Page Settings”"))
+    EXPECT_TRUE(reasonOf(button(u"mCompressRdBtn"_qs, 0)).contains(u"“Compression” is switched off by “Page Settings”"))
         << QToolTip::text().toStdString();
     // Back at the first, it is on again.
     QTest::mouseClick(button(u"mResolutionRdBtn"_qs, 0), Qt::LeftButton);
