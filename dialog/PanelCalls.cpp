@@ -29,19 +29,28 @@ constexpr qint64 msPerSecond = 1000;
 /// A panel that fails otherwise each time is not listed for ever.
 constexpr qsizetype mostSentences = 20;
 
-/// Who is in a call, kept where a handler of signals can read it.
+/// Who is in a call, kept where a handler of signals can read it, and watched.
 class InCall
 {
 public:
-    explicit InCall(const QString &who) : mBefore(text())
+    InCall(const QString &who, CallWatch &watch) : mBefore(text()), mWatch(watch)
     {
         const QByteArray bytes = who.toLocal8Bit().left(static_cast<qsizetype>(text().size()) - 1);
         text().fill('\0');
         std::copy(bytes.begin(), bytes.end(), text().begin());
+        mWatch.begin(bytes);
     }
     InCall(const InCall &) = delete;
     InCall &operator=(const InCall &) = delete;
-    ~InCall() { text() = mBefore; }
+    ~InCall()
+    {
+        text() = mBefore;
+        if (mBefore.front() != '\0') {
+            mWatch.begin(mBefore.data());
+        } else {
+            mWatch.rest();
+        }
+    }
 
     static std::array<char, 512> &text()
     {
@@ -51,22 +60,34 @@ public:
 
 private:
     std::array<char, 512> mBefore;
+    CallWatch &mWatch;
 };
 
 /// How long a thread went without looking for events. What a person is asked meanwhile does not count.
 class Silence
 {
 public:
-    Silence()
+    explicit Silence(CallWatch &watch)
     {
         mSince.start();
         if (auto *events = QAbstractEventDispatcher::instance()) {
-            mWatch = QObject::connect(events, &QAbstractEventDispatcher::aboutToBlock, [this] { endOne(); });
+            mBlocking = QObject::connect(events, &QAbstractEventDispatcher::aboutToBlock, [this, &watch] {
+                endOne();
+                watch.rest();
+            });
+            mAwaking = QObject::connect(events, &QAbstractEventDispatcher::awake, [this, &watch] {
+                mSince.restart(); // what went by since was waiting
+                watch.goOn();
+            });
         }
     }
     Silence(const Silence &) = delete;
     Silence &operator=(const Silence &) = delete;
-    ~Silence() { QObject::disconnect(mWatch); }
+    ~Silence()
+    {
+        QObject::disconnect(mBlocking);
+        QObject::disconnect(mAwaking);
+    }
 
     qint64 longestMs()
     {
@@ -79,7 +100,8 @@ private:
 
     QElapsedTimer mSince;
     qint64 mLongestMs = 0;
-    QMetaObject::Connection mWatch;
+    QMetaObject::Connection mBlocking;
+    QMetaObject::Connection mAwaking;
 };
 
 } // namespace
@@ -92,8 +114,8 @@ bool PanelCalls::make(const QString &who, const std::function<void()> &call)
     }
     ++mDepth;
     const auto leave = qScopeGuard([this] { --mDepth; });
-    const InCall inCall(who);
-    Silence silence;
+    const InCall inCall(who, mWatch);
+    Silence silence(mWatch);
     bool isDone = false;
     try {
         call();

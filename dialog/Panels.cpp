@@ -8,6 +8,7 @@
 #include "job/Reason.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -123,6 +124,8 @@ void Panels::makePanelsOf(const pdekit::LoadedBundle &bundle)
                             .arg(bundle.path, job::reasonText(guard.reasonToSkip())));
         return;
     }
+    mCalls.leaveToGuard(true);
+    const auto watchAgain = qScopeGuard([this] { mCalls.leaveToGuard(false); });
     const auto host = mHosts.emplace_back(std::make_shared<PanelHost>(mJob, *this, bundle.path));
     // A copy: the array is the plug-in's, and its panels are called before all of it is read. An empty one is an
     // answer.

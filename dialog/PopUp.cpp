@@ -28,6 +28,9 @@ namespace
 {
 
 constexpr int leastLetters = 12;
+/// A list of more opens as an editable box's does, below the control and with a scroll bar.
+constexpr int mostWithoutScrollBar = 200;
+constexpr int rowsBesideScrollBar = 20;
 
 } // namespace
 
@@ -98,6 +101,12 @@ bool PopUp::isCut() const
 
 void PopUp::showPopup()
 {
+    mIsOpeningLongList = count() > mostWithoutScrollBar;
+    if (mIsOpeningLongList) {
+        setMaxVisibleItems(rowsBesideScrollBar);
+        view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+        removeArrows();
+    }
     const int bar = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
     const int most = screen()->availableSize().width() * 2 / 3;
     view()->setTextElideMode(Qt::ElideMiddle);
@@ -108,6 +117,26 @@ void PopUp::showPopup()
     }
     view()->setMinimumWidth(std::min(listWidth() + bar, most));
     QComboBox::showPopup();
+    mIsOpeningLongList = false;
+}
+
+/// The toolkit makes the list's frame for one without a scroll bar, with arrows at its ends. They are known by their
+/// class alone; where a toolkit calls it otherwise, they stay beside the scroll bar.
+void PopUp::removeArrows() const
+{
+    for (QWidget *part : view()->parentWidget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+        if (part->inherits("QComboBoxPrivateScroller")) {
+            part->setFixedHeight(0);
+        }
+    }
+}
+
+void PopUp::initStyleOption(QStyleOptionComboBox *option) const
+{
+    QComboBox::initStyleOption(option);
+    // A list that opens over the control is made wide enough by the toolkit, which measures all of ten thousand texts
+    // for that; and it is moved along by arrows at its ends alone.
+    option->editable = option->editable || mIsOpeningLongList;
 }
 
 bool PopUp::event(QEvent *event)

@@ -29,13 +29,16 @@ public:
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void initStyleOption(QStyleOptionComboBox *option) const override;
 
 private:
     int textWidth() const;
     int listWidth() const;
+    void removeArrows() const;
 
     int mWishedLetters = 0;
     bool mHasItemsAlike = false;
+    bool mIsOpeningLongList = false;
 };
 
 } // namespace tapeprint::dialog

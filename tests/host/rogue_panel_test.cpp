@@ -19,6 +19,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <array>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -159,6 +160,44 @@ INSTANTIATE_TEST_SUITE_P(
         Misdeed{"summaryInfo", "deleteView"}, Misdeed{"currentValues", "throw", true, "failed: no ink left."},
         Misdeed{"currentValues", "deleteView"}, Misdeed{"printWindowWillClose", "throw"},
         Misdeed{"printWindowWillClose", "deleteView"}));
+
+/// The calls that are not on the way to the job.
+class RoguePanelAside : public RoguePanelTest, public testing::WithParamInterface<const char *>
+{
+protected:
+    void makeAllCalls()
+    {
+        const bool isFirst = printJob.options().value(u"KsMargin"_qs) != u"5.0";
+        printJob.changeOption(u"KsMargin"_qs, isFirst ? u"5.0"_qs : u"4.0"_qs);
+        panels.mayHide(0);
+        panels.showHelp(0);
+        job::Problem problem;
+        panels.revert(&problem);
+    }
+};
+
+TEST_P(RoguePanelAside, ThatThrowsRunsTheEventsOrDeletesItsView_LetsPrintingGoOn)
+{
+    openWindow();
+    let(GetParam(), "throw");
+    makeAllCalls();
+    ASSERT_EQ(panels.notices().size(), 1) << panels.notices().join(u'\n').toStdString();
+    EXPECT_TRUE(panels.notices().first().endsWith(u"HostTestRogue.bundle failed: no ink left."_qs))
+        << panels.notices().first().toStdString();
+    for (const char *deed : {"reenter", "deleteView"}) {
+        let(GetParam(), deed);
+        makeAllCalls();
+        EXPECT_EQ(panels.notices().size(), 1) << deed << panels.notices().join(u'\n').toStdString();
+    }
+    const auto *words = dialog->findChild<QLabel *>(u"rogueWords"_qs);
+    EXPECT_EQ(words, nullptr) << "the call was not made";
+    print();
+    EXPECT_TRUE(QFile::exists(outputPath));
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, RoguePanelAside,
+                         testing::Values("shouldHide", "showHelp", "PPDOptionKeyValueDidChange",
+                                         "restoreValuesAndReturnError"));
 
 TEST_F(RoguePanelTest, NullAmongThePanels_IsLeftOutAndSaid)
 {
@@ -309,13 +348,18 @@ protected:
         rogueFile = hosttest::writeFile(folder, u"rogue.ppd"_qs, hosttest::testPpd(roguePrinter));
     }
 
+    /// Starts the program, whose panel does as it is told.
+    void begin(QProcess &program, const char *deeds, const QString &output = u"out.prn"_qs)
+    {
+        variables.emplace_back(u"HOST_TEST_DEEDS"_qs, QLatin1String(deeds));
+        start(program, programPath(), {u"--no-dialog"_qs, u"--ppd"_qs, rogueFile, u"--output"_qs, output, document});
+    }
+
     /// What the program writes on standard error while its panel does as it is told.
     QByteArray wordsAfter(const char *deeds)
     {
         QProcess program;
-        variables.emplace_back(u"HOST_TEST_DEEDS"_qs, QLatin1String(deeds));
-        start(program, programPath(),
-              {u"--no-dialog"_qs, u"--ppd"_qs, rogueFile, u"--output"_qs, u"out.prn"_qs, document});
+        begin(program, deeds);
         EXPECT_TRUE(program.waitForFinished(30000));
         crashed = program.exitStatus() == QProcess::CrashExit;
         return program.readAllStandardError();
@@ -337,6 +381,39 @@ TEST_F(RogueProgram, PanelThatUsesTheStackUp_IsNamed)
     const QByteArray words = wordsAfter("willShow=recurse");
     EXPECT_TRUE(crashed);
     EXPECT_TRUE(words.contains("HostTestRogue.bundle has crashed")) << words.toStdString();
+}
+
+TEST_F(RogueProgram, PanelThatDoesNotComeBack_IsNamedMeanwhile)
+{
+    const std::array calls{"willShow=hang", "saveValuesAndReturnError=hang", "summaryInfo=hang",
+                           "printWindowWillClose=hang"};
+    std::array<QProcess, calls.size()> programs; // all at once: each is waited for
+    for (size_t index = 0; index < calls.size(); ++index) {
+        begin(programs[index], calls[index], QStringLiteral("out%1.prn").arg(index));
+    }
+    for (size_t index = 0; index < calls.size(); ++index) {
+        QProcess &program = programs[index];
+        program.setReadChannel(QProcess::StandardError);
+        QByteArray words;
+        while (!words.endsWith("without it.\n") && program.waitForReadyRead(30000)) {
+            words += program.readAllStandardError();
+        }
+        EXPECT_TRUE(words.startsWith("tapeprint: The panel \"Rogue Panel\" of "))
+            << calls[index] << ": " << words.toStdString();
+        EXPECT_TRUE(words.contains("HostTestRogue.bundle does not come back. End the program if it never does, "))
+            << calls[index] << ": " << words.toStdString();
+        EXPECT_EQ(program.state(), QProcess::Running) << calls[index];
+        program.kill();
+        EXPECT_TRUE(program.waitForFinished(30000));
+    }
+}
+
+TEST_F(RogueProgram, PanelThatAsks_HasAllTheTimeThereIs)
+{
+    const QByteArray words = wordsAfter("shouldPrint=ask");
+    EXPECT_EQ(words, "");
+    EXPECT_FALSE(crashed);
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"out.prn"_qs)));
 }
 
 TEST_F(RogueProgram, PanelThatThrows_IsNamedAndTheJobPrinted)

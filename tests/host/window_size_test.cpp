@@ -157,6 +157,18 @@ INSTANTIATE_TEST_SUITE_P(Languages, WindowSize,
                                          "ko_KR", "zh_CN", "ar_EG"),
                          [](const testing::TestParamInfo<const char *> &tested) { return std::string(tested.param); });
 
+/// Notices as they stand in the dialog: as high as their words, above what takes the rest.
+NoticesArea *showNoticesIn(QWidget &window)
+{
+    auto *layout = new QVBoxLayout(&window);
+    auto *notices = new NoticesArea(&window);
+    layout->addWidget(notices);
+    layout->addStretch();
+    window.resize(400, 600);
+    window.show();
+    return notices;
+}
+
 class WindowParts : public WindowSize
 {
 };
@@ -219,12 +231,7 @@ TEST_P(WindowParts, LineThatIsShortened_IsReadWhole)
 TEST_P(WindowParts, ManyNotices_ScrollAndTakeTheKeys)
 {
     QWidget window;
-    auto *layout = new QVBoxLayout(&window);
-    auto *notices = new NoticesArea(&window);
-    layout->addWidget(notices);
-    layout->addStretch();
-    window.resize(400, 600);
-    window.show();
+    NoticesArea *notices = showNoticesIn(window);
     EXPECT_FALSE(notices->isVisible());
     notices->setSentences(u"One line."_qs);
     QApplication::processEvents();
@@ -260,12 +267,7 @@ TEST_P(WindowParts, NoticesUnderThePointer_CanBeSelectedAndCopied)
 TEST_P(WindowParts, NoticesInALargerFontOrLonger_GrowWithTheirWords)
 {
     QWidget window;
-    auto *layout = new QVBoxLayout(&window);
-    auto *notices = new NoticesArea(&window);
-    layout->addWidget(notices);
-    layout->addStretch();
-    window.resize(400, 600);
-    window.show();
+    NoticesArea *notices = showNoticesIn(window);
     notices->setSentences(u"One line."_qs);
     QApplication::processEvents();
     const int lineHeight = notices->height();
