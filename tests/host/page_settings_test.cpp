@@ -11,9 +11,12 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QTest>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -213,6 +216,30 @@ TEST_F(PageSettings, RevertToTheTapeOpenedWith_ShowsItsState)
     job::Problem error;
     ASSERT_TRUE(panels.revert(&error));
     EXPECT_TRUE(child<QLineEdit>(u"mTapeLengthTxFld"_qs)->isEnabled());
+}
+
+TEST_F(PageSettings, ControlThatGoesOff_NamesTheOneThatWasChanged)
+{
+    ASSERT_NO_FATAL_FAILURE(open(samplePrinter(u"mm"_qs)));
+    const auto button = [this](const QString &matrix, qsizetype row) {
+        return child<QWidget>(matrix)->findChildren<QRadioButton *>().value(row);
+    };
+    const auto reasonOf = [](QWidget *control) {
+        QHelpEvent help(QEvent::ToolTip, {5, 5}, control->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(control, &help);
+        return QToolTip::text();
+    };
+    QTest::mouseClick(button(u"mResolutionRdBtn"_qs, 1), Qt::LeftButton);
+    QWidget *speed = button(u"mPrintQualityRdBtn"_qs, 0);
+    ASSERT_FALSE(speed->isEnabled());
+    EXPECT_TRUE(reasonOf(speed).contains(u"“Print Quality” does not go with what is set for “Resolution”."_qs))
+        << QToolTip::text().toStdString();
+    // This was off from the start.
+    EXPECT_TRUE(reasonOf(button(u"mCompressRdBtn"_qs, 0)).contains(u"“Compression” is switched off by “Page Settings”"))
+        << QToolTip::text().toStdString();
+    // Back at the first, it is on again.
+    QTest::mouseClick(button(u"mResolutionRdBtn"_qs, 0), Qt::LeftButton);
+    EXPECT_TRUE(speed->isEnabled());
 }
 
 } // namespace
