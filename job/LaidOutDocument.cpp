@@ -3,9 +3,11 @@
 // and leaves it as it is.
 #include "job/LaidOutDocument.h"
 
+#include "job/Conversion.h"
 #include "job/PageBox.h"
 #include "job/PdfFailure.h"
 #include "job/PlainText.h"
+#include "job/Reason.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
@@ -24,6 +26,7 @@
 #include <qpdf/QPDFAcroFormDocumentHelper.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
+#include <qpdf/QPDFSystemError.hh>
 #include <qpdf/QPDFWriter.hh>
 
 namespace tapeprint::job
@@ -209,6 +212,9 @@ bool writeLaidOut(const LabelPlan &plan, const QStringList &pdfs, RasterShift sh
         QPDFWriter writer(target, name.constData());
         writer.setStaticID(true); // the same job is the same document
         writer.write();
+    } catch (const QPDFSystemError &failure) {
+        *error = noRoomForTemporaryFiles(reasonText(qt_error_string(failure.getErrno())));
+        return false;
     } catch (const std::exception &failure) {
         *error = {Problem::BadDocument,
                   Texts::tr("The labels cannot be laid out (%1): see that the document is whole and that there is room "
