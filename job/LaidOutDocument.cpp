@@ -6,11 +6,11 @@
 #include "job/Conversion.h"
 #include "job/PageBox.h"
 #include "job/PdfFailure.h"
+#include "job/PdfWriting.h"
 #include "job/PlainText.h"
 #include "job/Reason.h"
 #include "job/Texts.h"
 
-#include <QByteArray>
 #include <QFile>
 
 #include <algorithm>
@@ -27,7 +27,6 @@
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFSystemError.hh>
-#include <qpdf/QPDFWriter.hh>
 
 namespace tapeprint::job
 {
@@ -208,10 +207,7 @@ bool writeLaidOut(const LabelPlan &plan, const QStringList &pdfs, RasterShift sh
             }
             target.addPage(labelPage(target, label, plan.page, shift, sources), false);
         }
-        const QByteArray name = QFile::encodeName(path); // the writer keeps no copy of it
-        QPDFWriter writer(target, name.constData());
-        writer.setStaticID(true); // the same job is the same document
-        writer.write();
+        writePdf(target, path);
     } catch (const QPDFSystemError &failure) {
         *error = noRoomForTemporaryFiles(reasonText(qt_error_string(failure.getErrno())));
         return false;

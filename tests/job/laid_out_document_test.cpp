@@ -327,7 +327,7 @@ TEST_F(LaidOutDocument, PathThatCannotBeWritten_IsNoFaultOfTheDocument)
          {std::pair{folder.path(u"none/labels.pdf"_qs), u"No such file"_qs}, {u"/dev/full"_qs, u"No space left"_qs}}) {
         Problem error;
         EXPECT_FALSE(writeLaidOut(plan, {source}, {}, path, goOn, &error));
-        EXPECT_TRUE(error.sentence.startsWith(u"A temporary file cannot be written (" + reason))
+        EXPECT_TRUE(error.sentence.startsWith(u"A temporary file cannot be written ("_qs + reason))
             << error.sentence.toStdString();
         EXPECT_EQ(error.kind, Problem::General);
     }
