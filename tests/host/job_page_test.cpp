@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The pages "Job" and "Layout" of the window, the amount beside Print, and saving, with real clicks and keys.
+#include "Hands.h"
 #include "TestPdf.h"
 #include "TestPrinter.h"
 
@@ -132,9 +133,7 @@ protected:
     template <typename Widget>
     Widget *child(const QString &name)
     {
-        auto *widget = dialog->findChild<Widget *>(name);
-        EXPECT_NE(widget, nullptr) << name.toStdString();
-        return widget;
+        return hosttest::child<Widget>(*dialog, name);
     }
 
     void turnTo(const QString &page)

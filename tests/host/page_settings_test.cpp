@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The Page Settings panel in the dialog: which printers get it, what is said of values that it cannot show, and what
 // stays of typed lengths when the tape or its material changes.
+#include "Hands.h"
 #include "ShownWindow.h"
 #include "TestPrinter.h"
 
@@ -67,41 +68,24 @@ protected:
     template <typename Widget>
     Widget *child(const QString &name)
     {
-        auto *widget = dialog->findChild<Widget *>(name);
-        EXPECT_NE(widget, nullptr) << name.toStdString();
-        return widget;
+        return hosttest::child<Widget>(*dialog, name);
     }
 
     QString notices() { return child<QLabel>(u"notices"_qs)->text(); }
 
     /// Types into a field of the panel and leaves the focus there.
-    void type(const QString &field, const QString &text)
-    {
-        auto *edit = child<QLineEdit>(field);
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClicks(edit, text);
-        QApplication::processEvents();
-    }
+    void type(const QString &field, const QString &text) { hosttest::type(child<QLineEdit>(field), text); }
 
     void pick(const QString &popUp, const QString &item)
     {
         auto *box = child<QComboBox>(popUp);
-        const int index = box->findText(item);
-        ASSERT_GE(index, 0) << item.toStdString();
-        box->setCurrentIndex(index);
-        Q_EMIT box->activated(index);
-        QApplication::processEvents();
+        hosttest::pick(box, box->findText(item));
     }
 
     void pickTape(const QString &tape)
     {
         auto *box = child<QComboBox>(u"tape"_qs);
-        const int index = box->findData(tape);
-        ASSERT_GE(index, 0) << tape.toStdString();
-        box->setCurrentIndex(index);
-        Q_EMIT box->activated(index);
-        QApplication::processEvents();
+        hosttest::pick(box, box->findData(tape));
     }
 
     QTemporaryDir folder;

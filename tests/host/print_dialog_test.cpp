@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The window, with real clicks and keys.
+#include "Hands.h"
 #include "ShownWindow.h"
 #include "TestPrinter.h"
 
@@ -61,9 +62,7 @@ protected:
     template <typename Widget>
     Widget *child(const QString &name)
     {
-        auto *widget = dialog->findChild<Widget *>(name);
-        EXPECT_NE(widget, nullptr) << name.toStdString();
-        return widget;
+        return hosttest::child<Widget>(*dialog, name);
     }
 
     void click(const QString &button)
