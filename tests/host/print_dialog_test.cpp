@@ -251,6 +251,22 @@ TEST_F(PrintDialogTest, ReturnOnAPopUp_DoesNotPrintAndCtrlReturnDoes)
     EXPECT_TRUE(dialog->isVisible());
 }
 
+TEST_F(PrintDialogTest, CtrlReturnOnAButtonThatReturnPresses_Prints)
+{
+    auto *cancel = child<QPushButton>(u"cancel"_qs);
+    cancel->setAutoDefault(true); // as all buttons are on some desktops
+    cancel->setFocus();
+    takeCalls();
+    qApp->setProperty("hostTestRefuse", true);
+    pdekit::setAlertHandler([](const pdekit::AlertRequest &) {});
+    QTest::keyClick(cancel, Qt::Key_Return, Qt::ControlModifier);
+    QApplication::processEvents();
+    pdekit::setAlertHandler({});
+    qApp->setProperty("hostTestRefuse", QVariant());
+    EXPECT_TRUE(takeCalls().contains(u"shouldPrint"_qs));
+    EXPECT_TRUE(dialog->isVisible());
+}
+
 TEST_F(PrintDialogTest, RefusingPanel_KeepsTheDialogOpen)
 {
     qApp->setProperty("hostTestRefuse", true);
