@@ -96,7 +96,8 @@ Response askServer(const ServerConnection &server, ipp_t *request, const char *r
     if (status <= HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK) {
         status = statusOfAnswer(http);
     }
-    if (status == HTTP_STATUS_OK || status == HTTP_STATUS_ERROR) {
+    // Who gave no password is not asked for one a second time.
+    if (status == HTTP_STATUS_OK || status == HTTP_STATUS_ERROR || status == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED) {
         ippDelete(request);
         return status == HTTP_STATUS_OK ? heardAnswer(server) : nullptr;
     }
