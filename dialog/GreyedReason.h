@@ -3,9 +3,12 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 
 #include <functional>
+#include <vector>
 
 namespace tapeprint::dialog
 {
@@ -18,14 +21,27 @@ class GreyedReason : public QObject
     Q_OBJECT
 
 public:
-    /// \param window whose controls. \param reason a sentence for a control; empty for none. Asked at each tooltip.
-    GreyedReason(QWidget *window, std::function<QString(const QWidget &)> reason);
+    /// A sentence; empty for none. \param off what was switched off: the control, or what it lies in. \param changed
+    /// the control that had the keys when that happened, whose change may have been the cause; null when nobody knows.
+    using Reason = std::function<QString(const QWidget &off, const QWidget *changed)>;
+
+    /// \param window whose controls. \param reason asked at each tooltip.
+    GreyedReason(QWidget *window, Reason reason);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    struct SwitchedOff {
+        QPointer<const QWidget> control;
+        QPointer<const QWidget> changed;
+    };
+
+    void note(const QWidget &control);
+    const QWidget *changedWith(const QWidget &off) const;
+
     const QWidget &mWindow;
-    std::function<QString(const QWidget &)> mReason;
+    Reason mReason;
+    std::vector<SwitchedOff> mSwitchedOff;
 };
 
 } // namespace tapeprint::dialog

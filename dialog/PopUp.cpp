@@ -105,6 +105,7 @@ void PopUp::showPopup()
     if (mIsOpeningLongList) {
         setMaxVisibleItems(rowsBesideScrollBar);
         view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+        removeArrows();
     }
     const int bar = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
     const int most = screen()->availableSize().width() * 2 / 3;
@@ -117,6 +118,17 @@ void PopUp::showPopup()
     view()->setMinimumWidth(std::min(listWidth() + bar, most));
     QComboBox::showPopup();
     mIsOpeningLongList = false;
+}
+
+/// The toolkit makes the list's frame for one without a scroll bar, with arrows at its ends. They are known by their
+/// class alone; where a toolkit calls it otherwise, they stay beside the scroll bar.
+void PopUp::removeArrows() const
+{
+    for (QWidget *part : view()->parentWidget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+        if (part->inherits("QComboBoxPrivateScroller")) {
+            part->setFixedHeight(0);
+        }
+    }
 }
 
 void PopUp::initStyleOption(QStyleOptionComboBox *option) const

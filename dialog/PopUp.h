@@ -34,6 +34,7 @@ protected:
 private:
     int textWidth() const;
     int listWidth() const;
+    void removeArrows() const;
 
     int mWishedLetters = 0;
     bool mHasItemsAlike = false;

@@ -80,10 +80,9 @@ QWidget *PreviewArea::makePaging()
     mPaging->setObjectName(QStringLiteral("paging"));
     auto *layout = new QHBoxLayout(mPaging);
     layout->setContentsMargins({});
-    const auto makeButton = [this](const QString &name, Qt::ArrowType arrow, const QString &words, int step) {
+    const auto makeButton = [this](const QString &name, const QString &words, int step) {
         auto *button = new QToolButton(mPaging);
         button->setObjectName(name);
-        button->setArrowType(arrow);
         button->setAutoRepeat(true);
         button->setFocusPolicy(Qt::StrongFocus);
         button->setAccessibleName(words);
@@ -92,8 +91,9 @@ QWidget *PreviewArea::makePaging()
                 [this, step] { turnTo(step < 0 ? mLabel - std::min<std::size_t>(mLabel, 1) : mLabel + 1); });
         return button;
     };
-    mPrevious = makeButton(QStringLiteral("previousLabel"), Qt::LeftArrow, tr("Previous label"), -1);
-    mNext = makeButton(QStringLiteral("nextLabel"), Qt::RightArrow, tr("Next label"), 1);
+    mPrevious = makeButton(QStringLiteral("previousLabel"), tr("Previous label"), -1);
+    mNext = makeButton(QStringLiteral("nextLabel"), tr("Next label"), 1);
+    pointArrows();
     mPosition = new QLabel(mPaging);
     mPosition->setObjectName(QStringLiteral("labelPosition"));
     mPosition->setTextFormat(Qt::PlainText);
@@ -102,6 +102,21 @@ QWidget *PreviewArea::makePaging()
     layout->addWidget(mNext);
     mPaging->hide();
     return mPaging;
+}
+
+/// Away from each other, also where the window is mirrored.
+void PreviewArea::pointArrows()
+{
+    mPrevious->setArrowType(isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
+    mNext->setArrowType(isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);
+}
+
+void PreviewArea::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        pointArrows();
+    }
+    QWidget::changeEvent(event);
 }
 
 void PreviewArea::setDocuments(const QStringList &pdfPaths, const QStringList &shownAs, job::LaidOnSheets laidOn)

@@ -72,8 +72,12 @@ Q_SIGNALS:
     /// Everything that is to be seen is there.
     void settled();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     QWidget *makePaging();
+    void pointArrows();
     void planAnew();
     void turnTo(std::size_t label);
     void showLabel();

@@ -206,8 +206,8 @@ private:
     bool isPage(const QObject *object) const;
     bool isInPanel(const QWidget &widget) const;
     void helpPeople();
-    QString whyGrey(const QWidget &control) const;
-    QString whyGreyInThePages(const QWidget &control) const;
+    QString whyGrey(const QWidget &off, const QWidget *changed) const;
+    QString whyGreyInThePages(const QWidget &off, const QWidget *changed) const;
 
     job::Job &mJob;
     Panels &mPanels;

@@ -10,6 +10,7 @@
 #include "dialog/PrinterPopUp.h"
 #include "dialog/SummaryView.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -27,6 +28,22 @@
 
 namespace tapeprint::dialog
 {
+
+namespace
+{
+
+/// On some desktops Return opens a pop-up and presses a button, with Ctrl as well, before the window hears of it.
+bool isPrintKeyOn(const QObject *watched, const QKeyEvent &key, const QWidget *window)
+{
+    const bool isPrintKey =
+        (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) && (key.modifiers() & Qt::ControlModifier) != 0;
+    const auto *control = isPrintKey ? qobject_cast<const QWidget *>(watched) : nullptr;
+    const bool wouldTakeIt = qobject_cast<const QComboBox *>(control) != nullptr ||
+                             qobject_cast<const QAbstractButton *>(control) != nullptr;
+    return wouldTakeIt && control->window() == window;
+}
+
+} // namespace
 
 void PrintDialog::connectControls()
 {
@@ -77,6 +94,11 @@ bool PrintDialog::eventFilter(QObject *watched, QEvent *event)
         }
         break;
     case QEvent::KeyPress:
+        if (isPrintKeyOn(watched, *static_cast<QKeyEvent *>(event), this)) {
+            mPrintButton->click();
+            return true;
+        }
+        [[fallthrough]];
     case QEvent::KeyRelease:
     case QEvent::InputMethod:
     case QEvent::MouseButtonPress:

@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QStackedWidget>
 
@@ -22,10 +23,31 @@
 namespace tapeprint::dialog
 {
 
+namespace
+{
+
+/// What a screen reader calls a control, without the colon of its title; a choice among several goes by what is chosen.
+QString spokenName(const QWidget &control)
+{
+    const QWidget *spoken = &control;
+    if (qobject_cast<const QRadioButton *>(spoken) != nullptr && !spoken->parentWidget()->accessibleName().isEmpty()) {
+        spoken = spoken->parentWidget();
+    }
+    const QAccessibleInterface *heard = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(spoken));
+    QString name = heard == nullptr ? QString() : job::harmless(heard->text(QAccessible::Name).simplified());
+    while (name.endsWith(u':') || name.endsWith(u'：') || name.endsWith(u' ')) {
+        name.chop(1);
+    }
+    return name;
+}
+
+} // namespace
+
 void PrintDialog::helpPeople()
 {
     auto *decimalKey = new DecimalKey([this](const QWidget &widget) { return isInPanel(widget); }, this);
-    auto *reasons = new GreyedReason(this, [this](const QWidget &control) { return whyGrey(control); });
+    auto *reasons =
+        new GreyedReason(this, [this](const QWidget &off, const QWidget *changed) { return whyGrey(off, changed); });
     QApplication::instance()->installEventFilter(decimalKey);
     QApplication::instance()->installEventFilter(reasons);
     // Notices take the keys as long as they scroll.
@@ -73,7 +95,7 @@ bool PrintDialog::isInPanel(const QWidget &widget) const
     });
 }
 
-QString PrintDialog::whyGrey(const QWidget &control) const
+QString PrintDialog::whyGrey(const QWidget &off, const QWidget *changed) const
 {
     if (mRun.phase() != PrintRun::Phase::Idle) {
         return tr("The job is being printed.");
@@ -81,28 +103,35 @@ QString PrintDialog::whyGrey(const QWidget &control) const
     if (mGreyed.isOn()) {
         return mPrinters.isOpening() ? tr("The printer is still being connected.") : tr("Choose a printer first.");
     }
-    if (&control == mTapePopUp) {
+    if (&off == mTapePopUp) {
         return tr("The printer offers no choice here.");
     }
-    return mPages->isAncestorOf(&control) ? whyGreyInThePages(control) : QString();
+    return mPages->isAncestorOf(&off) ? whyGreyInThePages(off, changed) : QString();
 }
 
-/// A panel tells of no control why it is switched off, nor which option it stands for: what can be said is which
-/// control it is, whose, and what such a thing depends on.
-QString PrintDialog::whyGreyInThePages(const QWidget &control) const
+/// A panel tells of no control why it is switched off, nor which option it stands for. What can be seen from outside is
+/// whether there is anything to choose, and which control the person had just changed.
+QString PrintDialog::whyGreyInThePages(const QWidget &off, const QWidget *changed) const
 {
-    const QAccessibleInterface *heard = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(&control));
-    QString name = heard == nullptr ? QString() : job::harmless(heard->text(QAccessible::Name).simplified());
-    while (name.endsWith(u':') || name.endsWith(u'：')) {
-        name.chop(1);
-    }
+    const QString name = spokenName(off);
     const Page *page = currentPage();
-    if (name.isEmpty() || page == nullptr || !page->panel || !isInPanel(control)) {
+    if (name.isEmpty() || page == nullptr || !page->panel || !isInPanel(off)) {
         return tr("Not available with this printer, this tape or the other settings.");
+    }
+    const auto *popUp = qobject_cast<const QComboBox *>(&off);
+    if (popUp != nullptr && popUp->count() == 0) {
+        return tr("“%1” is switched off by “%2”: this printer offers nothing to choose there.",
+                  "a control, and the page of settings that it stands on")
+            .arg(name, mPanels.entries()[*page->panel].name);
+    }
+    if (changed != nullptr && changed != &off && (changed == mTapePopUp || isInPanel(*changed))) {
+        if (const QString other = spokenName(*changed); !other.isEmpty()) {
+            return tr("“%1” does not go with what is set for “%2”.", "two controls").arg(name, other);
+        }
     }
     return tr("“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.",
               "a control, and the page of settings that it stands on")
-        .arg(name.trimmed(), mPanels.entries()[*page->panel].name);
+        .arg(name, mPanels.entries()[*page->panel].name);
 }
 
 } // namespace tapeprint::dialog

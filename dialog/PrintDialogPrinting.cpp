@@ -2,6 +2,7 @@
 // Print, and what the window shows until the printer's last word.
 #include "dialog/JobRow.h"
 #include "dialog/NoticesArea.h"
+#include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 #include "dialog/SaveButton.h"
 
@@ -52,6 +53,7 @@ void PrintDialog::print()
         accept();
         return;
     }
+    const std::optional<Amount> amount = mPreview->amount();
     mRun.start(
         [action = mPrintAction, keep = keepingForNextTime(), settled](const job::PrintWatch &watch,
                                                                       job::Problem *problem) {
@@ -61,7 +63,7 @@ void PrintDialog::print()
             }
             return printed;
         },
-        settled.page.isTape);
+        settled.page.isTape, amount ? amount->pieces : 0);
     showPrinting();
 }
 

@@ -28,10 +28,11 @@ PrintRun::PrintRun(Server server, QObject *parent) : QObject(parent), mServer(st
     connect(&mReadTimer, &QTimer::timeout, this, &PrintRun::readBoard);
 }
 
-void PrintRun::start(Action action, bool isTape)
+void PrintRun::start(Action action, bool isTape, std::size_t pieces)
 {
     mPhase = Phase::Sending;
     mIsTape = isTape;
+    mPieces = pieces;
     mPrinted.reset();
     mNews.reset();
     mBoard = std::make_shared<Board>();
@@ -156,7 +157,7 @@ void PrintRun::readBoard()
     }
     if (news) {
         mNews = news;
-        Q_EMIT told(news->sentence(), -1);
+        Q_EMIT told(news->sentence(), news->percentOf(mPieces));
     } else if (progress && mPhase == Phase::Sending && progress->ofBytes > 0) {
         constexpr int whole = 100;
         Q_EMIT told(tr("Sending…"), static_cast<int>(whole * progress->bytes / progress->ofBytes));

@@ -41,8 +41,9 @@ public:
     explicit PrintRun(QObject *parent = nullptr) : PrintRun(Server(), parent) {}
     explicit PrintRun(Server server, QObject *parent = nullptr);
 
-    /// \param isTape whether the printer prints on tape.
-    void start(Action action, bool isTape);
+    /// \param isTape whether the printer prints on tape. \param pieces how many labels or sheets are to come out; 0
+    /// when that is not known.
+    void start(Action action, bool isTape, std::size_t pieces = 0);
     Phase phase() const { return mPhase; }
 
     /// The person has changed their mind: ends sending, or has the server cancel the job.
@@ -58,7 +59,8 @@ public:
     const std::optional<job::JobNews> &news() const { return mNews; }
 
 Q_SIGNALS:
-    /// There is something new to be said. \param percent how much is sent; below 0 while that is not known.
+    /// There is something new to be said. \param percent how much is sent, then how much is printed; below 0
+    /// while that is not known.
     void told(const QString &words, int percent);
     /// The server has taken the job, and it is followed from now on.
     void sent();
@@ -81,6 +83,7 @@ private:
     Server mServer;
     Phase mPhase = Phase::Idle;
     bool mIsTape = false;
+    std::size_t mPieces = 0;
     job::JobName mJob;
     std::optional<job::PrintedJob> mPrinted;
     std::optional<job::JobNews> mNews;

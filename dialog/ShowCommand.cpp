@@ -46,7 +46,7 @@ protected:
 
 ShowCommand::ShowCommand(const QString &tapeprint, const QString &lp, QWidget *parent) : QDialog(parent)
 {
-    constexpr QSize wished(560, 320);
+    constexpr QSize wished(640, 420); // seven lines each: all that a tape printer has
     setWindowTitle(tr("Commands for a Shell"));
     auto *layout = new QVBoxLayout(this);
     addCommand(layout, tr("The same job by &tapeprint:"), tapeprint, QStringLiteral("tapeprint"));

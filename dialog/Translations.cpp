@@ -2,6 +2,8 @@
 // The catalogues stand in the program itself, so the window speaks its languages wherever the program is put.
 #include "dialog/Translations.h"
 
+#include "dialog/OwnDirectionStyle.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -30,6 +32,7 @@ Translations::Translations()
     if (!install(mDialog, name, folder) && mDialog.load(name + QStringLiteral("_en"), folder)) {
         QCoreApplication::installTranslator(&mDialog); // the texts in the code lack the plural forms of English
     }
+    OwnDirectionStyle::takeWhereMirrored(); // the toolkit's own texts may read from the right; ours do in no language
 }
 
 } // namespace tapeprint::dialog

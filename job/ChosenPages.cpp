@@ -2,11 +2,13 @@
 // libqpdf copies pages with all that they are made of.
 #include "job/ChosenPages.h"
 
+#include "job/Conversion.h"
 #include "job/PdfFailure.h"
+#include "job/PdfWriting.h"
 #include "job/PlainText.h"
+#include "job/Reason.h"
 #include "job/Texts.h"
 
-#include <QByteArray>
 #include <QFile>
 
 #include <exception>
@@ -15,7 +17,7 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
-#include <qpdf/QPDFWriter.hh>
+#include <qpdf/QPDFSystemError.hh>
 
 namespace tapeprint::job
 {
@@ -84,10 +86,10 @@ bool writeChosenPages(const std::vector<ChosenPage> &pages, const QStringList &p
             }
             targetPages.addPage(documents.at(chosen.document)->page(chosen.page), false);
         }
-        const QByteArray name = QFile::encodeName(path); // the writer keeps no copy of it
-        QPDFWriter writer(target, name.constData());
-        writer.setStaticID(true); // the same pages are the same document
-        writer.write();
+        writePdf(target, path);
+    } catch (const QPDFSystemError &failure) {
+        *error = noRoomForTemporaryFiles(reasonText(qt_error_string(failure.getErrno())));
+        return false;
     } catch (const std::exception &failure) {
         *error = {Problem::BadDocument,
                   Texts::tr("The chosen pages cannot be put together (%1): see that the document is whole and that "

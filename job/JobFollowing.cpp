@@ -9,6 +9,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <chrono>
 #include <memory>
 #include <thread>
@@ -92,6 +93,15 @@ bool JobNews::waitsForPerson() const
 {
     const std::vector<StateReason> reasons = stateReasons(status.printerReasons);
     return !isOver() && (status.isStopped || (!reasons.empty() && reasons.front().weight == ReasonWeight::Error));
+}
+
+int JobNews::percentOf(std::size_t pieces) const
+{
+    if (status.state != IPP_JSTATE_PROCESSING || waitsForPerson() || status.piecesOut <= 0 || pieces == 0) {
+        return -1;
+    }
+    constexpr std::size_t whole = 100;
+    return static_cast<int>(std::min(whole, whole * static_cast<std::size_t>(status.piecesOut) / pieces));
 }
 
 QString JobNews::sentence() const

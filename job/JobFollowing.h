@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <atomic>
+#include <cstddef>
 #include <functional>
 #include <optional>
 
@@ -33,6 +34,9 @@ struct JobNews {
     bool hasFailed() const;
     /// Whether somebody has to see to the printer before the job prints.
     bool waitsForPerson() const;
+    /// How much of a job is printed, in per cent; below 0 where that is not known, or somebody is waited for.
+    /// \param pieces labels or sheets of the whole job; 0 when that is not known.
+    int percentOf(std::size_t pieces) const;
     /// A sentence for the person, in the language of the moment.
     QString sentence() const;
 

@@ -13,8 +13,8 @@ namespace tapeprint::job
 namespace
 {
 
-constexpr std::array jobAttributes{"job-state", "job-state-reasons", "job-printer-state-message", "number-of-documents",
-                                   "number-of-intervening-jobs"};
+constexpr std::array jobAttributes{"job-state",           "job-state-reasons",          "job-printer-state-message",
+                                   "number-of-documents", "number-of-intervening-jobs", "job-media-sheets-completed"};
 constexpr std::array printerAttributes{"printer-state", "printer-state-reasons", "printer-state-message"};
 
 void addUser(ipp_t *request)
@@ -191,6 +191,7 @@ std::optional<JobStatus> readJob(const ServerConnection &server, const QString &
     status.message = wordsIn(job, "job-printer-state-message").join(u' ');
     status.documents = numberIn(job, "number-of-documents", IPP_TAG_INTEGER, 0);
     status.jobsBefore = numberIn(job, "number-of-intervening-jobs", IPP_TAG_INTEGER, 0);
+    status.piecesOut = numberIn(job, "job-media-sheets-completed", IPP_TAG_INTEGER, 0);
 
     request = aboutPrinter(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
     askFor(request, printerAttributes);

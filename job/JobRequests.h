@@ -31,6 +31,7 @@ struct JobStatus {
     QString message;            ///< what the printer or a filter said of it last, in its own words
     int documents = 0;          ///< how many have come
     int jobsBefore = 0;         ///< how many others the queue prints first
+    int piecesOut = 0;          ///< labels or sheets that have come out; 0 also where nobody counts them
     bool isStopped = false;     ///< whether the printer has stopped; the job waits for it
     QStringList printerReasons; ///< printer-state-reasons, as IPP's keywords
     QString printerMessage;     ///< of the printer, in its driver's or administrator's words

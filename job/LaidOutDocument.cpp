@@ -3,12 +3,14 @@
 // and leaves it as it is.
 #include "job/LaidOutDocument.h"
 
+#include "job/Conversion.h"
 #include "job/PageBox.h"
 #include "job/PdfFailure.h"
+#include "job/PdfWriting.h"
 #include "job/PlainText.h"
+#include "job/Reason.h"
 #include "job/Texts.h"
 
-#include <QByteArray>
 #include <QFile>
 
 #include <algorithm>
@@ -24,7 +26,7 @@
 #include <qpdf/QPDFAcroFormDocumentHelper.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
-#include <qpdf/QPDFWriter.hh>
+#include <qpdf/QPDFSystemError.hh>
 
 namespace tapeprint::job
 {
@@ -205,10 +207,10 @@ bool writeLaidOut(const LabelPlan &plan, const QStringList &pdfs, RasterShift sh
             }
             target.addPage(labelPage(target, label, plan.page, shift, sources), false);
         }
-        const QByteArray name = QFile::encodeName(path); // the writer keeps no copy of it
-        QPDFWriter writer(target, name.constData());
-        writer.setStaticID(true); // the same job is the same document
-        writer.write();
+        writePdf(target, path);
+    } catch (const QPDFSystemError &failure) {
+        *error = noRoomForTemporaryFiles(reasonText(qt_error_string(failure.getErrno())));
+        return false;
     } catch (const std::exception &failure) {
         *error = {Problem::BadDocument,
                   Texts::tr("The labels cannot be laid out (%1): see that the document is whole and that there is room "

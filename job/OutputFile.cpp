@@ -64,19 +64,8 @@ bool sayUnwritable(const QString &path, Problem *error, const QString &reason = 
 {
     *error = {Problem::UnwritableOutput,
               advice(Texts::tr("The file %1 cannot be written (%2): name another."),
-                     QStringLiteral("The file %1 cannot be written (%2): name another with --output."))
+                     QStringLiteral("The file %1 cannot be written (%2): name another with --output or --pdf."))
                   .arg(outputName(path), reason)};
-    return false;
-}
-
-bool sayNoRoom(const QString &path, Problem *error)
-{
-    *error = {Problem::UnwritableOutput,
-              advice(Texts::tr("The printer's bytes cannot be written to %1 (%2): make room there, or name another "
-                               "file."),
-                     QStringLiteral("The printer's bytes cannot be written to %1 (%2): make room there, or name "
-                                    "another file with --output."))
-                  .arg(outputName(path), systemSays())};
     return false;
 }
 
@@ -143,7 +132,7 @@ public:
             const ssize_t step =
                 ::write(mDescriptor.number(), bytes.constData() + written, static_cast<std::size_t>(piece));
             if (step < 0 && errno != EINTR && errno != EAGAIN) {
-                return sayNoRoom(mTarget.path, error);
+                return sayUnwritable(mTarget.path, error);
             }
             written += std::max<ssize_t>(step, 0);
         }
@@ -220,7 +209,7 @@ public:
     bool write(const QByteArray &bytes, Problem *error) override
     {
         if (!writeWhole(mDescriptor.number(), bytes)) {
-            return sayNoRoom(mShownAs, error);
+            return sayUnwritable(mShownAs, error);
         }
         count(bytes.size());
         return true;
@@ -230,7 +219,7 @@ public:
     {
         // A disk may notice only now that it is full.
         if (fdatasync(mDescriptor.number()) != 0) {
-            return sayNoRoom(mShownAs, error);
+            return sayUnwritable(mShownAs, error);
         }
         takeOverPermissions();
         if (!(mMayReplace ? replace() : appear())) {

@@ -3,11 +3,11 @@
 #include "job/PicturePdf.h"
 
 #include "job/Conversion.h"
+#include "job/PdfWriting.h"
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
-#include <QFile>
 #include <QImage>
 #include <QImageReader>
 #include <QPainter>
@@ -20,7 +20,6 @@
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
-#include <qpdf/QPDFWriter.hh>
 
 namespace tapeprint::job
 {
@@ -107,9 +106,7 @@ void writePage(const QImage &picture, const QSizeF &sizePt, const QString &path)
     page.getKey("/Resources").getKey("/XObject").replaceKey("/Picture", pdf.makeIndirectObject(image));
     page.replaceKey("/Contents", QPDFObjectHandle::newStream(&pdf, width + " 0 0 " + height + " 0 0 cm /Picture Do\n"));
     pdf.addPage(pdf.makeIndirectObject(page), true);
-    const QByteArray name = QFile::encodeName(path); // the writer keeps no copy of it
-    QPDFWriter writer(pdf, name.constData());
-    writer.write();
+    writePdf(pdf, path);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 // returned.
 #include "portal/PortalWindow.h"
 
+#include "portal/Log.h"
+
 #include <QThread>
 
 #include <utility>
@@ -35,6 +37,7 @@ PortalWindow::PortalWindow(dialog::PrintDialog::Setup setup, dialog::PrintDialog
     connect(&mQuietTimer, &QTimer::timeout, this, &PortalWindow::deleteIfQuiet);
     connect(&dialog(), &QDialog::finished, this, [this](int result) {
         mDismissTimer.stop();
+        logWhatIsNotKept(dialog().printed());
         Q_EMIT closed(result == QDialog::Accepted);
     });
     mParent.adopt(dialog(), isModal);

@@ -6,6 +6,7 @@
 #include "job/PageLayout.h"
 #include "job/Printing.h"
 #include "job/UsualOptions.h"
+#include "portal/Log.h"
 
 #include <algorithm>
 #include <cmath>
@@ -73,6 +74,7 @@ SilentPrint::SilentPrint(ChosenSettings settings, QString document, QObject *par
     mLeaveTimer.setSingleShot(true);
     mLeaveTimer.setInterval(followMs);
     connect(&mRun, &dialog::PrintRun::sent, this, [this] {
+        logWhatIsNotKept(mRun.printed());
         mLeaveTimer.start();
         Q_EMIT sent();
     });

@@ -17,8 +17,10 @@
 #include <wayland-client.h>
 
 extern "C" {
-#include <xdg-foreign-client-header.h>
-#include <xdg-foreign-private-code.h>
+#include <xdg-foreign-v1-client-header.h>
+#include <xdg-foreign-v1-private-code.h>
+#include <xdg-foreign-v2-client-header.h>
+#include <xdg-foreign-v2-private-code.h>
 }
 
 namespace tapeprint::portal
@@ -65,18 +67,78 @@ wl_surface *surfaceOf(QWindow &child)
     return static_cast<wl_surface *>(native->nativeResourceForWindow("surface", &child));
 }
 
-void sayNoSuchWindow(void * /*self*/, zxdg_imported_v2 * /*imported*/)
+void sayNoSuchWindow()
 {
     qCInfo(portalLog) << "the display does not know the caller's window (any more): the dialog stands by itself";
 }
 
 } // namespace
 
+/// A window of another program, by whichever version of the protocol.
+class BorrowedWindow
+{
+public:
+    BorrowedWindow() = default;
+    virtual ~BorrowedWindow() = default;
+    BorrowedWindow(const BorrowedWindow &) = delete;
+    BorrowedWindow &operator=(const BorrowedWindow &) = delete;
+
+    virtual void beParentOf(wl_surface *surface) = 0;
+};
+
+namespace
+{
+
+struct Version1 {
+    using Importer = zxdg_importer_v1;
+    using Window = zxdg_imported_v1;
+    using Listener = zxdg_imported_v1_listener;
+    static constexpr const wl_interface *interface = &zxdg_importer_v1_interface;
+    static constexpr auto borrow = zxdg_importer_v1_import;
+    static constexpr auto listen = zxdg_imported_v1_add_listener;
+    static constexpr auto setParentOf = zxdg_imported_v1_set_parent_of;
+    static constexpr auto destroyImporter = zxdg_importer_v1_destroy;
+    static constexpr auto destroyWindow = zxdg_imported_v1_destroy;
+};
+
+struct Version2 {
+    using Importer = zxdg_importer_v2;
+    using Window = zxdg_imported_v2;
+    using Listener = zxdg_imported_v2_listener;
+    static constexpr const wl_interface *interface = &zxdg_importer_v2_interface;
+    static constexpr auto borrow = zxdg_importer_v2_import_toplevel;
+    static constexpr auto listen = zxdg_imported_v2_add_listener;
+    static constexpr auto setParentOf = zxdg_imported_v2_set_parent_of;
+    static constexpr auto destroyImporter = zxdg_importer_v2_destroy;
+    static constexpr auto destroyWindow = zxdg_imported_v2_destroy;
+};
+
+template <typename Version>
+class WindowOf final : public BorrowedWindow
+{
+public:
+    WindowOf(wl_registry *registry, std::uint32_t name, const char *handle)
+        : mImporter(static_cast<typename Version::Importer *>(wl_registry_bind(registry, name, Version::interface, 1))),
+          mWindow(Version::borrow(mImporter.get(), handle))
+    {
+        static constexpr typename Version::Listener fate{[](void *, typename Version::Window *) { sayNoSuchWindow(); }};
+        Version::listen(mWindow.get(), &fate, nullptr);
+    }
+    void beParentOf(wl_surface *surface) override { Version::setParentOf(mWindow.get(), surface); }
+
+private:
+    Owned<typename Version::Importer, Version::destroyImporter> mImporter;
+    Owned<typename Version::Window, Version::destroyWindow> mWindow;
+};
+
+} // namespace
+
 struct WaylandParent::Objects {
     Owned<wl_registry, wl_registry_destroy> registry;
     Owned<wl_callback, wl_callback_destroy> listed; ///< when all globals have been told
-    Owned<zxdg_importer_v2, zxdg_importer_v2_destroy> importer;
-    Owned<zxdg_imported_v2, zxdg_imported_v2_destroy> imported;
+    std::uint32_t version1 = 0;                     ///< the global's name; 0: the display has none
+    std::uint32_t version2 = 0;
+    std::unique_ptr<BorrowedWindow> window;
 };
 
 bool isWaylandHandle(const QByteArray &text)
@@ -96,11 +158,8 @@ WaylandParent::WaylandParent(QByteArray handle, QWindow &child)
     static constexpr wl_registry_listener globals{takeGlobal, [](void *, wl_registry *, std::uint32_t) {}};
     mObjects->registry.reset(wl_display_get_registry(display));
     wl_registry_add_listener(mObjects->registry.get(), &globals, this);
-    static constexpr wl_callback_listener end{[](void *self, wl_callback *, std::uint32_t) {
-        if (!static_cast<WaylandParent *>(self)->mObjects->imported) {
-            qCInfo(portalLog) << "the dialog stands by itself: the display has no windows of other programs to give";
-        }
-    }};
+    static constexpr wl_callback_listener end{
+        [](void *self, wl_callback *, std::uint32_t) { static_cast<WaylandParent *>(self)->borrow(); }};
     mObjects->listed.reset(wl_display_sync(display));
     wl_callback_add_listener(mObjects->listed.get(), &end, this);
     mChild.installEventFilter(this);
@@ -108,20 +167,29 @@ WaylandParent::WaylandParent(QByteArray handle, QWindow &child)
 
 WaylandParent::~WaylandParent() = default;
 
-void WaylandParent::takeGlobal(void *self, wl_registry *registry, std::uint32_t name, const char *interface,
+void WaylandParent::takeGlobal(void *self, wl_registry * /*registry*/, std::uint32_t name, const char *interface,
                                std::uint32_t /*version*/)
 {
-    auto *parent = static_cast<WaylandParent *>(self);
-    Objects &objects = *parent->mObjects;
-    if (objects.importer || std::strcmp(interface, zxdg_importer_v2_interface.name) != 0) {
-        return;
+    Objects &objects = *static_cast<WaylandParent *>(self)->mObjects;
+    if (std::strcmp(interface, zxdg_importer_v1_interface.name) == 0) {
+        objects.version1 = name;
+    } else if (std::strcmp(interface, zxdg_importer_v2_interface.name) == 0) {
+        objects.version2 = name;
     }
-    static constexpr zxdg_imported_v2_listener fate{sayNoSuchWindow};
-    objects.importer.reset(
-        static_cast<zxdg_importer_v2 *>(wl_registry_bind(registry, name, &zxdg_importer_v2_interface, 1)));
-    objects.imported.reset(zxdg_importer_v2_import_toplevel(objects.importer.get(), parent->mHandle.constData()));
-    zxdg_imported_v2_add_listener(objects.imported.get(), &fate, parent);
-    parent->standOver();
+}
+
+/// The later version where both are there: such a display knows a window in both by the same handle.
+void WaylandParent::borrow()
+{
+    wl_registry *registry = mObjects->registry.get();
+    if (mObjects->version2 != 0) {
+        mObjects->window = std::make_unique<WindowOf<Version2>>(registry, mObjects->version2, mHandle.constData());
+    } else if (mObjects->version1 != 0) {
+        mObjects->window = std::make_unique<WindowOf<Version1>>(registry, mObjects->version1, mHandle.constData());
+    } else {
+        qCInfo(portalLog) << "the dialog stands by itself: the display has no windows of other programs to give";
+    }
+    standOver();
 }
 
 bool WaylandParent::eventFilter(QObject *watched, QEvent *event)
@@ -136,11 +204,11 @@ bool WaylandParent::eventFilter(QObject *watched, QEvent *event)
 
 void WaylandParent::standOver()
 {
-    if (mIsOver || !mObjects->imported || !mChild.isExposed()) {
+    if (mIsOver || !mObjects->window || !mChild.isExposed()) {
         return;
     }
     if (wl_surface *surface = surfaceOf(mChild)) {
-        zxdg_imported_v2_set_parent_of(mObjects->imported.get(), surface);
+        mObjects->window->beParentOf(surface);
         mIsOver = true;
     }
 }

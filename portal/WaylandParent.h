@@ -30,6 +30,7 @@ public:
 
 private:
     static void takeGlobal(void *self, wl_registry *registry, std::uint32_t name, const char *interface, std::uint32_t);
+    void borrow();
     void standOver();
 
     struct Objects;

@@ -15,10 +15,12 @@ bool waitForJob(job::PrintedJob &printed, bool isTape, job::Problem *problem)
     if (printed.queue.isNull()) {
         return true;
     }
-    const auto report = [](const job::JobNews &news) {
-        if (news.waitsForPerson()) {
-            std::fprintf(stderr, "tapeprint: %s\n", job::harmless(news.sentence()).toLocal8Bit().constData());
+    const auto report = [said = QString()](const job::JobNews &news) mutable {
+        const QString words = news.waitsForPerson() ? job::harmless(news.sentence()) : QString();
+        if (!words.isNull() && words != said) { // other news come as well, such as another label that is out
+            std::fprintf(stderr, "tapeprint: %s\n", words.toLocal8Bit().constData());
         }
+        said = words;
     };
     static const std::atomic<bool> neverStopped{false};
     const std::optional<job::JobNews> last =

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Options that do not go together: the window says it and resolves it, and neither it nor the command line prints with
 // a conflict that nobody saw. And the sheet for a page size of one's own.
+#include "Hands.h"
 #include "ProgramTest.h"
 #include "ShownWindow.h"
 
@@ -61,9 +62,7 @@ protected:
     template <typename Widget>
     Widget *child(const QString &name)
     {
-        auto *widget = dialog->findChild<Widget *>(name);
-        EXPECT_NE(widget, nullptr) << name.toStdString();
-        return widget;
+        return hosttest::child<Widget>(*dialog, name);
     }
     void change(const QString &key, const QString &choice)
     {
@@ -190,11 +189,7 @@ protected:
     void pick(const QString &text)
     {
         auto *papers = child<QComboBox>(u"tape"_qs);
-        const int row = papers->findText(text);
-        ASSERT_GE(row, 0) << items().join(u'\n').toStdString();
-        papers->setCurrentIndex(row);
-        Q_EMIT papers->activated(row);
-        QApplication::processEvents();
+        hosttest::pick(papers, papers->findText(text));
     }
     QStringList items()
     {

@@ -34,6 +34,7 @@ QPalette paletteOf(const QColor &window, const QColor &base, const QColor &text)
 TEST(ContrastStyle, IsForColoursThatTheToolkitsOutlinesCannotBeToldFrom)
 {
     EXPECT_TRUE(ContrastStyle::isWanted(paletteOf(Qt::black, Qt::black, Qt::white)));
+    EXPECT_FALSE(ContrastStyle::isWanted(paletteOf(Qt::black, {60, 60, 60}, Qt::white))); // fields can be seen
     EXPECT_FALSE(ContrastStyle::isWanted(paletteOf(Qt::white, Qt::white, Qt::black)));
     EXPECT_FALSE(ContrastStyle::isWanted(paletteOf({239, 239, 239}, Qt::white, Qt::black)));
     EXPECT_FALSE(ContrastStyle::isWanted(paletteOf({49, 54, 59}, {35, 38, 41}, Qt::white)));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The pages "Job" and "Layout" of the window, the amount beside Print, and saving, with real clicks and keys.
+#include "Hands.h"
 #include "TestPdf.h"
 #include "TestPrinter.h"
 
@@ -29,6 +30,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cmath>
 #include <functional>
 
 namespace
@@ -131,9 +133,7 @@ protected:
     template <typename Widget>
     Widget *child(const QString &name)
     {
-        auto *widget = dialog->findChild<Widget *>(name);
-        EXPECT_NE(widget, nullptr) << name.toStdString();
-        return widget;
+        return hosttest::child<Widget>(*dialog, name);
     }
 
     void turnTo(const QString &page)
@@ -260,6 +260,11 @@ TEST_F(JobPageTest, PictureAndTextOnPaper_AreShownAndCounted)
     turnTo(u"Layout"_qs);
     pickByKeys(u"layoutNumber"_qs, u"4"_qs);
     EXPECT_TRUE(saysAmount(u"2 sheet(s)"_qs)) << child<QLabel>(u"amount"_qs)->text().toStdString();
+    const std::vector<job::Label> &sheets = child<PreviewArea>(u"previewArea"_qs)->plan().labels;
+    ASSERT_EQ(sheets.size(), 2U);
+    const auto scaleOf = [](const job::Label &sheet) { return std::hypot(sheet[0].place.m11(), sheet[0].place.m12()); };
+    EXPECT_GT(scaleOf(sheets[0]), 0.6);
+    EXPECT_LT(scaleOf(sheets[1]), 0.6); // a quarter of the sheet has half its sides
 }
 
 TEST_F(JobPageTest, FileThatNobodyHereKnows_IsSaidToGoAsItIs)

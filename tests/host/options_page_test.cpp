@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The page of a description's other options: sections, rows that are made quickly, own values, what is told apart.
+#include "Hands.h"
 #include "TestPrinter.h"
 #include "WindowTime.h"
 
@@ -64,17 +65,12 @@ protected:
     template <typename Widget>
     Widget *child(const QString &name)
     {
-        auto *widget = page->findChild<Widget *>(name);
-        EXPECT_NE(widget, nullptr) << name.toStdString();
-        return widget;
+        return hosttest::child<Widget>(*page, name);
     }
     void pick(const QString &option, const QString &text)
     {
         auto *popUp = child<QComboBox>(option);
-        const int row = popUp->findText(text);
-        ASSERT_GE(row, 0) << text.toStdString();
-        popUp->setCurrentIndex(row);
-        Q_EMIT popUp->activated(row);
+        hosttest::pick(popUp, popUp->findText(text));
     }
     void type(const QString &field, const QString &text)
     {

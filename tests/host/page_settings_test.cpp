@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The Page Settings panel in the dialog: which printers get it, what is said of values that it cannot show, and what
 // stays of typed lengths when the tape or its material changes.
+#include "Hands.h"
 #include "ShownWindow.h"
 #include "TestPrinter.h"
 
@@ -10,9 +11,12 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QTest>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -64,41 +68,24 @@ protected:
     template <typename Widget>
     Widget *child(const QString &name)
     {
-        auto *widget = dialog->findChild<Widget *>(name);
-        EXPECT_NE(widget, nullptr) << name.toStdString();
-        return widget;
+        return hosttest::child<Widget>(*dialog, name);
     }
 
     QString notices() { return child<QLabel>(u"notices"_qs)->text(); }
 
     /// Types into a field of the panel and leaves the focus there.
-    void type(const QString &field, const QString &text)
-    {
-        auto *edit = child<QLineEdit>(field);
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClicks(edit, text);
-        QApplication::processEvents();
-    }
+    void type(const QString &field, const QString &text) { hosttest::type(child<QLineEdit>(field), text); }
 
     void pick(const QString &popUp, const QString &item)
     {
         auto *box = child<QComboBox>(popUp);
-        const int index = box->findText(item);
-        ASSERT_GE(index, 0) << item.toStdString();
-        box->setCurrentIndex(index);
-        Q_EMIT box->activated(index);
-        QApplication::processEvents();
+        hosttest::pick(box, box->findText(item));
     }
 
     void pickTape(const QString &tape)
     {
         auto *box = child<QComboBox>(u"tape"_qs);
-        const int index = box->findData(tape);
-        ASSERT_GE(index, 0) << tape.toStdString();
-        box->setCurrentIndex(index);
-        Q_EMIT box->activated(index);
-        QApplication::processEvents();
+        hosttest::pick(box, box->findData(tape));
     }
 
     QTemporaryDir folder;
@@ -229,6 +216,30 @@ TEST_F(PageSettings, RevertToTheTapeOpenedWith_ShowsItsState)
     job::Problem error;
     ASSERT_TRUE(panels.revert(&error));
     EXPECT_TRUE(child<QLineEdit>(u"mTapeLengthTxFld"_qs)->isEnabled());
+}
+
+TEST_F(PageSettings, ControlThatGoesOff_NamesTheOneThatWasChanged)
+{
+    ASSERT_NO_FATAL_FAILURE(open(samplePrinter(u"mm"_qs)));
+    const auto button = [this](const QString &matrix, qsizetype row) {
+        return child<QWidget>(matrix)->findChildren<QRadioButton *>().value(row);
+    };
+    const auto reasonOf = [](QWidget *control) {
+        QHelpEvent help(QEvent::ToolTip, {5, 5}, control->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(control, &help);
+        return QToolTip::text();
+    };
+    QTest::mouseClick(button(u"mResolutionRdBtn"_qs, 1), Qt::LeftButton);
+    QWidget *speed = button(u"mPrintQualityRdBtn"_qs, 0);
+    ASSERT_FALSE(speed->isEnabled());
+    EXPECT_TRUE(reasonOf(speed).contains(u"“Print Quality” does not go with what is set for “Resolution”."_qs))
+        << QToolTip::text().toStdString();
+    // This was off from the start.
+    EXPECT_TRUE(reasonOf(button(u"mCompressRdBtn"_qs, 0)).contains(u"“Compression” is switched off by “Page Settings”"))
+        << QToolTip::text().toStdString();
+    // Back at the first, it is on again.
+    QTest::mouseClick(button(u"mResolutionRdBtn"_qs, 0), Qt::LeftButton);
+    EXPECT_TRUE(speed->isEnabled());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Presets in the window: picking one moves the panel's fields, and what is saved is what other programs find.
+#include "Hands.h"
 #include "TestPrinter.h"
 
 #include "dialog/PresetNameDialog.h"
@@ -66,17 +67,12 @@ protected:
     template <typename Widget>
     Widget *child(const QString &name)
     {
-        auto *widget = dialog->findChild<Widget *>(name);
-        EXPECT_NE(widget, nullptr) << name.toStdString();
-        return widget;
+        return hosttest::child<Widget>(*dialog, name);
     }
     void pick(const QString &popUp, const QString &item)
     {
         auto *box = child<QComboBox>(popUp);
-        const int index = box->findText(item);
-        ASSERT_GE(index, 0) << item.toStdString();
-        box->setCurrentIndex(index);
-        Q_EMIT box->activated(index);
+        hosttest::pick(box, box->findText(item));
         rest();
     }
     QStringList items()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The window, with real clicks and keys.
+#include "Hands.h"
 #include "ShownWindow.h"
 #include "TestPrinter.h"
 
@@ -61,9 +62,7 @@ protected:
     template <typename Widget>
     Widget *child(const QString &name)
     {
-        auto *widget = dialog->findChild<Widget *>(name);
-        EXPECT_NE(widget, nullptr) << name.toStdString();
-        return widget;
+        return hosttest::child<Widget>(*dialog, name);
     }
 
     void click(const QString &button)
@@ -245,6 +244,22 @@ TEST_F(PrintDialogTest, ReturnOnAPopUp_DoesNotPrintAndCtrlReturnDoes)
     qApp->setProperty("hostTestRefuse", true);
     pdekit::setAlertHandler([](const pdekit::AlertRequest &) {});
     QTest::keyClick(popUp, Qt::Key_Return, Qt::ControlModifier);
+    QApplication::processEvents();
+    pdekit::setAlertHandler({});
+    qApp->setProperty("hostTestRefuse", QVariant());
+    EXPECT_TRUE(takeCalls().contains(u"shouldPrint"_qs));
+    EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(PrintDialogTest, CtrlReturnOnAButtonThatReturnPresses_Prints)
+{
+    auto *cancel = child<QPushButton>(u"cancel"_qs);
+    cancel->setAutoDefault(true); // as all buttons are on some desktops
+    cancel->setFocus();
+    takeCalls();
+    qApp->setProperty("hostTestRefuse", true);
+    pdekit::setAlertHandler([](const pdekit::AlertRequest &) {});
+    QTest::keyClick(cancel, Qt::Key_Return, Qt::ControlModifier);
     QApplication::processEvents();
     pdekit::setAlertHandler({});
     qApp->setProperty("hostTestRefuse", QVariant());

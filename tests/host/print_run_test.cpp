@@ -75,11 +75,28 @@ TEST(JobNews, PrinterThatNeedsSomebody_SaysWhatItLacksAndWhatItSays)
     EXPECT_EQ(said(waits), u"Job tape-7 waits: load 24 mm tape."_qs);
 }
 
+TEST(JobNews, PiecesThatAreOut_TellHowMuchOfItIsPrinted)
+{
+    const auto percentOf = [](const job::JobStatus &status, std::size_t pieces) {
+        return job::JobNews{{u"tape"_qs, 7, true}, status}.percentOf(pieces);
+    };
+    job::JobStatus prints = statusOf(IPP_JSTATE_PROCESSING);
+    EXPECT_LT(percentOf(prints, 2000), 0); // nobody counts them, or none is out
+    prints.piecesOut = 891;
+    EXPECT_EQ(percentOf(prints, 2000), 44);
+    EXPECT_LT(percentOf(prints, 0), 0);
+    prints.piecesOut = 2001; // a banner before them
+    EXPECT_EQ(percentOf(prints, 2000), 100);
+    prints.printerReasons = QStringList{u"media-empty-error"_qs};
+    EXPECT_LT(percentOf(prints, 2000), 0);
+}
+
 /// What the server does; threads may look at it when the test is over.
 struct Script {
     std::atomic<bool> mayEnd = false;
     std::atomic<bool> wasLeft = false;
     ipp_jstate_t lastState = IPP_JSTATE_COMPLETED;
+    int piecesOut = 0;
     job::Problem followProblem;
     job::Problem cancelProblem;
 };
@@ -87,7 +104,9 @@ struct Script {
 std::optional<job::JobNews> followBy(Script &script, const job::JobName &name, const std::atomic<bool> &stop,
                                      const job::JobReport &report, job::Problem *problem)
 {
-    report({name, statusOf(IPP_JSTATE_PROCESSING)});
+    job::JobStatus prints = statusOf(IPP_JSTATE_PROCESSING);
+    prints.piecesOut = script.piecesOut;
+    report({name, prints});
     while (!script.mayEnd && !stop) {
         QThread::msleep(5);
     }
@@ -156,6 +175,14 @@ TEST_F(PrintRunTest, JobThatIsPrinted_IsFollowedToItsEnd)
     EXPECT_EQ(events.last(), u"ended"_qs);
     EXPECT_EQ(run->printed()->job.state, u"completed"_qs);
     EXPECT_EQ(run->phase(), PrintRun::Phase::Idle);
+}
+
+TEST_F(PrintRunTest, LongJob_TellsHowMuchIsPrinted)
+{
+    script->piecesOut = 500;
+    run->start([](const job::PrintWatch &, job::Problem *) { return inQueue(); }, true, 2000);
+    const std::pair<QString, int> aQuarter(u"Job tape-7 is being printed."_qs, 25);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::find(told.begin(), told.end(), aQuarter) != told.end(); }));
 }
 
 TEST_F(PrintRunTest, JobThatFails_IsNotPrinted)

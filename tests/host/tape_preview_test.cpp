@@ -538,6 +538,17 @@ TEST_F(TapePreviewTest, DocumentsThatCannotBeShown_AreSaidInWordsOnAnEmptyTape)
                u"document.pdf is protected by a password: save it without one, and print that."_qs);
 }
 
+TEST_F(TapePreviewTest, ArrowsOfAMirroredWindow_PointTheWayTheyLead)
+{
+    const auto *previous = area.findChild<QToolButton *>(u"previousLabel"_qs);
+    const auto *next = area.findChild<QToolButton *>(u"nextLabel"_qs);
+    EXPECT_EQ(previous->arrowType(), Qt::LeftArrow);
+    EXPECT_EQ(next->arrowType(), Qt::RightArrow);
+    area.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(previous->arrowType(), Qt::RightArrow);
+    EXPECT_EQ(next->arrowType(), Qt::LeftArrow);
+}
+
 TEST_F(TapePreviewTest, PageWithNothingOnIt_IsSaid)
 {
     showTape(36.0, 144.0);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The window with the Page Settings panel: a tape as long as its content, the layout that is picked, Revert, and
 // printing that is cancelled or outlives its window.
+#include "Hands.h"
 #include "TestPdf.h"
 #include "TestPrinter.h"
 
@@ -92,9 +93,7 @@ protected:
     template <typename Widget>
     Widget *child(const QString &name)
     {
-        auto *widget = dialog->findChild<Widget *>(name);
-        EXPECT_NE(widget, nullptr) << name.toStdString();
-        return widget;
+        return hosttest::child<Widget>(*dialog, name);
     }
 
     /// Until documents are looked at and everything has followed.
@@ -120,28 +119,18 @@ protected:
         ASSERT_EQ(checkBox->isChecked(), on);
     }
 
-    void type(const QString &field, const QString &text)
-    {
-        auto *edit = child<QLineEdit>(field);
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClicks(edit, text);
-        QApplication::processEvents();
-    }
+    void type(const QString &field, const QString &text) { hosttest::type(child<QLineEdit>(field), text); }
 
     void pick(const QString &popUp, const QString &item)
     {
         auto *box = child<QComboBox>(popUp);
-        const int index = box->findText(item);
-        ASSERT_GE(index, 0) << item.toStdString();
-        box->setCurrentIndex(index);
-        Q_EMIT box->activated(index);
-        QApplication::processEvents();
+        hosttest::pick(box, box->findText(item));
     }
 
     void pickTape(const QString &tape)
     {
-        pick(u"tape"_qs, child<QComboBox>(u"tape"_qs)->itemText(child<QComboBox>(u"tape"_qs)->findData(tape)));
+        auto *box = child<QComboBox>(u"tape"_qs);
+        hosttest::pick(box, box->findData(tape));
     }
 
     const job::LabelPlan &plan() { return child<PreviewArea>(u"previewArea"_qs)->plan(); }

@@ -319,13 +319,18 @@ TEST_F(LaidOutDocument, DocumentWithoutAPage_IsRefusedInWords)
     EXPECT_TRUE(error.sentence.contains(u"empty.pdf has no page")) << error.sentence.toStdString();
 }
 
-TEST_F(LaidOutDocument, PathThatCannotBeWritten_IsRefusedInWords)
+TEST_F(LaidOutDocument, PathThatCannotBeWritten_IsNoFaultOfTheDocument)
 {
     const QString source = folder.write(u"1.pdf"_qs, pdfOf({blockPage(40, 40, block(0, 0, 10, 10))}));
-    Problem error;
-    EXPECT_FALSE(writeLaidOut(planLabels({{{40, 40}}}, tapeOf({40, 40}), {}), {source}, {},
-                              folder.path(u"none/labels.pdf"_qs), goOn, &error));
-    EXPECT_TRUE(error.sentence.startsWith(u"The labels cannot be laid out (")) << error.sentence.toStdString();
+    const LabelPlan plan = planLabels({{{40, 40}}}, tapeOf({40, 40}), {});
+    for (const auto &[path, reason] :
+         {std::pair{folder.path(u"none/labels.pdf"_qs), u"No such file"_qs}, {u"/dev/full"_qs, u"No space left"_qs}}) {
+        Problem error;
+        EXPECT_FALSE(writeLaidOut(plan, {source}, {}, path, goOn, &error));
+        EXPECT_TRUE(error.sentence.startsWith(u"A temporary file cannot be written ("_qs + reason))
+            << error.sentence.toStdString();
+        EXPECT_EQ(error.kind, Problem::General);
+    }
 }
 
 TEST_F(LaidOutDocument, Stopped_EndsWithoutASentence)

@@ -62,9 +62,10 @@ void PortalSession::TearDown()
     if (HasFailure()) {
         ADD_FAILURE() << "the session said:\n" << bus.messages().right(4000).toStdString();
     }
-    // The bus's end is what ends it. One that has ended and whose parent has not looked yet has no command line.
-    EXPECT_TRUE(backend == 0 ||
-                waitUntil([backend] { return contentsOf(QStringLiteral("/proc/%1/cmdline").arg(backend)).isEmpty(); }))
+    // The bus's end is what ends it, long before it would leave for having nothing to do. One that has ended and whose
+    // parent has not looked yet has no command line.
+    const QString commandLine = QStringLiteral("/proc/%1/cmdline").arg(backend);
+    EXPECT_TRUE(backend == 0 || waitUntil([&] { return contentsOf(commandLine).isEmpty(); }, soonMs))
         << "the backend is still there";
 }
 

@@ -25,6 +25,9 @@ extern const QString portalName;  ///< of the desktop's portal on the bus
 extern const QString portalPath;  ///< of its object, and of the backend's
 extern const QString backendName; ///< of the backend on the bus
 
+/// Long before the backend leaves for having nothing to do, which ends everything.
+constexpr int soonMs = 20000;
+
 /// Waits with the event loop running.
 bool waitWithEvents(const std::function<bool()> &condition, int timeoutMs = patienceMs);
 

@@ -57,6 +57,18 @@ TEST_F(JobEnd, PrinterThatLacksTape_SaysWhatToLoadAndPrintsWhenThatIsDone)
     EXPECT_EQ(outcome.output, "Job empty-1 is completed.\n");
 }
 
+TEST_F(JobEnd, PrinterThatLacksTape_SaysSoOnceWhateverElseIsNew)
+{
+    ASSERT_TRUE(cups.addScriptedQueue(u"counting"_qs, u"mm"_qs,
+                                      "cat >/dev/null; echo 'STATE: +media-empty-error' >&2\n"
+                                      "for i in 1 2 3; do echo \"PAGE: $i 1\" >&2; sleep 0.6; done\n"
+                                      "echo 'STATE: -media-empty-error' >&2; echo tape\n")
+                    .isNull());
+    const Outcome outcome = printAndWait(u"counting"_qs);
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    EXPECT_EQ(outcome.messages.count("waits: out of tape"), 1) << outcome.messages.toStdString();
+}
+
 TEST_F(JobEnd, PausedQueue_IsSaidWithItsReason)
 {
     run(u"/usr/sbin/cupsdisable"_qs, {u"-r"_qs, u"cleaning the knife"_qs, u"tape"_qs});

@@ -3,6 +3,7 @@
 // it.
 #include "dialog/PrintDialog.h"
 #include "dialog/PrinterPopUp.h"
+#include "job/JobFollowing.h"
 #include "tests/support/LoopWatch.h"
 #include "tests/system/Client.h"
 #include "tests/system/PrivateCups.h"
@@ -109,6 +110,24 @@ TEST_F(LivePrinters, QueueThatComesStopsAndGoes_IsSeenWithinTwoSeconds)
     EXPECT_TRUE(waitFor([&] { return notices().contains(u"not there any more"_qs) && !canPrint(); }, soonMs));
     succeed(cups.addPlainQueue(u"tape"_qs, u"mm"_qs));
     EXPECT_TRUE(waitFor([&] { return canPrint(); }, soonMs));
+}
+
+TEST_F(LivePrinters, LabelsThatAreOut_AreCountedWhileAJobIsFollowed)
+{
+    ASSERT_NO_FATAL_FAILURE(startServer());
+    succeed(cups.addScriptedQueue(u"counting"_qs, u"mm"_qs,
+                                  "cat >/dev/null; echo 'PAGE: 1 2' >&2; echo 'PAGE: 2 1' >&2; sleep 1; echo tape\n"));
+    const QString document = QStringLiteral(TAPEPRINT_SOURCE_DIR "/docs/sample/address-label.pdf");
+    ASSERT_EQ(
+        systemtest::runClient({u"/usr/bin/lp"_qs, {u"-d"_qs, u"counting"_qs, document}, cups.clientVariables()}).status,
+        0);
+    const std::atomic<bool> neverStopped{false};
+    job::Problem problem;
+    bool isHalfSeen = false;
+    job::followJob(
+        {u"counting"_qs, 1, true}, neverStopped,
+        [&isHalfSeen](const job::JobNews &news) { isHalfSeen = isHalfSeen || news.percentOf(6) == 50; }, &problem);
+    EXPECT_TRUE(isHalfSeen); // two and one of six
 }
 
 TEST_F(LivePrinters, DescriptionThatChangesOnTheServer_IsSaidAndLoaded)

@@ -3,7 +3,7 @@
 #include "tests/support/ExitStatuses.h"
 #include "tests/support/MeddlingServer.h"
 #include "tests/system/SystemTest.h"
-#include "tests/system/WindowUnderTest.h"
+#include "tests/system/WindowTest.h"
 
 #include <cups/cups.h>
 #include <poll.h>
@@ -110,26 +110,21 @@ TEST_F(PasswordTest, TerminalWhereNothingIsTyped_EndsInWords)
 }
 
 /// A server that itself wants a password, and the window.
-class WindowPassword : public systemtest::SystemTest
+class WindowPassword : public systemtest::WindowTest
 {
 protected:
     void SetUp() override
     {
-        if (const QString reason = systemtest::PrivateDisplay::reasonToSkip(); !reason.isNull()) {
-            GTEST_SKIP() << reason.toStdString();
-        }
         cups.requirePassword("anna", "right");
-        SystemTest::SetUp();
+        WindowTest::SetUp();
         if (HasFatalFailure() || IsSkipped()) {
             return;
         }
-        QString problem = display.start();
-        ASSERT_TRUE(problem.isNull()) << problem.toStdString();
         moreVariables = {{u"CUPS_SERVER"_qs, cups.guardedServer()}};
-        problem = dialog.open({QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"),
-                               {u"-d"_qs, u"tape"_qs, document},
-                               variables(),
-                               workFolder});
+        const QString problem = dialog.open({QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"),
+                                             {u"-d"_qs, u"tape"_qs, document},
+                                             variables(),
+                                             workFolder});
         ASSERT_TRUE(problem.isNull()) << problem.toStdString();
     }
 
@@ -144,9 +139,6 @@ protected:
         dialog.press({u"Return"_qs});
         return question;
     }
-
-    systemtest::PrivateDisplay display;
-    systemtest::WindowUnderTest dialog{display};
 };
 
 TEST_F(WindowPassword, WrongAndThenRight_PrintsInThePersonsName)

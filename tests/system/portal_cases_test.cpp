@@ -83,6 +83,14 @@ protected:
     {
         return call(u"PreparePrint"_qs, {QString(), token, QVariantMap(), QVariantMap()}, token);
     }
+    /// Prints the document with the settings behind a number. \param token the call's.
+    QDBusMessage print(const QString &token, uint settings) const
+    {
+        const int file = ::open(document.toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC);
+        const QVariantList arguments{QString(), u"The label"_qs, QVariant::fromValue(QDBusUnixFileDescriptor(file))};
+        ::close(file); // the descriptor's own copy stays open
+        return call(u"Print"_qs, arguments, token, {{u"token"_qs, settings}});
+    }
     QString pathOf(const QString &token) const
     {
         return portalPath + u"/request/"_qs + session->baseService().mid(1).replace(u'.', u'_') + u'/' + token;
@@ -114,18 +122,28 @@ TEST_F(PortalCase, BasicAndResults_SettingsAreAnsweredAndTheirTokenPrintsWithout
     EXPECT_NEAR(setup[u"Height"_qs].toDouble(), 100.0, 0.01);
     const auto settings = qdbus_cast<QVariantMap>(prepared.results[u"settings"_qs]);
     EXPECT_EQ(settings[u"cups-PageSize"_qs].toString(), u"24mm"_qs);
-    const int file = ::open(document.toLocal8Bit().constData(), O_RDONLY | O_CLOEXEC);
-    EXPECT_EQ(call(u"Print"_qs, {QString(), u"The label"_qs, QVariant::fromValue(QDBusUnixFileDescriptor(file))},
-                   u"print"_qs, {{u"token"_qs, token}})
-                  .type(),
-              QDBusMessage::ReplyMessage);
-    ::close(file);
+    EXPECT_EQ(print(u"print"_qs, token).type(), QDBusMessage::ReplyMessage);
     EXPECT_EQ(answer(u"print"_qs).response, 0U);
     const auto calls = printedJob();
     ASSERT_EQ(calls.size(), 1U);
     EXPECT_EQ(systemtest::tapeOptions(calls[0]), systemtest::panelOptionsMm());
     EXPECT_EQ(calls[0].title(), "The label");
     EXPECT_TRUE(waitUntil([this] { return dialog.windows().isEmpty(); }));
+}
+
+TEST_F(PortalCase, HomeThatCannotBeWritten_PrintsAndSaysThatNothingIsKept)
+{
+    moreOfSession = {{u"XDG_CONFIG_HOME"_qs, u"/dev/null"_qs}};
+    ASSERT_NO_FATAL_FAILURE(open(true));
+    prepare(u"homeless"_qs);
+    ASSERT_NO_FATAL_FAILURE(openDialog(dialog));
+    dialog.clickPrint();
+    const uint token = answer(u"homeless"_qs).results[u"token"_qs].toUInt();
+    EXPECT_NE(token, 0U);
+    print(u"print"_qs, token);
+    EXPECT_EQ(answer(u"print"_qs).response, 0U);
+    EXPECT_EQ(printedJob().size(), 1U);
+    EXPECT_TRUE(backendSays("cannot be kept for the next time"));
 }
 
 TEST_F(PortalCase, DelayAndCancel_NothingIsAnsweredUntilThePersonSaysNo)

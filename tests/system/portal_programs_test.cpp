@@ -204,6 +204,18 @@ TEST_F(PrintingProgram, TokenUsedTwice_TheSecondTimeTheDialogIsShown)
     EXPECT_EQ(cups.jobs().size(), 1U);
 }
 
+TEST_F(PrintingProgram, ThatDies_TakesItsDialogAlong)
+{
+    ASSERT_NO_FATAL_FAILURE(startProgram(program,
+                                         QStringLiteral(TAPEPRINT_SOURCE_DIR "/tests/system/print_by_libportal.py"),
+                                         {document, u"Mortal"_qs, u"1"_qs}));
+    ASSERT_NO_FATAL_FAILURE(openDialog(dialog));
+    program.kill();
+    EXPECT_TRUE(waitUntil([this] { return dialog.windows().isEmpty(); }));
+    EXPECT_NE(bus.processOf(systemtest::backendName), 0); // for the next program
+    EXPECT_TRUE(cups.jobs().empty());
+}
+
 TEST_F(PrintingProgram, JobThatFailsAfterTheAnswer_IsToldToThePerson)
 {
     ASSERT_TRUE(cups.addScriptedQueue(u"broken"_qs, u"mm"_qs, "cat >/dev/null; exit 1\n").isNull());

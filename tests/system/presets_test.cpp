@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // A preset saved in the real window is CUPS's own: lp prints with it, lpoptions shows it, and other presets stay.
 #include "tests/support/ExitStatuses.h"
-#include "tests/system/SystemTest.h"
-#include "tests/system/WindowUnderTest.h"
+#include "tests/system/WindowTest.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -17,22 +16,9 @@ using systemtest::Outcome;
 using systemtest::panelOptionsMm;
 using systemtest::tapeOptions;
 
-class PresetJob : public systemtest::SystemTest
+class PresetJob : public systemtest::WindowTest
 {
 protected:
-    void SetUp() override
-    {
-        if (const QString reason = systemtest::PrivateDisplay::reasonToSkip(); !reason.isNull()) {
-            GTEST_SKIP() << reason.toStdString();
-        }
-        SystemTest::SetUp();
-        if (HasFatalFailure() || IsSkipped()) {
-            return;
-        }
-        const QString problem = display.start();
-        ASSERT_TRUE(problem.isNull()) << problem.toStdString();
-    }
-
     QByteArray run(const QString &program, const QStringList &arguments) const
     {
         const Outcome outcome = systemtest::runClient({program, arguments, variables()});
@@ -67,9 +53,6 @@ protected:
         EXPECT_TRUE(cups.waitForEnd(id).has_value());
         return cups.filterCalls(id);
     }
-
-    systemtest::PrivateDisplay display;
-    systemtest::WindowUnderTest dialog{display};
 };
 
 bool holds(const systemtest::Words &words, const std::string &word)

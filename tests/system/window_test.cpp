@@ -2,8 +2,7 @@
 // The main job through the real window, on a display of the test's own, by real keys and clicks.
 #include "tests/support/ExitStatuses.h"
 #include "tests/support/MeddlingServer.h"
-#include "tests/system/SystemTest.h"
-#include "tests/system/WindowUnderTest.h"
+#include "tests/system/WindowTest.h"
 
 #include <QElapsedTimer>
 #include <QImage>
@@ -23,22 +22,9 @@ using systemtest::PanelControl;
 using systemtest::panelOptionsMm;
 using systemtest::tapeOptions;
 
-class WindowJob : public systemtest::SystemTest
+class WindowJob : public systemtest::WindowTest
 {
 protected:
-    void SetUp() override
-    {
-        if (const QString reason = systemtest::PrivateDisplay::reasonToSkip(); !reason.isNull()) {
-            GTEST_SKIP() << reason.toStdString();
-        }
-        SystemTest::SetUp();
-        if (HasFatalFailure() || IsSkipped()) {
-            return;
-        }
-        const QString problem = display.start();
-        ASSERT_TRUE(problem.isNull()) << problem.toStdString();
-    }
-
     void open(const QStringList &arguments = {})
     {
         const QString problem = dialog.open({QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"),
@@ -53,9 +39,6 @@ protected:
         dialog.clickPrint();
         return filterCallsOf(dialog.waitForEnd());
     }
-
-    systemtest::PrivateDisplay display;
-    systemtest::WindowUnderTest dialog{display};
 };
 
 TEST_F(WindowJob, PicksAndATypedLength_ReachTheFilter)
