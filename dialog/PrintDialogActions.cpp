@@ -37,10 +37,12 @@ bool isPrintKeyOn(const QObject *watched, const QKeyEvent &key, const QWidget *w
 {
     const bool isPrintKey =
         (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) && (key.modifiers() & Qt::ControlModifier) != 0;
-    const auto *control = isPrintKey ? qobject_cast<const QWidget *>(watched) : nullptr;
-    const bool wouldTakeIt = qobject_cast<const QComboBox *>(control) != nullptr ||
-                             qobject_cast<const QAbstractButton *>(control) != nullptr;
-    return wouldTakeIt && control->window() == window;
+    const auto *control = qobject_cast<const QWidget *>(watched);
+    if (!isPrintKey || control == nullptr || control->window() != window) {
+        return false;
+    }
+    return qobject_cast<const QComboBox *>(control) != nullptr ||
+           qobject_cast<const QAbstractButton *>(control) != nullptr;
 }
 
 } // namespace

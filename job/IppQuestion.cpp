@@ -11,8 +11,6 @@ namespace tapeprint::job
 namespace
 {
 
-constexpr const char *resource = "/";
-
 /// A connection as ippReadIO reads from it. It ends with the message, whatever comes after that.
 struct Source {
     http_t *http = nullptr;
@@ -59,25 +57,68 @@ Response readAnswer(http_t *http)
     return answer;
 }
 
+/// What has come of a request that is out. A server may answer before it has read the question, and hang up: then
+/// writing failed, or only the first line of its answer was read.
+http_status_t statusOfAnswer(http_t *http)
+{
+    http_status_t status = HTTP_STATUS_CONTINUE;
+    while (status == HTTP_STATUS_CONTINUE) {
+        status = httpUpdate(http);
+    }
+    return status;
+}
+
+/// What libcups would have to say of an answer: null when all is well.
+QString wordsOf(ipp_t *answer)
+{
+    const ipp_status_t status = answer != nullptr ? ippGetStatusCode(answer) : IPP_STATUS_ERROR_INTERNAL;
+    if (status <= IPP_STATUS_OK_EVENTS_COMPLETE) {
+        return {};
+    }
+    const char *words = ippGetString(ippFindAttribute(answer, "status-message", IPP_TAG_TEXT), 0, nullptr);
+    return QString::fromUtf8(words != nullptr ? words : ippErrorString(status));
+}
+
+Response heardAnswer(const ServerConnection &server)
+{
+    Response answer = readAnswer(server.http());
+    server.hear(wordsOf(answer.get()));
+    return answer;
+}
+
 } // namespace
 
-Response askServer(const ServerConnection &server, ipp_t *request)
+Response askServer(const ServerConnection &server, ipp_t *request, const char *resource)
 {
     http_t *http = server.http();
+    server.hear({});
     http_status_t status = cupsSendRequest(http, request, resource, ippLength(request));
-    // A server may answer before it has read the question, and hang up: then writing failed, or only the first line of
-    // its answer was read.
     if (status <= HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK) {
-        do {
-            status = httpUpdate(http);
-        } while (status == HTTP_STATUS_CONTINUE);
+        status = statusOfAnswer(http);
     }
-    if (status == HTTP_STATUS_OK || status == HTTP_STATUS_ERROR) {
+    // Who gave no password is not asked for one a second time.
+    if (status == HTTP_STATUS_OK || status == HTTP_STATUS_ERROR || status == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED) {
         ippDelete(request);
-        return status == HTTP_STATUS_OK ? readAnswer(http) : nullptr;
+        return status == HTTP_STATUS_OK ? heardAnswer(server) : nullptr;
     }
     httpFlush(http);
     return Response(cupsDoRequest(http, request, resource)); // it gives a password, or goes over to encryption
+}
+
+Response answerToData(const ServerConnection &server)
+{
+    http_t *http = server.http();
+    server.hear({});
+    if (httpWrite2(http, "", 0) < 0) { // the end mark
+        return nullptr;
+    }
+    const http_status_t status = statusOfAnswer(http);
+    if (status == HTTP_STATUS_OK) {
+        return heardAnswer(server);
+    }
+    httpFlush(http);
+    server.hear(QString::fromUtf8(httpStatus(status)));
+    return nullptr;
 }
 
 } // namespace tapeprint::job

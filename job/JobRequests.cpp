@@ -126,7 +126,7 @@ std::optional<int> createJob(const ServerConnection &server, const QueueAddress 
     for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION}) {
         cupsEncodeOptions2(request, options.count(), options.data(), group);
     }
-    const Response response(cupsDoRequest(server.http(), request, address.resource.constData()));
+    const Response response = askServer(server, request, address.resource.constData());
     const int id = numberIn(response, "job-id", IPP_TAG_INTEGER, 0);
     return isAccepted(response.get()) && id != 0 ? std::optional(id) : std::nullopt;
 }
@@ -210,7 +210,7 @@ bool holdJob(const ServerConnection &server, int jobId, const QString &until)
         ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "job-hold-until", nullptr,
                      until.toUtf8().constData());
     }
-    const Response response(cupsDoRequest(server.http(), request, "/jobs"));
+    const Response response = askServer(server, request, "/jobs");
     return isAccepted(response.get());
 }
 
@@ -224,7 +224,7 @@ bool addBracedOptions(const ServerConnection &server, int jobId, const JobOption
         ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, name.toUtf8().constData(), nullptr,
                      value.toUtf8().constData());
     }
-    const Response response(cupsDoRequest(server.http(), request, "/jobs"));
+    const Response response = askServer(server, request, "/jobs");
     return isAccepted(response.get());
 }
 
@@ -269,7 +269,7 @@ std::optional<std::vector<int>> emptyJobs(const ServerConnection &server, const 
 
 bool cancelJob(const ServerConnection &server, int jobId)
 {
-    const Response response(cupsDoRequest(server.http(), aboutJob(IPP_OP_CANCEL_JOB, jobId), "/jobs"));
+    const Response response = askServer(server, aboutJob(IPP_OP_CANCEL_JOB, jobId), "/jobs");
     // A job that is over cannot be cancelled; one that the server has forgotten is not found.
     const ipp_status_t status = response ? ippGetStatusCode(response.get()) : IPP_STATUS_ERROR_INTERNAL;
     return isAccepted(response.get()) || status == IPP_STATUS_ERROR_NOT_POSSIBLE ||

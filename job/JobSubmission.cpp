@@ -193,7 +193,7 @@ private:
         const bool sent = status == HTTP_STATUS_CONTINUE;
         mIsAllWritten = sent && mIsLast;
         // Finished in any case: the connection waits for it.
-        const Response answer(cupsGetResponse(mServer->http(), "/"));
+        const Response answer = sent ? answerToData(*mServer) : Response(cupsGetResponse(mServer->http(), "/"));
         if (!sent || !isAccepted(answer.get())) {
             *error = problem({Problem::RejectedJob,
                               Texts::tr("The print server did not take the document %1 (%2): see that it is a kind "

@@ -222,7 +222,7 @@ QString ServerConnection::problem() const
                                   .arg(serverName())
                             : noAnswer();
     }
-    return reasonText(QString::fromUtf8(cupsLastErrorString()));
+    return reasonText(mWords.isNull() ? QString::fromUtf8(cupsLastErrorString()) : mWords);
 }
 
 QString ServerConnection::noAnswer()

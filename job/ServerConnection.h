@@ -68,6 +68,9 @@ public:
     bool isUnreachable() const;
     /// Whether calls fail because the server was given no password that it accepts.
     bool wasRefused() const { return mWasRefused; }
+    /// Keeps what a server said of a request, for problem(): libcups knows of the answers that it has read itself.
+    /// \param words null for nothing.
+    void hear(const QString &words) const { mWords = words; }
     /// Why the last call failed, as a sentence; null when it was stopped. For use in the connection's own thread.
     QString problem() const;
     /// That the server cannot be reached, as a sentence.
@@ -94,6 +97,7 @@ private:
     bool mHasBeenOpen = false;
     int mQuestions = 0;
     bool mWasRefused = false; ///< no password was given, or none that is good
+    mutable QString mWords;   ///< asking leaves the connection as it is
     Secret mPassword;         ///< libcups reads it from here
     QByteArray mThreadsUser;  ///< who the thread's calls are made for, before any question
     ServerConnection *mOuter; ///< the thread's connection before this one

@@ -27,6 +27,7 @@ constexpr int pollMs = 50;
 constexpr qsizetype cutAfter = 1024;
 /// Shorter than what a client takes for silence.
 constexpr std::chrono::milliseconds dripPause{50};
+constexpr std::chrono::milliseconds latePause{500}; // longer than libcups waits between two looks
 
 sockaddr_un addressOf(const QString &path)
 {
@@ -232,7 +233,24 @@ private:
         if (mMeddling == Meddling::DripReply) {
             return !bytes.isEmpty() && drip(bytes);
         }
+        if (mMeddling == Meddling::LateBody) {
+            return !bytes.isEmpty() && sendLate(bytes);
+        }
         return !bytes.isEmpty() && sendAll(mClient, bytes);
+    }
+
+    bool sendLate(const QByteArray &bytes)
+    {
+        const QByteArray endOfHead = "\r\n\r\n";
+        qsizetype sent = 0;
+        for (qsizetype at = bytes.indexOf(endOfHead); at >= 0; at = bytes.indexOf(endOfHead, sent)) {
+            if (!sendAll(mClient, bytes.mid(sent, at + endOfHead.size() - sent))) {
+                return false;
+            }
+            sent = at + endOfHead.size();
+            std::this_thread::sleep_for(latePause);
+        }
+        return sent == bytes.size() || sendAll(mClient, bytes.mid(sent));
     }
 
     bool drip(const QByteArray &bytes)
@@ -298,6 +316,7 @@ private:
         case Meddling::LoseReply:
         case Meddling::CutReply:
         case Meddling::DripReply:
+        case Meddling::LateBody:
             return passOn(bytes);
         case Meddling::OwnReply:
             return !isOver || sendOwnReply();

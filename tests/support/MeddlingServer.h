@@ -26,6 +26,7 @@ enum class Meddling {
     CutShort,   ///< the server behind gets the beginning of the request, and then both connections are cut
     CutReply,   ///< the answer is cut after so many bytes as cutRepliesAfter() says
     DripReply,  ///< the answer comes a byte at a time, with a pause after each
+    LateBody,   ///< what comes after the head of the answer comes late
     OwnReply,   ///< the answer is what replyWith() says; no server is needed behind
 };
 

@@ -42,6 +42,8 @@ public:
     /// Takes over the next window of a program that is running, whoever started it, once its printer is connected and
     /// it has the keys. \param process its number; \param known windows of it that are others.
     QString adopt(qint64 process, const QStringList &known = {});
+    /// Waits until its printer is connected.
+    bool isConnected() const;
     /// Waits for the program's end.
     Outcome waitForEnd();
 
@@ -74,7 +76,6 @@ public:
 private:
     bool giveKeysTo(const QString &window) const;
     QString waitForWindowBeside(const QStringList &known);
-    bool isConnected() const;
 
     const PrivateDisplay &mDisplay;
     QProcess mProgram;

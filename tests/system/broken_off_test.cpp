@@ -92,6 +92,14 @@ TEST_F(BrokenOff, DocumentCutShort_TheJobIsCancelled)
     EXPECT_EQ(cups.jobs().size(), 1U);
 }
 
+TEST_F(BrokenOff, BodiesOfAnswersThatComeLate_AreWaitedFor)
+{
+    const auto server = serverThat(
+        [](const SeenRequest &request) { return request.operation == 0 ? Meddling::PassOn : Meddling::LateBody; });
+    EXPECT_EQ(filterCallsOf(printLabel()).size(), 1U);
+    EXPECT_EQ(cups.jobs().size(), 1U);
+}
+
 TEST_F(BrokenOff, LastAnswerLost_TheJobIsPrintedAndSaidToBe)
 {
     const auto server = serverThat(once(IPP_OP_SEND_DOCUMENT, 1, Meddling::LoseReply));

@@ -161,4 +161,26 @@ TEST_F(NetworkPrinter, IsOfferedOpenedAndPrintedOnWithAndWithoutAWindow)
     EXPECT_TRUE(hasPrinted(2));
 }
 
+TEST_F(NetworkPrinter, IsFoundByAWindowThatNobodyGaveAPrinter)
+{
+    if (const QString reason = systemtest::PrivateDisplay::reasonToSkip(); !reason.isNull()) {
+        GTEST_SKIP() << reason.toStdString();
+    }
+    systemtest::PrivateDisplay display;
+    succeed(display.start());
+    systemtest::WindowUnderTest window(display);
+    succeed(window.open(client({document})));
+    // The server has no queue: what there is to be picked was found on the network.
+    const QByteArray before = window.title();
+    window.press({u"alt+r"_qs});
+    const auto isPicked = [&] {
+        window.press({u"Down"_qs});
+        return window.title() != before;
+    };
+    ASSERT_TRUE(systemtest::waitUntil(isPicked)) << before.toStdString();
+    EXPECT_TRUE(window.isConnected());
+    window.clickPrint();
+    EXPECT_TRUE(hasPrinted(1));
+}
+
 } // namespace
