@@ -919,6 +919,16 @@
         <comment>a control, and the page of settings that it stands on</comment>
         <translation>„%1“ ist von „%2“ ausgeschaltet: Dieser Drucker, das gewählte Band oder eine andere Einstellung dort bietet es nicht an.</translation>
     </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer offers nothing to choose there.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>„%1“ ist von „%2“ ausgeschaltet: Dieser Drucker bietet dort nichts zur Wahl an.</translation>
+    </message>
+    <message>
+        <source>“%1” does not go with what is set for “%2”.</source>
+        <comment>two controls</comment>
+        <translation>„%1“ passt nicht zu dem, was für „%2“ eingestellt ist.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1817,10 +1827,6 @@
     <message>
         <source>The file %1 cannot be written (%2): name another.</source>
         <translation>Die Datei %1 kann nicht geschrieben werden (%2). Geben Sie eine andere an.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
-        <translation>Die Druckdaten können nicht in %1 geschrieben werden (%2). Schaffen Sie dort Platz oder geben Sie eine andere Datei an.</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>

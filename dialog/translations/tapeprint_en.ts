@@ -919,6 +919,16 @@
         <comment>a control, and the page of settings that it stands on</comment>
         <translation>“%1” is switched off by “%2”: this printer, the tape chosen or another setting there does not offer it.</translation>
     </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer offers nothing to choose there.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>“%1” is switched off by “%2”: this printer offers nothing to choose there.</translation>
+    </message>
+    <message>
+        <source>“%1” does not go with what is set for “%2”.</source>
+        <comment>two controls</comment>
+        <translation>“%1” does not go with what is set for “%2”.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1817,10 +1827,6 @@
     <message>
         <source>The file %1 cannot be written (%2): name another.</source>
         <translation>The file %1 cannot be written (%2): name another.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
-        <translation>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>

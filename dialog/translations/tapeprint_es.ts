@@ -919,6 +919,16 @@
         <comment>a control, and the page of settings that it stands on</comment>
         <translation>«%1» está desactivado por «%2»: esta impresora, la cinta elegida u otro ajuste de allí no lo ofrece.</translation>
     </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer offers nothing to choose there.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>«%1» está desactivado por «%2»: esta impresora no ofrece allí nada que elegir.</translation>
+    </message>
+    <message>
+        <source>“%1” does not go with what is set for “%2”.</source>
+        <comment>two controls</comment>
+        <translation>«%1» no es compatible con lo que está ajustado en «%2».</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1817,10 +1827,6 @@
     <message>
         <source>The file %1 cannot be written (%2): name another.</source>
         <translation>No se puede escribir el archivo %1 (%2): indique otro.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
-        <translation>No se pueden escribir los datos de impresión en %1 (%2): libere espacio o indique otro archivo.</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>

@@ -919,6 +919,16 @@
         <comment>a control, and the page of settings that it stands on</comment>
         <translation>« %1 » est désactivé par « %2 » : cette imprimante, le ruban choisi ou un autre réglage ne le propose pas.</translation>
     </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer offers nothing to choose there.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>« %1 » est désactivé par « %2 » : cette imprimante n’y propose aucun choix.</translation>
+    </message>
+    <message>
+        <source>“%1” does not go with what is set for “%2”.</source>
+        <comment>two controls</comment>
+        <translation>« %1 » ne va pas avec le réglage de « %2 ».</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1817,10 +1827,6 @@
     <message>
         <source>The file %1 cannot be written (%2): name another.</source>
         <translation>Le fichier %1 ne peut pas être écrit (%2) : indiquez-en un autre.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
-        <translation>Les données d’impression ne peuvent pas être écrites dans %1 (%2) : libérez de la place ou indiquez un autre fichier.</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>

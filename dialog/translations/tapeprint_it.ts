@@ -919,6 +919,16 @@
         <comment>a control, and the page of settings that it stands on</comment>
         <translation>«%1» è disattivato da «%2»: questa stampante, il nastro scelto o un’altra impostazione non lo offre.</translation>
     </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer offers nothing to choose there.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>«%1» è disattivato da «%2»: questa stampante non offre lì nulla da scegliere.</translation>
+    </message>
+    <message>
+        <source>“%1” does not go with what is set for “%2”.</source>
+        <comment>two controls</comment>
+        <translation>«%1» non va d’accordo con ciò che è impostato per «%2».</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1817,10 +1827,6 @@
     <message>
         <source>The file %1 cannot be written (%2): name another.</source>
         <translation>Non è possibile scrivere il file %1 (%2): indicarne un altro.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
-        <translation>Non è possibile scrivere i dati di stampa in %1 (%2): fare spazio o indicare un altro file.</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>

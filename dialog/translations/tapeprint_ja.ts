@@ -915,6 +915,16 @@
         <comment>a control, and the page of settings that it stands on</comment>
         <translation>「%1」は「%2」により無効です：このプリンター、選んだテープ、またはそこの別の設定では使えません。</translation>
     </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer offers nothing to choose there.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>「%1」は「%2」により無効です：このプリンターには選べるものがありません。</translation>
+    </message>
+    <message>
+        <source>“%1” does not go with what is set for “%2”.</source>
+        <comment>two controls</comment>
+        <translation>「%1」は「%2」の設定と一緒に使えません。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1813,10 +1823,6 @@
     <message>
         <source>The file %1 cannot be written (%2): name another.</source>
         <translation>ファイル %1 に書き込めません（%2）。別のファイルを指定してください。</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
-        <translation>印刷データを %1 に書き込めません（%2）。空き容量を増やすか、別のファイルを指定してください。</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>

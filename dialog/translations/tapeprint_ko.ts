@@ -915,6 +915,16 @@
         <comment>a control, and the page of settings that it stands on</comment>
         <translation>“%1”은(는) “%2”에 의해 꺼져 있습니다: 이 프린터, 선택한 테이프 또는 다른 설정에서 제공하지 않습니다.</translation>
     </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer offers nothing to choose there.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>“%1”은(는) “%2”에 의해 꺼져 있습니다: 이 프린터에는 선택할 항목이 없습니다.</translation>
+    </message>
+    <message>
+        <source>“%1” does not go with what is set for “%2”.</source>
+        <comment>two controls</comment>
+        <translation>“%1”은(는) “%2”의 설정과 함께 쓸 수 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1813,10 +1823,6 @@
     <message>
         <source>The file %1 cannot be written (%2): name another.</source>
         <translation>파일 %1에 쓸 수 없습니다(%2). 다른 파일을 지정하십시오.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
-        <translation>인쇄 데이터를 %1에 쓸 수 없습니다(%2). 공간을 확보하거나 다른 파일을 지정하십시오.</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>

@@ -919,6 +919,16 @@
         <comment>a control, and the page of settings that it stands on</comment>
         <translation>“%1” is uitgeschakeld door “%2”: deze printer, de gekozen tape of een andere instelling daar biedt het niet aan.</translation>
     </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer offers nothing to choose there.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>“%1” is uitgeschakeld door “%2”: deze printer biedt daar niets te kiezen.</translation>
+    </message>
+    <message>
+        <source>“%1” does not go with what is set for “%2”.</source>
+        <comment>two controls</comment>
+        <translation>“%1” gaat niet samen met wat voor “%2” is ingesteld.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1817,10 +1827,6 @@
     <message>
         <source>The file %1 cannot be written (%2): name another.</source>
         <translation>Het bestand %1 kan niet worden geschreven (%2): noem een ander.</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
-        <translation>De afdrukgegevens kunnen niet naar %1 worden geschreven (%2): maak daar ruimte of noem een ander bestand.</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>

@@ -915,6 +915,16 @@
         <comment>a control, and the page of settings that it stands on</comment>
         <translation>“%1”被“%2”停用：此打印机、所选标签带或其中的其他设置不提供它。</translation>
     </message>
+    <message>
+        <source>“%1” is switched off by “%2”: this printer offers nothing to choose there.</source>
+        <comment>a control, and the page of settings that it stands on</comment>
+        <translation>“%1”被“%2”停用：此打印机在该处没有可选项。</translation>
+    </message>
+    <message>
+        <source>“%1” does not go with what is set for “%2”.</source>
+        <comment>two controls</comment>
+        <translation>“%1”与“%2”的设置不能同时使用。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -1813,10 +1823,6 @@
     <message>
         <source>The file %1 cannot be written (%2): name another.</source>
         <translation>无法写入文件 %1（%2）：请指定其他文件。</translation>
-    </message>
-    <message>
-        <source>The printer&apos;s bytes cannot be written to %1 (%2): make room there, or name another file.</source>
-        <translation>无法将打印数据写入 %1（%2）：请腾出空间，或指定其他文件。</translation>
     </message>
     <message>
         <source>The file %1 is replaced only as a whole, and nothing can be written beside it (%2): name another.</source>
