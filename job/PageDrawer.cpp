@@ -94,6 +94,7 @@ std::unique_ptr<DrawerProcess> startProcess(const QString &program, const std::a
         }
         const End end = process->greet(stop);
         if (end == End::Whole) {
+            *problem = QString(); // of the first try
             return process;
         }
         *problem = reasonText(process->messages());

@@ -6,6 +6,7 @@
 #include "tests/support/ExitStatuses.h"
 #include "tests/support/TextPrinting.h"
 
+#include <QFile>
 #include <QImage>
 
 #include <gtest/gtest.h>
@@ -60,6 +61,20 @@ TEST_F(FitLength, LyingPage_GoesByItsWidth)
     expectFitted(
         fitted(u"mv"_qs, {u"KsMargin=5"_qs}, {written(pdfWith({{100, 20, {{20, 2, 30, 8}, {60, 9, 21, 3}}}}))}), 71, 5,
         1.0);
+}
+
+TEST_F(FitLength, WhereNameSpacesAreForbidden_IsMeasuredAllTheSame)
+{
+    const QByteArray path = qgetenv("PATH");
+    const QString refusing = systemtest::writeFile(
+        folder.path(u"bwrap"_qs), "#!/bin/sh\necho 'bwrap: No permissions to create new namespace' >&2\nexit 1\n");
+    ASSERT_TRUE(QFile::setPermissions(refusing, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    qputenv("PATH", folder.path(u"."_qs).toLocal8Bit() + ':' + path);
+    const PrintedTape printed =
+        fitted(u"mm"_qs, {u"KsMargin=2"_qs}, {written(pdfWith({{46, 200, {{0, 40, 46, 60}}}}))});
+    qputenv("PATH", path);
+    EXPECT_TRUE(printed.outcome.messages.contains("No permissions")) << printed.outcome.messages.toStdString();
+    expectFitted(printed, 34, 2, 0.1);
 }
 
 TEST_F(FitLength, LargePage_IsMadeAsNarrowAsTheTape)

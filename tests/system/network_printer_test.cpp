@@ -9,6 +9,7 @@
 #include "tests/system/WindowUnderTest.h"
 
 #include <QDir>
+#include <QLockFile>
 #include <QProcess>
 
 #include <gtest/gtest.h>
@@ -45,6 +46,7 @@ protected:
                 GTEST_SKIP() << program.toStdString() << " is not installed";
             }
         }
+        ASSERT_TRUE(turn.tryLock(longestTurnMs));
         // Names of the network are looked up in a file, and its bus is the test's: whoever is started has both.
         succeed(bus.start({}, {}));
         const QString names = systemtest::writeFile(folder.path(u"hosts"_qs), "127.0.0.1 tapeprint-test.local\n");
@@ -124,6 +126,9 @@ protected:
         return systemtest::waitUntil([&] { return QDir(spool).entryList({u"*.pdf"_qs}).size() == documents; });
     }
 
+    /// A machine has one responder at a time: these tests take turns.
+    static constexpr int longestTurnMs = 120000;
+    QLockFile turn{QDir::temp().filePath(u"tapeprint-network-tests.lock"_qs)};
     systemtest::PrivateFolder folder;
     QString spool = folder.makeFolder(u"spool"_qs);
     QString document = QStringLiteral(TAPEPRINT_SOURCE_DIR "/docs/sample/address-label.pdf");
