@@ -349,6 +349,44 @@ TEST_F(Backend, IdleForAWhile_Leaves)
     EXPECT_EQ(program.exitCode(), 0);
 }
 
+/// How the dialog stands over another window of an X server.
+class BackendOnX11 : public Backend, public testing::WithParamInterface<bool>
+{
+protected:
+    void TearDown() override
+    {
+        systemtest::endProcess(program);
+        Backend::TearDown();
+    }
+
+    QProcess program; ///< one that prints
+};
+
+TEST_P(BackendOnX11, WindowOfAnotherProgram_TheDialogStandsOverItAndHoldsItUpUnlessToldNotTo)
+{
+    ASSERT_NO_FATAL_FAILURE(startProgram(program, u"xmessage"_qs, {u"-name"_qs, u"printing"_qs, u"Hello"_qs}));
+    QByteArray window;
+    ASSERT_TRUE(waitUntil([&] {
+        window = display.xdotool({u"search"_qs, u"--onlyvisible"_qs, u"--classname"_qs, u"printing"_qs}).trimmed();
+        return !window.isEmpty();
+    }));
+    const QString number = QString::number(window.toULongLong(), 16);
+    Reply reply = prepare(u"one"_qs, u"x11:"_qs + number, {{u"modal"_qs, GetParam()}});
+    ASSERT_NO_FATAL_FAILURE(open(dialog));
+    const QByteArray properties =
+        systemtest::runClient({u"xprop"_qs,
+                               {u"-id"_qs, dialog.window(), u"WM_TRANSIENT_FOR"_qs, u"_NET_WM_STATE"_qs},
+                               {{u"DISPLAY"_qs, display.name()}}})
+            .output;
+    EXPECT_TRUE(properties.contains("window id # 0x" + number.toLatin1() + '\n')) << properties.toStdString();
+    EXPECT_EQ(properties.contains("_NET_WM_STATE_MODAL"), GetParam()) << properties.toStdString();
+    EXPECT_FALSE(reply.isFinished());
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(responseOf(reply), cancelled);
+}
+
+INSTANTIATE_TEST_SUITE_P(Modal, BackendOnX11, testing::Bool());
+
 TEST_F(Backend, OptionsOfLaterPortals_OpenTheDialogAsTheirLackDoes)
 {
     Reply reply = prepare(u"later"_qs, {},
