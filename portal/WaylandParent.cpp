@@ -143,7 +143,8 @@ struct WaylandParent::Objects {
 
 bool isWaylandHandle(const QByteArray &text)
 {
-    constexpr auto isPrintable = [](char c) { return c > ' ' && c <= '~'; };
+    // GNOME makes them of any printable characters, blanks among them.
+    constexpr auto isPrintable = [](char c) { return c >= ' ' && c <= '~'; };
     return !text.isEmpty() && text.size() <= longestHandle && std::all_of(text.begin(), text.end(), isPrintable);
 }
 

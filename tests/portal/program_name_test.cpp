@@ -113,12 +113,13 @@ TEST(CallingWindow, OnlyAnX11NumberIsOne)
     }
 }
 
-TEST(CallingWindow, OnlyAShortWordIsAHandleOnWayland)
+TEST(CallingWindow, OnlyAShortLineIsAHandleOnWayland)
 {
     EXPECT_EQ(waylandHandleIn(u"wayland:ffd1c1e4-9a1b"_qs), "ffd1c1e4-9a1b");
     EXPECT_EQ(waylandHandleIn(u"wayland:"_qs + QString(256, u'a')), QByteArray(256, 'a'));
+    EXPECT_EQ(waylandHandleIn(u"wayland: a ~!b "_qs), " a ~!b "); // one of GNOME
     for (const QString &junk :
-         {u""_qs, u"wayland:"_qs, u"x11:200003"_qs, u"ffd1c1e4-9a1b"_qs, u"wayland:two words"_qs, u"wayland:a\nb"_qs,
+         {u""_qs, u"wayland:"_qs, u"x11:200003"_qs, u"ffd1c1e4-9a1b"_qs, u"wayland:a\tb"_qs, u"wayland:a\nb"_qs,
           u"wayland:\u00e9"_qs, QString(u"wayland:a\0b"_qs), u"wayland:"_qs + QString(257, u'a')}) {
         EXPECT_EQ(waylandHandleIn(junk), QByteArray()) << junk.toStdString();
     }
