@@ -11,6 +11,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <array>
 
 namespace tapeprint::job
@@ -87,13 +88,11 @@ const QStringList &roomArguments()
         QStringList{QStringLiteral("--unshare-all"), QStringLiteral("--die-with-parent"),
                     QStringLiteral("--new-session")} +
         systemArguments() + settingsArguments() +
-        QStringList{QStringLiteral("--proc"),    QStringLiteral("/proc"),
-                    QStringLiteral("--dev"),     QStringLiteral("/dev"),
-                    QStringLiteral("--perms"),   QStringLiteral("0700"),
-                    QStringLiteral("--size"),    QString::number(mostTemporaryBytes),
-                    QStringLiteral("--tmpfs"),   insideTemporary,
-                    QStringLiteral("--symlink"), insideTemporary,
-                    QStringLiteral("/var/tmp")};
+        QStringList{QStringLiteral("--proc"),  QStringLiteral("/proc"),
+                    QStringLiteral("--dev"),   QStringLiteral("/dev"),
+                    QStringLiteral("--perms"), QStringLiteral("0700"),
+                    QStringLiteral("--size"),  QString::number(mostTemporaryBytes),
+                    QStringLiteral("--tmpfs"), insideTemporary};
     return arguments;
 }
 
@@ -133,9 +132,21 @@ QString findBubblewrap()
     return QStandardPaths::findExecutable(QStringLiteral("bwrap"));
 }
 
+/// The other temporary folder is the same as the one, unless something of its own is to be seen in it: nothing can be
+/// put at a place below a link.
+QStringList otherTemporaryArguments(const ConfinedCommand &command)
+{
+    const QString other = QStringLiteral("/var/tmp");
+    const QStringList paths = command.readable + command.writable;
+    const bool isShown = std::any_of(paths.begin(), paths.end(),
+                                     [&other](const QString &path) { return path.startsWith(other + u'/'); });
+    return isShown ? QStringList{QStringLiteral("--dir"), other}
+                   : QStringList{QStringLiteral("--symlink"), insideTemporary, other};
+}
+
 QStringList confinedArguments(const ConfinedCommand &command)
 {
-    QStringList arguments = roomArguments();
+    QStringList arguments = roomArguments() + otherTemporaryArguments(command);
     for (const QString &path : command.readable) {
         arguments << QStringLiteral("--ro-bind") << path << path;
     }
