@@ -84,6 +84,22 @@ TEST_F(ConfinedProgram, SeesTheFilesThatItIsGivenAndCannotChangeThem)
     EXPECT_EQ(file.readAll(), "mine");
 }
 
+TEST_F(ConfinedProgram, SeesWhatItIsGivenOfTheOtherTemporaryFolder)
+{
+    const QTemporaryDir elsewhere(u"/var/tmp/tapeprint-test-XXXXXX"_qs);
+    const QString given = hosttest::writeFile(elsewhere, u"given"_qs, "mine");
+    hosttest::writeFile(elsewhere, u"other"_qs, "private");
+    run(QStringLiteral("cat '%1'; ls '%2'; touch /var/tmp/a || echo refused").arg(given, elsewhere.path()), {given});
+    EXPECT_EQ(output, "minegiven\nrefused\n");
+}
+
+TEST_F(ConfinedProgram, WithNothingToSeeInTheOtherTemporaryFolder_HasOneForBoth)
+{
+    run(u"echo word > /var/tmp/a && cat /tmp/a"_qs);
+    EXPECT_EQ(output, "word\n");
+    EXPECT_FALSE(QFileInfo::exists(u"/var/tmp/a"_qs));
+}
+
 TEST_F(ConfinedProgram, WritesIntoItsOwnTemporaryFolderAlone)
 {
     run(u"touch \"$TMPDIR\"/a && echo own; for place in / /etc /usr /var /dev /dev/shm; do "
