@@ -40,6 +40,7 @@ public:
         mProcess.setStandardInputFile(QProcess::nullDevice());
         mProcess.setProgram(launch.program);
         mProcess.setArguments(launch.arguments);
+        mProcess.setEnvironment(launch.environment);
         if (!launch.confined) {
             mProcess.setChildProcessModifier([] { setpgid(0, 0); });
         }

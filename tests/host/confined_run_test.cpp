@@ -117,12 +117,33 @@ TEST_F(ConfinedProgram, SeesTheMachinesSettingsThatAreForEverybodyAlone)
 TEST_F(ConfinedProgram, SeesNoHomeNoSessionAndNoOtherProcess)
 {
     qputenv("TAPEPRINT_TEST_SECRET", "secret");
-    run(u"ls -d /home/* /root /run /mnt; env | grep -c SECRET; ls /proc | grep -c '^[0-9]'"_qs);
+    run(u"ls -d /home/* /root /run /mnt; cat /proc/[0-9]*/environ | grep -c SECRET; ls /proc | grep -c '^[0-9]'"_qs);
     qunsetenv("TAPEPRINT_TEST_SECRET");
     const QList<QByteArray> lines = output.trimmed().split('\n');
     ASSERT_EQ(lines.size(), 2) << output.toStdString(); // ls finds nothing
     EXPECT_EQ(lines[0], "0");
     EXPECT_LT(lines[1].toInt(), 10);
+}
+
+TEST_F(ConfinedProgram, ThatDoesWithoutSettings_SeesFontsAlone)
+{
+    ConfinedCommand command{u"/bin/sh"_qs, {u"-c"_qs, u"ls /etc; ls -d /dev; echo x > /etc/a; echo x > /a; env"_qs}};
+    command.seesSettings = false;
+    command.environment = {{u"HOME"_qs, u"/nowhere"_qs}};
+    runConfined(
+        command,
+        [this](const QByteArray &bytes) {
+            output += bytes;
+            return true;
+        },
+        &stop, longestRun);
+    QList<QByteArray> lines = output.trimmed().split('\n');
+    ASSERT_GE(lines.size(), 2) << output.toStdString();
+    EXPECT_EQ(lines.takeFirst(), "fonts");
+    EXPECT_EQ(lines.takeFirst(), "ld.so.cache");
+    EXPECT_FALSE(lines.contains("/dev"));
+    EXPECT_TRUE(lines.contains("HOME=/nowhere"));
+    EXPECT_FALSE(lines.contains("HOME=/tmp"));
 }
 
 TEST_F(ConfinedProgram, IsBounded)
