@@ -19,7 +19,9 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -123,6 +125,16 @@ TEST_F(ConfinedProgram, SeesNoHomeNoSessionAndNoOtherProcess)
     ASSERT_EQ(lines.size(), 2) << output.toStdString(); // ls finds nothing
     EXPECT_EQ(lines[0], "0");
     EXPECT_LT(lines[1].toInt(), 10);
+}
+
+TEST_F(ConfinedProgram, HoldsNoFileThatThisProgramHasOpen)
+{
+    const QString mine = hosttest::writeFile(folder, u"mine"_qs, "private");
+    const int handle = open(QFile::encodeName(mine).constData(), O_RDONLY);
+    ASSERT_GE(handle, 0);
+    run(QStringLiteral("cat /proc/self/fd/%1 || echo hidden").arg(handle));
+    close(handle);
+    EXPECT_EQ(output, "hidden\n");
 }
 
 TEST_F(ConfinedProgram, ThatDoesWithoutSettings_SeesFontsAlone)
