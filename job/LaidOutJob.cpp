@@ -4,6 +4,7 @@
 
 #include "job/LaidOutDocument.h"
 #include "job/PdfPages.h"
+#include "job/PdfWorker.h"
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
@@ -43,6 +44,7 @@ std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList
                                         Problem *error)
 {
     const QSizeF textPagePt = textPageOf(job);
+    PdfWorker worker;
     PdfDocuments documents;
     documents.files = files;
     for (const QString &file : files) {
@@ -59,7 +61,7 @@ std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList
                 return std::nullopt;
             }
         }
-        const std::optional<PageSizes> sizes = pageSizesOf(pdf, error, file);
+        const std::optional<PageSizes> sizes = worker.measure(pdf, file, stop, error);
         if (!sizes) {
             return std::nullopt;
         }

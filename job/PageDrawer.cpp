@@ -1,19 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
-// The drawing program stands where bundles do: found from the program's own place, in a build tree and installed. The
-// document is handed to it open, so that the room it works in shows it no file at all.
+// The document is handed to the program open, so that the room it works in shows it no file at all.
 #include "job/PageDrawer.h"
 
-#include "job/DrawerProcess.h"
-#include "job/Reason.h"
+#include "job/ConfinedProgram.h"
+#include "job/DrawerWords.h"
 
-#include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
-#include <cerrno>
 #include <cmath>
-#include <cstring>
 #include <mutex>
 #include <set>
 #include <utility>
@@ -33,25 +28,12 @@ constexpr double mostUnits = 1e9;
 
 const std::atomic<bool> neverStopped = false;
 
-QString usualFolder()
-{
-    return QCoreApplication::applicationDirPath() + QLatin1String("/" TAPEPRINT_MODULE_PLACE);
-}
-
 QString programOf(const QString &folder)
 {
     return folder + QLatin1String("/tapeprint-drawer");
 }
 
-ConfinedCommand commandFor(const QString &program)
-{
-    const QString path = QFileInfo(program).canonicalFilePath();
-    ConfinedCommand command{path, {}, {path}};
-#ifdef __SANITIZE_ADDRESS__
-    command.mostMemory = QStringLiteral("unlimited"); // the sanitizer takes terabytes of addresses
-#endif
-    return command;
-}
+std::atomic<int> livingProcesses = 0;
 
 /// The process that was started before anybody asked.
 struct Spare {
@@ -76,44 +58,15 @@ std::unique_ptr<DrawerProcess> takeSpare(const QString &program)
 std::unique_ptr<DrawerProcess> startProcess(const QString &program, const std::atomic<bool> &stop, QString *problem)
 {
     std::unique_ptr<DrawerProcess> process = takeSpare(program);
-    if (process && process->greet(stop) == End::Whole) {
-        return process;
-    }
-    const QFileInfo file(program);
-    if (!file.isExecutable() || !file.isFile()) {
-        *problem = reasonText(program + QLatin1String(": ") + qt_error_string(ENOENT));
-        return nullptr;
-    }
-    const ConfinedCommand command = commandFor(program);
-    for (const bool isTried : {false, true}) {
-        const ConfinedLaunch launch = isTried ? confine(command) : confineUntried(command);
-        process = DrawerProcess::start(launch);
-        if (!process) {
-            *problem = reasonText(qt_error_string(errno));
-            return nullptr;
-        }
-        const End end = process->greet(stop);
-        if (end == End::Whole) {
-            *problem = QString(); // of the first try
-            return process;
-        }
-        *problem = reasonText(process->messages());
-        if (end == End::Stopped || !launch.confined || confinementProblem().isNull()) {
-            break;
-        }
-    }
-    return nullptr;
+    return process && process->greet(drawerGreeting, stop) == End::Whole
+               ? std::move(process)
+               : startProgram(program, drawerGreeting, stop, problem);
 }
 
 bool isOnPage(const DrawerPage::Rect &rect)
 {
     const auto isUsable = [](double value) { return std::abs(value) <= mostUnits; }; // false for what is no number
     return isUsable(rect.x) && isUsable(rect.y) && isUsable(rect.width) && isUsable(rect.height);
-}
-
-QRectF rectOf(const DrawerPage::Rect &rect)
-{
-    return {rect.x, rect.y, rect.width, rect.height};
 }
 
 bool isWithin(const DrawerRect &rect, const QSize &size)
@@ -140,6 +93,9 @@ class PageDrawer::Conversation
 {
 public:
     Conversation(const QString &program, const QString &path) : mProgram(program), mFile(path) {}
+    ~Conversation() { keep(nullptr); }
+    Conversation(const Conversation &) = delete;
+    Conversation &operator=(const Conversation &) = delete;
 
     /// \return whether there is a process that can be asked about the document.
     bool open(QString *problem) { return mFile.open(QIODevice::ReadOnly) && hasProcess(neverStopped, problem); }
@@ -147,7 +103,8 @@ public:
     /// Hands the document over. \return how that ended; what is not Whole ends the process.
     End readDocument(const std::atomic<bool> &stop)
     {
-        End end = mProcess->ask({}, mFile.handle()) ? mProcess->take(&document, stop) : End::Broken;
+        End end = mProcess->say(DrawerQuestion(), stop, mFile.handle());
+        end = end == End::Whole ? mProcess->take(&document, stop) : end;
         const bool isPossible =
             document.state <= DrawerDocument::Whole && document.pages >= 0 && document.pages <= mostDrawerPages;
         end = end == End::Whole && !isPossible ? End::Broken : end;
@@ -156,7 +113,7 @@ public:
             end = mProcess->take(pages.data(), pages.size() * sizeof(DrawerPage), stop);
         }
         if (end != End::Whole) {
-            mProcess.reset();
+            keep(nullptr);
         }
         return end;
     }
@@ -172,7 +129,8 @@ public:
         DrawerPart answer;
         End end = isReady(stop);
         if (end == End::Whole) {
-            end = mProcess->ask(question) ? mProcess->take(&answer, stop) : End::Broken;
+            end = mProcess->say(question, stop);
+            end = end == End::Whole ? mProcess->take(&answer, stop) : end;
         }
         if (end == End::Whole && answer.isDrawn != 0) {
             end = takeRest(*mProcess, answer);
@@ -180,8 +138,8 @@ public:
         if (end == End::Broken) {
             mDeadly.insert(question.page);
         }
-        if (end != End::Whole || DrawerProcess::living() > mostProcesses) {
-            mProcess.reset();
+        if (end != End::Whole || livingProcesses > mostProcesses) {
+            keep(nullptr);
         }
         return end == End::Whole && answer.isDrawn != 0 && !stop;
     }
@@ -190,10 +148,16 @@ public:
     std::vector<DrawerPage> pages;
 
 private:
+    void keep(std::unique_ptr<DrawerProcess> process)
+    {
+        livingProcesses += static_cast<int>(process != nullptr) - static_cast<int>(mProcess != nullptr);
+        mProcess = std::move(process);
+    }
+
     bool hasProcess(const std::atomic<bool> &stop, QString *problem)
     {
         if (!mProcess) {
-            mProcess = startProcess(mProgram, stop, problem);
+            keep(startProcess(mProgram, stop, problem));
         }
         return mProcess != nullptr;
     }
@@ -236,9 +200,9 @@ PageDrawer::~PageDrawer() = default;
 void PageDrawer::prepare()
 {
     const std::lock_guard lock(spare().mutex);
-    const QString program = programOf(usualFolder());
-    if (!spare().process && QFileInfo(program).isExecutable()) {
-        spare().process = DrawerProcess::start(confineUntried(commandFor(program)));
+    const QString program = programOf(moduleFolder());
+    if (!spare().process) {
+        spare().process = startAhead(program);
         spare().program = program;
     }
 }
@@ -260,7 +224,7 @@ std::unique_ptr<PageDrawer> PageDrawer::openWith(const QString &folder, const QS
             known.size = {page.width, page.height};
         }
         if (isPossible(page) && page.hasBox != 0) {
-            known.box = PageBox{rectOf(page.page), rectOf(page.seen), page.turn, page.unitPt};
+            known.box = boxOf(page);
         }
     }
     return drawer;
@@ -268,7 +232,7 @@ std::unique_ptr<PageDrawer> PageDrawer::openWith(const QString &folder, const QS
 
 std::unique_ptr<PageDrawer> PageDrawer::open(const QString &path, QString *problem)
 {
-    return openWith(usualFolder(), path, problem);
+    return openWith(moduleFolder(), path, problem);
 }
 
 QSizeF PageDrawer::size(int page) const
