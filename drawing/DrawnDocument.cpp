@@ -75,13 +75,14 @@ job::DrawerDocument::State DrawnDocument::state() const
     return mPdf->is_locked() ? job::DrawerDocument::Locked : job::DrawerDocument::Whole;
 }
 
-std::vector<job::DrawerPage> DrawnDocument::pages() const
+std::vector<job::DrawerPage> DrawnDocument::pages(std::size_t *count) const
 {
     std::vector<job::DrawerPage> pages;
     if (state() != job::DrawerDocument::Whole || mPdf->pages() > job::mostDrawerPages) {
         return pages;
     }
     const std::vector<job::DrawerPage> boxes = readBoxes(mBytes, mLength);
+    *count = boxes.size();
     for (int index = 0; index < mPdf->pages(); ++index) {
         const job::DrawerPage drawn = drawnPage(*mPdf, index);
         const auto place = static_cast<std::size_t>(index);

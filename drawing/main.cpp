@@ -20,8 +20,10 @@ using drawing::say;
 
 bool tellPages(const drawing::DrawnDocument &document)
 {
-    const std::vector<job::DrawerPage> pages = document.pages();
-    const job::DrawerDocument answer{document.state(), static_cast<std::int32_t>(pages.size())};
+    std::size_t boxes = 0;
+    const std::vector<job::DrawerPage> pages = document.pages(&boxes);
+    const job::DrawerDocument answer{document.state(), static_cast<std::int32_t>(pages.size()),
+                                     static_cast<std::int32_t>(boxes)};
     return say(answer) && say(pages.data(), pages.size() * sizeof(job::DrawerPage));
 }
 

@@ -7,6 +7,8 @@
 #include <QRectF>
 #include <QSizeF>
 
+#include <cmath>
+
 namespace tapeprint::job
 {
 
@@ -17,12 +19,13 @@ struct PageBox {
     int turn = 0;        ///< clockwise, when it is shown: 0, 90, 180 or 270 degrees
     double unitPt = 1.0; ///< points of one of the document's units
 
-    /// As the page is read: turned, in points; empty when the page is.
+    /// As the page is read: turned, in points; empty when the page is, or when no number tells it.
     QSizeF sizePt() const
     {
         const QSizeF size = page.size() * unitPt;
+        const bool isSize = !page.isEmpty() && std::isfinite(size.width()) && std::isfinite(size.height());
         const bool lies = turn % 180 != 0;
-        return page.isEmpty() ? QSizeF() : lies ? size.transposed() : size;
+        return !isSize ? QSizeF() : lies ? size.transposed() : size;
     }
 };
 

@@ -4,6 +4,7 @@
 
 #include "job/ConfinedProgram.h"
 #include "job/DrawerWords.h"
+#include "job/FileStamp.h"
 
 #include <QFile>
 
@@ -35,11 +36,42 @@ QString programOf(const QString &folder)
 
 std::atomic<int> livingProcesses = 0;
 
-/// The process that was started before anybody asked.
+/// What a process says of the document that it was given.
+struct Opened {
+    DrawerDocument document;
+    std::vector<DrawerPage> pages;
+};
+
+/// Hands a document over. \return how that ended.
+End giveDocument(DrawerProcess &process, int handle, const std::atomic<bool> &stop, Opened *opened)
+{
+    DrawerDocument &document = opened->document;
+    End end = process.say(DrawerQuestion(), stop, handle);
+    end = end == End::Whole ? process.take(&document, stop) : end;
+    const bool isPossible =
+        document.state <= DrawerDocument::Whole && document.pages >= 0 && document.pages <= mostDrawerPages;
+    end = end == End::Whole && !isPossible ? End::Broken : end;
+    if (end == End::Whole) {
+        opened->pages.resize(static_cast<std::size_t>(document.pages));
+        end = process.take(opened->pages.data(), opened->pages.size() * sizeof(DrawerPage), stop);
+    }
+    return end;
+}
+
+/// The process that was started before anybody asked. It may have a document already, which was measured before it is
+/// drawn.
 struct Spare {
     std::mutex mutex;
     std::unique_ptr<DrawerProcess> process;
     QString program;
+    std::optional<FileStamp> file;
+    Opened opened;
+
+    bool has(const QFile &document) const
+    {
+        const std::optional<FileStamp> asked = FileStamp::ofDescriptor(document.handle(), document.fileName());
+        return file && asked && file->isSameFile(*asked) && file->isUnchanged(*asked);
+    }
 };
 
 Spare &spare()
@@ -48,19 +80,30 @@ Spare &spare()
     return one;
 }
 
-std::unique_ptr<DrawerProcess> takeSpare(const QString &program)
+/// \param opened takes what the process has said of the document, when that is the one that it has.
+std::unique_ptr<DrawerProcess> takeSpare(const QString &program, const QFile &document, std::optional<Opened> *opened)
 {
     const std::lock_guard lock(spare().mutex);
-    return spare().program == program ? std::move(spare().process) : nullptr;
+    if (spare().program != program || !spare().process || (spare().file && !spare().has(document))) {
+        return nullptr;
+    }
+    if (spare().file) {
+        *opened = std::move(spare().opened);
+        spare().file.reset();
+    }
+    return std::move(spare().process);
 }
 
-/// A process that waits for its document. \param problem takes why there is none.
-std::unique_ptr<DrawerProcess> startProcess(const QString &program, const std::atomic<bool> &stop, QString *problem)
+/// A process that waits for its document, or has it. \param problem takes why there is none.
+std::unique_ptr<DrawerProcess> startProcess(const QString &program, const QFile &document,
+                                            std::optional<Opened> *opened, QString *problem)
 {
-    std::unique_ptr<DrawerProcess> process = takeSpare(program);
-    return process && process->greet(drawerGreeting, stop) == End::Whole
-               ? std::move(process)
-               : startProgram(program, drawerGreeting, stop, problem);
+    std::unique_ptr<DrawerProcess> process = takeSpare(program, document, opened);
+    if (process && process->greet(drawerGreeting, neverStopped) == End::Whole) {
+        return process;
+    }
+    opened->reset();
+    return startProgram(program, drawerGreeting, neverStopped, problem);
 }
 
 bool isOnPage(const DrawerPage::Rect &rect)
@@ -98,25 +141,20 @@ public:
     Conversation &operator=(const Conversation &) = delete;
 
     /// \return whether there is a process that can be asked about the document.
-    bool open(QString *problem) { return mFile.open(QIODevice::ReadOnly) && hasProcess(neverStopped, problem); }
+    bool open(QString *problem) { return mFile.open(QIODevice::ReadOnly) && hasProcess(problem); }
 
-    /// Hands the document over. \return how that ended; what is not Whole ends the process.
+    /// Hands the document over, unless the process has it. \return how that ended; what is not Whole ends the process.
     End readDocument(const std::atomic<bool> &stop)
     {
-        End end = mProcess->say(DrawerQuestion(), stop, mFile.handle());
-        end = end == End::Whole ? mProcess->take(&document, stop) : end;
-        const bool isPossible =
-            document.state <= DrawerDocument::Whole && document.pages >= 0 && document.pages <= mostDrawerPages;
-        end = end == End::Whole && !isPossible ? End::Broken : end;
-        if (end == End::Whole) {
-            pages.resize(static_cast<std::size_t>(document.pages));
-            end = mProcess->take(pages.data(), pages.size() * sizeof(DrawerPage), stop);
-        }
+        const End end = mOpened ? End::Whole : giveDocument(*mProcess, mFile.handle(), stop, &mOpened.emplace());
         if (end != End::Whole) {
             keep(nullptr);
         }
         return end;
     }
+
+    /// What the process has said of the document. It is forgotten.
+    Opened takeOpened() { return std::move(mOpened).value_or(Opened()); }
 
     /// Asks about a part of a page. \param takeRest takes what follows the first word of the answer. \return whether
     /// the page can be drawn and nobody stopped it.
@@ -144,9 +182,6 @@ public:
         return end == End::Whole && answer.isDrawn != 0 && !stop;
     }
 
-    DrawerDocument document;
-    std::vector<DrawerPage> pages;
-
 private:
     void keep(std::unique_ptr<DrawerProcess> process)
     {
@@ -154,10 +189,11 @@ private:
         mProcess = std::move(process);
     }
 
-    bool hasProcess(const std::atomic<bool> &stop, QString *problem)
+    bool hasProcess(QString *problem)
     {
         if (!mProcess) {
-            keep(startProcess(mProgram, stop, problem));
+            mOpened.reset();
+            keep(startProcess(mProgram, mFile, &mOpened, problem));
         }
         return mProcess != nullptr;
     }
@@ -169,7 +205,7 @@ private:
             return End::Whole;
         }
         QString problem;
-        if (!hasProcess(stop, &problem)) {
+        if (!hasProcess(&problem)) {
             return End::Stopped; // no page's fault
         }
         return readDocument(stop);
@@ -177,6 +213,7 @@ private:
 
     QString mProgram;
     QFile mFile;
+    std::optional<Opened> mOpened;
     std::unique_ptr<DrawerProcess> mProcess; ///< null when there is none for the moment
     std::set<int> mDeadly;                   ///< pages that a process has died of
 };
@@ -201,10 +238,37 @@ void PageDrawer::prepare()
 {
     const std::lock_guard lock(spare().mutex);
     const QString program = programOf(moduleFolder());
-    if (!spare().process) {
+    if (!spare().process || spare().file) { // nobody has come to draw what was measured
         spare().process = startAhead(program);
         spare().program = program;
+        spare().file.reset();
     }
+}
+
+std::optional<std::vector<PageBox>> PageDrawer::measureAhead(const QString &path, const std::atomic<bool> &stop)
+{
+    QFile file(path);
+    std::unique_ptr<DrawerProcess> process;
+    {
+        const std::lock_guard lock(spare().mutex);
+        if (spare().file || !file.open(QIODevice::ReadOnly)) {
+            return std::nullopt; // it waits for who draws the document that it has
+        }
+        process = std::move(spare().process);
+    }
+    Opened opened;
+    if (!process || process->greet(drawerGreeting, stop) != End::Whole ||
+        giveDocument(*process, file.handle(), stop, &opened) != End::Whole) {
+        return std::nullopt;
+    }
+    std::vector<PageBox> boxes(opened.pages.size());
+    std::transform(opened.pages.begin(), opened.pages.end(), boxes.begin(), boxOf);
+    const bool hasAll = !boxes.empty() && opened.document.boxes == opened.document.pages;
+    const std::lock_guard lock(spare().mutex);
+    spare().process = std::move(process);
+    spare().file = FileStamp::ofDescriptor(file.handle(), path);
+    spare().opened = std::move(opened);
+    return hasAll ? std::optional(std::move(boxes)) : std::nullopt;
 }
 
 std::unique_ptr<PageDrawer> PageDrawer::openWith(const QString &folder, const QString &path, QString *problem)
@@ -213,12 +277,15 @@ std::unique_ptr<PageDrawer> PageDrawer::openWith(const QString &folder, const QS
     std::unique_ptr<PageDrawer> drawer(new PageDrawer);
     drawer->mConversation = std::make_unique<Conversation>(programOf(folder), path);
     Conversation &conversation = *drawer->mConversation;
-    if (!conversation.open(problem) || conversation.readDocument(neverStopped) != End::Whole ||
-        conversation.document.state == DrawerDocument::None) {
+    if (!conversation.open(problem) || conversation.readDocument(neverStopped) != End::Whole) {
         return nullptr;
     }
-    drawer->mIsLocked = conversation.document.state == DrawerDocument::Locked;
-    for (const DrawerPage &page : std::exchange(conversation.pages, {})) {
+    const Opened opened = conversation.takeOpened();
+    if (opened.document.state == DrawerDocument::None) {
+        return nullptr;
+    }
+    drawer->mIsLocked = opened.document.state == DrawerDocument::Locked;
+    for (const DrawerPage &page : opened.pages) {
         Page &known = drawer->mPages.emplace_back();
         if (isPossible(page)) {
             known.size = {page.width, page.height};

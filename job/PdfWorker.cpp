@@ -18,7 +18,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cmath>
 #include <iterator>
 #include <mutex>
 #include <numeric>
@@ -64,12 +63,6 @@ std::unique_ptr<DrawerProcess> takeWaiting(const QString &program, const std::at
         }
     }
     return process && process->greet(pagesGreeting, stop) == End::Whole ? std::move(process) : nullptr;
-}
-
-QSizeF sizeOf(const DrawerPage &page)
-{
-    const QSizeF size = boxOf(page).sizePt();
-    return std::isfinite(size.width()) && std::isfinite(size.height()) ? size : QSizeF();
 }
 
 /// What libqpdf says, as it stands within a sentence.
@@ -339,7 +332,8 @@ std::optional<PageSizes> PdfWorker::askSizes(const QString &pdf, const QString &
         return std::nullopt;
     }
     PageSizes sizes(pages.size());
-    std::transform(pages.begin(), pages.end(), sizes.begin(), sizeOf);
+    std::transform(pages.begin(), pages.end(), sizes.begin(),
+                   [](const DrawerPage &page) { return boxOf(page).sizePt(); });
     return sizes;
 }
 

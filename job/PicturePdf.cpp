@@ -82,15 +82,10 @@ QByteArray dotsOf(const QImage &picture)
 
 QByteArray stream(const QByteArray &dictionary, const QByteArray &bytes)
 {
-    return "<< " + dictionary + " /Length " + QByteArray::number(bytes.size()) + " >>\nstream\n" + bytes +
-           "\nendstream";
-}
-
-/// What qCompress() gives, without the length that it puts before what others understand.
-QByteArray deflated(const QByteArray &bytes)
-{
-    constexpr int lengthBytes = 4;
-    return qCompress(bytes).mid(lengthBytes);
+    constexpr int lengthBytes = 4; // which qCompress() puts before what others understand
+    const QByteArray deflated = qCompress(bytes).mid(lengthBytes);
+    return "<< " + dictionary + " /Filter /FlateDecode /Length " + QByteArray::number(deflated.size()) +
+           " >>\nstream\n" + deflated + "\nendstream";
 }
 
 /// A document of objects, of which the first is the catalogue.
@@ -114,15 +109,15 @@ QByteArray pageDocument(const QImage &picture, const QSizeF &sizePt)
     const QByteArray dots = dotsOf(picture.convertToFormat(isGrey ? QImage::Format_Grayscale8 : QImage::Format_RGB888));
     const QByteArray width = pdekit::fixedDecimals(sizePt.width(), pageDecimals).toLatin1();
     const QByteArray height = pdekit::fixedDecimals(sizePt.height(), pageDecimals).toLatin1();
-    return documentOf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [ 3 0 R ] /Count 1 >>",
-                       "<< /Type /Page /Parent 2 0 R /MediaBox [ 0 0 " + width + ' ' + height +
-                           " ] /Resources << /XObject << /Picture 4 0 R >> >> /Contents 5 0 R >>",
-                       stream("/Type /XObject /Subtype /Image /BitsPerComponent 8 /ColorSpace " +
-                                  QByteArray(isGrey ? "/DeviceGray" : "/DeviceRGB") + " /Width " +
-                                  QByteArray::number(picture.width()) + " /Height " +
-                                  QByteArray::number(picture.height()) + " /Filter /FlateDecode",
-                              deflated(dots)),
-                       stream({}, width + " 0 0 " + height + " 0 0 cm /Picture Do\n")});
+    return documentOf(
+        {"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [ 3 0 R ] /Count 1 >>",
+         "<< /Type /Page /Parent 2 0 R /MediaBox [ 0 0 " + width + ' ' + height +
+             " ] /Resources << /XObject << /Picture 4 0 R >> >> /Contents 5 0 R >>",
+         stream("/Type /XObject /Subtype /Image /BitsPerComponent 8 /ColorSpace " +
+                    QByteArray(isGrey ? "/DeviceGray" : "/DeviceRGB") + " /Width " +
+                    QByteArray::number(picture.width()) + " /Height " + QByteArray::number(picture.height()),
+                dots),
+         stream({}, width + " 0 0 " + height + " 0 0 cm /Picture Do\n")});
 }
 
 } // namespace
