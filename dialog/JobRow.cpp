@@ -23,6 +23,9 @@ JobRow::JobRow(QWidget *parent)
     mBar->setTextVisible(false);
     mBar->setFixedWidth(barWidth);
     mBar->setAccessibleName(tr("Printing"));
+    QSizePolicy keepsPlace = mBar->sizePolicy();
+    keepsPlace.setRetainSizeWhenHidden(true);
+    mBar->setSizePolicy(keepsPlace);
     mClose->setObjectName(QStringLiteral("closeButton"));
     mClose->setAutoDefault(false);
     mClose->setToolTip(tr("The job goes on without this window"));
@@ -41,6 +44,7 @@ void JobRow::tell(const QString &words, int percent)
     mWords->setAccessibleName(words);
     mBar->setMaximum(percent < 0 ? 0 : whole); // without an end it only moves
     mBar->setValue(percent < 0 ? 0 : percent);
+    mBar->setVisible(percent != 0); // an empty one looks like a field to type in
 }
 
 void JobRow::setCanClose(bool canClose)

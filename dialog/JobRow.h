@@ -19,8 +19,8 @@ class JobRow : public QWidget
 public:
     explicit JobRow(QWidget *parent = nullptr);
 
-    /// \param words may hold texts of strangers. \param percent of what is to be sent; below 0 while nobody knows how
-    /// long it takes.
+    /// \param words may hold texts of strangers. \param percent of what is to be done; below 0 while nobody knows how
+    /// long it takes, 0 while nothing is done.
     void tell(const QString &words, int percent);
     /// Whether the window may be closed without ending anything: shows a button for it.
     void setCanClose(bool canClose);

@@ -9,7 +9,9 @@
 #include <QProcess>
 
 #include <csignal>
+#include <limits>
 
+#include <linux/close_range.h>
 #include <unistd.h>
 
 namespace tapeprint::job
@@ -40,10 +42,15 @@ public:
         mProcess.setStandardInputFile(QProcess::nullDevice());
         mProcess.setProgram(launch.program);
         mProcess.setArguments(launch.arguments);
-        if (!launch.confined) {
-            mProcess.setChildProcessModifier([] { setpgid(0, 0); });
-        }
+        mProcess.setEnvironment(launch.environment);
         mHasGroup = !launch.confined;
+        mProcess.setChildProcessModifier([hasGroup = mHasGroup] {
+            // A file that some library has open is not for others: a handle would reach past the room's walls.
+            close_range(STDERR_FILENO + 1, std::numeric_limits<unsigned>::max(), CLOSE_RANGE_CLOEXEC);
+            if (hasGroup) {
+                setpgid(0, 0);
+            }
+        });
     }
     ~Run() { kill(); }
     Run(const Run &) = delete;

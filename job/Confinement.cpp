@@ -46,6 +46,9 @@ constexpr std::array systemFolders{"/usr",
 /// Where among the settings something may stand that is not for everybody; root, who may read it, does not show it.
 constexpr std::array settingsFolders{"/etc", "/etc/cups"};
 
+/// Settings that every program is loaded by, and finds fonts by.
+constexpr std::array fontSettings{"/etc/ld.so.cache", "/etc/fonts"};
+
 QStringList systemArguments()
 {
     QStringList arguments;
@@ -81,50 +84,72 @@ QStringList settingsArguments()
     return arguments;
 }
 
-/// Everything up to the files of a command.
-const QStringList &roomArguments()
+/// What is memory beside the temporary folder takes no data: it would not be bounded.
+QStringList sealedDevices()
 {
-    static const QStringList arguments =
-        QStringList{QStringLiteral("--unshare-all"), QStringLiteral("--die-with-parent"),
-                    QStringLiteral("--new-session")} +
-        systemArguments() + settingsArguments() +
-        QStringList{QStringLiteral("--proc"),  QStringLiteral("/proc"),
-                    QStringLiteral("--dev"),   QStringLiteral("/dev"),
-                    QStringLiteral("--perms"), QStringLiteral("0700"),
-                    QStringLiteral("--size"),  QString::number(mostTemporaryBytes),
-                    QStringLiteral("--tmpfs"), insideTemporary};
+    return {QStringLiteral("--dev"), QStringLiteral("/dev"), QStringLiteral("--remount-ro"), QStringLiteral("/dev")};
+}
+
+/// What every program needs of the settings to be loaded and to find fonts.
+QStringList fontArguments()
+{
+    QStringList arguments;
+    for (const char *name : fontSettings) {
+        arguments << QStringLiteral("--ro-bind-try") << QString::fromLatin1(name) << QString::fromLatin1(name);
+    }
     return arguments;
 }
 
-/// What is memory beside the temporary folder takes no data: it would not be bounded.
-QStringList sealArguments()
+QStringList makeRoomArguments(bool seesSettings)
 {
-    return {QStringLiteral("--remount-ro"), QStringLiteral("/dev"), QStringLiteral("--remount-ro"), QStringLiteral("/"),
-            QStringLiteral("--chdir"),      insideTemporary};
+    return QStringList{QStringLiteral("--unshare-all"), QStringLiteral("--die-with-parent"),
+                       QStringLiteral("--new-session")} +
+           systemArguments() + (seesSettings ? settingsArguments() + sealedDevices() : fontArguments()) +
+           QStringList{QStringLiteral("--proc"),  QStringLiteral("/proc"),  QStringLiteral("--perms"),
+                       QStringLiteral("0700"),    QStringLiteral("--size"), QString::number(mostTemporaryBytes),
+                       QStringLiteral("--tmpfs"), insideTemporary};
 }
 
-/// "env" and "prlimit" with what they set; the command follows. A run without a room gets the same.
-QStringList boundArguments(const ConfinedCommand &command, const QString &temporaryFolder)
+/// Everything up to the files of a command.
+const QStringList &roomArguments(bool seesSettings)
 {
-    QStringList arguments{QStringLiteral("-i"),
-                          QStringLiteral("PATH=/usr/bin:/bin:/usr/sbin:/sbin"),
-                          QStringLiteral("HOME=") + temporaryFolder,
-                          QStringLiteral("TMPDIR=") + temporaryFolder,
+    static const QStringList withSettings = makeRoomArguments(true);
+    static const QStringList without = makeRoomArguments(false);
+    return seesSettings ? withSettings : without;
+}
+
+/// As sealedDevices(), for what holds everything.
+QStringList sealArguments()
+{
+    return {QStringLiteral("--remount-ro"), QStringLiteral("/"), QStringLiteral("--chdir"), insideTemporary};
+}
+
+QStringList environmentOf(const ConfinedCommand &command, const QString &temporaryFolder)
+{
+    QStringList variables{QStringLiteral("PATH=/usr/bin:/bin:/usr/sbin:/sbin"),
+                          QStringLiteral("HOME=") + temporaryFolder, QStringLiteral("TMPDIR=") + temporaryFolder,
                           QStringLiteral("USER=") + qEnvironmentVariable("USER", QStringLiteral("nobody")),
                           QStringLiteral("LANG=C.UTF-8")};
     for (const auto &[name, value] : command.environment) {
-        arguments << name + u'=' + value;
+        variables.removeIf([&prefix = name](const QString &variable) { return variable.startsWith(prefix + u'='); });
+        variables << name + u'=' + value;
     }
-    arguments << QStringLiteral("prlimit") << QStringLiteral("--as=") + command.mostMemory
-              << QStringLiteral("--cpu=%1").arg(mostProcessorSeconds) << QStringLiteral("--core=0")
-              << QStringLiteral("--") << command.program << command.arguments;
-    return arguments;
+    return variables;
 }
 
-QString findEnv()
+/// What sets the bounds. A run without a room has the same.
+QString findBinder()
 {
-    const QString path = QStandardPaths::findExecutable(QStringLiteral("env"), {QStringLiteral("/usr/bin")});
-    return path.isEmpty() ? QStringLiteral("/usr/bin/env") : path;
+    const QString path = QStandardPaths::findExecutable(QStringLiteral("prlimit"), {QStringLiteral("/usr/bin")});
+    return path.isEmpty() ? QStringLiteral("/usr/bin/prlimit") : path;
+}
+
+QStringList boundArguments(const ConfinedCommand &command)
+{
+    return QStringList{QStringLiteral("--as=") + command.mostMemory,
+                       QStringLiteral("--cpu=%1").arg(mostProcessorSeconds), QStringLiteral("--core=0"),
+                       QStringLiteral("--"), command.program} +
+           command.arguments;
 }
 
 QString findBubblewrap()
@@ -146,15 +171,24 @@ QStringList otherTemporaryArguments(const ConfinedCommand &command)
 
 QStringList confinedArguments(const ConfinedCommand &command)
 {
-    QStringList arguments = roomArguments() + otherTemporaryArguments(command);
+    QStringList arguments = roomArguments(command.seesSettings) + otherTemporaryArguments(command);
     for (const QString &path : command.readable) {
         arguments << QStringLiteral("--ro-bind") << path << path;
     }
     for (const QString &path : command.writable) {
         arguments << QStringLiteral("--bind") << path << path;
     }
-    arguments << sealArguments() << QStringLiteral("--") << findEnv() << boundArguments(command, insideTemporary);
-    return arguments;
+    return arguments << sealArguments() << QStringLiteral("--") << findBinder() << boundArguments(command);
+}
+
+ConfinedLaunch inRoom(const QString &bubblewrap, const ConfinedCommand &command)
+{
+    return {bubblewrap, confinedArguments(command), environmentOf(command, insideTemporary), true};
+}
+
+ConfinedLaunch withBoundsAlone(const ConfinedCommand &command)
+{
+    return {findBinder(), boundArguments(command), environmentOf(command, QDir::tempPath()), false};
 }
 
 /// What keeps this machine from confining anything.
@@ -172,7 +206,9 @@ Obstacle findObstacle()
     }
     QProcess process;
     process.setStandardInputFile(QProcess::nullDevice());
-    process.start(bubblewrap, confinedArguments({QStringLiteral("/usr/bin/true"), {}}), QIODevice::ReadOnly);
+    const ConfinedLaunch launch = inRoom(bubblewrap, {QStringLiteral("/usr/bin/true"), {}});
+    process.setEnvironment(launch.environment);
+    process.start(launch.program, launch.arguments, QIODevice::ReadOnly);
     if (process.waitForFinished(probeTimeoutMs) && process.exitStatus() == QProcess::NormalExit &&
         process.exitCode() == 0) {
         return {};
@@ -193,11 +229,6 @@ const Obstacle &obstacle()
 bool isPossible()
 {
     return !obstacle().isMissing && obstacle().reason.isNull();
-}
-
-ConfinedLaunch withBoundsAlone(const ConfinedCommand &command)
-{
-    return {findEnv(), boundArguments(command, QDir::tempPath()), false};
 }
 
 } // namespace
@@ -222,8 +253,7 @@ ConfinedLaunch confine(const ConfinedCommand &command)
 ConfinedLaunch confineUntried(const ConfinedCommand &command)
 {
     const QString bubblewrap = findBubblewrap();
-    return bubblewrap.isEmpty() ? withBoundsAlone(command)
-                                : ConfinedLaunch{bubblewrap, confinedArguments(command), true};
+    return bubblewrap.isEmpty() ? withBoundsAlone(command) : inRoom(bubblewrap, command);
 }
 
 } // namespace tapeprint::job

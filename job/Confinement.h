@@ -23,14 +23,20 @@ struct ConfinedCommand {
     QStringList writable = {};
     /// Variables beside the few that every program gets (PATH, HOME, TMPDIR, USER, LANG); a later one replaces them.
     std::vector<std::pair<QString, QString>> environment = {};
+    /// Whether it sees the machine's settings and devices, as filters need them. A program that is handed its files
+    /// open does without, which is quicker to set up: it has fonts alone.
+    bool seesSettings = true;
     /// Address space of one process.
     QString mostMemory = QString::number(qint64(4) << 30); ///< in bytes, or "unlimited"
 };
 
-/// What a process is started with. The variables are among the arguments: the starter's environment is not passed on.
+/// What a process is started with.
 struct ConfinedLaunch {
     QString program;
     QStringList arguments;
+    /// All its variables, each NAME=VALUE. It must not be started with any of the starter's: those of the room's own
+    /// first process can be read in the room.
+    QStringList environment;
     bool confined = false; ///< false: the program runs with the person's rights, but with the same bounds
 };
 

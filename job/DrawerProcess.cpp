@@ -74,20 +74,34 @@ public:
     posix_spawnattr_t attributes{};
 };
 
+/// Words as the system takes them: a null ends their list.
+class Words
+{
+public:
+    explicit Words(const QStringList &words)
+    {
+        std::transform(words.begin(), words.end(), std::back_inserter(mBytes),
+                       [](const QString &word) { return word.toLocal8Bit(); });
+        std::transform(mBytes.begin(), mBytes.end(), std::back_inserter(mPointers),
+                       [](QByteArray &word) { return word.data(); });
+        mPointers.push_back(nullptr);
+    }
+    char *const *list() const { return mPointers.data(); }
+
+private:
+    std::vector<QByteArray> mBytes;
+    std::vector<char *> mPointers;
+};
+
 /// \return the process, or -1: see errno.
 pid_t spawn(const ConfinedLaunch &launch, int input, int errors)
 {
-    std::vector<QByteArray> words{launch.program.toLocal8Bit()};
-    std::transform(launch.arguments.begin(), launch.arguments.end(), std::back_inserter(words),
-                   [](const QString &word) { return word.toLocal8Bit(); });
-    std::vector<char *> arguments;
-    std::transform(words.begin(), words.end(), std::back_inserter(arguments),
-                   [](QByteArray &word) { return word.data(); });
-    arguments.push_back(nullptr);
+    const Words arguments(QStringList{launch.program} + launch.arguments);
+    const Words environment(launch.environment);
     const SpawnSettings settings(input, errors);
     pid_t process = -1;
-    const int failure = posix_spawn(&process, words.front().constData(), &settings.files, &settings.attributes,
-                                    arguments.data(), environ);
+    const int failure = posix_spawn(&process, arguments.list()[0], &settings.files, &settings.attributes,
+                                    arguments.list(), environment.list());
     errno = failure;
     return failure == 0 ? process : -1;
 }

@@ -97,8 +97,8 @@ bool JobNews::waitsForPerson() const
 
 int JobNews::percentOf(std::size_t pieces) const
 {
-    if (status.state != IPP_JSTATE_PROCESSING || waitsForPerson() || status.piecesOut <= 0 || pieces == 0) {
-        return -1;
+    if (status.piecesOut <= 0 || pieces == 0) {
+        return status.state == IPP_JSTATE_PROCESSING && !waitsForPerson() ? -1 : 0;
     }
     constexpr std::size_t whole = 100;
     return static_cast<int>(std::min(whole, whole * static_cast<std::size_t>(status.piecesOut) / pieces));

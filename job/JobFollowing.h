@@ -34,7 +34,8 @@ struct JobNews {
     bool hasFailed() const;
     /// Whether somebody has to see to the printer before the job prints.
     bool waitsForPerson() const;
-    /// How much of a job is printed, in per cent; below 0 where that is not known, or somebody is waited for.
+    /// How much of a job is out, in per cent; below 0 while it is being printed and nobody knows how much. A job that
+    /// waits, for a person or for its turn, stays where it is.
     /// \param pieces labels or sheets of the whole job; 0 when that is not known.
     int percentOf(std::size_t pieces) const;
     /// A sentence for the person, in the language of the moment.

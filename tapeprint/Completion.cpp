@@ -51,6 +51,8 @@ QString meaningOf(ValueKind kind)
         return QStringLiteral("option");
     case ValueKind::File:
         return QStringLiteral("file");
+    case ValueKind::Time:
+        return QStringLiteral("time");
     case ValueKind::Text:
         return QStringLiteral("text");
     case ValueKind::None:
@@ -76,6 +78,15 @@ std::vector<Completion> queues()
     job::Problem ignored;
     for (const job::Printer &printer : job::readPrinters(nullptr, &ignored).value_or(job::PrinterList())) {
         words.emplace_back(printer.fullName(), printer.info);
+    }
+    return words;
+}
+
+std::vector<Completion> times()
+{
+    std::vector<Completion> words;
+    for (const QString &word : holdWords()) {
+        words.emplace_back(word, QString());
     }
     return words;
 }
@@ -118,6 +129,9 @@ std::vector<Completion> completions(const CommandLine &line)
     }
     if (line.complete == u"queues") {
         return queues();
+    }
+    if (line.complete == u"times") {
+        return times();
     }
     job::JobRequest request = line.request;
     request.onlyShows = true;

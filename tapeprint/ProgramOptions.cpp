@@ -7,6 +7,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <array>
 
 namespace tapeprint
@@ -88,30 +89,43 @@ bool takePriority(CommandLine &line, const QString &value, Problem *error)
     return true;
 }
 
+struct HoldWord {
+    const char *word; ///< lp's
+    const char *cups; ///< the value that it is of job-hold-until
+    bool isListed;    ///< or known without being told of: CUPS's own word for one that is listed
+};
+
+constexpr std::array holdWordTable{
+    HoldWord{"immediate", "no-hold", true},
+    HoldWord{"hold", "indefinite", true},
+    HoldWord{"day-time", "day-time", true},
+    HoldWord{"evening", "evening", true},
+    HoldWord{"night", "night", true},
+    HoldWord{"weekend", "weekend", true},
+    HoldWord{"second-shift", "second-shift", true},
+    HoldWord{"third-shift", "third-shift", true},
+    HoldWord{"no-hold", "no-hold", false},
+    HoldWord{"indefinite", "indefinite", false},
+};
+
 /// When a job is printed, in lp's words and in CUPS's own.
 bool takeHold(CommandLine &line, const QString &value, Problem *error)
 {
     static const QRegularExpression times(QStringLiteral(R"(\A([01]?\d|2[0-3]):[0-5]\d(:[0-5]\d)?\z)"));
-    static const QStringList names{
-        QStringLiteral("no-hold"), QStringLiteral("indefinite"),  QStringLiteral("day-time"),
-        QStringLiteral("evening"), QStringLiteral("night"),       QStringLiteral("second-shift"),
-        QStringLiteral("weekend"), QStringLiteral("third-shift"),
-    };
-    QString until = value;
-    if (value == u"hold") {
-        until = QStringLiteral("indefinite");
-    } else if (value == u"immediate") {
-        until = QStringLiteral("no-hold");
-    } else if (value == u"restart" || value == u"resume") {
+    if (value == u"restart" || value == u"resume") {
         return refuse(
             error,
             QStringLiteral("-H %1 is for a job that is there already: use lp -i QUEUE-NUMBER -H %1.").arg(value));
-    } else if (!names.contains(value) && !times.match(value).hasMatch()) {
+    }
+    const auto *known = std::find_if(holdWordTable.begin(), holdWordTable.end(),
+                                     [&value](const HoldWord &each) { return value == QLatin1String(each.word); });
+    if (known == holdWordTable.end() && !times.match(value).hasMatch()) {
         return refuse(error, QStringLiteral("\"%1\" is no time to print at: give -H immediate, hold, HH:MM (UTC), "
                                             "day-time, evening, night, weekend, second-shift or third-shift.")
                                  .arg(value));
     }
-    line.request.options.set(QStringLiteral("job-hold-until"), until);
+    line.request.options.set(QStringLiteral("job-hold-until"),
+                             known == holdWordTable.end() ? value : QString::fromLatin1(known->cups));
     return true;
 }
 
@@ -146,7 +160,7 @@ bool takePdf(CommandLine &line, const QString &value, Problem *error)
     return takeText(&line.request.pdfPath, value, "--pdf needs the name of a file.", error);
 }
 
-/// For the shells' completions: arguments, queues, options, or choices:OPTION.
+/// For the shells' completions: arguments, queues, times, options, or choices:OPTION.
 bool takeCompletion(CommandLine &line, const QString &value, Problem *error)
 {
     return takeText(&line.complete, value, "--complete needs to be told what.", error);
@@ -185,7 +199,7 @@ constexpr std::array options{
     ProgramOption{"-P", "PAGES", ValueKind::Text, takePages, "the pages to print, such as 1-4,7"},
     ProgramOption{"-t", "TITLE", ValueKind::Text, takeTitle, "the title of the job"},
     ProgramOption{"-q", "PRIORITY", ValueKind::Text, takePriority, "the priority of the job, from 1 to 100"},
-    ProgramOption{"-H", "WHEN", ValueKind::Text, takeHold,
+    ProgramOption{"-H", "WHEN", ValueKind::Time, takeHold,
                   "when to print: immediate, hold, HH:MM (UTC), day-time, evening, night, weekend,\n"
                   "second-shift, third-shift"},
     ProgramOption{"-h", "HOST[:PORT]", ValueKind::Text, takeServer, "the print server"},
@@ -250,6 +264,17 @@ constexpr std::array insteads{
 std::span<const ProgramOption> programOptions()
 {
     return options;
+}
+
+QStringList holdWords()
+{
+    QStringList words;
+    for (const HoldWord &each : holdWordTable) {
+        if (each.isListed) {
+            words.append(QString::fromLatin1(each.word));
+        }
+    }
+    return words;
 }
 
 QString insteadOfLetter(QChar letter)

@@ -5,6 +5,7 @@
 #include "tapeprint/CommandLine.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <span>
 
@@ -12,7 +13,7 @@ namespace tapeprint
 {
 
 /// What a value of an option is, for completing it.
-enum class ValueKind { None, Text, Queue, JobOption, File };
+enum class ValueKind { None, Text, Queue, JobOption, File, Time };
 
 /// An option as it is written: one letter with lp's meaning, or a long one of the dialog's own.
 struct ProgramOption {
@@ -30,6 +31,9 @@ struct ProgramOption {
 
 /// All options, in the order of --help.
 std::span<const ProgramOption> programOptions();
+
+/// The words that -H takes; it takes times of the clock, too.
+QStringList holdWords();
 
 /// What to use instead of a letter of lp that this program does not take; null for any other.
 QString insteadOfLetter(QChar letter);

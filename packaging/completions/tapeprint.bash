@@ -32,7 +32,7 @@ _tapeprint() {
         [[ $word == "$previous" ]] && printf '%s' "$meaning"
     done)
     case $kind in
-    queue) _tapeprint_offer "$current" < <(_tapeprint_ask queues) ;;
+    queue | time) _tapeprint_offer "$current" < <(_tapeprint_ask "${kind}s") ;;
     option)
         if [[ $current == *=* ]]; then
             _tapeprint_offer "${current#*=}" < <(_tapeprint_ask "choices:${current%%=*}")

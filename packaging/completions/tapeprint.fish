@@ -30,6 +30,7 @@ function __tapeprint_options
 end
 
 complete -c tapeprint -n '__tapeprint_after queue' -f -a '(__tapeprint_ask queues)'
+complete -c tapeprint -n '__tapeprint_after time' -f -a '(__tapeprint_ask times)'
 complete -c tapeprint -n '__tapeprint_after option' -f -a '(__tapeprint_options)'
 complete -c tapeprint -n '__tapeprint_after text' -f
 complete -c tapeprint -n 'string match -q -- "-*" (commandline -ct)' -f -a '(tapeprint --complete arguments 2>/dev/null | string replace -r "\t.*" "")'

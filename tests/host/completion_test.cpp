@@ -45,6 +45,15 @@ TEST_F(Completions, OfOptionsAndChoices_AreThoseOfTheDescription)
     EXPECT_TRUE(words({u"--complete"_qs, u"arguments"_qs}).contains(u"--ppd\tfile"_qs));
 }
 
+TEST_F(Completions, OfTimes_AreThoseThatTheProgramTakes)
+{
+    const QStringList times = words({u"--complete"_qs, u"times"_qs});
+    EXPECT_EQ(times.size(), 8);
+    for (const QString &time : times) {
+        EXPECT_EQ(run({u"-H"_qs, time.chopped(1), u"--version"_qs}).status, testsupport::done);
+    }
+}
+
 TEST_F(Completions, WithoutAServer_AreNone)
 {
     EXPECT_EQ(words({u"--complete"_qs, u"queues"_qs}), QStringList());
@@ -59,6 +68,7 @@ TEST_F(Completions, OfBash_FollowThePrinterOfTheLine)
     EXPECT_EQ(offered(u"--ppd te"_qs), QStringList{u"test.ppd"_qs});
     EXPECT_EQ(offered(u"lab"_qs), QStringList{u"label.txt"_qs});
     EXPECT_EQ(offered(u"-t lab"_qs), QStringList());
+    EXPECT_EQ(offered(u"-H h"_qs), QStringList{u"hold"_qs});
     EXPECT_EQ(offered(u"-d "_qs), QStringList()); // without a server there is no queue, and a file is none
 }
 

@@ -19,7 +19,9 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -84,6 +86,22 @@ TEST_F(ConfinedProgram, SeesTheFilesThatItIsGivenAndCannotChangeThem)
     EXPECT_EQ(file.readAll(), "mine");
 }
 
+TEST_F(ConfinedProgram, SeesWhatItIsGivenOfTheOtherTemporaryFolder)
+{
+    const QTemporaryDir elsewhere(u"/var/tmp/tapeprint-test-XXXXXX"_qs);
+    const QString given = hosttest::writeFile(elsewhere, u"given"_qs, "mine");
+    hosttest::writeFile(elsewhere, u"other"_qs, "private");
+    run(QStringLiteral("cat '%1'; ls '%2'; touch /var/tmp/a || echo refused").arg(given, elsewhere.path()), {given});
+    EXPECT_EQ(output, "minegiven\nrefused\n");
+}
+
+TEST_F(ConfinedProgram, WithNothingToSeeInTheOtherTemporaryFolder_HasOneForBoth)
+{
+    run(u"echo word > /var/tmp/a && cat /tmp/a"_qs);
+    EXPECT_EQ(output, "word\n");
+    EXPECT_FALSE(QFileInfo::exists(u"/var/tmp/a"_qs));
+}
+
 TEST_F(ConfinedProgram, WritesIntoItsOwnTemporaryFolderAlone)
 {
     run(u"touch \"$TMPDIR\"/a && echo own; for place in / /etc /usr /var /dev /dev/shm; do "
@@ -101,12 +119,43 @@ TEST_F(ConfinedProgram, SeesTheMachinesSettingsThatAreForEverybodyAlone)
 TEST_F(ConfinedProgram, SeesNoHomeNoSessionAndNoOtherProcess)
 {
     qputenv("TAPEPRINT_TEST_SECRET", "secret");
-    run(u"ls -d /home/* /root /run /mnt; env | grep -c SECRET; ls /proc | grep -c '^[0-9]'"_qs);
+    run(u"ls -d /home/* /root /run /mnt; cat /proc/[0-9]*/environ | grep -c SECRET; ls /proc | grep -c '^[0-9]'"_qs);
     qunsetenv("TAPEPRINT_TEST_SECRET");
     const QList<QByteArray> lines = output.trimmed().split('\n');
     ASSERT_EQ(lines.size(), 2) << output.toStdString(); // ls finds nothing
     EXPECT_EQ(lines[0], "0");
     EXPECT_LT(lines[1].toInt(), 10);
+}
+
+TEST_F(ConfinedProgram, HoldsNoFileThatThisProgramHasOpen)
+{
+    const QString mine = hosttest::writeFile(folder, u"mine"_qs, "private");
+    const int handle = open(QFile::encodeName(mine).constData(), O_RDONLY);
+    ASSERT_GE(handle, 0);
+    run(QStringLiteral("cat /proc/self/fd/%1 || echo hidden").arg(handle));
+    close(handle);
+    EXPECT_EQ(output, "hidden\n");
+}
+
+TEST_F(ConfinedProgram, ThatDoesWithoutSettings_SeesFontsAlone)
+{
+    ConfinedCommand command{u"/bin/sh"_qs, {u"-c"_qs, u"ls /etc; ls -d /dev; echo x > /etc/a; echo x > /a; env"_qs}};
+    command.seesSettings = false;
+    command.environment = {{u"HOME"_qs, u"/nowhere"_qs}};
+    runConfined(
+        command,
+        [this](const QByteArray &bytes) {
+            output += bytes;
+            return true;
+        },
+        &stop, longestRun);
+    QList<QByteArray> lines = output.trimmed().split('\n');
+    ASSERT_GE(lines.size(), 2) << output.toStdString();
+    EXPECT_EQ(lines.takeFirst(), "fonts");
+    EXPECT_EQ(lines.takeFirst(), "ld.so.cache");
+    EXPECT_FALSE(lines.contains("/dev"));
+    EXPECT_TRUE(lines.contains("HOME=/nowhere"));
+    EXPECT_FALSE(lines.contains("HOME=/tmp"));
 }
 
 TEST_F(ConfinedProgram, IsBounded)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // One press of Print as the window sees it, and what is said of a job.
+#include "dialog/JobRow.h"
 #include "dialog/PasswordQuestion.h"
 #include "dialog/PrintRun.h"
 #include "tests/support/TextPrinting.h"
@@ -8,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
+#include <QProgressBar>
 #include <QTest>
 #include <QThread>
 
@@ -85,10 +87,37 @@ TEST(JobNews, PiecesThatAreOut_TellHowMuchOfItIsPrinted)
     prints.piecesOut = 891;
     EXPECT_EQ(percentOf(prints, 2000), 44);
     EXPECT_LT(percentOf(prints, 0), 0);
+    prints.printerReasons = QStringList{u"media-empty-error"_qs};
+    EXPECT_EQ(percentOf(prints, 2000), 44);
     prints.piecesOut = 2001; // a banner before them
     EXPECT_EQ(percentOf(prints, 2000), 100);
-    prints.printerReasons = QStringList{u"media-empty-error"_qs};
-    EXPECT_LT(percentOf(prints, 2000), 0);
+}
+
+TEST(JobNews, JobThatWaits_IsNotShownAsBusy)
+{
+    const auto percentOf = [](const job::JobStatus &status) {
+        return job::JobNews{{u"tape"_qs, 7, true}, status}.percentOf(2000);
+    };
+    EXPECT_EQ(percentOf(statusOf(IPP_JSTATE_HELD)), 0);
+    EXPECT_EQ(percentOf(statusOf(IPP_JSTATE_PENDING)), 0);
+    job::JobStatus waits = statusOf(IPP_JSTATE_PROCESSING);
+    waits.isStopped = true;
+    EXPECT_EQ(percentOf(waits), 0);
+}
+
+TEST(JobRow, BarThatHasNothingToShow_IsNotShown)
+{
+    dialog::JobRow row;
+    const auto *bar = row.findChild<QProgressBar *>();
+    row.tell(u"Job tape-7 waits: out of tape."_qs, 0);
+    EXPECT_TRUE(bar->isHidden());
+    row.tell(u"Job tape-7 is being printed."_qs, -1);
+    EXPECT_FALSE(bar->isHidden());
+    EXPECT_EQ(bar->maximum(), 0); // it moves
+    row.tell(u"Job tape-7 waits: out of tape."_qs, 44);
+    EXPECT_FALSE(bar->isHidden());
+    EXPECT_EQ(bar->value(), 44);
+    EXPECT_EQ(bar->maximum(), 100);
 }
 
 /// What the server does; threads may look at it when the test is over.

@@ -374,20 +374,27 @@ TEST_F(FakeDrawer, ReachesNoFileOfThePersonsAndNoNetwork)
 {
     const auto quoted = [this](const QString &name) { return QByteArray("'" + folder.path(name).toLocal8Bit() + "'"); };
     folder.write(u"secret"_qs, "mine");
+    qputenv("TAPEPRINT_TEST_SECRET", "mine");
     // What it can do is told by the sizes of the pages: a document that has taken it over has no other way out.
-    const auto drawer = open("def can(what):\n"
-                             "  try: what(); return 2\n"
-                             "  except OSError: return 1\n"
-                             "def connect(): socket.socket().connect(('192.0.2.1', 9))\n"
-                             "greet(); question()\n"
-                             "document(page(can(lambda: open(" +
-                             quoted(u"secret"_qs) + ")), can(lambda: open(" + quoted(u"label.pdf"_qs) +
-                             "))) + page(can(connect), can(lambda: open('/etc/passwd'))))\n"
-                             "can(lambda: open(" +
-                             quoted(u"new"_qs) + ", 'w'))\n" + "dots(question())\n");
+    const auto drawer =
+        open("def can(what):\n"
+             "  try: what(); return 2\n"
+             "  except OSError: return 1\n"
+             "def connect(): socket.socket().connect(('192.0.2.1', 9))\n"
+             "def secret():\n"
+             "  if b'TAPEPRINT_TEST_SECRET' not in open('/proc/1/environ', 'rb').read(): raise OSError\n"
+             "greet(); question()\n"
+             "document(page(can(lambda: open(" +
+             quoted(u"secret"_qs) + ")), can(lambda: open(" + quoted(u"label.pdf"_qs) +
+             "))) + page(can(connect), can(lambda: open('/etc/passwd')))"
+             " + page(can(lambda: open('/etc/fonts/fonts.conf')), can(secret)), count=3)\n"
+             "can(lambda: open(" +
+             quoted(u"new"_qs) + ", 'w'))\n" + "dots(question())\n");
+    qunsetenv("TAPEPRINT_TEST_SECRET");
     ASSERT_NE(drawer, nullptr);
     EXPECT_EQ(drawer->size(0), QSizeF(1, 1));
-    EXPECT_EQ(drawer->size(1), QSizeF(1, 2)); // the machine's settings are seen, as by filters
+    EXPECT_EQ(drawer->size(1), QSizeF(1, 1));
+    EXPECT_EQ(drawer->size(2), QSizeF(2, 1)); // fonts are seen
     EXPECT_FALSE(drawer->draw(0, fewDots, goOn).isNull());
     EXPECT_FALSE(QFileInfo::exists(folder.path(u"new"_qs))); // what it wrote went with its room
 }
