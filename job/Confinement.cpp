@@ -102,8 +102,9 @@ QStringList fontArguments()
 
 QStringList makeRoomArguments(bool seesSettings)
 {
+    // Root would keep its rights over the room, and could make what is shown read-only writable.
     return QStringList{QStringLiteral("--unshare-all"), QStringLiteral("--die-with-parent"),
-                       QStringLiteral("--new-session")} +
+                       QStringLiteral("--new-session"), QStringLiteral("--cap-drop"), QStringLiteral("ALL")} +
            systemArguments() + (seesSettings ? settingsArguments() + sealedDevices() : fontArguments()) +
            QStringList{QStringLiteral("--proc"),  QStringLiteral("/proc"),  QStringLiteral("--perms"),
                        QStringLiteral("0700"),    QStringLiteral("--size"), QString::number(mostTemporaryBytes),

@@ -137,6 +137,18 @@ TEST_F(ConfinedProgram, HoldsNoFileThatThisProgramHasOpen)
     EXPECT_EQ(output, "hidden\n");
 }
 
+TEST_F(ConfinedProgram, CannotMakeWritableWhatItIsShown_NotEvenRoots)
+{
+    QDir(folder.path()).mkdir(u"shown"_qs);
+    const QString shown = folder.filePath(u"shown"_qs);
+    run(QStringLiteral("mount -o remount,bind,rw '%1' && touch '%1/a'; unshare -Urm mount -o remount,bind,rw '%1';"
+                       "touch '%1/a' || echo refused")
+            .arg(shown),
+        {shown});
+    EXPECT_EQ(output, "refused\n");
+    EXPECT_TRUE(QDir(shown).isEmpty());
+}
+
 TEST_F(ConfinedProgram, ThatDoesWithoutSettings_SeesFontsAlone)
 {
     ConfinedCommand command{u"/bin/sh"_qs, {u"-c"_qs, u"ls /etc; ls -d /dev; echo x > /etc/a; echo x > /a; env"_qs}};
