@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
-// Throws are caught where the toolkit hands an event out, which is next to the panel's own code; crashes can only be
-// named.
+// Throws are caught where the toolkit hands an event out, which is next to the panel's own code, and events that do not
+// end are noticed there; crashes can only be named.
 #include "dialog/Application.h"
 
+#include "dialog/CallWatch.h"
 #include "dialog/Panels.h"
 
 #include <QPointer>
+#include <QThread>
 
 #include <array>
 #include <csignal>
 #include <cstring>
 #include <exception>
+#include <optional>
 
 #include <unistd.h>
 
@@ -39,6 +42,10 @@ void nameAndEnd(int signal)
 bool Application::deliver(QObject *receiver, const std::function<bool()> &delivery)
 {
     const QPointer<QObject> known(receiver);
+    std::optional<CallWatch::Part> part; // threads beside the window's have events as well
+    if (QThread::currentThread() == instance()->thread()) {
+        part.emplace(CallWatch::Work::Event, Panels::nameOfWhoseView(receiver));
+    }
     try {
         return delivery();
     } catch (const std::exception &thrown) {

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
-// Names a panel whose call does not come back while it does not: on standard error, from a thread of its own, for the
-// program's own can say nothing meanwhile.
+// Names a panel that keeps the window's thread to itself while it does: on standard error, from a thread of its own,
+// for the program's own can say nothing meanwhile.
 #pragma once
 
+#include <QAbstractEventDispatcher>
 #include <QByteArray>
+#include <QObject>
+#include <QPointer>
 
 #include <chrono>
 #include <condition_variable>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -14,39 +18,69 @@
 namespace tapeprint::dialog
 {
 
+/// All but the thread of its own happens in the window's.
 class CallWatch
 {
 public:
-    CallWatch() = default;
+    static CallWatch &ofWindow();
+    CallWatch();
     CallWatch(const CallWatch &) = delete;
     CallWatch &operator=(const CallWatch &) = delete;
     ~CallWatch();
 
-    /// A call begins, or one goes on that another was made from within.
-    /// \param who the panel as sentences name it, in the encoding of the terminal.
-    void begin(const QByteArray &who);
-    /// The call is over, or waits for events: what a person is asked has all the time there is.
-    void rest();
-    /// The call has got an event.
-    void goOn();
+    /// What the window's thread is at: a call of a panel, which is to come back, or an event, which is to be over.
+    enum class Work { Call, Event };
+
+    /// The thread is at it for as long as this lives. Within one there may be others: the innermost counts, and what a
+    /// person is asked meanwhile does not.
+    class Part
+    {
+    public:
+        /// \param who the panel as sentences name it, in the encoding of the terminal; null for an event that is in no
+        /// panel's view.
+        Part(Work work, const QByteArray &who);
+        ~Part();
+        Part(const Part &) = delete;
+        Part &operator=(const Part &) = delete;
+
+    private:
+        friend class CallWatch;
+        struct State {
+            Work work = Work::Event;
+            QByteArray who;
+            std::optional<std::chrono::steady_clock::time_point> since; ///< none while nothing is waited for
+        };
+
+        State mBefore;
+        unsigned mRestsBefore = 0;
+        bool mIsWatched = true;
+    };
+
     /// Whether nothing is watched, for another tells of these calls.
     void sleep(bool isAsleep);
 
 private:
     using Clock = std::chrono::steady_clock;
+    class Heart;
 
     void start();
+    void followEvents();
+    void rest();
+    void goOn();
+    void wake();
     void run();
     void tell() const;
-    void countFromNow();
 
-    std::mutex mMutex; // for all below but the thread
-    std::condition_variable mWaking;
-    QByteArray mWho;
-    std::optional<Clock::time_point> mSince; ///< of the silence; none while nothing is waited for
+    std::mutex mMutex;    ///< for what both threads use
+    Part::State mDoing;   ///< under the lock, but that the window's thread, which alone changes it, may read it
+    bool mIsIdle = false; ///< under the lock
+    bool mIsOver = false; ///< under the lock
+    unsigned mRests = 0;  ///< how often the thread has shown that it looks for events
+    int mDepth = 0;       ///< of parts within parts
     bool mIsAsleep = false;
-    bool mIsIdle = false;
-    bool mIsOver = false;
+    QPointer<QAbstractEventDispatcher> mEvents; ///< those that are followed
+    std::unique_ptr<Heart> mHeart;
+    std::condition_variable mWaking;
     std::thread mThread;
 };
 

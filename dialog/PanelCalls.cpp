@@ -2,6 +2,7 @@
 // A throw ends the one call; a panel that keeps the thread to itself is named afterwards.
 #include "dialog/PanelCalls.h"
 
+#include "dialog/CallWatch.h"
 #include "job/PlainText.h"
 #include "job/Reason.h"
 #include "job/Texts.h"
@@ -33,24 +34,15 @@ constexpr qsizetype mostSentences = 20;
 class InCall
 {
 public:
-    InCall(const QString &who, CallWatch &watch) : mBefore(text()), mWatch(watch)
+    explicit InCall(const QByteArray &who) : mBefore(text()), mPart(CallWatch::Work::Call, who)
     {
-        const QByteArray bytes = who.toLocal8Bit().left(static_cast<qsizetype>(text().size()) - 1);
+        const QByteArray bytes = who.left(static_cast<qsizetype>(text().size()) - 1);
         text().fill('\0');
         std::copy(bytes.begin(), bytes.end(), text().begin());
-        mWatch.begin(bytes);
     }
     InCall(const InCall &) = delete;
     InCall &operator=(const InCall &) = delete;
-    ~InCall()
-    {
-        text() = mBefore;
-        if (mBefore.front() != '\0') {
-            mWatch.begin(mBefore.data());
-        } else {
-            mWatch.rest();
-        }
-    }
+    ~InCall() { text() = mBefore; }
 
     static std::array<char, 512> &text()
     {
@@ -60,24 +52,20 @@ public:
 
 private:
     std::array<char, 512> mBefore;
-    CallWatch &mWatch;
+    CallWatch::Part mPart;
 };
 
 /// How long a thread went without looking for events. What a person is asked meanwhile does not count.
 class Silence
 {
 public:
-    explicit Silence(CallWatch &watch)
+    Silence()
     {
         mSince.start();
         if (auto *events = QAbstractEventDispatcher::instance()) {
-            mBlocking = QObject::connect(events, &QAbstractEventDispatcher::aboutToBlock, [this, &watch] {
-                endOne();
-                watch.rest();
-            });
-            mAwaking = QObject::connect(events, &QAbstractEventDispatcher::awake, [this, &watch] {
+            mBlocking = QObject::connect(events, &QAbstractEventDispatcher::aboutToBlock, [this] { endOne(); });
+            mAwaking = QObject::connect(events, &QAbstractEventDispatcher::awake, [this] {
                 mSince.restart(); // what went by since was waiting
-                watch.goOn();
             });
         }
     }
@@ -114,8 +102,8 @@ bool PanelCalls::make(const QString &who, const std::function<void()> &call)
     }
     ++mDepth;
     const auto leave = qScopeGuard([this] { --mDepth; });
-    const InCall inCall(who, mWatch);
-    Silence silence(mWatch);
+    const InCall inCall(who.toLocal8Bit());
+    Silence silence;
     bool isDone = false;
     try {
         call();

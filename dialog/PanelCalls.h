@@ -3,8 +3,6 @@
 // panel at the most, and never without a name.
 #pragma once
 
-#include "dialog/CallWatch.h"
-
 #include <QString>
 #include <QStringList>
 
@@ -20,8 +18,6 @@ public:
     /// throws, or that panels made from within too many others, did not, and a sentence says so. One that does not come
     /// back is named meanwhile.
     bool make(const QString &who, const std::function<void()> &call);
-    /// While a bundle is guarded, its guard says that it does not come back.
-    void leaveToGuard(bool isGuarded) { mWatch.sleep(isGuarded); }
     /// Whether a call is under way. An event loop that a panel runs meanwhile, such as that of an alert, may bring
     /// anything; what frees a panel has to wait.
     bool isUnderWay() const { return mDepth > 0; }
@@ -38,7 +34,6 @@ public:
     void forget() { mSentences.clear(); }
 
 private:
-    CallWatch mWatch;
     int mDepth = 0;
     QStringList mSentences;
 };

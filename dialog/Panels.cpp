@@ -2,6 +2,7 @@
 // The traffic with panels. Panels borrow the job's objects, so they always go first.
 #include "dialog/Panels.h"
 
+#include "dialog/CallWatch.h"
 #include "job/IppAttributeNames.h"
 #include "job/PlainText.h"
 #include "job/PpdMarks.h"
@@ -42,6 +43,16 @@ bool hasControlCharacters(const QString &text)
     return std::any_of(text.begin(), text.end(),
                        [](QChar letter) { return letter.category() == QChar::Other_Control; });
 }
+
+/// While a bundle is guarded, its guard says that it does not come back.
+class LeftToGuard
+{
+public:
+    LeftToGuard() { CallWatch::ofWindow().sleep(true); }
+    ~LeftToGuard() { CallWatch::ofWindow().sleep(false); }
+    LeftToGuard(const LeftToGuard &) = delete;
+    LeftToGuard &operator=(const LeftToGuard &) = delete;
+};
 
 /// The panels of all windows of the program.
 std::vector<Panels *> &allPanels()
@@ -101,7 +112,11 @@ void Panels::reopen(const QString &instance, const job::JobOptions &saved, const
 void Panels::make()
 {
     mCalls.forget();
-    pdekit::LoadedBundles loaded = pdekit::loadBundles(mBundleFolders, mJob.ppd());
+    pdekit::LoadedBundles loaded;
+    {
+        const LeftToGuard leftToGuard;
+        loaded = pdekit::loadBundles(mBundleFolders, mJob.ppd());
+    }
     for (const QString &problem : loaded.problems) {
         mNotices.append(job::harmless(problem));
     }
@@ -124,8 +139,7 @@ void Panels::makePanelsOf(const pdekit::LoadedBundle &bundle)
                             .arg(bundle.path, job::reasonText(guard.reasonToSkip())));
         return;
     }
-    mCalls.leaveToGuard(true);
-    const auto watchAgain = qScopeGuard([this] { mCalls.leaveToGuard(false); });
+    const LeftToGuard leftToGuard;
     const auto host = mHosts.emplace_back(std::make_shared<PanelHost>(mJob, *this, bundle.path));
     // A copy: the array is the plug-in's, and its panels are called before all of it is read. An empty one is an
     // answer.
@@ -168,22 +182,37 @@ void Panels::addPanel(const std::shared_ptr<pdekit::Panel> &panel, const QString
         mNotices.append(tr("The panel \"%1\" of %2 has no view: its values are printed as they are laid down.")
                             .arg(entry.name, bundlePath));
     }
+    entry.terminalWho = entry.who.toLocal8Bit();
     mPanels.push_back(std::move(entry));
 }
 
-bool Panels::takeThrow(const QObject *receiver, const QString &reason)
+std::pair<Panels *, const PanelEntry *> Panels::inWhoseView(const QObject *receiver)
 {
-    for (Panels *panels : allPanels()) {
-        for (const PanelEntry &entry : panels->mPanels) {
-            for (const QObject *object = receiver; object != nullptr; object = object->parent()) {
+    for (const QObject *object = receiver; object != nullptr; object = object->parent()) {
+        for (Panels *panels : allPanels()) {
+            for (const PanelEntry &entry : panels->mPanels) {
                 if (object == entry.view) {
-                    panels->mCalls.tellThrown(entry.who, reason);
-                    return true;
+                    return {panels, &entry};
                 }
             }
         }
     }
-    return false;
+    return {};
+}
+
+bool Panels::takeThrow(const QObject *receiver, const QString &reason)
+{
+    const auto [panels, entry] = inWhoseView(receiver);
+    if (entry != nullptr) {
+        panels->mCalls.tellThrown(entry->who, reason);
+    }
+    return entry != nullptr;
+}
+
+QByteArray Panels::nameOfWhoseView(const QObject *receiver)
+{
+    const PanelEntry *entry = inWhoseView(receiver).second;
+    return entry != nullptr ? entry->terminalWho : QByteArray();
 }
 
 bool Panels::takeChoice(const QString &key, const QString &choice, const QString &bundlePath)

@@ -34,8 +34,9 @@ namespace tapeprint::dialog
 /// A panel and what it said of itself.
 struct PanelEntry {
     std::shared_ptr<pdekit::Panel> panel;
-    QString name; ///< the bundle's, when the panel has none
-    QString who;  ///< panel and bundle, as sentences name them
+    QString name;           ///< the bundle's, when the panel has none
+    QString who;            ///< panel and bundle, as sentences name them
+    QByteArray terminalWho; ///< the same in the encoding of the terminal
     QStringList supportedKeys;
     QPointer<QWidget> view;          ///< null when the panel could not make it
     std::map<QString, QString> told; ///< the choice of each option that it was told last
@@ -117,6 +118,9 @@ public:
     /// Something in a panel's view threw: kept as a sentence. \param receiver who was handed an event; may be null.
     /// \param reason may be empty. \return whether it was in a panel's view.
     static bool takeThrow(const QObject *receiver, const QString &reason);
+    /// The panel in whose view somebody is who was handed an event, as sentences name it, in the encoding of the
+    /// terminal. \param receiver may be null. \return null when it is in no panel's view.
+    static QByteArray nameOfWhoseView(const QObject *receiver);
     /// From the callback: a panel sends a choice. One that no job can carry is left out, and that is said.
     bool takeChoice(const QString &key, const QString &choice, const QString &bundlePath);
     /// From the callback: a panel changed the size of its view.
@@ -129,6 +133,7 @@ Q_SIGNALS:
     void panelResized();
 
 private:
+    static std::pair<Panels *, const PanelEntry *> inWhoseView(const QObject *receiver);
     void release();
     void make();
     void makePanelsOf(const pdekit::LoadedBundle &bundle);

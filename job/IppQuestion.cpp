@@ -11,6 +11,10 @@ namespace tapeprint::job
 namespace
 {
 
+/// A question is asked so often of a server that wants something first: three passwords, and encryption. One that
+/// always wants more is left.
+constexpr int mostTimes = 6;
+
 /// A connection as ippReadIO reads from it. It ends with the message, whatever comes after that.
 struct Source {
     http_t *http = nullptr;
@@ -86,23 +90,52 @@ Response heardAnswer(const ServerConnection &server)
     return answer;
 }
 
+http_status_t statusOfQuestion(http_t *http, ipp_t *request, const char *resource)
+{
+    const http_status_t status = cupsSendRequest(http, request, resource, ippLength(request));
+    return status <= HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK ? statusOfAnswer(http) : status;
+}
+
+/// Does what a server wants before it answers: gives a password, or goes over to encryption.
+/// \param status takes why not. \return whether the question is to be asked again.
+bool complies(const ServerConnection &server, const char *resource, http_status_t *status)
+{
+    http_t *http = server.http();
+    if (*status != HTTP_STATUS_UNAUTHORIZED && *status != HTTP_STATUS_UPGRADE_REQUIRED) {
+        return false;
+    }
+    httpFlush(http);
+    if (*status == HTTP_STATUS_UNAUTHORIZED && cupsDoAuthentication(http, "POST", resource) != 0) {
+        *status = HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
+        return false;
+    }
+    if (!server.connectAgain()) {
+        *status = HTTP_STATUS_ERROR;
+        return false;
+    }
+    return *status != HTTP_STATUS_UPGRADE_REQUIRED || httpEncryption(http, HTTP_ENCRYPTION_REQUIRED) == 0;
+}
+
 } // namespace
 
 Response askServer(const ServerConnection &server, ipp_t *request, const char *resource)
 {
-    http_t *http = server.http();
+    const Response owned(request);
     server.hear({});
-    http_status_t status = cupsSendRequest(http, request, resource, ippLength(request));
-    if (status <= HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK) {
-        status = statusOfAnswer(http);
+    http_status_t status = HTTP_STATUS_ERROR;
+    bool isToBeAsked = true;
+    for (int times = 0; isToBeAsked && times < mostTimes; ++times) {
+        status = statusOfQuestion(server.http(), request, resource);
+        isToBeAsked = complies(server, resource, &status);
     }
-    // Who gave no password is not asked for one a second time.
-    if (status == HTTP_STATUS_OK || status == HTTP_STATUS_ERROR || status == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED) {
-        ippDelete(request);
-        return status == HTTP_STATUS_OK ? heardAnswer(server) : nullptr;
+    if (status == HTTP_STATUS_OK) {
+        return heardAnswer(server);
     }
-    httpFlush(http);
-    return Response(cupsDoRequest(http, request, resource)); // it gives a password, or goes over to encryption
+    if (status >= HTTP_STATUS_BAD_REQUEST && status < HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED) {
+        httpFlush(server.http());
+        server.hear(QString::fromUtf8(httpStatus(status)));
+    }
+    return nullptr;
 }
 
 Response answerToData(const ServerConnection &server)

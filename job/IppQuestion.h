@@ -16,7 +16,8 @@ struct ResponseDeleter {
 };
 using Response = std::unique_ptr<ipp_t, ResponseDeleter>;
 
-/// As cupsDoRequest, but the answer is waited for as long as the connection has patience, and read in large pieces.
+/// As cupsDoRequest, passwords and encryption included, but the answer is waited for as long as the connection has
+/// patience, and read in large pieces.
 /// libcups waits for an answer's first byte after its head no longer than until its next look whether to wait on, and
 /// then takes the answer for lost, which a busy server is still writing. And it reads each value by itself, and asks
 /// the system twice before each whether there is any: for the list of five hundred printers a hundred thousand times.

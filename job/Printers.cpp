@@ -28,21 +28,6 @@ namespace tapeprint::job
 namespace
 {
 
-/// Whether a server that took the connection also speaks. Looking for a queue, libcups connects again and again to one
-/// that does not, and each time may take it half a minute.
-bool saysAnything(const ServerConnection &server)
-{
-    httpClearFields(server.http());
-    if (httpOptions(server.http(), "*") != 0) {
-        return false;
-    }
-    http_status_t status = HTTP_STATUS_CONTINUE;
-    while (status == HTTP_STATUS_CONTINUE) {
-        status = httpUpdate(server.http());
-    }
-    return status != HTTP_STATUS_ERROR; // a refusal is an answer as well
-}
-
 struct DestinationDeleter {
     void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
 };
@@ -103,6 +88,16 @@ Response askAbout(const ServerConnection &server, const QString &queue, std::spa
     ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(attributes.size()), nullptr, attributes.data());
     return askServer(server, request);
+}
+
+/// Asks about the queue, or for the server's default, what libcups is about to ask, and throws the answer away. When
+/// libcups gets none it takes the printer for one of the network, and asks again on a connection of its own, which
+/// hears of no change of mind and waits half a minute and more.
+bool isAnswered(const ServerConnection &server, const QString &queue)
+{
+    const Response answer = queue.isEmpty() ? askServer(server, ippNewRequest(IPP_OP_CUPS_GET_DEFAULT))
+                                            : askAbout(server, queue, std::array{"printer-name"});
+    return answer != nullptr || (!server.isStopped() && !server.isUnreachable() && !server.wasRefused());
 }
 
 /// Asks the server for what it knows of the queue alone. What it adds to every job by itself is taken away: only what
@@ -224,9 +219,11 @@ std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueN
 {
     const QString &name = wanted.queue;
     const QString &instance = wanted.instance;
-    if (!server.isOpen() || !saysAnything(server)) {
-        *error = {server.isStopped() ? Problem::Cancelled : Problem::Unreachable,
-                  server.isStopped() ? QString() : ServerConnection::noAnswer()};
+    if (!server.isOpen() || !isAnswered(server, name)) {
+        *error = serverProblem(server);
+        if (error->kind == Problem::Unreachable && !server.wasRefused()) {
+            error->sentence = ServerConnection::noAnswer(); // it has not been heard before
+        }
         return std::nullopt;
     }
     const QByteArray nameBytes = name.toUtf8();

@@ -32,6 +32,8 @@ constexpr milliseconds connectAttempt{800};
 /// Until the next attempt when too many others are being connected.
 constexpr milliseconds whileOthersAreServed{50};
 constexpr int mostQuestions = 3;
+/// Which needs no word.
+constexpr int usualPort = 631;
 
 /// The innermost connection of the thread: connections may be nested.
 thread_local ServerConnection *current = nullptr; // NOLINT(*-avoid-non-const-global-variables): one a thread
@@ -42,9 +44,15 @@ ServerConnection::Patience &patience()
     return ofAll;
 }
 
+/// As CUPS_SERVER takes it: with its port where that is not the usual one.
 QString serverName()
 {
-    return harmless(QString::fromUtf8(cupsServer()));
+    QString name = QString::fromUtf8(cupsServer());
+    if (!name.startsWith(u'/') && ippPort() != usualPort) {
+        const bool isBare = name.contains(u':') && !name.startsWith(u'['); // an IPv6 address
+        name = (isBare ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2")).arg(name).arg(ippPort());
+    }
+    return harmless(name);
 }
 
 /// Whether there is somebody at the other end: libcups may take a local socket on which too many others wait to be let
@@ -128,7 +136,7 @@ bool ServerConnection::reconnect()
     milliseconds patienceNow = connectPatience;
     while (mHttp != nullptr && !isOver() && Clock::now() - start < patienceNow) {
         const Clock::time_point attempt = Clock::now();
-        const bool isReached = httpReconnect2(mHttp, static_cast<int>(connectAttempt.count()), nullptr) == 0;
+        const bool isReached = connectAgain();
         mHasLine = isReached && isConnected(httpGetFd(mHttp));
         if (mHasLine) {
             mHasBeenOpen = true;
@@ -143,6 +151,11 @@ bool ServerConnection::reconnect()
         }
     }
     return false;
+}
+
+bool ServerConnection::connectAgain() const
+{
+    return httpReconnect2(mHttp, static_cast<int>(connectAttempt.count()), nullptr) == 0;
 }
 
 void ServerConnection::allowOnly(milliseconds time)

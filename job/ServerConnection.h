@@ -58,6 +58,9 @@ public:
     http_t *http() const { return mHttp; }
     /// Connects anew, as the same person, after a call failed. \return whether there is a server.
     bool reconnect();
+    /// The same amid a question, to which the server wants a password or encryption first: one attempt. \return whether
+    /// there is a server.
+    bool connectAgain() const;
     /// From now on the stop flag means nothing, nobody is asked for a password, and all calls end at the given time
     /// from now: for putting in order what was begun.
     void allowOnly(std::chrono::milliseconds time);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // The connection to the print server when the server is silent, goes away, or wants a password.
+#include "job/IppQuestion.h"
 #include "job/JobRequests.h"
+#include "job/Printers.h"
 #include "job/ServerConnection.h"
 #include "tests/support/MeddlingServer.h"
 
@@ -41,6 +43,7 @@ protected:
     void TearDown() override
     {
         cupsSetServer(nullptr);
+        ippSetPort(631);
         setPasswordAsker(nullptr);
         ServerConnection::setPatience({});
     }
@@ -109,6 +112,17 @@ TEST_F(ServerConnectionTest, SilentServer_IsSaidOnceAndLeftWhenPatienceEnds)
     EXPECT_LT(steady_clock::now() - start, milliseconds(6000));
     EXPECT_TRUE(server->isUnreachable());
     EXPECT_EQ(told, std::vector<std::string>{socket.toStdString()});
+}
+
+TEST_F(ServerConnectionTest, SilentServerAskedForAQueuesAddress_IsLeftWhenPatienceEnds)
+{
+    ServerConnection::setPatience({milliseconds(500), milliseconds(1000), {}});
+    const MeddlingServer silent(socket, {}, [](const SeenRequest &) { return Meddling::KeepSilent; });
+    const auto server = ServerConnection::open(&stop);
+    const auto start = steady_clock::now();
+    EXPECT_FALSE(addressOf(*server, QStringLiteral("tape")));
+    EXPECT_LT(steady_clock::now() - start, milliseconds(6000));
+    EXPECT_TRUE(server->isUnreachable());
 }
 
 TEST_F(ServerConnectionTest, ServerThatAnswersAfterTheWordAboutItsSilence_IsHeard)
@@ -284,6 +298,75 @@ TEST_F(ServerConnectionTest, ServerThatComesBack_TakesTheSameConnectionAnew)
     around.comeBack();
     EXPECT_TRUE(server->reconnect());
     EXPECT_TRUE(ask(*server));
+}
+
+/// An answer of success whose body comes later than libcups waits between two looks.
+QByteArray lateAnswer(int piece)
+{
+    if (piece == 1) {
+        std::this_thread::sleep_for(milliseconds(500));
+    }
+    const QByteArray body("9\r\n\2\0\0\0\0\0\0\1\3\r\n0\r\n\r\n", 19);
+    return piece == 0   ? "HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\nTransfer-Encoding: chunked\r\n\r\n"
+           : piece == 1 ? body
+                        : QByteArray();
+}
+
+TEST_F(ServerConnectionTest, LateBodyOfAnAnswer_IsWaitedForAfterAPassword)
+{
+    MeddlingServer guarded(socket, {}, [](const SeenRequest &request) {
+        if (request.authorization == "anna:right") {
+            return Meddling::OwnReply;
+        }
+        std::this_thread::sleep_for(milliseconds(1200)); // longer than libcups waits for a refusal when it has asked
+        return Meddling::Deny;
+    });
+    guarded.replyWith(lateAnswer);
+    answerWith({"right"});
+    const auto server = ServerConnection::open(&stop);
+    const Response answer = askServer(*server, ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
+    ASSERT_NE(answer, nullptr) << server->problem().toStdString();
+    EXPECT_EQ(ippGetStatusCode(answer.get()), IPP_STATUS_OK);
+    EXPECT_EQ(questions.size(), 1U);
+}
+
+TEST_F(ServerConnectionTest, ServerThatWantsAPasswordForEver_IsLeft)
+{
+    const MeddlingServer guarded(socket, {}, [](const SeenRequest &) { return Meddling::Deny; });
+    answerWith({"a", "b", "c", "d", "e", "f", "g"});
+    const auto server = ServerConnection::open(&stop);
+    EXPECT_EQ(askServer(*server, ippNewRequest(IPP_OP_CUPS_GET_DEFAULT)), nullptr);
+    EXPECT_TRUE(server->wasRefused());
+    EXPECT_EQ(questions.size(), 3U);
+}
+
+TEST_F(ServerConnectionTest, QueueOfAServerThatIsSilentAfterAWord_IsLookedForNoLongerThanPatienceLasts)
+{
+    ServerConnection::setPatience({milliseconds(300), milliseconds(700), nullptr});
+    for (const QString &name : {QStringLiteral("tape"), QString()}) {
+        const MeddlingServer silent(socket, {}, [](const SeenRequest &request) {
+            return request.operation == 0 ? Meddling::Deny : Meddling::KeepSilent; // which is a word
+        });
+        const auto server = ServerConnection::open(&stop);
+        const auto start = steady_clock::now();
+        Problem problem;
+        EXPECT_FALSE(findQueue(*server, {name, {}}, &problem));
+        EXPECT_LT(steady_clock::now() - start, milliseconds(4000)) << name.toStdString();
+        EXPECT_EQ(problem.kind, Problem::Unreachable) << name.toStdString();
+        EXPECT_TRUE(problem.sentence.contains(u"server.sock does not answer")) << problem.sentence.toStdString();
+    }
+}
+
+TEST_F(ServerConnectionTest, PortThatIsNotTheUsualOne_IsNamed)
+{
+    for (const auto &[given, named] : {std::pair("paper.example:7010", u"paper.example:7010 does not answer"),
+                                       std::pair("paper.example", u"paper.example does not answer"),
+                                       std::pair("paper.example:631", u"paper.example does not answer"),
+                                       std::pair("[fd00::7]:7010", u"[fd00::7]:7010 does not answer")}) {
+        ippSetPort(631);
+        cupsSetServer(given);
+        EXPECT_TRUE(ServerConnection::noAnswer().contains(named)) << ServerConnection::noAnswer().toStdString();
+    }
 }
 
 TEST_F(ServerConnectionTest, WrongPassword_IsAskedForAgainAndTheRightOneHolds)

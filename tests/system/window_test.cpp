@@ -8,6 +8,8 @@
 #include <QImage>
 #include <QThread>
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 
 #include <cups/cups.h>
@@ -334,6 +336,77 @@ TEST_F(WindowJob, ServerThatNeverAnswers_TheWindowIsThereAndCancelEndsIt)
     dialog.press({u"Escape"_qs});
     EXPECT_EQ(dialog.waitForEnd().status, testsupport::cancelled);
     EXPECT_LT(timer.elapsed(), 3000);
+}
+
+/// What a panel does in an event, and what is said of it while it does.
+struct Hang {
+    const char *deeds;
+    const char *begin;
+    const char *end;
+};
+
+class RogueWindow : public systemtest::WindowTest
+{
+protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        if (HasFatalFailure() || IsSkipped()) {
+            return;
+        }
+        ASSERT_TRUE(cups.addRecordedQueue(u"rogue"_qs, u"mm"_qs, "*HostTestRogue: \"A\"\n").isNull());
+    }
+
+    /// Starts a window whose panel does as it is told.
+    void begin(QProcess &program, const char *deeds) const
+    {
+        QProcessEnvironment environment = systemtest::clientEnvironment(variables());
+        environment.insert(u"DISPLAY"_qs, display.name());
+        environment.insert(u"TAPEPRINT_PLUGIN_PATH"_qs, QStringLiteral(ROGUE_BUNDLES));
+        environment.insert(u"HOST_TEST_DEEDS"_qs, QLatin1String(deeds));
+        program.setProcessEnvironment(environment);
+        program.setWorkingDirectory(workFolder);
+        program.start(QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), {u"-d"_qs, u"rogue"_qs, document});
+    }
+};
+
+TEST_F(RogueWindow, PanelWhoseEventDoesNotEnd_IsNamedMeanwhileWhereItIsKnown)
+{
+    constexpr auto panel = "tapeprint: The panel \"Rogue Panel\" of /";
+    constexpr auto inItsView = "/HostTestRogue.bundle: since an event in it the window does not answer. End the "
+                               "program if it never does.\n";
+    constexpr auto nobody = "tapeprint: The window does not answer. End the program if it never does.\n";
+    const std::array hangs{Hang{"click=hang", panel, inItsView}, Hang{"paint=hang", panel, inItsView},
+                           Hang{"timer=hang", panel, inItsView},
+                           Hang{"summaryInfo=ask,timer=hang", panel, inItsView}, // while it asks
+                           Hang{"stray=hang", nobody, nobody}};
+    std::array<QProcess, hangs.size()> programs; // all at once: each is waited for
+    QElapsedTimer time;
+    time.start();
+    QProcess asking;
+    begin(asking, "summaryInfo=ask"); // for longer than it takes to be named
+    for (size_t index = 0; index < hangs.size(); ++index) {
+        begin(programs[index], hangs[index].deeds);
+    }
+    for (size_t index = 0; index < hangs.size(); ++index) {
+        QProcess &program = programs[index];
+        program.setReadChannel(QProcess::StandardError);
+        QByteArray words;
+        while (!words.endsWith("\n") && program.waitForReadyRead(systemtest::patienceMs)) {
+            words += program.readAllStandardError();
+        }
+        EXPECT_TRUE(words.startsWith(hangs[index].begin)) << hangs[index].deeds << ": " << words.toStdString();
+        EXPECT_TRUE(words.endsWith(hangs[index].end)) << hangs[index].deeds << ": " << words.toStdString();
+        EXPECT_EQ(program.state(), QProcess::Running) << hangs[index].deeds;
+        program.kill();
+        EXPECT_TRUE(program.waitForFinished(systemtest::patienceMs));
+    }
+    asking.setReadChannel(QProcess::StandardError);
+    EXPECT_FALSE(asking.waitForReadyRead(static_cast<int>(std::max<qint64>(7000 - time.elapsed(), 0))))
+        << asking.readAllStandardError().toStdString();
+    EXPECT_EQ(asking.state(), QProcess::Running);
+    asking.kill();
+    EXPECT_TRUE(asking.waitForFinished(systemtest::patienceMs));
 }
 
 } // namespace
