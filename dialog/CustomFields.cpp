@@ -157,8 +157,14 @@ void CustomFields::begin()
 {
     mShown.clear();
     commit();
-    mFields.front().edit->setFocus();
-    mFields.front().edit->selectAll();
+    takeKeys();
+}
+
+void CustomFields::takeKeys()
+{
+    QLineEdit *edit = mFields[mProblem->isHidden() ? 0 : mWrong].edit;
+    edit->setFocus();
+    edit->selectAll();
 }
 
 bool CustomFields::commit()
@@ -173,6 +179,7 @@ bool CustomFields::commit()
                     ? problem
                     : tr("%1: %2", "name of a value, and what is wrong with it").arg(mParameters[i].text, problem));
             mProblem->show();
+            mWrong = i;
             return false;
         }
     }

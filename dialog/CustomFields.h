@@ -34,6 +34,8 @@ public:
     void begin();
     /// The person is done with a field: takes over what stands there. \return whether every parameter takes it.
     bool commit();
+    /// The person is led to the field that is wrong, or to the first: what stands there goes with the first key.
+    void takeKeys();
     /// What the fields showed or took last.
     const QString &value() const { return mShown; }
 
@@ -59,6 +61,7 @@ private:
     std::vector<Field> mFields; ///< one each
     QString mShown;             ///< the job's value that the fields show
     QLabel *mProblem = nullptr;
+    std::size_t mWrong = 0; ///< the field that the problem is about
 };
 
 } // namespace tapeprint::dialog

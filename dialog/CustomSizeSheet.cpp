@@ -71,6 +71,8 @@ CustomSizeSheet::CustomSizeSheet(const std::vector<job::CustomParameter> &parame
     rows->addLayout(nameRow);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     rows->addWidget(buttons);
+    rows->setSizeConstraint(QLayout::SetFixedSize); // a sentence about a wrong value is not cut off
+    mFields->takeKeys();
 
     connect(mRememberedPopUp, &QComboBox::activated, this, &CustomSizeSheet::showRemembered);
     connect(mRemoveButton, &QPushButton::clicked, this, &CustomSizeSheet::removeRemembered);
@@ -105,6 +107,7 @@ void CustomSizeSheet::accept()
 {
     // A value out of the limits is refused in a sentence below the fields, and the sheet stays.
     if (!mFields->commit()) {
+        mFields->takeKeys();
         return;
     }
     const QStringList lengths = job::customValuesIn(mParameters, mFields->value());

@@ -89,13 +89,24 @@ QString quoted(const QString &text)
     return u'"' + QString(text).replace(u'\\', QLatin1String("\\\\")).replace(u'"', QLatin1String("\\\"")) + u'"';
 }
 
-QString shortLimit(double value)
+QString shortLimit(double value, int decimals = 3)
 {
-    QString text = pdekit::fixedDecimals(value, 3);
+    QString text = pdekit::fixedDecimals(value, decimals);
     while (text.contains(u'.') && (text.endsWith(u'0') || text.endsWith(u'.'))) {
         text.chop(1);
     }
     return text;
+}
+
+/// A limit of a length as people write it. PPDs have it in points: 4 mm become 3.997. \param inwards 1.0 for the least,
+/// -1.0 for the most: a tidy length is only said when it is taken.
+QString lengthLimit(double value, double inwards)
+{
+    constexpr double tidyDigits = 10.0;
+    constexpr double near = 0.01;
+    const double tidy = std::round(value * tidyDigits) / tidyDigits;
+    const double beyond = (tidy - value) * inwards;
+    return beyond >= 0.0 && beyond < near ? shortLimit(tidy, 1) : shortLimit(value);
 }
 
 QString textProblem(const CustomParameter &parameter, const QString &value)
@@ -222,8 +233,9 @@ std::optional<double> pointsOfLength(const QString &length)
 QString customLimits(const CustomParameter &parameter, bool inInches)
 {
     const double unit = !parameter.isLength() ? 1.0 : inInches ? pointsPerInch : pointsFromMm(1.0);
-    const QString least = shortLimit(parameter.least / unit);
-    const QString most = shortLimit(parameter.most / unit);
+    const bool isInMm = parameter.isLength() && !inInches;
+    const QString least = isInMm ? lengthLimit(parameter.least / unit, 1.0) : shortLimit(parameter.least / unit);
+    const QString most = isInMm ? lengthLimit(parameter.most / unit, -1.0) : shortLimit(parameter.most / unit);
     switch (parameter.kind) {
     case CustomKind::Text:
     case CustomKind::Password:

@@ -94,9 +94,14 @@ QueueAddress addressIn(const char *uri)
     return status < HTTP_URI_STATUS_OK ? QueueAddress() : QueueAddress{uri, resource.data()};
 }
 
-} // namespace
+std::optional<QueueAddress> readAddress(const char *uri)
+{
+    const QueueAddress address = uri == nullptr ? QueueAddress() : addressIn(uri);
+    return address.uri.isEmpty() ? std::nullopt : std::optional(address);
+}
 
-std::optional<QueueAddress> addressOf(const ServerConnection &server, const QString &queue)
+/// The address of a queue that the server makes when it is asked about the printer.
+std::optional<QueueAddress> addressOnNetwork(const ServerConnection &server, const QString &queue)
 {
     const QByteArray name = queue.toUtf8();
     const auto find = [&server, &name] {
@@ -108,13 +113,26 @@ std::optional<QueueAddress> addressOf(const ServerConnection &server, const QStr
     };
     auto destination = find();
     if (destination && uriOf(*destination) == nullptr && !server.isStopped()) {
-        // The question makes the queue.
         const std::unique_ptr<cups_dinfo_t, InfoDeleter> made(cupsCopyDestInfo(server.http(), destination.get()));
         destination = made ? find() : nullptr;
     }
-    const char *uri = destination && !server.isStopped() ? uriOf(*destination) : nullptr;
-    const QueueAddress address = uri == nullptr ? QueueAddress() : addressIn(uri);
-    return address.uri.isEmpty() ? std::nullopt : std::optional(address);
+    return destination && !server.isStopped() ? readAddress(uriOf(*destination)) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<QueueAddress> addressOf(const ServerConnection &server, const QString &queue)
+{
+    ipp_t *request = aboutPrinter(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    askFor(request, std::array{"printer-uri-supported"});
+    const Response response = askServer(server, request);
+    ipp_attribute_t *uri = ippFindAttribute(response.get(), "printer-uri-supported", IPP_TAG_URI);
+    if (uri != nullptr) {
+        return readAddress(ippGetString(uri, 0, nullptr));
+    }
+    // libcups asks a server that says nothing once more, on a connection of its own that hears of no change of mind.
+    const bool isAnswered = response || !(server.isUnreachable() || server.wasRefused());
+    return isAnswered && !server.isStopped() ? addressOnNetwork(server, queue) : std::nullopt;
 }
 
 std::optional<int> createJob(const ServerConnection &server, const QueueAddress &address, const QString &title,

@@ -211,13 +211,21 @@ TEST_F(CustomSizeWindow, Size_IsEnteredWithinTheLimitsRememberedAndRemoved)
     pick(u"Custom…"_qs);
     ASSERT_NE(sheet(), nullptr);
     EXPECT_EQ(child<QComboBox>(u"tape"_qs)->currentText(), u"12 mm"_qs); // until there is a size
+    auto *width = sheet()->findChild<QLineEdit *>(u"customSize/Width"_qs);
+    EXPECT_EQ(sheet()->focusWidget(), width);
+    EXPECT_EQ(width->selectedText(), width->text()); // the first key replaces it
     enter(u"customSize/Width"_qs, u"60"_qs);
     enter(u"customSize/Height"_qs, u"30,5"_qs);
     enter(u"sizeName"_qs, u"Shelf"_qs);
+    sheet()->findChild<QLineEdit *>(u"sizeName"_qs)->setFocus();
     sheet()->accept();
     EXPECT_TRUE(sheet()->isVisible());
     EXPECT_EQ(sheet()->findChild<QLabel *>(u"customSize/problem"_qs)->text(),
               u"Width: Give a length from 12.7 to 50.8 mm."_qs);
+    EXPECT_EQ(sheet()->focusWidget(), width);
+    const auto *wrong = sheet()->findChild<QLabel *>(u"customSize/problem"_qs);
+    QTest::qWait(50);
+    EXPECT_GE(wrong->height(), wrong->heightForWidth(wrong->width())); // it is seen whole
     EXPECT_EQ(job.options().value(u"PageSize"_qs), u"W12"_qs);
     enter(u"customSize/Width"_qs, u"40"_qs);
     sheet()->accept();

@@ -111,6 +111,16 @@ TEST_F(CustomValues, Lengths_AreTakenWithAnyUnitAndRefusedInThePersons)
     EXPECT_EQ(problem(u"Points"_qs, u"mm"_qs), u"Give a length from 12.7 to 50.8 mm."_qs);
 }
 
+TEST(CustomLimits, OfALengthInMillimetres_AreTidyWhereTheyAreTaken)
+{
+    // 11.33 pt are 3.997 mm, 102.06 pt are 36.005 mm; 11.35 pt are 4.004 mm, and 4.0 mm would be refused.
+    CustomParameter width{u"Width"_qs, u"Width"_qs, CustomKind::Length, 11.33, 102.06};
+    EXPECT_EQ(customLimits(width, false), u"Give a length from 4 to 36 mm."_qs);
+    width.least = 11.35;
+    EXPECT_EQ(customLimits(width, false), u"Give a length from 4.004 to 36 mm."_qs);
+    EXPECT_TRUE(customProblem(width, u"36mm"_qs, false).isNull());
+}
+
 TEST_F(CustomValues, Texts_AreTakenByTheirLength)
 {
     EXPECT_EQ(problem(u"Text"_qs, u"ab"_qs), QString());

@@ -114,6 +114,17 @@ TEST_F(ServerConnectionTest, SilentServer_IsSaidOnceAndLeftWhenPatienceEnds)
     EXPECT_EQ(told, std::vector<std::string>{socket.toStdString()});
 }
 
+TEST_F(ServerConnectionTest, SilentServerAskedForAQueuesAddress_IsLeftWhenPatienceEnds)
+{
+    ServerConnection::setPatience({milliseconds(500), milliseconds(1000), {}});
+    const MeddlingServer silent(socket, {}, [](const SeenRequest &) { return Meddling::KeepSilent; });
+    const auto server = ServerConnection::open(&stop);
+    const auto start = steady_clock::now();
+    EXPECT_FALSE(addressOf(*server, QStringLiteral("tape")));
+    EXPECT_LT(steady_clock::now() - start, milliseconds(6000));
+    EXPECT_TRUE(server->isUnreachable());
+}
+
 TEST_F(ServerConnectionTest, ServerThatAnswersAfterTheWordAboutItsSilence_IsHeard)
 {
     int told = 0;
