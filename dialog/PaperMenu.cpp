@@ -117,11 +117,9 @@ void PaperMenu::openSheet()
             taken.push_back(size);
         }
     }
-    const ppd_size_t *current = ppdPageSize(mJob.ppd(), nullptr);
-    const QSizeF first = current == nullptr
-                             ? QSizeF()
-                             : QSizeF(static_cast<double>(current->width), static_cast<double>(current->length));
-    mSheet = new CustomSizeSheet(job::customSizeParameters(mJob.ppd()), taken, first, mUnit, mPopUp.window());
+    // A tape begins with the length that is set for it.
+    mSheet = new CustomSizeSheet(job::customSizeParameters(mJob.ppd()), taken, mJob.page().sizePt, mUnit,
+                                 mPopUp.window());
     mSheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(mSheet, &CustomSizeSheet::sizeEntered, this, &PaperMenu::takeSize);
     connect(mSheet, &CustomSizeSheet::removed, this, [this](const QString &name) {
