@@ -118,8 +118,8 @@ void PaperMenu::openSheet()
         }
     }
     // A tape begins with the length that is set for it.
-    mSheet = new CustomSizeSheet(job::customSizeParameters(mJob.ppd()), taken, mJob.page().sizePt, mUnit,
-                                 mPopUp.window());
+    mSheet =
+        new CustomSizeSheet(job::customSizeParameters(mJob.ppd()), taken, mJob.page().sizePt, mUnit, mPopUp.window());
     mSheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(mSheet, &CustomSizeSheet::sizeEntered, this, &PaperMenu::takeSize);
     connect(mSheet, &CustomSizeSheet::removed, this, [this](const QString &name) {
