@@ -2,7 +2,7 @@
 // Poppler by its interface for plain C++: that brings no toolkit along, which would take half the time of a start.
 #include "drawing/DrawnDocument.h"
 
-#include "job/PageBox.h"
+#include "drawing/PageBoxes.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -26,11 +26,6 @@ namespace
 
 constexpr double unitsPerInch = 72.0;
 
-job::DrawerPage::Rect rectOf(const QRectF &rect)
-{
-    return {rect.x(), rect.y(), rect.width(), rect.height()};
-}
-
 job::DrawerPage drawnPage(const poppler::document &pdf, int index)
 {
     job::DrawerPage drawn;
@@ -49,13 +44,13 @@ job::DrawerPage drawnPage(const poppler::document &pdf, int index)
 }
 
 /// Boxes of a document's pages; none when QPDF cannot read what can be drawn.
-std::vector<job::PageBox> readBoxes(const char *bytes, int length)
+std::vector<job::DrawerPage> readBoxes(const char *bytes, int length)
 {
     try {
         QPDF document;
         document.setSuppressWarnings(true);
         document.processMemoryFile("document", bytes, static_cast<std::size_t>(length));
-        return job::pageBoxesOf(document);
+        return pageBoxesOf(document);
     } catch (const std::exception &) {
         return {};
     }
@@ -80,23 +75,20 @@ job::DrawerDocument::State DrawnDocument::state() const
     return mPdf->is_locked() ? job::DrawerDocument::Locked : job::DrawerDocument::Whole;
 }
 
-std::vector<job::DrawerPage> DrawnDocument::pages() const
+std::vector<job::DrawerPage> DrawnDocument::pages(std::size_t *count) const
 {
     std::vector<job::DrawerPage> pages;
     if (state() != job::DrawerDocument::Whole || mPdf->pages() > job::mostDrawerPages) {
         return pages;
     }
-    const std::vector<job::PageBox> boxes = readBoxes(mBytes, mLength);
+    const std::vector<job::DrawerPage> boxes = readBoxes(mBytes, mLength);
+    *count = boxes.size();
     for (int index = 0; index < mPdf->pages(); ++index) {
-        job::DrawerPage page = drawnPage(*mPdf, index);
-        if (static_cast<std::size_t>(index) < boxes.size()) {
-            const job::PageBox &box = boxes[static_cast<std::size_t>(index)];
-            page.page = rectOf(box.page);
-            page.seen = rectOf(box.seen);
-            page.unitPt = box.unitPt;
-            page.turn = box.turn;
-            page.hasBox = 1;
-        }
+        const job::DrawerPage drawn = drawnPage(*mPdf, index);
+        const auto place = static_cast<std::size_t>(index);
+        job::DrawerPage page = place < boxes.size() ? boxes[place] : job::DrawerPage();
+        page.width = drawn.width;
+        page.height = drawn.height;
         pages.push_back(page);
     }
     return pages;

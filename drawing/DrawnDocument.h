@@ -4,6 +4,7 @@
 
 #include "job/DrawerWords.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -27,8 +28,9 @@ public:
     DrawnDocument &operator=(const DrawnDocument &) = delete;
 
     job::DrawerDocument::State state() const;
-    /// All pages; none as long as the document is locked, or when there are more than mostDrawerPages.
-    std::vector<job::DrawerPage> pages() const;
+    /// All pages; none as long as the document is locked, or when there are more than mostDrawerPages. \param count
+    /// takes how many pages there are by their boxes.
+    std::vector<job::DrawerPage> pages(std::size_t *count) const;
     /// A part of a page on white; invalid when it cannot be drawn.
     poppler::image draw(const job::DrawerQuestion &part) const;
 

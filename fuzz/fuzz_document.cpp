@@ -4,14 +4,17 @@
 #include "fuzz/Invariants.h"
 #include "fuzz/MemoryFile.h"
 
-#include "job/DocumentCheck.h"
+#include "drawing/PdfLayout.h"
 #include "job/EpsPage.h"
-#include "job/LaidOutDocument.h"
+#include "job/LabelPlan.h"
+#include "job/PageBox.h"
+#include "job/PdfWorker.h"
 
 #include <QFile>
 
 #include <cmath>
 
+using namespace tapeprint;
 using namespace tapeprint::job;
 using fuzz::require;
 
@@ -27,12 +30,20 @@ TapePage label()
     return page;
 }
 
-void checkSizes(const PageSizes &sizes)
+/// The sizes of a document's pages; none when it cannot be opened, which is then that document's fault.
+PageSizes sizesOf(const drawing::Bytes &document)
 {
-    require(!sizes.empty());
-    for (const QSizeF &size : sizes) {
-        require(std::isfinite(size.width()) && std::isfinite(size.height()));
+    std::vector<DrawerPage> pages;
+    if (const std::optional<drawing::Failure> failure = drawing::measure(document, &pages)) {
+        require(failure->fault != PagesAnswer::Other && failure->document == 0);
+        return {};
     }
+    PageSizes sizes;
+    for (const DrawerPage &page : pages) {
+        sizes.push_back(boxOf(page).sizePt());
+        require(std::isfinite(page.page.width) && std::isfinite(page.page.height) && page.turn % 90 == 0);
+    }
+    return sizes;
 }
 
 /// The plan of all pages, two of them on a label.
@@ -45,21 +56,51 @@ LabelPlan planOf(const PageSizes &sizes)
     return plan;
 }
 
-void checkLaidOut(const LabelPlan &plan, const QString &document)
+class Made : public drawing::Output
 {
-    static const fuzz::MemoryFile output;
-    output.hold(nullptr, 0);
-    const std::atomic<bool> stop{false};
-    Problem error;
-    if (!writeLaidOut(plan, {document}, RasterShift(), output.path(), stop, &error)) {
-        require(!error.sentence.isEmpty());
+public:
+    void tellProgress() override { ++steps; }
+    void take(const unsigned char *piece, std::size_t length) override
+    {
+        bytes.append(reinterpret_cast<const char *>(piece), length);
+    }
+
+    std::size_t steps = 0;
+    std::string bytes;
+};
+
+void checkLaidOut(const LabelPlan &plan, const drawing::Bytes &document)
+{
+    const QSizeF size = plan.page.sizePt;
+    drawing::Labels labels{size.width(), size.height(), 0.0, {}};
+    for (const Label &label : plan.labels) {
+        std::vector<PagesPlaced> &pages = labels.pages.emplace_back();
+        for (const PlacedPage &placed : label) {
+            pages.push_back(placedWord(placed, QTransform(1, 0, 0, -1, 0, size.height())));
+        }
+    }
+    Made made;
+    if (drawing::layOut(labels, {document}, made)) {
         return;
     }
-    const std::optional<PageSizes> written = pageSizesOf(output.path(), &error);
-    require(written && written->size() == plan.labels.size());
-    for (const QSizeF &size : *written) {
-        require(std::abs(size.width() - plan.page.sizePt.width()) < 0.01);
-        require(std::abs(size.height() - plan.page.sizePt.height()) < 0.01);
+    require(made.steps == plan.labels.size());
+    const PageSizes written = sizesOf({made.bytes.data(), made.bytes.size()});
+    require(written.size() == plan.labels.size());
+    for (const QSizeF &page : written) {
+        require(std::abs(page.width() - size.width()) < 0.01);
+        require(std::abs(page.height() - size.height()) < 0.01);
+    }
+}
+
+void checkChosen(const PageSizes &sizes, const drawing::Bytes &document)
+{
+    std::vector<PagesPlaced> pages(sizes.size());
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        pages[i].page = static_cast<std::int32_t>(pages.size() - 1 - i);
+    }
+    Made made;
+    if (!drawing::choose(pages, {document}, made)) {
+        require(sizesOf({made.bytes.data(), made.bytes.size()}).size() == sizes.size());
     }
 }
 
@@ -82,16 +123,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     static const fuzz::MemoryFile memory;
     const QString path = memory.hold(data, size);
-    Problem error;
-    if (!areWhole({path}, &error)) {
-        require(!error.sentence.isEmpty());
-    }
-    error = {};
-    if (const std::optional<PageSizes> sizes = pageSizesOf(path, &error)) {
-        checkSizes(*sizes);
-        checkLaidOut(planOf(*sizes), path);
-    } else {
-        require(!error.sentence.isEmpty());
+    const drawing::Bytes document{reinterpret_cast<const char *>(data), size};
+    if (const PageSizes sizes = sizesOf(document); !sizes.empty()) {
+        checkLaidOut(planOf(sizes), document);
+        checkChosen(sizes, document);
     }
     const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     if (const std::optional<QRectF> box = epsBoxOf(bytes)) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "job/LabelPlan.h"
+#include "job/PdfWorker.h"
 #include "job/Problem.h"
 
 #include <QString>
@@ -13,12 +14,6 @@
 
 namespace tapeprint::job
 {
-
-/// A page of one of several documents.
-struct ChosenPage {
-    std::size_t document = 0;
-    int page = 0; ///< from 0
-};
 
 /// The pages that a job's options select out of its documents, in their order; pages are numbered through.
 std::vector<ChosenPage> chosenPages(const std::vector<PageSizes> &documents, const JobOptions &options);

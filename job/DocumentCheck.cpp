@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// PDFs are read by the library that lays labels out, so that tape and paper refuse the same documents in the same
+// PDFs are read by the program that lays labels out, so that tape and paper refuse the same documents in the same
 // words.
 #include "job/DocumentCheck.h"
 

@@ -32,16 +32,12 @@ namespace
 
 using std::chrono::milliseconds;
 
-/// A page that takes longer is drawn by no printer either.
-constexpr std::chrono::seconds longestAnswer(60);
 constexpr milliseconds step(10);
 /// An answer that is nearly there costs less than another process.
 constexpr milliseconds patience(40);
 /// A process that waits for a question ends within this when there will be none.
 constexpr milliseconds farewell(100);
 constexpr qint64 mostMessageBytes = 65536;
-
-std::atomic<int> livingProcesses = 0;
 
 /// A process gets no signal settings of this program's, and no file beside the three.
 class SpawnSettings
@@ -132,14 +128,12 @@ std::unique_ptr<DrawerProcess> DrawerProcess::start(const ConfinedLaunch &launch
 
 DrawerProcess::DrawerProcess(pid_t process, int socket, bool isConfined, std::unique_ptr<MemoryFile> messages)
     : mProcess(process), mSocket(socket), mMessages(std::move(messages)),
-      mWatch(isConfined ? nullptr : DeathWatch::killing(process))
+      mWatch(isConfined ? nullptr : DeathWatch::killing(process)), mThread(gettid())
 {
-    ++livingProcesses;
 }
 
 DrawerProcess::~DrawerProcess()
 {
-    --livingProcesses;
     close(mSocket);
     const QDeadlineTimer deadline(mIsIdle ? farewell : milliseconds(0));
     int status = 0;
@@ -154,13 +148,14 @@ DrawerProcess::~DrawerProcess()
     }
 }
 
-DrawerProcess::End DrawerProcess::take(void *bytes, std::size_t length, const std::atomic<bool> &stop)
+template <typename Move>
+DrawerProcess::End DrawerProcess::converse(std::size_t length, short events, const std::atomic<bool> &stop,
+                                           const Move &move)
 {
     mIsIdle = false;
-    QDeadlineTimer deadline(longestAnswer);
+    QDeadlineTimer deadline(mLongest);
     bool isStopped = false;
-    auto *next = static_cast<char *>(bytes);
-    while (length > 0) {
+    for (std::size_t done = 0; done < length;) {
         if (stop && !isStopped) {
             isStopped = true;
             deadline.setRemainingTime(patience);
@@ -168,52 +163,72 @@ DrawerProcess::End DrawerProcess::take(void *bytes, std::size_t length, const st
         if (deadline.hasExpired()) {
             return isStopped ? End::Stopped : End::Broken;
         }
-        pollfd handle{mSocket, POLLIN, 0};
+        pollfd handle{mSocket, events, 0};
         if (poll(&handle, 1, static_cast<int>(step.count())) <= 0) {
             continue;
         }
-        const ssize_t count = recv(mSocket, next, length, MSG_DONTWAIT);
+        const ssize_t count = move(done);
         if (count == 0 || (count < 0 && errno != EINTR && errno != EAGAIN)) {
             return End::Broken;
         }
-        const auto taken = static_cast<std::size_t>(std::max<ssize_t>(count, 0));
-        next += taken;
-        length -= taken;
+        done += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
     }
-    mIsIdle = true;
+    mIsIdle = events == POLLIN; // what was asked is to be answered
     return End::Whole;
 }
 
-DrawerProcess::End DrawerProcess::greet(const std::atomic<bool> &stop)
+DrawerProcess::End DrawerProcess::take(void *bytes, std::size_t length, const std::atomic<bool> &stop)
 {
+    auto *first = static_cast<char *>(bytes);
+    mAnswers += mAnswers > 1 ? 0 : 1;
+    return converse(length, POLLIN, stop, [this, first, length](std::size_t done) {
+        return recv(mSocket, first + done, length - done, MSG_DONTWAIT);
+    });
+}
+
+DrawerProcess::End DrawerProcess::say(const void *bytes, std::size_t length, const std::atomic<bool> &stop,
+                                      int document)
+{
+    const auto *first = static_cast<const char *>(bytes);
+    return converse(length, POLLOUT, stop, [this, first, length, document](std::size_t done) {
+        iovec place{const_cast<char *>(first + done), length - done}; // NOLINT(*-const-cast): it is only read
+        alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof document)> space{};
+        msghdr message{};
+        message.msg_iov = &place;
+        message.msg_iovlen = 1;
+        if (document >= 0 && done == 0) {
+            message.msg_control = space.data();
+            message.msg_controllen = space.size();
+            cmsghdr *header = CMSG_FIRSTHDR(&message);
+            header->cmsg_level = SOL_SOCKET;
+            header->cmsg_type = SCM_RIGHTS;
+            header->cmsg_len = CMSG_LEN(sizeof document);
+            std::memcpy(CMSG_DATA(header), &document, sizeof document);
+        }
+        return sendmsg(mSocket, &message, MSG_NOSIGNAL | MSG_DONTWAIT);
+    });
+}
+
+DrawerProcess::End DrawerProcess::greet(std::uint32_t word, const std::atomic<bool> &stop)
+{
+    if (mHasGreeted) {
+        return isWaiting() ? End::Whole : End::Broken;
+    }
     std::uint32_t greeting = 0;
     const End end = take(&greeting, stop);
-    return end == End::Whole && greeting != drawerGreeting ? End::Broken : end;
+    mHasGreeted = end == End::Whole && greeting == word;
+    return end == End::Whole && !mHasGreeted ? End::Broken : end;
 }
 
-bool DrawerProcess::ask(const DrawerQuestion &question, int document) const
+bool DrawerProcess::isWaiting() const
 {
-    DrawerQuestion asked = question;
-    iovec place{&asked, sizeof asked};
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof document)> space{};
-    msghdr message{};
-    message.msg_iov = &place;
-    message.msg_iovlen = 1;
-    if (document >= 0) {
-        message.msg_control = space.data();
-        message.msg_controllen = space.size();
-        cmsghdr *header = CMSG_FIRSTHDR(&message);
-        header->cmsg_level = SOL_SOCKET;
-        header->cmsg_type = SCM_RIGHTS;
-        header->cmsg_len = CMSG_LEN(sizeof document);
-        std::memcpy(CMSG_DATA(header), &document, sizeof document);
-    }
-    return sendmsg(mSocket, &message, MSG_NOSIGNAL | MSG_DONTWAIT) == static_cast<ssize_t>(sizeof asked);
+    pollfd handle{mSocket, POLLIN, 0};
+    return mIsIdle && poll(&handle, 1, 0) == 0; // one that has died can be read from
 }
 
-int DrawerProcess::living()
+bool DrawerProcess::isForThisThread() const
 {
-    return livingProcesses;
+    return mThread == gettid() || mThread == getpid();
 }
 
 QString DrawerProcess::messages() const

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
-// One process of the program that draws pages, confined, and the conversation with it: bounded in time, and ended when
-// nobody wants the answer any more.
+// One process of a program that reads documents, confined, and the conversation with it: bounded in time, and ended
+// when nobody wants the answer any more.
 #pragma once
 
 #include "job/Confinement.h"
-#include "job/DrawerWords.h"
 #include "job/MemoryFile.h"
 
 #include <QString>
 
 #include <atomic>
+#include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 
 #include <sys/types.h>
@@ -39,29 +40,47 @@ public:
     DrawerProcess(const DrawerProcess &) = delete;
     DrawerProcess &operator=(const DrawerProcess &) = delete;
 
-    /// Waits until the program has been started.
-    End greet(const std::atomic<bool> &stop);
-    /// Asks. \param document a handle that the process is given; -1: none.
-    bool ask(const DrawerQuestion &question, int document = -1) const;
-    /// Takes so many bytes of the answer, within a minute.
+    /// Waits until the program has been started, the first time. \param word what it says then.
+    End greet(std::uint32_t word, const std::atomic<bool> &stop);
+    /// Says a part of a question. \param document a handle that the process is given; -1: none.
+    End say(const void *bytes, std::size_t length, const std::atomic<bool> &stop, int document = -1);
+    template <typename Word>
+    End say(const Word &word, const std::atomic<bool> &stop, int document = -1)
+    {
+        return say(&word, sizeof word, stop, document);
+    }
+    /// Takes so many bytes of the answer, within the longest time.
     End take(void *bytes, std::size_t length, const std::atomic<bool> &stop);
     template <typename Word>
     End take(Word *word, const std::atomic<bool> &stop)
     {
         return take(word, sizeof *word, stop);
     }
+    /// How long a part of an answer may take: a minute, by itself.
+    void setLongest(std::chrono::milliseconds longest) { mLongest = longest; }
+    /// Whether it waits for a question.
+    bool isWaiting() const;
+    /// Whether it has answered nothing yet.
+    bool isFresh() const { return mAnswers <= 1; } // the greeting
+    /// Whether it lives as long as this thread: it ends with the one that started it, and the main thread's is there
+    /// for all.
+    bool isForThisThread() const;
     /// What the program wrote on standard error.
     QString messages() const;
-    /// How many there are in this program.
-    static int living();
 
 private:
     DrawerProcess(pid_t process, int socket, bool isConfined, std::unique_ptr<MemoryFile> messages);
+    template <typename Move>
+    End converse(std::size_t length, short events, const std::atomic<bool> &stop, const Move &move);
 
     pid_t mProcess;
     int mSocket;
     std::unique_ptr<MemoryFile> mMessages;
-    std::unique_ptr<DeathWatch> mWatch; ///< of one that is not confined
+    std::unique_ptr<DeathWatch> mWatch;                           ///< of one that is not confined
+    std::chrono::milliseconds mLongest = std::chrono::minutes(1); ///< no printer draws a page that takes longer
+    pid_t mThread;                                                ///< that started it
+    bool mHasGreeted = false;
+    int mAnswers = 0;
     bool mIsIdle = false;
 };
 

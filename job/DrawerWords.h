@@ -41,6 +41,7 @@ struct DrawerDocument {
     enum State : std::uint32_t { None, Locked, Whole };
     std::uint32_t state = None;
     std::int32_t pages = 0;
+    std::int32_t boxes = 0; ///< how many pages the document has when its boxes are read; 0: they cannot be
 };
 
 /// A page's size as it is drawn, and its box: see PageBox.h.

@@ -3,7 +3,9 @@
 #include "job/LaidOutJob.h"
 
 #include "job/LaidOutDocument.h"
+#include "job/PageDrawer.h"
 #include "job/PdfPages.h"
+#include "job/PdfWorker.h"
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
@@ -32,6 +34,19 @@ QString pageWithoutSize(const LabelPlan &plan, const PdfDocuments &documents)
     return {};
 }
 
+/// The sizes of a document's pages. In a window the process that will draw them has been started already, and tells.
+std::optional<PageSizes> sizesOf(const QString &pdf, const QString &file, PdfWorker &worker,
+                                 const std::atomic<bool> &stop, Problem *error)
+{
+    const std::optional<std::vector<PageBox>> boxes = PageDrawer::measureAhead(pdf, stop);
+    if (!boxes) {
+        return worker.measure(pdf, file, stop, error);
+    }
+    PageSizes sizes(boxes->size());
+    std::transform(boxes->begin(), boxes->end(), sizes.begin(), [](const PageBox &box) { return box.sizePt(); });
+    return sizes;
+}
+
 QString lengthText(double points)
 {
     return pdekit::fixedDecimals(mmFromPoints(points), 1);
@@ -43,6 +58,7 @@ std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList
                                         Problem *error)
 {
     const QSizeF textPagePt = textPageOf(job);
+    PdfWorker worker;
     PdfDocuments documents;
     documents.files = files;
     for (const QString &file : files) {
@@ -59,7 +75,7 @@ std::optional<PdfDocuments> collectPdfs(const SettledJob &job, const QStringList
                 return std::nullopt;
             }
         }
-        const std::optional<PageSizes> sizes = pageSizesOf(pdf, error, file);
+        const std::optional<PageSizes> sizes = sizesOf(pdf, file, worker, stop, error);
         if (!sizes) {
             return std::nullopt;
         }

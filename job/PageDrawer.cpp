@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
-// The drawing program stands where bundles do: found from the program's own place, in a build tree and installed. The
-// document is handed to it open, so that the room it works in shows it no file at all.
+// The document is handed to the program open, so that the room it works in shows it no file at all.
 #include "job/PageDrawer.h"
 
-#include "job/DrawerProcess.h"
-#include "job/Reason.h"
+#include "job/ConfinedProgram.h"
+#include "job/DrawerWords.h"
+#include "job/FileStamp.h"
 
-#include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
-#include <cerrno>
 #include <cmath>
-#include <cstring>
 #include <mutex>
 #include <set>
 #include <utility>
@@ -33,32 +29,49 @@ constexpr double mostUnits = 1e9;
 
 const std::atomic<bool> neverStopped = false;
 
-QString usualFolder()
-{
-    return QCoreApplication::applicationDirPath() + QLatin1String("/" TAPEPRINT_MODULE_PLACE);
-}
-
 QString programOf(const QString &folder)
 {
     return folder + QLatin1String("/tapeprint-drawer");
 }
 
-ConfinedCommand commandFor(const QString &program)
+std::atomic<int> livingProcesses = 0;
+
+/// What a process says of the document that it was given.
+struct Opened {
+    DrawerDocument document;
+    std::vector<DrawerPage> pages;
+};
+
+/// Hands a document over. \return how that ended.
+End giveDocument(DrawerProcess &process, int handle, const std::atomic<bool> &stop, Opened *opened)
 {
-    const QString path = QFileInfo(program).canonicalFilePath();
-    ConfinedCommand command{path, {}, {path}};
-    command.seesSettings = false;
-#ifdef __SANITIZE_ADDRESS__
-    command.mostMemory = QStringLiteral("unlimited"); // the sanitizer takes terabytes of addresses
-#endif
-    return command;
+    DrawerDocument &document = opened->document;
+    End end = process.say(DrawerQuestion(), stop, handle);
+    end = end == End::Whole ? process.take(&document, stop) : end;
+    const bool isPossible =
+        document.state <= DrawerDocument::Whole && document.pages >= 0 && document.pages <= mostDrawerPages;
+    end = end == End::Whole && !isPossible ? End::Broken : end;
+    if (end == End::Whole) {
+        opened->pages.resize(static_cast<std::size_t>(document.pages));
+        end = process.take(opened->pages.data(), opened->pages.size() * sizeof(DrawerPage), stop);
+    }
+    return end;
 }
 
-/// The process that was started before anybody asked.
+/// The process that was started before anybody asked. It may have a document already, which was measured before it is
+/// drawn.
 struct Spare {
     std::mutex mutex;
     std::unique_ptr<DrawerProcess> process;
     QString program;
+    std::optional<FileStamp> file;
+    Opened opened;
+
+    bool has(const QFile &document) const
+    {
+        const std::optional<FileStamp> asked = FileStamp::ofDescriptor(document.handle(), document.fileName());
+        return file && asked && file->isSameFile(*asked) && file->isUnchanged(*asked);
+    }
 };
 
 Spare &spare()
@@ -67,54 +80,36 @@ Spare &spare()
     return one;
 }
 
-std::unique_ptr<DrawerProcess> takeSpare(const QString &program)
+/// \param opened takes what the process has said of the document, when that is the one that it has.
+std::unique_ptr<DrawerProcess> takeSpare(const QString &program, const QFile &document, std::optional<Opened> *opened)
 {
     const std::lock_guard lock(spare().mutex);
-    return spare().program == program ? std::move(spare().process) : nullptr;
-}
-
-/// A process that waits for its document. \param problem takes why there is none.
-std::unique_ptr<DrawerProcess> startProcess(const QString &program, const std::atomic<bool> &stop, QString *problem)
-{
-    std::unique_ptr<DrawerProcess> process = takeSpare(program);
-    if (process && process->greet(stop) == End::Whole) {
-        return process;
-    }
-    const QFileInfo file(program);
-    if (!file.isExecutable() || !file.isFile()) {
-        *problem = reasonText(program + QLatin1String(": ") + qt_error_string(ENOENT));
+    if (spare().program != program || !spare().process || (spare().file && !spare().has(document))) {
         return nullptr;
     }
-    const ConfinedCommand command = commandFor(program);
-    for (const bool isTried : {false, true}) {
-        const ConfinedLaunch launch = isTried ? confine(command) : confineUntried(command);
-        process = DrawerProcess::start(launch);
-        if (!process) {
-            *problem = reasonText(qt_error_string(errno));
-            return nullptr;
-        }
-        const End end = process->greet(stop);
-        if (end == End::Whole) {
-            *problem = QString(); // of the first try
-            return process;
-        }
-        *problem = reasonText(process->messages());
-        if (end == End::Stopped || !launch.confined || confinementProblem().isNull()) {
-            break;
-        }
+    if (spare().file) {
+        *opened = std::move(spare().opened);
+        spare().file.reset();
     }
-    return nullptr;
+    return std::move(spare().process);
+}
+
+/// A process that waits for its document, or has it. \param problem takes why there is none.
+std::unique_ptr<DrawerProcess> startProcess(const QString &program, const QFile &document,
+                                            std::optional<Opened> *opened, QString *problem)
+{
+    std::unique_ptr<DrawerProcess> process = takeSpare(program, document, opened);
+    if (process && process->greet(drawerGreeting, neverStopped) == End::Whole) {
+        return process;
+    }
+    opened->reset();
+    return startProgram(program, drawerGreeting, neverStopped, problem);
 }
 
 bool isOnPage(const DrawerPage::Rect &rect)
 {
     const auto isUsable = [](double value) { return std::abs(value) <= mostUnits; }; // false for what is no number
     return isUsable(rect.x) && isUsable(rect.y) && isUsable(rect.width) && isUsable(rect.height);
-}
-
-QRectF rectOf(const DrawerPage::Rect &rect)
-{
-    return {rect.x, rect.y, rect.width, rect.height};
 }
 
 bool isWithin(const DrawerRect &rect, const QSize &size)
@@ -141,26 +136,25 @@ class PageDrawer::Conversation
 {
 public:
     Conversation(const QString &program, const QString &path) : mProgram(program), mFile(path) {}
+    ~Conversation() { keep(nullptr); }
+    Conversation(const Conversation &) = delete;
+    Conversation &operator=(const Conversation &) = delete;
 
     /// \return whether there is a process that can be asked about the document.
-    bool open(QString *problem) { return mFile.open(QIODevice::ReadOnly) && hasProcess(neverStopped, problem); }
+    bool open(QString *problem) { return mFile.open(QIODevice::ReadOnly) && hasProcess(problem); }
 
-    /// Hands the document over. \return how that ended; what is not Whole ends the process.
+    /// Hands the document over, unless the process has it. \return how that ended; what is not Whole ends the process.
     End readDocument(const std::atomic<bool> &stop)
     {
-        End end = mProcess->ask({}, mFile.handle()) ? mProcess->take(&document, stop) : End::Broken;
-        const bool isPossible =
-            document.state <= DrawerDocument::Whole && document.pages >= 0 && document.pages <= mostDrawerPages;
-        end = end == End::Whole && !isPossible ? End::Broken : end;
-        if (end == End::Whole) {
-            pages.resize(static_cast<std::size_t>(document.pages));
-            end = mProcess->take(pages.data(), pages.size() * sizeof(DrawerPage), stop);
-        }
+        const End end = mOpened ? End::Whole : giveDocument(*mProcess, mFile.handle(), stop, &mOpened.emplace());
         if (end != End::Whole) {
-            mProcess.reset();
+            keep(nullptr);
         }
         return end;
     }
+
+    /// What the process has said of the document. It is forgotten.
+    Opened takeOpened() { return std::move(mOpened).value_or(Opened()); }
 
     /// Asks about a part of a page. \param takeRest takes what follows the first word of the answer. \return whether
     /// the page can be drawn and nobody stopped it.
@@ -173,7 +167,8 @@ public:
         DrawerPart answer;
         End end = isReady(stop);
         if (end == End::Whole) {
-            end = mProcess->ask(question) ? mProcess->take(&answer, stop) : End::Broken;
+            end = mProcess->say(question, stop);
+            end = end == End::Whole ? mProcess->take(&answer, stop) : end;
         }
         if (end == End::Whole && answer.isDrawn != 0) {
             end = takeRest(*mProcess, answer);
@@ -181,20 +176,24 @@ public:
         if (end == End::Broken) {
             mDeadly.insert(question.page);
         }
-        if (end != End::Whole || DrawerProcess::living() > mostProcesses) {
-            mProcess.reset();
+        if (end != End::Whole || livingProcesses > mostProcesses) {
+            keep(nullptr);
         }
         return end == End::Whole && answer.isDrawn != 0 && !stop;
     }
 
-    DrawerDocument document;
-    std::vector<DrawerPage> pages;
-
 private:
-    bool hasProcess(const std::atomic<bool> &stop, QString *problem)
+    void keep(std::unique_ptr<DrawerProcess> process)
+    {
+        livingProcesses += static_cast<int>(process != nullptr) - static_cast<int>(mProcess != nullptr);
+        mProcess = std::move(process);
+    }
+
+    bool hasProcess(QString *problem)
     {
         if (!mProcess) {
-            mProcess = startProcess(mProgram, stop, problem);
+            mOpened.reset();
+            keep(startProcess(mProgram, mFile, &mOpened, problem));
         }
         return mProcess != nullptr;
     }
@@ -206,7 +205,7 @@ private:
             return End::Whole;
         }
         QString problem;
-        if (!hasProcess(stop, &problem)) {
+        if (!hasProcess(&problem)) {
             return End::Stopped; // no page's fault
         }
         return readDocument(stop);
@@ -214,6 +213,7 @@ private:
 
     QString mProgram;
     QFile mFile;
+    std::optional<Opened> mOpened;
     std::unique_ptr<DrawerProcess> mProcess; ///< null when there is none for the moment
     std::set<int> mDeadly;                   ///< pages that a process has died of
 };
@@ -237,11 +237,38 @@ PageDrawer::~PageDrawer() = default;
 void PageDrawer::prepare()
 {
     const std::lock_guard lock(spare().mutex);
-    const QString program = programOf(usualFolder());
-    if (!spare().process && QFileInfo(program).isExecutable()) {
-        spare().process = DrawerProcess::start(confineUntried(commandFor(program)));
+    const QString program = programOf(moduleFolder());
+    if (!spare().process || spare().file) { // nobody has come to draw what was measured
+        spare().process = startAhead(program);
         spare().program = program;
+        spare().file.reset();
     }
+}
+
+std::optional<std::vector<PageBox>> PageDrawer::measureAhead(const QString &path, const std::atomic<bool> &stop)
+{
+    QFile file(path);
+    std::unique_ptr<DrawerProcess> process;
+    {
+        const std::lock_guard lock(spare().mutex);
+        if (spare().file || !file.open(QIODevice::ReadOnly)) {
+            return std::nullopt; // it waits for who draws the document that it has
+        }
+        process = std::move(spare().process);
+    }
+    Opened opened;
+    if (!process || process->greet(drawerGreeting, stop) != End::Whole ||
+        giveDocument(*process, file.handle(), stop, &opened) != End::Whole) {
+        return std::nullopt;
+    }
+    std::vector<PageBox> boxes(opened.pages.size());
+    std::transform(opened.pages.begin(), opened.pages.end(), boxes.begin(), boxOf);
+    const bool hasAll = !boxes.empty() && opened.document.boxes == opened.document.pages;
+    const std::lock_guard lock(spare().mutex);
+    spare().process = std::move(process);
+    spare().file = FileStamp::ofDescriptor(file.handle(), path);
+    spare().opened = std::move(opened);
+    return hasAll ? std::optional(std::move(boxes)) : std::nullopt;
 }
 
 std::unique_ptr<PageDrawer> PageDrawer::openWith(const QString &folder, const QString &path, QString *problem)
@@ -250,18 +277,21 @@ std::unique_ptr<PageDrawer> PageDrawer::openWith(const QString &folder, const QS
     std::unique_ptr<PageDrawer> drawer(new PageDrawer);
     drawer->mConversation = std::make_unique<Conversation>(programOf(folder), path);
     Conversation &conversation = *drawer->mConversation;
-    if (!conversation.open(problem) || conversation.readDocument(neverStopped) != End::Whole ||
-        conversation.document.state == DrawerDocument::None) {
+    if (!conversation.open(problem) || conversation.readDocument(neverStopped) != End::Whole) {
         return nullptr;
     }
-    drawer->mIsLocked = conversation.document.state == DrawerDocument::Locked;
-    for (const DrawerPage &page : std::exchange(conversation.pages, {})) {
+    const Opened opened = conversation.takeOpened();
+    if (opened.document.state == DrawerDocument::None) {
+        return nullptr;
+    }
+    drawer->mIsLocked = opened.document.state == DrawerDocument::Locked;
+    for (const DrawerPage &page : opened.pages) {
         Page &known = drawer->mPages.emplace_back();
         if (isPossible(page)) {
             known.size = {page.width, page.height};
         }
         if (isPossible(page) && page.hasBox != 0) {
-            known.box = PageBox{rectOf(page.page), rectOf(page.seen), page.turn, page.unitPt};
+            known.box = boxOf(page);
         }
     }
     return drawer;
@@ -269,7 +299,7 @@ std::unique_ptr<PageDrawer> PageDrawer::openWith(const QString &folder, const QS
 
 std::unique_ptr<PageDrawer> PageDrawer::open(const QString &path, QString *problem)
 {
-    return openWith(usualFolder(), path, problem);
+    return openWith(moduleFolder(), path, problem);
 }
 
 QSizeF PageDrawer::size(int page) const

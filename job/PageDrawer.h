@@ -41,6 +41,9 @@ public:
     /// Starts a process for the document that will be opened first, so that nobody has to wait for it. It ends with the
     /// thread that this is called in.
     static void prepare();
+    /// The boxes of a document's pages by the process that prepare() has started, which keeps the document for open().
+    /// Nothing when there is none that waits, or when the boxes cannot be read.
+    static std::optional<std::vector<PageBox>> measureAhead(const QString &path, const std::atomic<bool> &stop);
 
     ~PageDrawer();
     PageDrawer(const PageDrawer &) = delete;

@@ -3,6 +3,7 @@
 // page's box.
 #include "job/PdfPages.h"
 
+#include "job/ConfinedProgram.h"
 #include "job/PageBox.h"
 #include "job/PageDrawer.h"
 #include "job/Texts.h"
@@ -132,8 +133,7 @@ std::unique_ptr<PdfPages> PdfPages::open(const QString &path, Problem *error, co
     auto document = std::make_unique<Document>();
     document->drawer = PageDrawer::open(path, &reason);
     if (!reason.isNull()) {
-        *error =
-            Texts::tr("The part of this program that draws pages cannot be loaded (%1): install it again.").arg(reason);
+        *error = partMissing(reason);
         return nullptr;
     }
     if (document->drawer == nullptr) {

@@ -1,25 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
-// Written with libqpdf: Qt's own writer of PDFs rounds pages to whole points, which would stretch a picture.
+// Five objects, written here: Qt's own writer of PDFs rounds pages to whole points, which would stretch a picture.
 #include "job/PicturePdf.h"
 
 #include "job/Conversion.h"
-#include "job/PdfWriting.h"
 #include "job/PlainText.h"
+#include "job/Reason.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
+#include <QFile>
 #include <QImage>
 #include <QImageReader>
 #include <QPainter>
 #include <QSizeF>
 
-#include <exception>
-#include <memory>
-
 #include <pdekit/Numbers.h>
-
-#include <qpdf/Buffer.hh>
-#include <qpdf/QPDF.hh>
 
 namespace tapeprint::job
 {
@@ -84,29 +80,44 @@ QByteArray dotsOf(const QImage &picture)
     return dots;
 }
 
-void writePage(const QImage &picture, const QSizeF &sizePt, const QString &path)
+QByteArray stream(const QByteArray &dictionary, const QByteArray &bytes)
+{
+    constexpr int lengthBytes = 4; // which qCompress() puts before what others understand
+    const QByteArray deflated = qCompress(bytes).mid(lengthBytes);
+    return "<< " + dictionary + " /Filter /FlateDecode /Length " + QByteArray::number(deflated.size()) +
+           " >>\nstream\n" + deflated + "\nendstream";
+}
+
+/// A document of objects, of which the first is the catalogue.
+QByteArray documentOf(const QByteArrayList &objects)
+{
+    constexpr int placeDigits = 10;
+    QByteArray pdf = "%PDF-1.3\n";
+    QByteArray places = "0000000000 65535 f \n";
+    for (qsizetype i = 0; i < objects.size(); ++i) {
+        places += QByteArray::number(pdf.size()).rightJustified(placeDigits, '0') + " 00000 n \n";
+        pdf += QByteArray::number(i + 1) + " 0 obj\n" + objects[i] + "\nendobj\n";
+    }
+    const QByteArray size = QByteArray::number(objects.size() + 1);
+    return pdf + "xref\n0 " + size + '\n' + places + "trailer << /Root 1 0 R /Size " + size + " >>\nstartxref\n" +
+           QByteArray::number(pdf.size()) + "\n%%EOF\n";
+}
+
+QByteArray pageDocument(const QImage &picture, const QSizeF &sizePt)
 {
     const bool isGrey = picture.isGrayscale();
-    QByteArray dots = dotsOf(picture.convertToFormat(isGrey ? QImage::Format_Grayscale8 : QImage::Format_RGB888));
-    const std::string width = pdekit::fixedDecimals(sizePt.width(), pageDecimals).toStdString();
-    const std::string height = pdekit::fixedDecimals(sizePt.height(), pageDecimals).toStdString();
-
-    QPDF pdf;
-    pdf.emptyPDF();
-    QPDFObjectHandle image = QPDFObjectHandle::newStream(&pdf);
-    image.replaceDict(QPDFObjectHandle::parse("<< /Type /XObject /Subtype /Image /BitsPerComponent 8 /ColorSpace " +
-                                              std::string(isGrey ? "/DeviceGray" : "/DeviceRGB") + " /Width " +
-                                              std::to_string(picture.width()) + " /Height " +
-                                              std::to_string(picture.height()) + " >>"));
-    image.replaceStreamData(
-        std::make_shared<Buffer>(reinterpret_cast<unsigned char *>(dots.data()), static_cast<std::size_t>(dots.size())),
-        QPDFObjectHandle::newNull(), QPDFObjectHandle::newNull());
-    QPDFObjectHandle page = QPDFObjectHandle::parse("<< /Type /Page /MediaBox [ 0 0 " + width + ' ' + height +
-                                                    " ] /Resources << /XObject << >> >> >>");
-    page.getKey("/Resources").getKey("/XObject").replaceKey("/Picture", pdf.makeIndirectObject(image));
-    page.replaceKey("/Contents", QPDFObjectHandle::newStream(&pdf, width + " 0 0 " + height + " 0 0 cm /Picture Do\n"));
-    pdf.addPage(pdf.makeIndirectObject(page), true);
-    writePdf(pdf, path);
+    const QByteArray dots = dotsOf(picture.convertToFormat(isGrey ? QImage::Format_Grayscale8 : QImage::Format_RGB888));
+    const QByteArray width = pdekit::fixedDecimals(sizePt.width(), pageDecimals).toLatin1();
+    const QByteArray height = pdekit::fixedDecimals(sizePt.height(), pageDecimals).toLatin1();
+    return documentOf(
+        {"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [ 3 0 R ] /Count 1 >>",
+         "<< /Type /Page /Parent 2 0 R /MediaBox [ 0 0 " + width + ' ' + height +
+             " ] /Resources << /XObject << /Picture 4 0 R >> >> /Contents 5 0 R >>",
+         stream("/Type /XObject /Subtype /Image /BitsPerComponent 8 /ColorSpace " +
+                    QByteArray(isGrey ? "/DeviceGray" : "/DeviceRGB") + " /Width " +
+                    QByteArray::number(picture.width()) + " /Height " + QByteArray::number(picture.height()),
+                dots),
+         stream({}, width + " 0 0 " + height + " 0 0 cm /Picture Do\n")});
 }
 
 } // namespace
@@ -128,10 +139,10 @@ bool pictureToPdf(const QString &picture, const QString &path, Problem *error)
         *error = {Problem::BadDocument, refusal(picture, reader.size(), reader.errorString())};
         return false;
     }
-    try {
-        writePage(onWhite(image), pageOf(image), path);
-    } catch (const std::exception &failure) {
-        *error = noRoomForTemporaryFiles(harmless(QString::fromUtf8(failure.what()).simplified()));
+    QFile file(path);
+    const QByteArray page = pageDocument(onWhite(image), pageOf(image));
+    if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size() || !file.flush()) {
+        *error = noRoomForTemporaryFiles(reasonText(file.errorString()));
         return false;
     }
     return true;

@@ -5,6 +5,7 @@
 #include "dialog/FontReading.h"
 #include "dialog/ToolkitStart.h"
 #include "job/OutputFile.h"
+#include "job/PdfWorker.h"
 #include "job/ServerConnection.h"
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Completion.h"
@@ -105,6 +106,9 @@ int main(int argc, char **argv)
         QApplication::setStyle(QStringLiteral("fusion"));
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
             qputenv("QT_QPA_PLATFORM", "minimal"); // the toolkit's quickest: it reads no fonts
+        }
+        if (line->readsDocuments()) {
+            tapeprint::job::PdfWorker::prepare(); // is ready when the toolkit is
         }
     }
     // A handful of short texts is matched at a start: compiling the patterns to machine code costs more than it saves.

@@ -7,6 +7,7 @@
 #include "tests/support/ExitStatuses.h"
 #include "tests/support/TextPrinting.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -29,14 +30,20 @@ struct Outcome {
 class Program : public testing::Test
 {
 protected:
-    /// A copy far from the build, whose own bundles would otherwise be found beside the program.
+    /// A copy far from the build, whose own bundles would otherwise be found beside the program. What reads documents
+    /// stands there as it does when installed.
     static void SetUpTestSuite()
     {
         programFolder = std::make_unique<QTemporaryDir>();
+        ASSERT_TRUE(QDir().mkpath(programFolder->filePath(u"bin"_qs)));
+        ASSERT_TRUE(QDir().mkpath(programFolder->filePath(u"lib/tapeprint"_qs)));
+        for (const QString &part : {u"/lib/tapeprint/tapeprint-pages"_qs, u"/lib/tapeprint/tapeprint-drawer"_qs}) {
+            ASSERT_TRUE(QFile::link(QStringLiteral(TAPEPRINT_BIN_DIR "/..") + part, programFolder->path() + part));
+        }
         ASSERT_TRUE(QFile::copy(QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), programPath()));
     }
     static void TearDownTestSuite() { programFolder.reset(); }
-    static QString programPath() { return programFolder->filePath(u"tapeprint"_qs); }
+    static QString programPath() { return programFolder->filePath(u"bin/tapeprint"_qs); }
 
     /// Starts a process in the folder of the test, with nothing around it.
     void start(QProcess &program, const QString &path, const QStringList &arguments) const

@@ -46,7 +46,7 @@ def greet(word=0x54504431): asker.sendall(struct.pack('I', word))
 def question(): return struct.unpack('IiiiiidII', asker.recv(40, socket.MSG_WAITALL))
 def page(width=144, height=36, turn=0, box=0): return struct.pack('11dii', width, height, *[0] * 8, 1, turn, box)
 def document(pages=None, state=2, count=2):
-    asker.sendall(struct.pack('Ii', state, count) + (page() * 2 if pages is None else pages))
+    asker.sendall(struct.pack('Iii', state, count, count) + (page() * 2 if pages is None else pages))
 def part(x=0, y=0, width=0, height=0, drawn=1): asker.sendall(struct.pack('iiiiI', x, y, width, height, drawn))
 def dots(asked): part(0, 0, asked[4], asked[5]); asker.sendall(bytes(asked[4] * asked[5] * 4))
 def die(): os.kill(os.getpid(), signal.SIGKILL)
@@ -130,6 +130,48 @@ TEST(PageDrawer, OfWhatIsNoDocument_IsNoneAndNothingIsMissing)
     EXPECT_EQ(problem, QString());
     EXPECT_EQ(PageDrawer::open(folder.write(u"empty.pdf"_qs, ""), &problem), nullptr);
     EXPECT_EQ(problem, QString());
+}
+
+TEST(PageDrawer, ThatWasPrepared_MeasuresADocumentAndDrawsItByTheSameProcess)
+{
+    const jobtest::Folder folder;
+    QString problem;
+    const QString path = folder.write(u"label.pdf"_qs, onePage);
+    PageDrawer::prepare();
+    const auto boxes = PageDrawer::measureAhead(path, goOn);
+    ASSERT_TRUE(boxes && boxes->size() == 1);
+    EXPECT_EQ(boxes->front().sizePt(), QSizeF(120, 24));
+    const QStringList holders = processesWith(u"maps"_qs, path.toLocal8Bit());
+    EXPECT_EQ(holders.size(), 1);
+    const auto drawer = PageDrawer::open(path, &problem);
+    ASSERT_NE(drawer, nullptr);
+    EXPECT_EQ(drawer->size(0), QSizeF(144, 36));
+    EXPECT_FALSE(drawer->draw(0, fewDots, goOn).isNull());
+    EXPECT_EQ(processesWith(u"maps"_qs, path.toLocal8Bit()), holders);
+    EXPECT_FALSE(PageDrawer::measureAhead(path, goOn)); // it draws now
+}
+
+TEST(PageDrawer, ThatHasMeasuredADocument_DoesNotTakeAnotherForIt)
+{
+    const jobtest::Folder folder;
+    QString problem;
+    const QString path = folder.write(u"label.pdf"_qs, onePage);
+    PageDrawer::prepare();
+    EXPECT_TRUE(PageDrawer::measureAhead(path, goOn));
+    EXPECT_TRUE(QFile::remove(path));
+    QByteArray other = onePage;
+    folder.write(u"label.pdf"_qs, other.replace("144 36", "100 50"));
+    const auto drawer = PageDrawer::open(path, &problem);
+    ASSERT_NE(drawer, nullptr);
+    EXPECT_EQ(drawer->size(0), QSizeF(100, 50));
+}
+
+TEST(PageDrawer, OfWhatCannotBeMeasured_LeavesThatToOthers)
+{
+    const jobtest::Folder folder;
+    PageDrawer::prepare();
+    EXPECT_FALSE(PageDrawer::measureAhead(folder.path(u"none.pdf"_qs), goOn));
+    EXPECT_FALSE(PageDrawer::measureAhead(folder.write(u"noise.pdf"_qs, "noise"), goOn));
 }
 
 TEST(PageDrawer, HoldsTheDocumentsBytesAndNoHandleOfIt)

@@ -34,7 +34,7 @@ const std::array<Room, 12> &rooms()
         {"tapeprint", {"dialog", "job", "pdekit"}, {"cups/"}},
         {"portal", {"dialog", "job", "pdekit"}, {"cups/ppd.h", "qpa/qplatformnativeinterface.h"}},
         {"dialog", {"job", "pdekit"}, {"cups/", "fontconfig/"}},
-        {"job", {"pdekit"}, {"cups/", "qpdf/"}, false},
+        {"job", {"pdekit"}, {"cups/"}, false},
         {"drawing",
          {"job"},
          {"poppler-document.h", "poppler-global.h", "poppler-image.h", "poppler-page-renderer.h", "poppler-page.h",
