@@ -117,9 +117,8 @@ void PaperMenu::openSheet()
             taken.push_back(size);
         }
     }
-    // A tape begins with the length that is set for it.
-    mSheet =
-        new CustomSizeSheet(job::customSizeParameters(mJob.ppd()), taken, mJob.page().sizePt, mUnit, mPopUp.window());
+    const QSizeF first = mCurrentSize ? mCurrentSize() : mJob.page().sizePt;
+    mSheet = new CustomSizeSheet(job::customSizeParameters(mJob.ppd()), taken, first, mUnit, mPopUp.window());
     mSheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(mSheet, &CustomSizeSheet::sizeEntered, this, &PaperMenu::takeSize);
     connect(mSheet, &CustomSizeSheet::removed, this, [this](const QString &name) {

@@ -96,6 +96,7 @@ QWidget *PrintDialog::makeDestinationRows()
     mTapePopUp = new PopUp(rows);
     mTapePopUp->setObjectName(QStringLiteral("tape"));
     mPapers = new PaperMenu(*mTapePopUp, mJob, mUnit, this);
+    mPapers->setCurrentSize([this] { return currentJob().page.sizePt; }); // with the length that a panel shows
     mTapeLabel = makeLabel({}, mTapePopUp);
     mCopiesField = new QSpinBox(rows);
     mCopiesField->setObjectName(QStringLiteral("copies"));

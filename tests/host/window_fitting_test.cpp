@@ -362,6 +362,7 @@ TEST_F(WindowFitting, SizeOfOnesOwn_BeginsWithTheLengthThatIsSet)
 {
     ASSERT_NO_FATAL_FAILURE(open(boxOfHundredPoints));
     type(u"mLengthTxFld"_qs, u"70"_qs);
+    QTest::keyClick(child<QLineEdit>(u"mLengthTxFld"_qs), Qt::Key_Return);
     rest();
     pick(u"tape"_qs, u"Custom…"_qs);
     EXPECT_EQ(child<QLineEdit>(u"customSize/Height"_qs)->text(), u"70"_qs);
