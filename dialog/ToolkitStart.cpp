@@ -7,6 +7,7 @@
 
 #include <csignal>
 #include <cstddef>
+#include <cstdio>
 #include <utility>
 #include <vector>
 
@@ -49,6 +50,13 @@ ToolkitStart::ToolkitStart(const QByteArray &words, int descriptor, bool showsWi
     lastWordsGoTo = descriptor;
     remarks.clear();
     nextMessageHandler = qInstallMessageHandler(keepRemark);
+    // Where a session has no folder for sockets the toolkit, which looks into it for a display, would make one among
+    // the temporary files and leave it behind.
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+        mTemporary = qgetenv("TMPDIR");
+        mTemporary = mTemporary.isEmpty() ? QByteArrayLiteral(P_tmpdir) : mTemporary;
+        qputenv("TMPDIR", "/proc"); // where nobody can make any
+    }
     if (!showsWindow) {
         return;
     }
@@ -75,6 +83,9 @@ ToolkitStart::~ToolkitStart()
     if (mStandardError >= 0) {
         dup2(mStandardError, STDERR_FILENO);
         close(mStandardError);
+    }
+    if (!mTemporary.isEmpty()) {
+        qputenv("TMPDIR", mTemporary); // never taken away again: other threads may be reading the environment by now
     }
     qInstallMessageHandler(nextMessageHandler);
     for (const auto &[type, text] : remarks) {

@@ -21,6 +21,7 @@ public:
     ToolkitStart &operator=(const ToolkitStart &) = delete;
 
 private:
+    QByteArray mTemporary;   ///< the folder for temporary files, while another is named; empty while none is
     int mStandardError = -1; ///< where it leads to; while the display is connected to, its library writes there
 };
 

@@ -60,6 +60,8 @@ public:
     void setLongest(std::chrono::milliseconds longest) { mLongest = longest; }
     /// Whether it waits for a question.
     bool isWaiting() const;
+    /// Ends it when this object goes, without the moment: this program is at its own end.
+    void hurry() { mIsIdle = false; }
     /// Whether it has answered nothing yet.
     bool isFresh() const { return mAnswers <= 1; } // the greeting
     /// Whether it lives as long as this thread: it ends with the one that started it, and the main thread's is there

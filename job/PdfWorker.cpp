@@ -40,6 +40,16 @@ QString programOf(const QString &folder)
 
 /// The process that nobody asks for the moment.
 struct Waiting {
+    Waiting() = default;
+    ~Waiting()
+    {
+        if (process) {
+            process->hurry(); // nobody waits for the end of a room
+        }
+    }
+    Waiting(const Waiting &) = delete;
+    Waiting &operator=(const Waiting &) = delete;
+
     std::mutex mutex;
     std::unique_ptr<DrawerProcess> process;
     QString program;

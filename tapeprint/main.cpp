@@ -13,6 +13,7 @@
 #include "tapeprint/PresetRun.h"
 #include "tapeprint/RunReport.h"
 #include "tapeprint/ServerChoice.h"
+#include "tapeprint/StandardStreams.h"
 #include "tapeprint/TerminalPassword.h"
 #include "tapeprint/UnattendedRun.h"
 #include "tapeprint/WindowRun.h"
@@ -21,7 +22,6 @@
 #include <QFile>
 
 #include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <optional>
 #include <utility>
@@ -72,6 +72,7 @@ QStringList argumentsOf(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    tapeprint::prepareStandardStreams();
     tapeprint::job::Problem error;
     const QStringList arguments = argumentsOf(argc, argv);
     const std::optional<tapeprint::CommandLine> line = tapeprint::parseCommandLine(arguments, &error);
@@ -89,8 +90,6 @@ int main(int argc, char **argv)
     if (!line->complete.isNull()) {
         return tapeprint::writeCompletions(*line);
     }
-    // A reader that goes away is said, as a full disk is.
-    std::signal(SIGPIPE, SIG_IGN);
     if (line->onlyManagesPresets()) {
         return tapeprint::writeReport(tapeprint::runPresets(*line), line->json);
     }
@@ -126,8 +125,8 @@ int main(int argc, char **argv)
     if (wantsWindow) {
         tapeprint::dialog::ContrastStyle::takeWhereWanted();
     }
+    fonts.reset(); // its thread reads the environment, which the end of the start changes
     start.reset();
-    fonts.reset();
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
     QApplication::setDesktopFileName(QStringLiteral("org.tapeprint.TapePrint")); // whose icon a Wayland desktop shows
 

@@ -4,6 +4,7 @@
 
 #include "job/FileStamp.h"
 #include "job/OutputFile.h"
+#include "tapeprint/StandardStreams.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -16,7 +17,10 @@
 #include <csignal>
 #include <thread>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace
 {
@@ -32,10 +36,6 @@ protected:
     {
         QDir(folder.path()).mkdir(u"tmp"_qs);
         variables.emplace_back(u"TMPDIR"_qs, temporary);
-        // Without one the toolkit makes one, among the temporary files.
-        QDir(folder.path()).mkdir(u"run"_qs);
-        QFile::setPermissions(path(u"run"_qs), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        variables.emplace_back(u"XDG_RUNTIME_DIR"_qs, path(u"run"_qs));
     }
 
     QStringList job(const QString &output, const QString &file) const
@@ -213,6 +213,42 @@ TEST_F(Output, OnAFullDisk_IsSaidAndKeepsWhatStoodThere)
     EXPECT_EQ(shell.exitCode(), testsupport::unwritableOutput);
     EXPECT_EQ(shell.readAllStandardOutput(), "mineout.prn\n");
     EXPECT_TRUE(shell.readAllStandardError().contains("No space left on device"));
+}
+
+TEST_F(Output, BeyondTheLimitOfFiles_IsSaidAndNothingIsLeft)
+{
+    writeFilter("head -c 200000 /dev/zero\n");
+    const QStringList before = everything();
+    QProcess shell;
+    start(shell, u"/bin/sh"_qs,
+          QStringList{u"-c"_qs, u"ulimit -f 100; exec \"$@\""_qs, u"sh"_qs, programPath()} + // of 512 bytes each
+              job(u"out.prn"_qs, document));
+    ASSERT_TRUE(shell.waitForFinished());
+    ASSERT_EQ(shell.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(shell.exitCode(), testsupport::unwritableOutput);
+    const QByteArray said = shell.readAllStandardError();
+    EXPECT_TRUE(said.contains("File too large")) << said.toStdString();
+    EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
+    EXPECT_EQ(everything(), before);
+}
+
+TEST(StandardStreams, ThatAreClosed_HaveTheirNumbersTakenAndStayUnusable)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        for (const int stream : {0, 1, 2}) {
+            close(stream);
+        }
+        tapeprint::prepareStandardStreams();
+        char byte = 'a';
+        const bool areTaken = open("/dev/null", O_RDWR | O_CLOEXEC) > STDERR_FILENO;
+        const bool areUnusable = read(STDIN_FILENO, &byte, 1) < 0 && write(STDOUT_FILENO, &byte, 1) < 0 &&
+                                 write(STDERR_FILENO, &byte, 1) < 0;
+        _exit(areTaken && areUnusable ? 0 : 1);
+    }
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
 }
 
 TEST_F(Output, OfADash_IsThePrintersBytesAlone)

@@ -354,6 +354,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, FakePage,
                                          "part(0, 0, 2147483647, 2147483647)", // larger than all
                                          "part(-1, 0, 2, 2)",                  // beside it
                                          "part(2147483647, 0, 2147483647, 1)", // where numbers end
+                                         "part(7, 0, 2, 1)",                   // half beside it
                                          "part(0, 0, 8, 5); asker.sendall(b'1')"));
 
 TEST_F(FakeDrawer, ThatSaysAbsurdSizes_HasPagesThatCannotBeDrawn)

@@ -83,6 +83,14 @@ QStringList processesOf(const QString &word)
 class FakeWorker : public testing::Test
 {
 protected:
+    FakeWorker()
+    {
+        limits.longest = std::chrono::seconds(20);
+        time.start();
+    }
+    /// Nothing was waited for that does not come.
+    void TearDown() override { EXPECT_LT(time.elapsed(), 10000); }
+
     void write(const QByteArray &script) const
     {
         const QString program = folder.write(u"tapeprint-pages"_qs, fakeProgram + script);
@@ -109,6 +117,7 @@ protected:
     QString made = folder.path(u"made.pdf"_qs);
     PdfWorker::Limits limits;
     Problem error;
+    QElapsedTimer time;
 };
 
 /// Sets a flag after a while.
