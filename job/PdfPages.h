@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// A PDF document's pages: how many, how large, what they look like, and what of them is drawn on. For the preview and for
-// the length that a document needs.
+// A PDF document's pages: how many, how large, what they look like, and what of them is drawn on. For the preview and
+// for the length that a document needs.
 #pragma once
 
 #include "job/Problem.h"

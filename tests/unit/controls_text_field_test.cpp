@@ -433,6 +433,20 @@ TEST_F(TextField, UndoThatBringsASecondPoint_IsRefusedWhereverTheFirstStands)
     EXPECT_EQ(state(), q("1.5|2"));
 }
 
+TEST_F(TextField, RefusedUndo_LeavesCursorAndSelectionWhereTheyAre)
+{
+    show();
+    mField->setText(q("1.5.2"));
+    mField->setCursorPosition(2);
+    QTest::keyClick(mField, Qt::Key_Backspace);
+    mField->setCursorPosition(4); // far from what would come back
+    undoKey();
+    EXPECT_EQ(state(), q("15.2|"));
+    mField->setSelection(2, 2);
+    undoKey();
+    EXPECT_EQ(state(), q("15[.2]"));
+}
+
 TEST_F(TextField, UndoThatSelectsAgain_TellsOfTheSelectionOnce)
 {
     show();
