@@ -129,7 +129,11 @@ void CustomFields::fill()
         const job::CustomParameter &parameter = mParameters[i];
         const QString &value = values.at(static_cast<qsizetype>(i));
         QLineEdit *edit = mFields[i].edit;
-        edit->setText(textFor(parameter, value.isNull() ? firstValue(parameter) : value));
+        const QString text = textFor(parameter, value.isNull() ? firstValue(parameter) : value);
+        if (text != edit->text()) { // what is selected in one that stays is to be typed over
+            edit->setText(text);
+        }
+        edit->setModified(false);
         if (mFields[i].unit != nullptr) {
             mFields[i].unit->setText(unitSign(mUnit.unit()));
         }

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace tapeprint::dialog
 {
@@ -107,6 +108,10 @@ void NoticesArea::notice()
     }
     setVisible(isAny);
     updateGeometry();
+    const int wished = isAny ? heightFor(width()) : 0;
+    if (wished > std::exchange(mNoticedHeight, wished)) {
+        Q_EMIT grew();
+    }
 }
 
 int NoticesArea::heightFor(int width) const

@@ -30,6 +30,10 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+Q_SIGNALS:
+    /// There is more to read than before.
+    void grew();
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
@@ -38,6 +42,7 @@ private:
 
     QVBoxLayout *mColumn = nullptr;
     QLabel *mSentences = nullptr;
+    int mNoticedHeight = 0; ///< that was wished for last
 };
 
 } // namespace tapeprint::dialog

@@ -117,10 +117,7 @@ void PaperMenu::openSheet()
             taken.push_back(size);
         }
     }
-    const ppd_size_t *current = ppdPageSize(mJob.ppd(), nullptr);
-    const QSizeF first = current == nullptr
-                             ? QSizeF()
-                             : QSizeF(static_cast<double>(current->width), static_cast<double>(current->length));
+    const QSizeF first = mCurrentSize ? mCurrentSize() : mJob.page().sizePt;
     mSheet = new CustomSizeSheet(job::customSizeParameters(mJob.ppd()), taken, first, mUnit, mPopUp.window());
     mSheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(mSheet, &CustomSizeSheet::sizeEntered, this, &PaperMenu::takeSize);

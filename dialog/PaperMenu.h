@@ -9,6 +9,10 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QSizeF>
+
+#include <functional>
+#include <utility>
 
 class QComboBox;
 
@@ -25,6 +29,8 @@ public:
     /// \param popUp and the others are not owned.
     PaperMenu(QComboBox &popUp, const job::Job &job, const MeasureUnit &unit, QObject *parent);
 
+    /// \param size asked when the sheet opens: what it begins with, in points. Without it, the job's page.
+    void setCurrentSize(std::function<QSizeF()> size) { mCurrentSize = std::move(size); }
     /// Offers what the job's printer takes.
     void fill();
     /// The pop-up shows the job's paper.
@@ -49,6 +55,7 @@ private:
     job::NamedSizes mNamed;
     QString mUnnamed; ///< the job's own size that has no name, as long as it is offered; null when there is none
     QPointer<CustomSizeSheet> mSheet;
+    std::function<QSizeF()> mCurrentSize;
 };
 
 } // namespace tapeprint::dialog

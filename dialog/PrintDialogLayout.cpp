@@ -64,6 +64,8 @@ void PrintDialog::buildControls()
     layout->setContentsMargins(smallGap, usual.top(), smallGap, usual.bottom());
     layout->addWidget(makeDestinationRows());
     mNotices = new NoticesArea(this);
+    // The page below would scroll otherwise. When the words have their place, as this may come from within a panel.
+    connect(mNotices, &NoticesArea::grew, this, &PrintDialog::growUnlessSized, Qt::QueuedConnection);
     makeConflictNotice();
     layout->addWidget(mNotices);
     auto *middle = new QHBoxLayout;
@@ -94,6 +96,7 @@ QWidget *PrintDialog::makeDestinationRows()
     mTapePopUp = new PopUp(rows);
     mTapePopUp->setObjectName(QStringLiteral("tape"));
     mPapers = new PaperMenu(*mTapePopUp, mJob, mUnit, this);
+    mPapers->setCurrentSize([this] { return currentJob().page.sizePt; }); // with the length that a panel shows
     mTapeLabel = makeLabel({}, mTapePopUp);
     mCopiesField = new QSpinBox(rows);
     mCopiesField->setObjectName(QStringLiteral("copies"));

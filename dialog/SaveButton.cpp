@@ -29,6 +29,17 @@ QString nameOf(const QString &title)
     return name.isEmpty() ? SaveButton::tr("labels", "the name of a file") : name;
 }
 
+/// A name that no file has there, least of all the document that is printed.
+QString freeName(const QDir &folder, const QString &name, const QString &ending)
+{
+    constexpr int mostTries = 1000;
+    QString free = name + u'.' + ending;
+    for (int i = 2; folder.exists(free) && i < mostTries; ++i) {
+        free = QStringLiteral("%1-%2.%3").arg(name, QString::number(i), ending);
+    }
+    return free;
+}
+
 } // namespace
 
 SaveButton::SaveButton(const QString &title, QWidget *parent) : QToolButton(parent), mName(nameOf(title))
@@ -64,7 +75,7 @@ void SaveButton::ask(Kind kind)
     dialog.setNameFilters({isPdf ? tr("PDF documents (*.pdf)") : tr("Printer data (*.prn)"), tr("All files (*)")});
     dialog.setDirectory(mFolder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                                           : mFolder);
-    dialog.selectFile(mName + u'.' + ending);
+    dialog.selectFile(freeName(dialog.directory(), mName, ending));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return;
     }

@@ -220,11 +220,13 @@ public:
     {
         mPiece.append(reinterpret_cast<const char *>(bytes), length);
         if (mPiece.size() >= pieceBytes) {
-            finish();
+            flush();
         }
     }
 
-    void finish() override
+    void finish() override {} // the writer says so after each stream
+
+    void flush()
     {
         if (!mPiece.empty()) {
             mOutput.take(reinterpret_cast<const unsigned char *>(mPiece.data()), mPiece.size());
@@ -246,7 +248,7 @@ void write(QPDF &pdf, Output &output)
     writer.setOutputPipeline(&pipe);
     writer.setStaticID(true);
     writer.write();
-    pipe.finish();
+    pipe.flush();
 }
 
 std::string reasonOf(const std::exception &failure)

@@ -36,7 +36,7 @@ const QHash<QString, QString> &patterns()
         {OptionName::fitLength, QStringLiteral("true|false|yes|no|on|off|1|0")},
         {QStringLiteral("fit-to-page"), QStringLiteral("true|false|yes|no|on|off|1|0")},
         {QStringLiteral("job-priority"), QStringLiteral(R"([1-9]\d?|100)")},
-        {QStringLiteral("number-up"), wholeNumber},
+        {QStringLiteral("number-up"), QStringLiteral("[1-9]|1[0-6]")}, // on tape; paper has fewer, which is said
         {QStringLiteral("orientation-requested"), QStringLiteral("[3-7]")},
         {QStringLiteral("print-scaling"), QStringLiteral("auto|auto-fit|fit|fill|none")},
         {QStringLiteral("print-quality"), QStringLiteral("[3-5]|draft|normal|high")},

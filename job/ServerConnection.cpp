@@ -65,8 +65,13 @@ bool isConnected(int descriptor)
     return getpeername(descriptor, reinterpret_cast<sockaddr *>(&other), &size) == 0;
 }
 
+bool isEncryptionAsked()
+{
+    return cupsEncryption() == HTTP_ENCRYPTION_REQUIRED;
+}
+
 /// Whether a local server is there and has only too many callers for now. libcups has one word for every failure to
-/// connect.
+/// connect; one that has room and is not reached takes no encrypted connections where these are asked for.
 bool isCrowded()
 {
     const QByteArray path(cupsServer());
@@ -77,10 +82,10 @@ bool isCrowded()
     address.sun_family = AF_UNIX;
     std::copy_n(path.constData(), path.size(), static_cast<char *>(address.sun_path));
     const int probe = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    const bool isThere = connect(probe, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0 ||
-                         errno == EAGAIN; // it has room again, or has none yet
+    const bool hasRoom = connect(probe, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
+    const bool hasNone = !hasRoom && errno == EAGAIN;
     close(probe);
-    return isThere;
+    return hasNone || (hasRoom && !isEncryptionAsked());
 }
 
 } // namespace
@@ -241,8 +246,11 @@ QString ServerConnection::problem() const
 QString ServerConnection::noAnswer()
 {
     return advice(Texts::tr("The print server %1 does not answer. It is asked again until it does."),
-                  QStringLiteral("The print server %1 does not answer: start it, name another in CUPS_SERVER, or print "
-                                 "without one with --ppd FILE."))
+                  isEncryptionAsked()
+                      ? QStringLiteral("The print server %1 does not answer, or takes no encrypted connection: leave "
+                                       "out -E, or name another in CUPS_SERVER.")
+                      : QStringLiteral("The print server %1 does not answer: start it, name another in CUPS_SERVER, or "
+                                       "print without one with --ppd FILE."))
         .arg(serverName());
 }
 

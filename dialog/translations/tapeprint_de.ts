@@ -1893,6 +1893,10 @@
         <source>the printer is at work</source>
         <translation>der Drucker arbeitet</translation>
     </message>
+    <message>
+        <source>what reads it has broken off</source>
+        <translation>das Programm, das es liest, ist abgebrochen</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

@@ -1893,6 +1893,10 @@
         <source>the printer is at work</source>
         <translation>the printer is at work</translation>
     </message>
+    <message>
+        <source>what reads it has broken off</source>
+        <translation>what reads it has broken off</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

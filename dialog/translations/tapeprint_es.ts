@@ -1893,6 +1893,10 @@
         <source>the printer is at work</source>
         <translation>la impresora está trabajando</translation>
     </message>
+    <message>
+        <source>what reads it has broken off</source>
+        <translation>el programa que lo lee se ha interrumpido</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

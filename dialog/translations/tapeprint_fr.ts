@@ -1893,6 +1893,10 @@
         <source>the printer is at work</source>
         <translation>l’imprimante travaille</translation>
     </message>
+    <message>
+        <source>what reads it has broken off</source>
+        <translation>le programme qui le lit s’est interrompu</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

@@ -1893,6 +1893,10 @@
         <source>the printer is at work</source>
         <translation>la stampante è al lavoro</translation>
     </message>
+    <message>
+        <source>what reads it has broken off</source>
+        <translation>il programma che lo legge si è interrotto</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

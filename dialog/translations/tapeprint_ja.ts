@@ -1889,6 +1889,10 @@
         <source>the printer is at work</source>
         <translation>プリンターは動作中です</translation>
     </message>
+    <message>
+        <source>what reads it has broken off</source>
+        <translation>読み取るプログラムが途中で終了しました</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

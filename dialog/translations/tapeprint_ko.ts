@@ -1889,6 +1889,10 @@
         <source>the printer is at work</source>
         <translation>프린터가 작업 중입니다</translation>
     </message>
+    <message>
+        <source>what reads it has broken off</source>
+        <translation>읽는 프로그램이 중단되었습니다</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

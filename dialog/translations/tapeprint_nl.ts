@@ -1893,6 +1893,10 @@
         <source>the printer is at work</source>
         <translation>de printer is bezig</translation>
     </message>
+    <message>
+        <source>what reads it has broken off</source>
+        <translation>het programma dat het leest, is afgebroken</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

@@ -1893,6 +1893,10 @@
         <source>the printer is at work</source>
         <translation>a impressora está a trabalhar</translation>
     </message>
+    <message>
+        <source>what reads it has broken off</source>
+        <translation>o programa que o lê foi interrompido</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

@@ -1889,6 +1889,10 @@
         <source>the printer is at work</source>
         <translation>打印机正在工作</translation>
     </message>
+    <message>
+        <source>what reads it has broken off</source>
+        <translation>读取它的程序已中断</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

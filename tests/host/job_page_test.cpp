@@ -13,7 +13,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -569,6 +571,34 @@ TEST_F(JobPageTest, SaveAsPdf_WritesTheLabelsAndTheWindowStays)
     EXPECT_EQ(sizes->size(), 3U);
     EXPECT_NEAR(job::mmFromPoints(sizes->front().height()), 100.0, 0.05);
     EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(JobPageTest, SaveAsPdf_ProposesANameThatNoFileHas)
+{
+    open(1);
+    const QString saved = folder.filePath(u"saved/"_qs);
+    ASSERT_TRUE(QDir().mkpath(saved));
+    QStringList proposed;
+    const OverTheWindow person([&](QWidget *modal) {
+        if (auto *chooser = qobject_cast<QFileDialog *>(modal)) {
+            proposed.append(QFileInfo(chooser->selectedFiles().value(0)).fileName());
+            if (proposed.size() == 1) {
+                nameFile(chooser, saved + proposed.first());
+            } else {
+                chooser->reject();
+            }
+        } else {
+            QTest::keyClick(modal, Qt::Key_Return);
+        }
+    });
+    pickFromSaveMenu(Qt::Key_Down);
+    ASSERT_EQ(proposed.size(), 1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo::exists(saved + proposed.first()); }, patienceMs));
+    constexpr int toldMs = 500; // where it is, which is answered with Return
+    QTest::qWait(toldMs);
+    pickFromSaveMenu(Qt::Key_Down);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return proposed.size() == 2; }, patienceMs));
+    EXPECT_EQ(proposed.last(), proposed.first().chopped(4) + u"-2.pdf"_qs);
 }
 
 TEST_F(JobPageTest, PrinterData_GoToTheFileNamedAndNotToTheQueue)

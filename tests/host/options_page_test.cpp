@@ -170,6 +170,18 @@ TEST_F(OptionsPageTest, SeveralParameters_GoTogether)
     EXPECT_EQ(carried(u"Stamp"_qs), u"{Words='Top secret' Gray=0.5}"_qs);
 }
 
+TEST_F(OptionsPageTest, NextParameterThatIsSelected_StaysSelectedWhenTheFirstIsTaken)
+{
+    open(pickOne("Place", ab("Place")) + "*CustomPlace True: \"\"\n*ParamCustomPlace Across/Across: 1 points 0 144\n"
+                                         "*ParamCustomPlace Along/Along: 2 points 0 144\n");
+    pick(u"Place"_qs, u"Custom…"_qs);
+    auto *along = child<QLineEdit>(u"Place/Along"_qs);
+    along->selectAll(); // as the Tab key does before the first field's value is taken
+    type(u"Place/Across"_qs, u"12,5"_qs);
+    EXPECT_EQ(carried(u"Place"_qs), u"{Across=12.5mm Along=0mm}"_qs);
+    EXPECT_EQ(along->selectedText(), u"0"_qs);
+}
+
 TEST_F(OptionsPageTest, OwnValueOfTheJob_IsShown)
 {
     open(ownValues);

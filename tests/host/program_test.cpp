@@ -133,6 +133,7 @@ TEST_F(Program, ValueThatIsNotTakenAsItIs_IsRefusedBeforeAnythingIsPrinted)
         {u"media=Custom.twelve"_qs, "media=Custom.twelve is no size"},
         {u"media=W99"_qs, "media=W99 is none of the choices"},
         {u"number-up=many"_qs, "number-up=many is no value"},
+        {u"number-up=17"_qs, "number-up=17 is no value"},
     };
     for (const auto &[value, part] : values) {
         const Outcome outcome = run(job + QStringList{u"-o"_qs, value, document});

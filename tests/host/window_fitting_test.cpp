@@ -5,6 +5,7 @@
 #include "TestPdf.h"
 #include "TestPrinter.h"
 
+#include "dialog/CustomSizeSheet.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 #include "job/PageLayout.h"
@@ -355,6 +356,17 @@ TEST_F(WindowFitting, Revert_BringsATypedLengthBack)
     rest();
     expectOneLength(untouchedMm);
     EXPECT_EQ(printJob.options().lines(), before);
+}
+
+TEST_F(WindowFitting, SizeOfOnesOwn_BeginsWithTheLengthThatIsSet)
+{
+    ASSERT_NO_FATAL_FAILURE(open(boxOfHundredPoints));
+    type(u"mLengthTxFld"_qs, u"70"_qs);
+    QTest::keyClick(child<QLineEdit>(u"mLengthTxFld"_qs), Qt::Key_Return);
+    rest();
+    pick(u"tape"_qs, u"Custom…"_qs);
+    EXPECT_EQ(child<QLineEdit>(u"customSize/Height"_qs)->text(), u"70"_qs);
+    dialog->findChild<CustomSizeSheet *>()->reject();
 }
 
 TEST_F(WindowFitting, Revert_BringsTheLengthBackFromBeforeItWasFitted)

@@ -200,6 +200,27 @@ TEST_P(WindowParts, LargerWindow_MakesThePreviewLarger)
     EXPECT_EQ(preview->height(), before.height() + 200);
 }
 
+TEST_P(WindowParts, NoticeThatComes_TakesNoRoomFromThePageUnlessSomebodySizedTheWindow)
+{
+    ASSERT_NO_FATAL_FAILURE(open());
+    dialog->show();
+    constexpr int settledMs = 400;
+    QTest::qWait(settledMs);
+    auto *notices = dialog->findChild<NoticesArea *>(u"noticesArea"_qs);
+    const QWidget *page = dialog->findChild<PageStack *>()->parentWidget(); // what is seen of it
+    const int before = page->height();
+    notices->setSentences(u"The printer is stopped."_qs);
+    QTest::qWait(settledMs);
+    EXPECT_TRUE(notices->isVisible());
+    EXPECT_EQ(page->height(), before);
+    notices->setSentences({});
+    dialog->resize(dialog->width() + 10, dialog->height());
+    const QSize own = dialog->size();
+    notices->setSentences(u"The printer is stopped."_qs);
+    QTest::qWait(settledMs);
+    EXPECT_EQ(dialog->size(), own);
+}
+
 TEST_P(WindowParts, NameThatIsShortened_IsWholeInTheTooltip)
 {
     PopUp popUp;

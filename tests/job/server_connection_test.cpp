@@ -246,6 +246,17 @@ private:
     std::vector<int> mWaiting;
 };
 
+TEST_F(ServerConnectionTest, ServerThatTakesNoEncryptedConnection_IsLeftSoon)
+{
+    const MeddlingServer plain(socket, {}, [](const SeenRequest &) { return Meddling::AnswerOk; });
+    cupsSetEncryption(HTTP_ENCRYPTION_REQUIRED);
+    const auto start = steady_clock::now();
+    const auto server = ServerConnection::open(&stop);
+    cupsSetEncryption(HTTP_ENCRYPTION_IF_REQUESTED);
+    EXPECT_FALSE(server->isOpen());
+    EXPECT_LT(steady_clock::now() - start, milliseconds(5000));
+}
+
 TEST_F(ServerConnectionTest, ServerWithAFullQueueOfCallers_IsCalledAgainUntilItHasRoom)
 {
     auto full = std::make_unique<FullServer>(socket);

@@ -110,7 +110,7 @@ bool isProjectFolder(std::string_view name)
 /// C++'s headers have no folder; of C's and the system's the folders are few.
 bool isSystemHeader(std::string_view path)
 {
-    static const Names folders = {"sys", "netinet", "arpa"};
+    static const Names folders = {"sys", "netinet", "arpa", "linux"};
     return path.find('/') == std::string_view::npos || contains(folders, firstComponent(path));
 }
 
