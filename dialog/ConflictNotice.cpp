@@ -35,7 +35,8 @@ void ConflictNotice::follow(const job::Job &job)
         return;
     }
     mFollowed = followed;
-    mResolution = isAny() ? job::resolutionOf(job.ppd(), job.lastChanged()) : std::nullopt;
+    const QStringList wanted = QStringList{job.lastChanged()} + job::latestFirst(job.laidDown());
+    mResolution = isAny() ? job::resolutionOf(job.ppd(), wanted) : std::nullopt;
     setVisible(isAny());
     mButton->setVisible(mResolution.has_value());
     if (isAny()) {

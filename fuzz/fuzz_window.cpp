@@ -110,7 +110,7 @@ void checkConflicts(ppd_file_t *ppd)
         checkText(sentence);
     }
     const job::PpdMarks before = job::takeMarks(ppd);
-    job::resolutionOf(ppd, QString());
+    job::resolutionOf(ppd, {});
     require(job::takeMarks(ppd) == before);
 }
 

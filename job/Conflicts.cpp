@@ -334,21 +334,38 @@ QString Resolution::sentence() const
     return sentences.join(u' ');
 }
 
-std::optional<Resolution> resolutionOf(ppd_file_t *ppd, const QString &lastChanged)
+std::optional<Resolution> resolutionOf(ppd_file_t *ppd, const QStringList &wanted)
 {
     const std::vector<Conflict> conflicts = conflictsOf(ppd);
     if (conflicts.empty()) {
         return Resolution();
     }
-    const bool isIn = std::any_of(conflicts.begin(), conflicts.end(), [&lastChanged](const Conflict &conflict) {
-        return std::any_of(conflict.choices.begin(), conflict.choices.end(),
-                           [&lastChanged](const ConflictingChoice &choice) { return choice.key == lastChanged; });
-    });
-    std::optional<Choices> choices = isIn ? wayOut(ppd, lastChanged) : std::nullopt;
-    if (!choices) {
-        choices = wayOut(ppd, QString());
+    QStringList keys;
+    for (const Conflict &conflict : conflicts) {
+        for (const ConflictingChoice &choice : conflict.choices) {
+            keys.append(choice.key);
+        }
     }
+    for (const QString &name : wanted) {
+        const auto key = std::find_if(keys.begin(), keys.end(), [&name](const QString &one) {
+            return one.compare(name, Qt::CaseInsensitive) == 0;
+        });
+        const std::optional<Choices> choices = key != keys.end() ? wayOut(ppd, *key) : std::nullopt;
+        if (choices) {
+            return described(ppd, *choices);
+        }
+    }
+    const std::optional<Choices> choices = wayOut(ppd, QString());
     return choices ? std::optional(described(ppd, *choices)) : std::nullopt;
+}
+
+QStringList latestFirst(const JobOptions &options)
+{
+    QStringList names;
+    for (const auto &[name, value] : options.entries()) {
+        names.prepend(name);
+    }
+    return names;
 }
 
 } // namespace tapeprint::job

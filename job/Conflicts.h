@@ -2,6 +2,8 @@
 // Options that a printer cannot do together, as its description says, and what to change so that it can.
 #pragma once
 
+#include "job/JobOptions.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -49,8 +51,13 @@ struct Resolution {
 };
 
 /// Finds a way out of the conflicts, as cupsResolveConflicts does where it knows one; nothing when there is none. What
-/// is built into the printer stays as it is, and so does, where that is possible, an option that the person has just
-/// changed. The marks are as they were afterwards. \param lastChanged its keyword; may be null.
-std::optional<Resolution> resolutionOf(ppd_file_t *ppd, const QString &lastChanged);
+/// is built into the printer stays as it is, and so does, where that is possible, an option that the person wants. The
+/// marks are as they were afterwards. \param wanted keywords in any letters, the one that counts most first: of those
+/// that are in a conflict the first that can stay does.
+std::optional<Resolution> resolutionOf(ppd_file_t *ppd, const QStringList &wanted);
+
+/// The names of options, the latest first: of what is laid down for a job that is what was asked for before what was
+/// saved.
+QStringList latestFirst(const JobOptions &options);
 
 } // namespace tapeprint::job

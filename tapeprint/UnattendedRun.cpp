@@ -187,7 +187,7 @@ private:
         }
         mReport.data.insert(QStringLiteral("conflicts"), QJsonArray::fromStringList(sentences));
         const std::optional<job::Resolution> resolution =
-            mLine.resolve ? job::resolutionOf(mJob.ppd(), mJob.lastChanged()) : std::nullopt;
+            mLine.resolve ? job::resolutionOf(mJob.ppd(), job::latestFirst(mJob.laidDown())) : std::nullopt;
         if (resolution) {
             mPanels.apply(*resolution);
             if (!mPanels.saveValues(&mProblem)) {

@@ -314,6 +314,19 @@ TEST_F(ConflictProgram, Resolve_SaysWhatItChanges)
     EXPECT_TRUE(outcome.output.contains(cutChanged ? "CutMedia=None" : "KsMirror=False"));
 }
 
+TEST_F(ConflictProgram, Resolve_KeepsWhatWasAskedForLast)
+{
+    // The description's own choice gives way to what was asked for.
+    const hosttest::Outcome mirrored =
+        run(shown({u"-o"_qs, u"CutMedia=Label"_qs, u"-o"_qs, u"ksmirror=True"_qs, u"--resolve"_qs}));
+    EXPECT_TRUE(mirrored.output.contains("KsMirror=True")) << mirrored.output.toStdString();
+    EXPECT_TRUE(mirrored.output.contains("CutMedia=None")) << mirrored.output.toStdString();
+    const hosttest::Outcome cut =
+        run(shown({u"-o"_qs, u"KsMirror=True"_qs, u"-o"_qs, u"CutMedia=Label"_qs, u"--resolve"_qs}));
+    EXPECT_TRUE(cut.output.contains("KsMirror=False")) << cut.output.toStdString();
+    EXPECT_TRUE(cut.output.contains("CutMedia=Label")) << cut.output.toStdString();
+}
+
 TEST_F(ConflictProgram, Passcode_IsShownInAsterisks)
 {
     const hosttest::Outcome outcome = run(shown({u"-o"_qs, u"Lock=Custom.0815"_qs}));

@@ -51,10 +51,10 @@ protected:
         return sentencesOf(found);
     }
     /// "Key=Choice" of each change; "none" when there is no way out.
-    QStringList changes(const QString &lastChanged = {}) const
+    QStringList changes(const QStringList &wanted = {}) const
     {
         const PpdMarks before = takeMarks(ppd.get());
-        const std::optional<Resolution> resolution = resolutionOf(ppd.get(), lastChanged);
+        const std::optional<Resolution> resolution = resolutionOf(ppd.get(), wanted);
         EXPECT_EQ(takeMarks(ppd.get()), before);
         if (!resolution) {
             return {u"none"_qs};
@@ -126,7 +126,7 @@ TEST_F(Conflicts, BesideOneThatIsNotThere_IsResolvedAllTheSame)
          {{u"Duplex"_qs, u"Long"_qs}, {u"Cut"_qs, u"Half"_qs}, {u"Media"_qs, u"Cloth"_qs}});
     EXPECT_EQ(sentencesOf(conflictsOf(ppd.get())),
               QStringList{u"\"Cutter: Half\" does not go with \"Material: Cloth\"."_qs});
-    EXPECT_EQ(changes(u"Cut"_qs), QStringList{u"Media=Paper"_qs});
+    EXPECT_EQ(changes({u"Cut"_qs}), QStringList{u"Media=Paper"_qs});
 }
 
 TEST_F(Conflicts, CustomPageSize_IsAChoice)
@@ -140,19 +140,20 @@ TEST_F(Conflicts, CustomPageSize_IsAChoice)
     EXPECT_EQ(sentences(), QStringList{u"\"Tape: Short tape\" does not go with \"Cutter: Half\"."_qs});
 }
 
-TEST_F(Conflicts, Resolution_KeepsWhatTheyChangedLast)
+TEST_F(Conflicts, Resolution_KeepsWhatIsWantedMost)
 {
     open("*UIConstraints: *Duplex Long *Media Film\n*UIConstraints: *Media Film *Duplex Long\n",
          {{u"Duplex"_qs, u"Long"_qs}, {u"Media"_qs, u"Film"_qs}});
-    EXPECT_EQ(changes(u"Duplex"_qs), QStringList{u"Media=Paper"_qs});
-    EXPECT_EQ(changes(u"Media"_qs), QStringList{u"Duplex=None"_qs});
-    EXPECT_EQ(changes(u"Cut"_qs).size(), 1); // not in the conflict: either of the two gives way
+    EXPECT_EQ(changes({u"Duplex"_qs}), QStringList{u"Media=Paper"_qs});
+    EXPECT_EQ(changes({u"Media"_qs}), QStringList{u"Duplex=None"_qs});
+    EXPECT_EQ(changes({u"Cut"_qs}).size(), 1); // not in the conflict: either of the two gives way
+    EXPECT_EQ(changes({u"Cut"_qs, u"media"_qs, u"Duplex"_qs}), QStringList{u"Duplex=None"_qs});
 }
 
 TEST_F(Conflicts, Resolution_SaysWhatItChanges)
 {
     open("*UIConstraints: *Duplex Long *Media Film\n", {{u"Duplex"_qs, u"Long"_qs}, {u"Media"_qs, u"Film"_qs}});
-    const std::optional<Resolution> resolution = resolutionOf(ppd.get(), u"Duplex"_qs);
+    const std::optional<Resolution> resolution = resolutionOf(ppd.get(), {u"Duplex"_qs});
     ASSERT_TRUE(resolution);
     EXPECT_EQ(resolution->sentence(), u"\"Material\" changes from \"Film\" to \"Paper\"."_qs);
 }
@@ -161,15 +162,15 @@ TEST_F(Conflicts, WhatIsBuiltIn_StaysAndIsNamedLast)
 {
     open("*UIConstraints: *Knife False *Cut Full\n*UIConstraints: *Knife False *Cut Half\n", {{u"Cut"_qs, u"Full"_qs}});
     EXPECT_EQ(sentences(), QStringList{u"\"Cutter: Full\" does not go with \"Knife: Missing\"."_qs});
-    // What was changed last gives way when nothing else can.
-    EXPECT_EQ(changes(u"Cut"_qs), QStringList{u"Cut=None"_qs});
+    // What is wanted gives way when nothing else can.
+    EXPECT_EQ(changes({u"Cut"_qs}), QStringList{u"Cut=None"_qs});
 }
 
 TEST_F(Conflicts, DefaultThatConflictsItself_GivesWayToAnotherChoice)
 {
     open("*UIConstraints: *Duplex Long *Media Film\n*UIConstraints: *Duplex Long *Media Paper\n",
          {{u"Duplex"_qs, u"Long"_qs}, {u"Media"_qs, u"Film"_qs}});
-    EXPECT_EQ(changes(u"Duplex"_qs), QStringList{u"Media=Cloth"_qs});
+    EXPECT_EQ(changes({u"Duplex"_qs}), QStringList{u"Media=Cloth"_qs});
 }
 
 TEST_F(Conflicts, WithoutAWayOut_ThereIsNone)
