@@ -246,7 +246,8 @@ bool addBracedOptions(const ServerConnection &server, int jobId, const JobOption
     return isAccepted(response.get());
 }
 
-std::optional<std::vector<int>> emptyJobs(const ServerConnection &server, const QString &queue, const QString &title)
+std::optional<std::vector<int>> unfinishedJobs(const ServerConnection &server, const QString &queue,
+                                               const QString &title, int documents)
 {
     static constexpr std::array attributes{"job-id", "job-name", "number-of-documents"};
     ipp_t *request = aboutPrinter(IPP_OP_GET_JOBS, queue);
@@ -260,9 +261,9 @@ std::optional<std::vector<int>> emptyJobs(const ServerConnection &server, const 
     std::vector<int> jobs;
     int id = 0;
     bool isCalledSo = false;
-    bool isEmpty = false;
+    bool lacksDocuments = false;
     const auto finishJob = [&] {
-        if (id != 0 && isCalledSo && isEmpty) {
+        if (id != 0 && isCalledSo && lacksDocuments) {
             jobs.push_back(id);
         }
         id = 0;
@@ -278,7 +279,7 @@ std::optional<std::vector<int>> emptyJobs(const ServerConnection &server, const 
         } else if (name == QLatin1String("job-name")) {
             isCalledSo = QString::fromUtf8(ippGetString(attribute, 0, nullptr)) == title;
         } else if (name == QLatin1String("number-of-documents")) {
-            isEmpty = ippGetInteger(attribute, 0) == 0;
+            lacksDocuments = ippGetInteger(attribute, 0) < documents;
         }
     }
     finishJob();

@@ -78,9 +78,10 @@ bool holdJob(const ServerConnection &server, int jobId, const QString &until);
 /// filter ever sees; as names they arrive as they are. \return whether the server took them all.
 bool addBracedOptions(const ServerConnection &server, int jobId, const JobOptions &options);
 
-/// The person's own jobs of a title on a queue that wait for their first document; nothing when the server does not
-/// say.
-std::optional<std::vector<int>> emptyJobs(const ServerConnection &server, const QString &queue, const QString &title);
+/// The person's own jobs of a title on a queue that are not over and have fewer documents than so many; nothing when
+/// the server does not say.
+std::optional<std::vector<int>> unfinishedJobs(const ServerConnection &server, const QString &queue,
+                                               const QString &title, int documents);
 
 /// Whether the job is gone for certain: cancelled, or over already.
 bool cancelJob(const ServerConnection &server, int jobId);

@@ -9,6 +9,7 @@
 #include "job/Advice.h"
 #include "job/CupsOptions.h"
 #include "job/JobRequests.h"
+#include "job/LeftJobs.h"
 #include "job/PlainText.h"
 #include "job/Reason.h"
 #include "job/ServerConnection.h"
@@ -21,7 +22,6 @@
 #include <chrono>
 #include <memory>
 #include <thread>
-#include <vector>
 
 #include <cups/cups.h>
 
@@ -52,7 +52,11 @@ public:
 
     std::optional<SubmittedJob> run(Problem *error)
     {
-        if (!findQueue(error) || !create(error)) {
+        if (!findQueue(error)) {
+            return std::nullopt;
+        }
+        takeBackLeftJobs(*mServer);
+        if (!create(error)) {
             return std::nullopt;
         }
         const bool isThere = sendAll(error) || hasArrivedAllTheSame();
@@ -139,13 +143,10 @@ private:
     /// The server may have made the job, and only its number was lost: it is the one without documents.
     void cancelWithoutNumber()
     {
-        if (mServer->isStopped() || mServer->isUnreachable()) {
-            putInOrder([this] {
-                const std::optional<std::vector<int>> jobs =
-                    emptyJobs(*mServer, mSubmission.queue.name, mSubmission.title);
-                // Of several, others may belong to somebody who is about to fill them.
-                return jobs && (jobs->size() != 1 || cancelJob(*mServer, jobs->front()));
-            });
+        const LeftJob left{mSubmission.queue.name, mSubmission.title};
+        if ((mServer->isStopped() || mServer->isUnreachable()) &&
+            !putInOrder([this, &left] { return takeBack(*mServer, left); })) {
+            rememberLeftJob(left);
         }
     }
 
@@ -232,6 +233,10 @@ private:
     std::optional<SubmittedJob> abandon(Problem *error)
     {
         if (!putInOrder([this] { return cancelJob(*mServer, mJobId); })) {
+            // A job of several documents is held until it is set free, also when all of them are there.
+            const int documents = static_cast<int>(mSubmission.files.size());
+            rememberLeftJob(
+                {mSubmission.queue.name, mSubmission.title, mJobId, mHoldUntil.isNull() ? documents : documents + 1});
             const QString left = Texts::tr("Job %1 may be left half sent on the server; cancel it with: cancel %2-%1")
                                      .arg(QString::number(mJobId), harmless(mSubmission.queue.name));
             error->sentence = error->isNull() ? left : error->sentence + u' ' + left;

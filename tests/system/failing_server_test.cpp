@@ -5,6 +5,7 @@
 #include "dialog/PrintDialog.h"
 #include "job/JobFollowing.h"
 #include "job/JobSubmission.h"
+#include "job/LeftJobs.h"
 #include "job/PrinterList.h"
 #include "tests/support/LoopWatch.h"
 #include "tests/support/MeddlingServer.h"
@@ -17,6 +18,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <thread>
 
@@ -331,6 +333,52 @@ TEST_F(FailingServer, ThatTrickles_IsLeftAfterAStopAtEveryStep)
         EXPECT_TRUE(cups.filterCalls(job.id).empty()) << job.id;
     }
     EXPECT_EQ(send().toStdString(), "");
+}
+
+TEST_F(FailingServer, ThatIsGoneForLong_HasTheJobTakenBackBeforeTheNextIsSent)
+{
+    fail(IPP_OP_SEND_DOCUMENT, Meddling::KeepSilent);
+    std::thread end([this] {
+        EXPECT_TRUE(systemtest::waitUntil([this] {
+            const std::vector<int> seen = server->operations();
+            return std::find(seen.begin(), seen.end(), IPP_OP_SEND_DOCUMENT) != seen.end();
+        }));
+        server->goAway();
+    });
+    const QString sentence = send();
+    end.join();
+    EXPECT_TRUE(sentence.contains(u"Job 1 may be left half sent"_qs)) << sentence.toStdString();
+    ASSERT_EQ(cups.jobs().size(), 1U);
+    EXPECT_LT(cups.jobs()[0].state, IPP_JSTATE_STOPPED); // the server waits for its document
+
+    server->comeBack();
+    mend();
+    EXPECT_EQ(send().toStdString(), "");
+    EXPECT_TRUE(cups.waitForEnd(2).has_value());
+    EXPECT_EQ(cups.filterCalls(2).size(), 1U);
+    ASSERT_TRUE(cups.waitForEnd(1).has_value());
+    EXPECT_EQ(cups.jobs()[0].state, IPP_JSTATE_CANCELED);
+}
+
+TEST_F(FailingServer, ThatWasKilled_HasNoJobCancelledThatGotTheNumberOfOneThatWasLeft)
+{
+    const QString document = QStringLiteral(TAPEPRINT_SOURCE_DIR "/docs/sample/address-label.pdf");
+    const QStringList held{u"-d"_qs, u"tape"_qs, u"-H"_qs, u"indefinite"_qs, u"-t"_qs};
+    ASSERT_EQ(
+        systemtest::runClient({u"/usr/bin/lp"_qs, held + QStringList{u"label"_qs, document}, cups.clientVariables()})
+            .status,
+        0);
+    ASSERT_EQ(
+        systemtest::runClient({u"/usr/bin/lp"_qs, held + QStringList{u"another"_qs, document}, cups.clientVariables()})
+            .status,
+        0);
+    job::rememberLeftJob({u"tape"_qs, u"label"_qs, 1, 1}); // which has its document
+    job::rememberLeftJob({u"tape"_qs, u"label"_qs, 2, 3}); // which is called otherwise
+    EXPECT_EQ(send().toStdString(), "");
+    for (const ServerJob &job : cups.jobs()) {
+        EXPECT_TRUE(job.id == 3 || job.state == IPP_JSTATE_HELD) << job.id << ": " << job.state;
+    }
+    EXPECT_EQ(cups.jobs().size(), 3U);
 }
 
 /// The ways of failing under which a window is opened.

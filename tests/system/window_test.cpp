@@ -276,6 +276,38 @@ TEST_F(WindowJob, CancelWhileTheServerIsSilentInTheMiddle_CancelsTheJobAndTheWin
     EXPECT_TRUE(cups.filterCalls(1).empty());
 }
 
+TEST_F(WindowJob, ServerThatGoesAwayInTheMiddle_IsSaidAndPrintSendsTheSameSettingsWhenItIsBack)
+{
+    using tapeprint::test::Meddling;
+    std::atomic<bool> isSending = false;
+    tapeprint::test::MeddlingServer server(
+        folder.path(u"meddling.sock"_qs), cups.socket(), [&isSending](const tapeprint::test::SeenRequest &request) {
+            const bool isFirst = request.operation == IPP_OP_SEND_DOCUMENT && !isSending.exchange(true);
+            return isFirst ? Meddling::KeepSilent : Meddling::PassOn;
+        });
+    moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"meddling.sock"_qs)}};
+    ASSERT_NO_FATAL_FAILURE(open());
+    dialog.goTo(PanelControl::tapeLength);
+    dialog.type(u"75.5"_qs);
+    dialog.clickPrint();
+    ASSERT_TRUE(systemtest::waitUntil([&isSending] { return isSending.load(); }));
+    server.goAway();
+    const QString alert = dialog.waitForFurtherWindow();
+    ASSERT_FALSE(alert.isNull()) << "nothing is said";
+    EXPECT_TRUE(cups.filterCalls(1).empty());
+    server.comeBack();
+    dialog.press({u"Return"_qs});
+    ASSERT_TRUE(dialog.waitForGone(alert));
+    dialog.clickPrint();
+    const std::vector<FilterCall> calls = filterCallsOf(dialog.waitForEnd());
+    ASSERT_EQ(calls.size(), 1U);
+    EXPECT_EQ(tapeOptions(calls[0]), panelOptionsMm({"KsTapeLength=75.5", "PageSize=Custom.24x75.5mm"}));
+    const std::vector<systemtest::ServerJob> jobs = cups.jobs();
+    ASSERT_EQ(jobs.size(), 2U);
+    EXPECT_EQ(jobs[0].state, IPP_JSTATE_CANCELED); // it was half sent
+    EXPECT_EQ(jobs[1].state, IPP_JSTATE_COMPLETED);
+}
+
 TEST_F(WindowJob, FileThatIsMissing_IsSaidInAWindowWhereNobodyReadsStandardError)
 {
     // As a desktop starts the program: without a terminal.
