@@ -98,8 +98,7 @@ void PrinterPopUp::showPopup()
     mSearch->setGeometry(QRect(place, size));
     mSearch->show();
     mLine->setFocus();
-    const QModelIndex current = mFound->mapFromSource(model()->index(currentIndex(), 0));
-    mList->setCurrentIndex(current.isValid() ? current : mFound->index(0, 0));
+    mList->setCurrentIndex(meant(QString()));
     mList->scrollTo(mList->currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
@@ -114,9 +113,32 @@ void PrinterPopUp::hidePopup()
 void PrinterPopUp::search(const QString &text)
 {
     mFound->setFilterFixedString(text);
-    if (!mList->currentIndex().isValid()) {
-        mList->setCurrentIndex(mFound->index(0, 0));
+    mList->setCurrentIndex(meant(text));
+    mList->scrollTo(mList->currentIndex());
+}
+
+/// What Return takes: the printer of that very name, else the first whose name begins so, else the first found. Without
+/// a text it is the one that is open.
+QModelIndex PrinterPopUp::meant(const QString &text) const
+{
+    QModelIndex best = mFound->index(0, 0);
+    if (text.isEmpty()) {
+        const QModelIndex current = mFound->mapFromSource(model()->index(currentIndex(), 0));
+        return current.isValid() ? current : best;
     }
+    bool isBeginning = false;
+    for (int row = 0; row < mFound->rowCount(); ++row) {
+        const QModelIndex found = mFound->index(row, 0);
+        const QString name = found.data(PrinterModel::NameRole).toString();
+        if (name.compare(text, Qt::CaseInsensitive) == 0) {
+            return found;
+        }
+        if (!isBeginning && name.startsWith(text, Qt::CaseInsensitive)) {
+            best = found;
+            isBeginning = true;
+        }
+    }
+    return best;
 }
 
 void PrinterPopUp::choose(const QModelIndex &found)

@@ -33,6 +33,7 @@ protected:
 private:
     void makeSearch();
     void search(const QString &text);
+    QModelIndex meant(const QString &text) const;
     void choose(const QModelIndex &found);
 
     QFrame *mSearch = nullptr; ///< made when it is needed first

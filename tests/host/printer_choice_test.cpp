@@ -401,6 +401,35 @@ TEST_F(PrinterChoice, ManyPrinters_AreSearchedByWhatTheyAreCalledAndWhereTheySta
     EXPECT_EQ(shown(), u"printer-7"_qs);
 }
 
+TEST_F(PrinterChoice, ReturnAfterASearch_TakesWhatWasTypedAndNotWhatHappensToBeCurrent)
+{
+    for (int i = 0; i < 20; ++i) {
+        server->add(QStringLiteral("printer-%1").arg(19 - i));
+    }
+    server->change(u"printer-18"_qs, [](job::Printer &printer) { printer.location = u"beside other"_qs; });
+    openWith(u"printer-15"_qs);
+    ASSERT_TRUE(waitFor([&] { return printers()->count() == 22; }));
+    const auto choose = [&](const QString &typed) {
+        QTest::keyClick(printers(), Qt::Key_Space);
+        auto *line = child<QLineEdit>("printerSearch");
+        QTest::keyClicks(line, typed);
+        QTest::keyClick(line, Qt::Key_Return);
+    };
+    choose(u"printer-1"_qs); // and the open printer's name begins so, too
+    EXPECT_TRUE(waitForPrinter(u"printer-1"_qs)) << shown().toStdString();
+    choose(u"oTHER"_qs); // and one stands beside it
+    EXPECT_TRUE(waitForPrinter(u"other"_qs)) << shown().toStdString();
+    choose(u"beside"_qs);
+    EXPECT_TRUE(waitForPrinter(u"printer-18"_qs)) << shown().toStdString();
+    QTest::keyClick(printers(), Qt::Key_Space);
+    auto *line = child<QLineEdit>("printerSearch");
+    QTest::keyClicks(line, u"tape"_qs);
+    line->clear();
+    EXPECT_EQ(child<QListView>("foundPrinters")->currentIndex().data(PrinterModel::NameRole).toString(),
+              u"printer-18"_qs);
+    QTest::keyClick(line, Qt::Key_Return);
+}
+
 TEST_F(PrinterChoice, SearchLine_PassesTheArrowsToTheList)
 {
     for (int i = 0; i < 20; ++i) {

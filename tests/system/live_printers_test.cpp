@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -112,6 +113,25 @@ TEST_F(LivePrinters, QueueThatComesStopsAndGoes_IsSeenWithinTwoSeconds)
     EXPECT_TRUE(waitFor([&] { return canPrint(); }, soonMs));
 }
 
+TEST_F(LivePrinters, Class_IsAmongThePrintersAndIsOpened)
+{
+    ASSERT_NO_FATAL_FAILURE(startServer());
+    ASSERT_NO_FATAL_FAILURE(openConnected(u"tape"_qs));
+    succeed(cups.run(u"lpadmin"_qs, {u"-p"_qs, u"tape"_qs, u"-c"_qs, u"all"_qs}));
+    ASSERT_TRUE(waitFor([&] { return offers(u"all"_qs); }, soonMs));
+    const int row = printers()->findData(u"all"_qs, dialog::PrinterModel::NameRole);
+    EXPECT_TRUE(printers()->itemData(row, Qt::ToolTipRole).toString().contains(u"A class"_qs));
+    succeed(cups.run(u"cupsaccept"_qs, {u"all"_qs}));
+    succeed(cups.run(u"cupsenable"_qs, {u"all"_qs}));
+    printers()->setCurrentIndex(row);
+    Q_EMIT printers()->activated(row);
+    ASSERT_TRUE(waitFor([&] { return printJob.destination().queue->name == u"all"_qs && canPrint(); }));
+    EXPECT_FALSE(panels.entries().empty()); // by the description of its first queue
+    succeed(cups.run(u"cupsreject"_qs, {u"-r"_qs, u"moved"_qs, u"all"_qs}));
+    EXPECT_TRUE(waitFor([&] { return notices().contains(u"takes no jobs: moved"_qs); }, soonMs))
+        << notices().toStdString();
+}
+
 TEST_F(LivePrinters, LabelsThatAreOut_AreCountedWhileAJobIsFollowed)
 {
     ASSERT_NO_FATAL_FAILURE(startServer());
@@ -161,6 +181,21 @@ TEST_F(LivePrinters, FiveHundredQueues_AreThereAtOnceAndNeverInTheWay)
                 static_cast<long long>(watch.longestMs()));
     EXPECT_LT(listedMs, soonMs);
     EXPECT_LT(watch.longestMs(), noticeableMs);
+
+    // One of them is found by its name and opened, and the window answers all the while.
+    succeed(cups.run(u"lpadmin"_qs,
+                     {u"-p"_qs, u"many-49"_qs, u"-P"_qs, QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-inch.ppd")}));
+    const test::LoopWatch choosing;
+    QTest::keyClick(printers(), Qt::Key_Space);
+    auto *line = window->findChild<QLineEdit *>(u"printerSearch"_qs);
+    ASSERT_NE(line, nullptr);
+    QTest::keyClicks(line, u"many-49"_qs); // and ten more begin so
+    QTest::keyClick(line, Qt::Key_Return);
+    ASSERT_TRUE(waitFor([&] { return printJob.destination().queue.has_value(); }));
+    EXPECT_EQ(printJob.destination().queue->name, u"many-49"_qs);
+    EXPECT_TRUE(waitFor([&] { return canPrint() && !panels.entries().empty(); }));
+    std::printf("one of 501 chosen: longest gap %lld ms\n", static_cast<long long>(choosing.longestMs()));
+    EXPECT_LT(choosing.longestMs(), noticeableMs);
 }
 
 TEST_F(LivePrinters, ServerThatAcceptsAndNeverAnswers_LeavesTheWindowAlone)
