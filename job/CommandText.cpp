@@ -2,6 +2,10 @@
 // Commands are put together from words, and each word is quoted once for the shell and before that once for CUPS.
 #include "job/CommandText.h"
 
+#include "job/LabelPlan.h"
+#include "job/PageRanges.h"
+#include "job/UsualOptions.h"
+
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -36,10 +40,23 @@ QStringList optionWords(const JobOptions &options)
     return words;
 }
 
-QStringList titleWords(const CommandSource &source)
+QStringList titleWords(const QString &title, const QStringList &files)
 {
-    const bool isTheFiles = !source.files.isEmpty() && source.title == QFileInfo(source.files.first()).fileName();
-    return source.title.isEmpty() || isTheFiles ? QStringList() : QStringList{QStringLiteral("-t"), source.title};
+    const bool isTheFiles = !files.isEmpty() && title == QFileInfo(files.first()).fileName();
+    return title.isEmpty() || isTheFiles ? QStringList() : QStringList{QStringLiteral("-t"), title};
+}
+
+/// What a job of labels does not carry because it is made of the chosen pages alone: lp sends the whole document.
+JobOptions withSelection(JobOptions carried, const JobOptions &options)
+{
+    for (const QString &name : selectionOptionNames()) {
+        if (!options.contains(name)) {
+            continue;
+        }
+        const QString pages = name == OptionName::pageRanges ? wellFormedPageRanges(options.value(name)) : QString();
+        carried.set(name, pages.isEmpty() ? options.value(name) : pages);
+    }
+    return carried;
 }
 
 QStringList fileWords(const QStringList &files)
@@ -84,7 +101,8 @@ QString tapeprintCommand(const CommandSource &source)
     if (source.job.trustsPpd) {
         words << QStringLiteral("--trust-ppd");
     }
-    return joined(words + optionWords(source.options) + titleWords(source) + fileWords(source.files));
+    return joined(words + optionWords(source.options) + titleWords(source.title, source.files) +
+                  fileWords(source.files));
 }
 
 QString lpCommand(const CommandSource &source)
@@ -93,7 +111,9 @@ QString lpCommand(const CommandSource &source)
         return {};
     }
     const QStringList words{QStringLiteral("lp"), QStringLiteral("-d"), source.job.queue->fullName()};
-    return joined(words + optionWords(source.carried) + titleWords(source) + fileWords(source.files));
+    const QString title = source.options.contains(OptionName::jobName) ? source.job.title(source.title) : source.title;
+    return joined(words + optionWords(withSelection(source.carried, source.options)) + titleWords(title, source.files) +
+                  fileWords(source.files));
 }
 
 } // namespace tapeprint::job

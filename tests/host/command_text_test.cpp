@@ -59,7 +59,15 @@ TEST(Command, OfAQueue_NamesItAndTheDocumentsAndGivesLpWhatTheJobCarries)
     EXPECT_EQ(tapeprintCommand(source),
               u"tapeprint --no-dialog -d 'tape/fine cut' -n 2 -P 1-2 -o fit-length=true -t -x "
               "-- /tmp/-a.pdf '/tmp/b c.pdf'"_qs);
-    EXPECT_EQ(lpCommand(source), u"lp -d 'tape/fine cut' -o KsMargin=2.0 -t -x -- /tmp/-a.pdf '/tmp/b c.pdf'"_qs);
+    // The chosen pages are not laid out by lp, so it has to choose them.
+    EXPECT_EQ(lpCommand(source),
+              u"lp -d 'tape/fine cut' -o KsMargin=2.0 -P 1-2 -t -x -- /tmp/-a.pdf '/tmp/b c.pdf'"_qs);
+    source.job.options = source.options = options({{u"page-ranges"_qs, u"4,1-2"_qs},
+                                                   {u"page-set"_qs, u"odd"_qs},
+                                                   {u"outputorder"_qs, u"reverse"_qs},
+                                                   {u"job-name"_qs, u"Two labels"_qs}});
+    EXPECT_EQ(lpCommand(source), u"lp -d 'tape/fine cut' -o KsMargin=2.0 -P 1-2,4 -o page-set=odd "
+                                 "-o outputorder=reverse -t 'Two labels' -- /tmp/-a.pdf '/tmp/b c.pdf'"_qs);
     source.job.queue.reset();
     EXPECT_TRUE(lpCommand(source).isNull());
 }
