@@ -4,6 +4,7 @@
 
 #include "dialog/CallWatch.h"
 #include "job/IppAttributeNames.h"
+#include "job/LaidDownOptions.h"
 #include "job/PlainText.h"
 #include "job/PpdMarks.h"
 #include "job/Reason.h"
@@ -331,6 +332,14 @@ QStringList Panels::notices() const
             notices.append(replaced.sentence(mJob.ppd(), panelOf(replaced.carried.first)));
         }
     }
+    job::JobOptions ofNoPanel;
+    for (const auto &[key, value] : mJob.options().entries()) {
+        const bool isTapes = key == mJob.tape().lengthOption || key == mJob.tape().marginOption;
+        if (!isTapes && !announced(key) && mSenders.find(key) == mSenders.end()) {
+            ofNoPanel.set(key, value);
+        }
+    }
+    notices += job::unlistedNumbers(mJob.ppd(), ofNoPanel);
     for (const auto &[key, bundlePath] : mSenders) {
         if (isOnlyInTheJob(key)) {
             notices.append(tr("The plug-in %1 sends %2=%3, which the printer's description does not know.")

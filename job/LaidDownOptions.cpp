@@ -64,6 +64,19 @@ void nameTape(ppd_file_t *ppd, JobOptions *job)
     }
 }
 
+/// A sentence for each option whose value, a number or none, the PPD does not list.
+QStringList unlisted(ppd_file_t *ppd, const JobOptions &job, bool numbers)
+{
+    QStringList sentences;
+    for (const auto &[name, value] : job.entries()) {
+        const bool isPpdOption = !isIppJobAttribute(name) && findOption(ppd, name) != nullptr;
+        if (isPpdOption && isNumber(value) == numbers && listedChoice(ppd, name, value).isNull()) {
+            sentences.append(Texts::tr("%1=%2 is none of the choices that the printer's PPD lists.").arg(name, value));
+        }
+    }
+    return sentences;
+}
+
 std::optional<double> positiveLength(const QString &text)
 {
     const double length = pdekit::doubleValue(text);
@@ -147,14 +160,12 @@ double heightPtFromMm(double lengthMm)
 
 QStringList unlistedValues(ppd_file_t *ppd, const JobOptions &job)
 {
-    QStringList sentences;
-    for (const auto &[name, value] : job.entries()) {
-        const bool isPpdOption = !isIppJobAttribute(name) && findOption(ppd, name) != nullptr;
-        if (isPpdOption && !isNumber(value) && listedChoice(ppd, name, value).isNull()) {
-            sentences.append(Texts::tr("%1=%2 is none of the choices that the printer's PPD lists.").arg(name, value));
-        }
-    }
-    return sentences;
+    return unlisted(ppd, job, false);
+}
+
+QStringList unlistedNumbers(ppd_file_t *ppd, const JobOptions &job)
+{
+    return unlisted(ppd, job, true);
 }
 
 QStringList optionsThatNeverArrive(const JobOptions &chosen)

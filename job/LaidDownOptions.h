@@ -41,6 +41,9 @@ double heightPtFromMm(double lengthMm);
 /// A sentence for each option of the job whose value the PPD neither lists nor takes as a number.
 QStringList unlistedValues(ppd_file_t *ppd, const JobOptions &job);
 
+/// The same for values that are numbers. Panels take some: \param job the options that none answers for.
+QStringList unlistedNumbers(ppd_file_t *ppd, const JobOptions &job);
+
 /// A sentence for each option that the print server would keep for itself. \param chosen what the person chose: what
 /// nobody asked for needs no word.
 QStringList optionsThatNeverArrive(const JobOptions &chosen);

@@ -84,6 +84,15 @@ TEST_F(PanelsTest, SavedOptionsOfTheQueue_GiveWayToTheCommandLine)
     EXPECT_EQ(job.printer().name, u"tape"_qs);
 }
 
+TEST_F(PanelsTest, SavedNumberThatThePpdDoesNotList_IsSaidUnlessAPanelAnswersForItsOption)
+{
+    Destination destination = hosttest::testDestination(folder);
+    destination.queue = PrintQueue();
+    destination.queue->options = options({{u"KsMargin"_qs, u"3.0"_qs}, {u"CutMedia"_qs, u"7"_qs}});
+    panels.open(std::move(destination), {});
+    EXPECT_EQ(panels.notices(), QStringList{u"CutMedia=7 is none of the choices that the printer's PPD lists."_qs});
+}
+
 TEST_F(PanelsTest, PageRegion_ChoosesTheTapeAndCountsMoreThanASavedSize)
 {
     Destination destination = hosttest::testDestination(folder);
