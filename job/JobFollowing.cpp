@@ -64,7 +64,9 @@ QString printerSays(const JobNews &news)
     }
     const QString reasons = words.join(QStringLiteral(", "));
     const QString message = withoutStop(news.status.printerMessage);
-    if (reasons.isEmpty() || message.isEmpty()) {
+    // Which CUPS writes when whoever paused the printer gives no reason.
+    const bool onlyRepeats = message.compare(QLatin1String("paused"), Qt::CaseInsensitive) == 0;
+    if (reasons.isEmpty() || message.isEmpty() || onlyRepeats) {
         return reasons.isEmpty() ? message : reasons;
     }
     return Texts::tr("%1 (%2)").arg(reasons, message);

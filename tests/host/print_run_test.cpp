@@ -75,6 +75,12 @@ TEST(JobNews, PrinterThatNeedsSomebody_SaysWhatItLacksAndWhatItSays)
     waits.isStopped = true;
     waits.printerReasons.clear();
     EXPECT_EQ(said(waits), u"Job tape-7 waits: load 24 mm tape."_qs);
+    // The print server repeats itself when nobody said why it was paused.
+    waits.printerReasons = QStringList{u"paused"_qs};
+    waits.printerMessage = u"Paused"_qs;
+    EXPECT_EQ(said(waits), u"Job tape-7 waits: paused."_qs);
+    waits.printerMessage = u"moved"_qs;
+    EXPECT_EQ(said(waits), u"Job tape-7 waits: paused (moved)."_qs);
 }
 
 TEST(JobNews, PiecesThatAreOut_TellHowMuchOfItIsPrinted)

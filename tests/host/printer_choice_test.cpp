@@ -425,7 +425,7 @@ TEST_F(PrinterChoice, ReturnAfterASearch_TakesWhatWasTypedAndNotWhatHappensToBeC
     auto *line = child<QLineEdit>("printerSearch");
     QTest::keyClicks(line, u"tape"_qs);
     line->clear();
-    EXPECT_EQ(child<QListView>("foundPrinters")->currentIndex().data(PrinterModel::NameRole).toString(),
+    EXPECT_EQ(child<QListView>("foundPrinters")->currentIndex().data(dialog::PrinterModel::NameRole).toString(),
               u"printer-18"_qs);
     QTest::keyClick(line, Qt::Key_Return);
 }

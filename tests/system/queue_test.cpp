@@ -100,6 +100,18 @@ TEST_F(QueueJob, CopiesAndTitle_AreTheFiltersOwnArguments)
     EXPECT_EQ(copies, 3);
 }
 
+TEST_F(QueueJob, PriorityBillingAndTimeOfPrinting_AreTheServersOwn)
+{
+    const Outcome outcome =
+        tapeprint({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"-q"_qs, u"80"_qs, u"-o"_qs, u"job-billing=\"Büro 7\""_qs,
+                   u"-o"_qs, u"job-name=\"From a preset\""_qs, u"-H"_qs, u"indefinite"_qs, document});
+    EXPECT_EQ(outcome.output, "Job tape-1 is pending-held.\n") << outcome.messages.toStdString();
+    EXPECT_EQ(cups.attributeOfJob(1, "job-priority"), "80");
+    EXPECT_EQ(cups.attributeOfJob(1, "job-billing"), QByteArray("Büro 7"));
+    EXPECT_EQ(cups.attributeOfJob(1, "job-hold-until"), "indefinite");
+    EXPECT_EQ(cups.jobs().at(0).title, u"From a preset"_qs);
+}
+
 TEST_F(QueueJob, Pages_AreTheOnlyOnesPrinted)
 {
     const std::vector<FilterCall> calls = printed({u"-P"_qs, u"2-3,5"_qs, documentOf(6)});
