@@ -186,14 +186,17 @@ TEST_F(LivePrinters, FiveHundredQueues_AreThereAtOnceAndNeverInTheWay)
     succeed(cups.run(u"lpadmin"_qs,
                      {u"-p"_qs, u"many-49"_qs, u"-P"_qs, QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-inch.ppd")}));
     const test::LoopWatch choosing;
-    QTest::keyClick(printers(), Qt::Key_Space);
-    auto *line = window->findChild<QLineEdit *>(u"printerSearch"_qs);
-    ASSERT_NE(line, nullptr);
-    QTest::keyClicks(line, u"many-49"_qs); // and ten more begin so
-    QTest::keyClick(line, Qt::Key_Return);
-    ASSERT_TRUE(waitFor([&] { return printJob.destination().queue.has_value(); }));
-    EXPECT_EQ(printJob.destination().queue->name, u"many-49"_qs);
-    EXPECT_TRUE(waitFor([&] { return canPrint() && !panels.entries().empty(); }));
+    for (const QString &name : {u"tape"_qs, u"many-49"_qs}) { // ten more begin as the second does
+        QTest::keyClick(printers(), Qt::Key_Space);
+        auto *line = window->findChild<QLineEdit *>(u"printerSearch"_qs);
+        ASSERT_NE(line, nullptr);
+        QTest::keyClicks(line, name);
+        QTest::keyClick(line, Qt::Key_Return);
+        EXPECT_TRUE(waitFor([&] {
+            return canPrint() && printJob.destination().queue && printJob.destination().queue->name == name;
+        })) << name.toStdString();
+        EXPECT_FALSE(panels.entries().empty());
+    }
     std::printf("one of 501 chosen: longest gap %lld ms\n", static_cast<long long>(choosing.longestMs()));
     EXPECT_LT(choosing.longestMs(), noticeableMs);
 }
