@@ -8,10 +8,9 @@
 namespace tapeprint::dialog
 {
 
-AmountLabel::AmountLabel(QWidget *parent) : QLabel(parent)
+AmountLabel::AmountLabel(QWidget *parent) : ElidedLabel(parent)
 {
     setObjectName(QStringLiteral("amount"));
-    setTextFormat(Qt::PlainText);
 }
 
 void AmountLabel::showAmount(const std::optional<Amount> &amount, bool isCounting, LengthUnit unit)

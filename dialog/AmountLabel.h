@@ -3,15 +3,14 @@
 #pragma once
 
 #include "dialog/Amount.h"
-
-#include <QLabel>
+#include "dialog/ElidedLabel.h"
 
 #include <optional>
 
 namespace tapeprint::dialog
 {
 
-class AmountLabel : public QLabel
+class AmountLabel : public ElidedLabel
 {
     Q_OBJECT
 

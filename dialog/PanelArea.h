@@ -7,6 +7,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace tapeprint::dialog
 {
 
@@ -26,7 +28,10 @@ public:
         // A view that is cut in height alone gets room for the bar beside it.
         const QSize most = screen()->availableSize() * 2 / 3;
         const int bar = whole.height() > most.height() ? verticalScrollBar()->sizeHint().width() : 0;
-        return (whole + QSize(bar, 0)).boundedTo(most);
+        // And a view that cannot be narrower all that it needs: where that is too much, what stands beside it gives
+        // way.
+        const int needed = std::min(widget()->minimumSizeHint().width() + frame, screen()->availableSize().width());
+        return (whole + QSize(bar, 0)).boundedTo(most).expandedTo(QSize(needed, 0));
     }
 };
 

@@ -48,6 +48,7 @@ class ConflictNotice;
 class JobPage;
 class JobRow;
 class LayoutPage;
+class MiddleArea;
 class NoticesArea;
 class OptionsPage;
 class PanelArea;
@@ -55,6 +56,7 @@ class PaperMenu;
 class PreviewArea;
 class PrinterPopUp;
 class SameWidth;
+class ScrollingColumn;
 class SummaryView;
 
 class PrintDialog : public QDialog
@@ -119,7 +121,7 @@ private:
     void buildControls();
     QWidget *makeDestinationRows();
     QWidget *makePagesArea();
-    QWidget *makeResultArea();
+    ScrollingColumn *makeResultArea();
     QWidget *makeSummary(QWidget *parent);
     QWidget *makeFitControls(QWidget *parent);
     QWidget *makeButtons();
@@ -234,6 +236,7 @@ private:
     PrinterPopUp *mPrinterPopUp = nullptr;
     QPushButton *mLoadAnew = nullptr; ///< among the notices, when the printer's PPD has changed
     PresetRow *mPresetRow = nullptr;
+    MiddleArea *mMiddle = nullptr;
     SameWidth *mRightColumn = nullptr; ///< what stands right in the rows is as wide as what stands right below them
     QComboBox *mTapePopUp = nullptr;
     PaperMenu *mPapers = nullptr; ///< what the tape's pop-up offers

@@ -2,6 +2,7 @@
 // What the window does when the person acts: picks, Revert, Print, Cancel, and the live summary.
 #include "dialog/JobPage.h"
 #include "dialog/LayoutPage.h"
+#include "dialog/MiddleArea.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
 #include "dialog/PaperMenu.h"
@@ -86,6 +87,9 @@ bool PrintDialog::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::Resize:
+        if (watched == this && size() != mGrownSize) { // it grows for its contents by itself
+            mMiddle->arrange(size());
+        }
         // Told when the layouts that follow from it have been made as well.
         if (watched == this || isPage(watched)) {
             mRestTimer.start();

@@ -6,11 +6,12 @@
 //   Tape    [              ]          Copies [  ]
 //   notices
 //   Settings [     ]                | Summary
-//   page of the chooser             | Preview, Fit Length
+//   page of the chooser             | Preview, Fit Length          mMiddle, which may lay the right below the left
 //   mMoreButtonsPlace         mAmountPlace, Save     Cancel, Print
 //   or, while it prints: what is told of the job
 #include "dialog/AmountLabel.h"
 #include "dialog/JobRow.h"
+#include "dialog/MiddleArea.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/PageStack.h"
 #include "dialog/PanelArea.h"
@@ -45,7 +46,6 @@ constexpr int mostCopies = 9999;
 /// On half of a screen of 1366 by 768, which is what is left of it at 200 %, the window is still whole.
 constexpr QSize smallestPagesArea(280, 64);
 constexpr int smallGap = 4;
-constexpr QSize smallestResultArea(250, 64);
 
 QLabel *makeLabel(const QString &text, QWidget *buddy)
 {
@@ -68,11 +68,11 @@ void PrintDialog::buildControls()
     connect(mNotices, &NoticesArea::grew, this, &PrintDialog::growUnlessSized, Qt::QueuedConnection);
     makeConflictNotice();
     layout->addWidget(mNotices);
-    auto *middle = new QHBoxLayout;
-    middle->setSpacing(smallGap);
-    middle->addWidget(makePagesArea());
-    middle->addWidget(makeResultArea());
-    layout->addLayout(middle, 1);
+    mMiddle = new MiddleArea(this);
+    QWidget *pages = makePagesArea();
+    mMiddle->setPages(pages, mPanelArea, mPages);
+    mMiddle->setResult(makeResultArea(), mRightColumn);
+    layout->addWidget(mMiddle, 1);
     layout->addWidget(makeButtons());
 }
 
@@ -154,19 +154,19 @@ QWidget *PrintDialog::makePagesArea()
     return area;
 }
 
-QWidget *PrintDialog::makeResultArea()
+ScrollingColumn *PrintDialog::makeResultArea()
 {
     auto *area = new ScrollingColumn(this);
     // What the pages do not need makes the preview larger.
     area->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    area->setLeastSize(smallestResultArea);
     area->column()->addWidget(makeSummary(area));
     mPreview = new PreviewArea(area);
     mPreview->setShowsAmount(false); // it stands beside Print
-    area->column()->addWidget(mPreview, 1);
-    area->column()->addWidget(makeFitControls(area));
-    area->column()->addStretch(); // where nothing is previewed
-    mRightColumn->follow(area);
+    auto *preview = new QVBoxLayout; // they stay together, also where the summary stands beside them
+    preview->addWidget(mPreview, 1);
+    preview->addWidget(makeFitControls(area));
+    preview->addStretch(); // where nothing is previewed
+    area->column()->addLayout(preview, 1);
     return area;
 }
 

@@ -2,6 +2,7 @@
 // What the window does about its printer: shows which is open or being opened, takes one over when it has been opened
 // in its thread, and keeps what can be kept of the person's choices.
 #include "dialog/LayoutPage.h"
+#include "dialog/MiddleArea.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/OptionsPage.h"
 #include "dialog/PanelArea.h"
@@ -109,6 +110,8 @@ void PrintDialog::growUnlessSized()
 {
     if (size() == mGrownSize) {
         growToContents();
+    } else {
+        mMiddle->arrange(size()); // what is to stand in it may have changed
     }
 }
 
@@ -116,11 +119,13 @@ void PrintDialog::growToContents()
 {
     // What scrolls tells of a new size only while it is seen.
     mPanelArea->updateGeometry();
-    // A layout tells the one around it by an event of its own, and some may still wait behind whatever called this.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     // The toolkit by itself opens a window at no more than two thirds of the screen.
     const QSize room = screen()->availableSize() - (frameSize() - size());
-    resize((isVisible() ? size() : QSize()).expandedTo(sizeHint()).boundedTo(room));
+    mMiddle->arrange(room);
+    // A layout tells the one around it by an event of its own, and some may still wait behind whatever called this.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    mGrownSize = (isVisible() ? size() : QSize()).expandedTo(sizeHint()).boundedTo(room); // nobody else's
+    resize(mGrownSize);
     mGrownSize = size();
     stayOnScreen();
 }

@@ -16,8 +16,14 @@ SameWidth::SameWidth(QWidget *parent) : QWidget(parent)
 
 void SameWidth::follow(QWidget *like)
 {
+    if (mLike != nullptr) {
+        mLike->removeEventFilter(this);
+    }
     mLike = like;
-    like->installEventFilter(this);
+    if (like != nullptr) {
+        like->installEventFilter(this);
+    }
+    updateGeometry();
 }
 
 QSize SameWidth::sizeHint() const

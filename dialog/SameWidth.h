@@ -16,7 +16,7 @@ class SameWidth : public QWidget
 public:
     explicit SameWidth(QWidget *parent);
 
-    /// \param like whose width it is; not owned.
+    /// \param like whose width it is; not owned. Null: nobody's.
     void follow(QWidget *like);
 
     QSize sizeHint() const override;

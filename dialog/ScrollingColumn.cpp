@@ -56,9 +56,38 @@ ScrollingColumn::ScrollingColumn(QWidget *parent) : QScrollArea(parent)
     setWidget(content);
 }
 
+void ScrollingColumn::setIsLying(bool isLying)
+{
+    mIsLying = isLying;
+    const auto direction = isLying ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+    mColumn->setDirection(direction);
+    for (int i = 0; i < mColumn->count(); ++i) { // and what stands together in it
+        if (auto *inner = qobject_cast<QBoxLayout *>(mColumn->itemAt(i)->layout()); inner != nullptr) {
+            inner->setDirection(direction);
+        }
+    }
+    updateGeometry();
+}
+
+void ScrollingColumn::setIsModest(bool isModest)
+{
+    if (isModest != mIsModest) {
+        mIsModest = isModest;
+        updateGeometry();
+    }
+}
+
+void ScrollingColumn::setLeastSize(const QSize &size)
+{
+    mLeast = size;
+    updateGeometry();
+}
+
 QSize ScrollingColumn::sizeHint() const
 {
-    return widget()->sizeHint();
+    const QSize whole = widget()->sizeHint();
+    return {mIsModest ? minimumSizeHint().width() : whole.width(),
+            mIsLying ? std::max(mLeast.height(), widget()->minimumSizeHint().height()) : whole.height()};
 }
 
 QSize ScrollingColumn::minimumSizeHint() const
