@@ -3,6 +3,7 @@
 #include "dialog/CustomSizeSheet.h"
 
 #include "dialog/CustomFields.h"
+#include "dialog/Mnemonics.h"
 #include "dialog/PopUp.h"
 
 #include <QDialogButtonBox>
@@ -73,6 +74,7 @@ CustomSizeSheet::CustomSizeSheet(const std::vector<job::CustomParameter> &parame
     rows->addWidget(buttons);
     rows->setSizeConstraint(QLayout::SetFixedSize); // a sentence about a wrong value is not cut off
     mFields->takeKeys();
+    assignMnemonics(*this, {});
 
     connect(mRememberedPopUp, &QComboBox::activated, this, &CustomSizeSheet::showRemembered);
     connect(mRemoveButton, &QPushButton::clicked, this, &CustomSizeSheet::removeRemembered);

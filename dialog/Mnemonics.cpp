@@ -162,7 +162,7 @@ void assignMnemonics(const QWidget &window, const QList<const QWidget *> &foreig
     Letters letters;
     std::vector<Marked> marked;
     for (QWidget *widget : window.findChildren<QWidget *>()) {
-        if (!leadsSomewhere(widget)) {
+        if (!leadsSomewhere(widget) || widget->window() != window.window()) { // a sheet has letters of its own
             continue;
         }
         const bool isForeign = std::any_of(foreign.begin(), foreign.end(), [widget](const QWidget *view) {

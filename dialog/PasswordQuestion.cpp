@@ -3,6 +3,8 @@
 // other.
 #include "dialog/PasswordQuestion.h"
 
+#include "dialog/Mnemonics.h"
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -62,6 +64,7 @@ PasswordDialog::PasswordDialog(const job::PasswordQuestion &question, QWidget *p
     layout->addLayout(form);
     layout->addWidget(buttons);
     mPassword->setFocus();
+    assignMnemonics(*this, {});
 }
 
 PasswordDialog::~PasswordDialog()

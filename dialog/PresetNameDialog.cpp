@@ -2,6 +2,7 @@
 // The remark below the field and the offer follow each letter; only a name that can be kept is accepted.
 #include "dialog/PresetNameDialog.h"
 
+#include "dialog/Mnemonics.h"
 #include "dialog/PlainText.h"
 #include "job/PlainText.h"
 #include "job/Presets.h"
@@ -58,6 +59,7 @@ PresetNameDialog::PresetNameDialog(const QString &title, const QString &name, QS
     connect(mButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(mButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     follow();
+    assignMnemonics(*this, {});
 }
 
 QString PresetNameDialog::name() const

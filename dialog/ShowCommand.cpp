@@ -2,6 +2,8 @@
 // One field a command, which wraps and can be selected, and a button that copies it whole.
 #include "dialog/ShowCommand.h"
 
+#include "dialog/Mnemonics.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QDialogButtonBox>
@@ -58,6 +60,7 @@ ShowCommand::ShowCommand(const QString &tapeprint, const QString &lp, QWidget *p
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
     resize(wished);
+    assignMnemonics(*this, {});
 }
 
 void ShowCommand::addCommand(QVBoxLayout *layout, const QString &title, const QString &command, const QString &name)
