@@ -5,9 +5,11 @@
 function __tapeprint_ask
     set -l words (commandline -opc)
     set -l printer
-    for i in (seq 2 (math (count $words) - 1))
-        if contains -- $words[$i] -d --ppd -h -U
-            set -a printer $words[$i] $words[(math $i + 1)]
+    for i in (seq 2 (count $words))
+        if contains -- $words[$i] -d --ppd -h -U; and test $i -lt (count $words)
+            set -a printer $words[$i] (string replace -r '^~/' "$HOME/" -- $words[(math $i + 1)])
+        else if string match -qr -- '^(-[dhU].|--ppd=)' $words[$i]
+            set -a printer (string replace -r -- '^--ppd=~/' "--ppd=$HOME/" $words[$i])
         end
     end
     tapeprint --complete $argv[1] $printer 2>/dev/null
@@ -33,4 +35,5 @@ complete -c tapeprint -n '__tapeprint_after queue' -f -a '(__tapeprint_ask queue
 complete -c tapeprint -n '__tapeprint_after time' -f -a '(__tapeprint_ask times)'
 complete -c tapeprint -n '__tapeprint_after option' -f -a '(__tapeprint_options)'
 complete -c tapeprint -n '__tapeprint_after text' -f
-complete -c tapeprint -n 'string match -q -- "-*" (commandline -ct)' -f -a '(tapeprint --complete arguments 2>/dev/null | string replace -r "\t.*" "")'
+# Behind "=" fish looks for files by itself.
+complete -c tapeprint -n 'string match -qr -- "^-[^=]*\$" (commandline -ct)' -f -a '(tapeprint --complete arguments 2>/dev/null | string replace -r "\t.*" "")'

@@ -2,6 +2,7 @@
 // Completions: what the program answers, and bash's function called as bash calls it.
 #include "ProgramTest.h"
 
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace
@@ -70,6 +71,46 @@ TEST_F(Completions, OfBash_FollowThePrinterOfTheLine)
     EXPECT_EQ(offered(u"-t lab"_qs), QStringList());
     EXPECT_EQ(offered(u"-H h"_qs), QStringList{u"hold"_qs});
     EXPECT_EQ(offered(u"-d "_qs), QStringList()); // without a server there is no queue, and a file is none
+}
+
+TEST_F(Completions, OfBash_ReadTheLineAsBashDoes)
+{
+    hosttest::writeFile(folder, u"my printer.ppd"_qs, hosttest::testPpd());
+    for (const QString &printer : {u"--ppd=test.ppd"_qs, u"--ppd ~/test.ppd"_qs, u"--ppd 'my printer.ppd'"_qs,
+                                   u"--ppd my\\ printer.ppd"_qs, u"-t 'a b' --ppd test.ppd"_qs}) {
+        EXPECT_EQ(offered(printer + u" -o KsMar"_qs), QStringList{u"KsMargin="_qs}) << printer.toStdString();
+    }
+    EXPECT_EQ(offered(u"--ppd=te"_qs), QStringList{u"test.ppd"_qs});
+    // Behind a quote no sign is escaped, and in the middle of one nothing is a file.
+    EXPECT_EQ(offered(u"--ppd test.ppd -o \"KsMargin=5"_qs), QStringList{u"KsMargin=5.0"_qs});
+    EXPECT_EQ(offered(u"--ppd test.ppd -o KsMargin=\"5"_qs), QStringList{u"5.0"_qs});
+    EXPECT_EQ(offered(u"-t 'a lab"_qs), QStringList());
+}
+
+/// What fish would offer at the end of a line, where there is a fish.
+TEST_F(Completions, OfFish_FollowThePrinterOfTheLine)
+{
+    if (QStandardPaths::findExecutable(u"fish"_qs).isEmpty()) {
+        GTEST_SKIP() << "there is no fish";
+    }
+    const auto offeredByFish = [this](const QString &line) {
+        QProcess fish;
+        start(fish, u"fish"_qs,
+              {u"-c"_qs, u"set -p PATH '"_qs + QFileInfo(programPath()).path() + u"'; source '"_qs +
+                             QStringLiteral(TAPEPRINT_SOURCE_DIR "/packaging/completions/tapeprint.fish") +
+                             u"'; complete -C 'tapeprint "_qs + line + u"'"_qs});
+        EXPECT_TRUE(fish.waitForFinished());
+        EXPECT_EQ(fish.readAllStandardError(), "");
+        return QString::fromUtf8(fish.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    };
+    EXPECT_EQ(offeredByFish(u"--no-d"_qs), QStringList{u"--no-dialog"_qs});
+    for (const QString &printer :
+         {u"--ppd test.ppd"_qs, u"--ppd=test.ppd"_qs, u"--ppd ~/test.ppd"_qs, u"--ppd=~/test.ppd"_qs}) {
+        EXPECT_EQ(offeredByFish(printer + u" -o KsMargin=5"_qs), QStringList{u"KsMargin=5.0\t5 mm"_qs})
+            << printer.toStdString();
+    }
+    EXPECT_EQ(offeredByFish(u"--ppd=te"_qs), QStringList{u"--ppd=test.ppd"_qs});
+    EXPECT_EQ(offeredByFish(u"-t lab"_qs), QStringList());
 }
 
 /// A shell that is not on the machine reads nothing; the other two are tried where they are.
