@@ -13,6 +13,9 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -293,6 +296,31 @@ TEST_F(ConflictProgram, NamesTheConflictAndPrintsNothing)
     EXPECT_EQ(outcome.status, testsupport::conflict);
     EXPECT_TRUE(outcome.messages.contains(sentence)) << outcome.messages.toStdString();
     EXPECT_FALSE(QFileInfo::exists(folder.filePath(u"out.prn"_qs)));
+}
+
+TEST_F(ConflictProgram, Check_NamesTheConflictByItsStatus)
+{
+    const QStringList check{u"--check"_qs, u"--ppd"_qs, ppd, u"--output"_qs, u"out.prn"_qs, document};
+    const hosttest::Outcome outcome = run(check + both);
+    EXPECT_EQ(outcome.status, testsupport::conflict);
+    EXPECT_TRUE(outcome.messages.contains(sentence)) << outcome.messages.toStdString();
+    EXPECT_EQ(run(check + both + QStringList{u"--resolve"_qs}).status, testsupport::done);
+}
+
+TEST_F(ConflictProgram, Json_ListsTheConflictsWhetherShownOrRefused)
+{
+    const QString text = QString::fromUtf8(sentence);
+    const hosttest::Outcome refused =
+        run(QStringList{u"--json"_qs, u"--check"_qs, u"--ppd"_qs, ppd, u"--output"_qs, u"out.prn"_qs, document} + both);
+    EXPECT_EQ(refused.status, testsupport::conflict);
+    EXPECT_EQ(refused.messages, "");
+    const QJsonObject object = QJsonDocument::fromJson(refused.output).object();
+    EXPECT_EQ(object[u"kind"].toString(), u"conflict"_qs);
+    EXPECT_EQ(object[u"conflicts"].toArray(), QJsonArray{text});
+    const QJsonObject options = QJsonDocument::fromJson(run(shown(both + QStringList{u"--json"_qs})).output).object();
+    EXPECT_EQ(options[u"status"].toInt(-1), 0);
+    EXPECT_EQ(options[u"conflicts"].toArray(), QJsonArray{text});
+    EXPECT_EQ(options[u"options"][u"CutMedia"].toString(), u"Label"_qs);
 }
 
 TEST_F(ConflictProgram, ShowsOptionsAndNamesTheConflict)
