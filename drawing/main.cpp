@@ -2,6 +2,7 @@
 // The program that reads and draws one document, which may be anybody's: it is started where it can do no harm, answers
 // the questions of job/DrawerWords.h, and ends when nobody is there to ask.
 #include "drawing/Asker.h"
+#include "drawing/Bounds.h"
 #include "drawing/DrawnDocument.h"
 
 #include <climits>
@@ -67,6 +68,7 @@ bool answer(const drawing::DrawnDocument &document, const job::DrawerQuestion &q
 
 int main()
 {
+    drawing::takeBounds();
     job::DrawerQuestion question;
     int handle = -1;
     if (!say(job::drawerGreeting) || !listen(&question, &handle)) {

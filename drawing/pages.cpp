@@ -3,6 +3,7 @@
 // harm, answers the questions of job/PagesWords.h, and ends when nobody is there to ask. It draws nothing, and is
 // without the libraries for that: they would take longer to be loaded than a label to be laid out.
 #include "drawing/Asker.h"
+#include "drawing/Bounds.h"
 #include "drawing/PdfLayout.h"
 
 #include <algorithm>
@@ -138,6 +139,7 @@ void make(const Asked &asked)
 
 int main()
 {
+    drawing::takeBounds();
     if (!say(job::pagesGreeting)) {
         return 0;
     }

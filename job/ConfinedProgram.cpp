@@ -24,9 +24,7 @@ ConfinedCommand commandFor(const QString &program)
     const QString path = QFileInfo(program).canonicalFilePath();
     ConfinedCommand command{path, {}, {path}};
     command.seesSettings = false;
-#ifdef __SANITIZE_ADDRESS__
-    command.mostMemory = QStringLiteral("unlimited"); // the sanitizer takes terabytes of addresses
-#endif
+    command.bindsItself = true;
     return command;
 }
 

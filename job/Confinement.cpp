@@ -2,6 +2,7 @@
 // Confinement by bubblewrap, which needs no rights of its own where the kernel lets users make name spaces.
 #include "job/Confinement.h"
 
+#include "job/ConfinedBounds.h"
 #include "job/PlainText.h"
 #include "job/Texts.h"
 
@@ -20,10 +21,6 @@ namespace tapeprint::job
 namespace
 {
 
-// The bounds of one process, with mostMemory. They are there for what never ends, not to ration work: on two busy
-// cores, 2,000 labels take all filters together 28 seconds and none of them 100 MB of address space, an image of 200
-// megapixels 3 seconds.
-constexpr int mostProcessorSeconds = 1800;
 /// The temporary folder is memory: a document and its copy between two filters have to fit.
 constexpr qint64 mostTemporaryBytes = qint64(2) << 30;
 constexpr int probeTimeoutMs = 10000;
@@ -145,12 +142,16 @@ QString findBinder()
     return path.isEmpty() ? QStringLiteral("/usr/bin/prlimit") : path;
 }
 
-QStringList boundArguments(const ConfinedCommand &command)
+/// The command's program and its arguments, by way of what sets its bounds where it does not do that itself.
+QStringList boundWords(const ConfinedCommand &command)
 {
-    return QStringList{QStringLiteral("--as=") + command.mostMemory,
-                       QStringLiteral("--cpu=%1").arg(mostProcessorSeconds), QStringLiteral("--core=0"),
-                       QStringLiteral("--"), command.program} +
-           command.arguments;
+    QStringList words;
+    if (!command.bindsItself) {
+        words << findBinder() << QStringLiteral("--as=%1").arg(mostMemoryBytes)
+              << QStringLiteral("--cpu=%1").arg(mostProcessorSeconds) << QStringLiteral("--core=0")
+              << QStringLiteral("--");
+    }
+    return words << command.program << command.arguments;
 }
 
 QString findBubblewrap()
@@ -179,7 +180,7 @@ QStringList confinedArguments(const ConfinedCommand &command)
     for (const QString &path : command.writable) {
         arguments << QStringLiteral("--bind") << path << path;
     }
-    return arguments << sealArguments() << QStringLiteral("--") << findBinder() << boundArguments(command);
+    return arguments << sealArguments() << QStringLiteral("--") << boundWords(command);
 }
 
 ConfinedLaunch inRoom(const QString &bubblewrap, const ConfinedCommand &command)
@@ -189,7 +190,8 @@ ConfinedLaunch inRoom(const QString &bubblewrap, const ConfinedCommand &command)
 
 ConfinedLaunch withBoundsAlone(const ConfinedCommand &command)
 {
-    return {findBinder(), boundArguments(command), environmentOf(command, QDir::tempPath()), false};
+    const QStringList words = boundWords(command);
+    return {words.first(), words.mid(1), environmentOf(command, QDir::tempPath()), false};
 }
 
 /// What keeps this machine from confining anything.

@@ -26,8 +26,8 @@ struct ConfinedCommand {
     /// Whether it sees the machine's settings and devices, as filters need them. A program that is handed its files
     /// open does without, which is quicker to set up: it has fonts alone.
     bool seesSettings = true;
-    /// Address space of one process.
-    QString mostMemory = QString::number(qint64(4) << 30); ///< in bytes, or "unlimited"
+    /// Whether it sets the bounds of ConfinedBounds.h on itself. Another's program has them set on it by one more.
+    bool bindsItself = false;
 };
 
 /// What a process is started with.
