@@ -111,9 +111,12 @@ QStringList makeRoomArguments(bool seesSettings)
 /// Everything up to the files of a command.
 const QStringList &roomArguments(bool seesSettings)
 {
-    static const QStringList withSettings = makeRoomArguments(true);
+    if (seesSettings) { // looks at every file of the settings: not for who sees none
+        static const QStringList withSettings = makeRoomArguments(true);
+        return withSettings;
+    }
     static const QStringList without = makeRoomArguments(false);
-    return seesSettings ? withSettings : without;
+    return without;
 }
 
 /// As sealedDevices(), for what holds everything.
