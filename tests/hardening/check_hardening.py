@@ -41,6 +41,9 @@ def faults(path):
         yield "memory that can be written and executed"
     if "(TEXTREL)" in dynamic:
         yield "relocations in the code"
+    for path_list in re.findall(r"\((?:RUNPATH|RPATH)\).*\[(.*)\]", dynamic):
+        if not all(folder.startswith(("/", "$ORIGIN")) for folder in path_list.split(":")):
+            yield "libraries are looked for in the working directory"
     if not re.search(r"UND\s+__stack_chk_fail", symbols):
         yield "no stack protector"
     if unchecked := sorted(set(re.findall(UNCHECKED, symbols))):

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The programs that read documents are bounded while they do, in a room and where there is none.
+#include "DocumentPictures.h"
 #include "PdfText.h"
 
 #include "job/PageDrawer.h"
