@@ -278,6 +278,25 @@ std::optional<Failure> openAll(const std::vector<Bytes> &documents, std::vector<
     return std::nullopt;
 }
 
+/// Makes a document out of others. \param fill adds its pages, with the others opened.
+template <typename Opened, typename Fill>
+std::optional<Failure> make(const std::vector<Bytes> &documents, Output &output, const Fill &fill)
+{
+    QPDF target;
+    target.emptyPDF();
+    std::vector<std::unique_ptr<Opened>> sources;
+    if (std::optional<Failure> failure = openAll(documents, &sources)) {
+        return failure;
+    }
+    try {
+        fill(target, sources);
+        write(target, output);
+    } catch (const std::exception &failure) {
+        return Failure{PagesAnswer::Other, 0, reasonOf(failure)};
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 std::optional<Failure> measure(const Bytes &document, std::vector<DrawerPage> *pages)
@@ -294,44 +313,25 @@ std::optional<Failure> measure(const Bytes &document, std::vector<DrawerPage> *p
 
 std::optional<Failure> layOut(const Labels &labels, const std::vector<Bytes> &documents, Output &output)
 {
-    QPDF target;
-    target.emptyPDF();
-    std::vector<std::unique_ptr<Source>> sources;
-    if (std::optional<Failure> failure = openAll(documents, &sources)) {
-        return failure;
-    }
-    try {
+    return make<Source>(documents, output, [&](QPDF &target, const std::vector<std::unique_ptr<Source>> &sources) {
         for (const std::vector<PagesPlaced> &label : labels.pages) {
             target.addPage(labelPage(target, label, labels, sources), false);
             output.tellProgress();
         }
-        write(target, output);
-    } catch (const std::exception &failure) {
-        return Failure{PagesAnswer::Other, 0, reasonOf(failure)};
-    }
-    return std::nullopt;
+    });
 }
 
 std::optional<Failure> choose(const std::vector<PagesPlaced> &pages, const std::vector<Bytes> &documents,
                               Output &output)
 {
-    QPDF target;
-    target.emptyPDF();
-    std::vector<std::unique_ptr<PlainSource>> sources;
-    if (std::optional<Failure> failure = openAll(documents, &sources)) {
-        return failure;
-    }
-    try {
-        QPDFPageDocumentHelper targetPages(target);
-        for (const PagesPlaced &chosen : pages) {
-            targetPages.addPage(sources.at(chosen.document)->page(chosen.page), false);
-            output.tellProgress();
-        }
-        write(target, output);
-    } catch (const std::exception &failure) {
-        return Failure{PagesAnswer::Other, 0, reasonOf(failure)};
-    }
-    return std::nullopt;
+    return make<PlainSource>(documents, output,
+                             [&](QPDF &target, const std::vector<std::unique_ptr<PlainSource>> &sources) {
+                                 QPDFPageDocumentHelper targetPages(target);
+                                 for (const PagesPlaced &chosen : pages) {
+                                     targetPages.addPage(sources.at(chosen.document)->page(chosen.page), false);
+                                     output.tellProgress();
+                                 }
+                             });
 }
 
 } // namespace tapeprint::drawing
