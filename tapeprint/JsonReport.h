@@ -9,6 +9,7 @@
 //   summary               of each panel: panel, lines (title, value)
 //   presets               with --list-presets, of each: name, default, own, options
 //   job                   queue, id, state; or output, bytes
+//   help, version         with --help, its text; with --version, the number
 #pragma once
 
 #include "dialog/Panels.h"

@@ -68,6 +68,18 @@ QStringList argumentsOf(int argc, char **argv)
     return arguments;
 }
 
+tapeprint::RunReport helpReport()
+{
+    const QString help = tapeprint::commandLineHelp().trimmed();
+    return {help.split(u'\n'), {}, 0, {}, {{QStringLiteral("help"), help}}};
+}
+
+tapeprint::RunReport versionReport()
+{
+    const QString version = QStringLiteral(TAPEPRINT_VERSION);
+    return {{QStringLiteral("tapeprint ") + version}, {}, 0, {}, {{QStringLiteral("version"), version}}};
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -80,10 +92,10 @@ int main(int argc, char **argv)
         return tapeprint::writeReport(tapeprint::failedRun(error), arguments.contains(QLatin1String("--json")));
     }
     if (line->help) {
-        return tapeprint::writeReport({tapeprint::commandLineHelp().trimmed().split(u'\n'), {}}, false);
+        return tapeprint::writeReport(helpReport(), line->json);
     }
     if (line->version) {
-        return tapeprint::writeReport({{QStringLiteral("tapeprint " TAPEPRINT_VERSION)}, {}}, false);
+        return tapeprint::writeReport(versionReport(), line->json);
     }
 
     tapeprint::chooseServer(*line);

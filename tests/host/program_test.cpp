@@ -270,6 +270,22 @@ TEST_F(Program, Json_HoldsProblemsWithTheSameStatus)
     }
 }
 
+TEST_F(Program, Json_HoldsHelpAndVersion)
+{
+    for (const QString &name : {u"help"_qs, u"version"_qs}) {
+        const QByteArray text = run({u"--"_qs + name}).output.trimmed();
+        const Outcome outcome = run({u"--"_qs + name, u"--json"_qs});
+        EXPECT_EQ(outcome.status, testsupport::done);
+        EXPECT_EQ(outcome.messages, "");
+        const QJsonObject object = QJsonDocument::fromJson(outcome.output).object();
+        EXPECT_EQ(object[u"status"].toInt(-1), 0) << outcome.output.toStdString();
+        EXPECT_EQ(object[u"kind"].toString(), u"done"_qs);
+        const QByteArray said = object[name].toString().toUtf8();
+        EXPECT_FALSE(said.isEmpty());
+        EXPECT_EQ(name == u"version" ? "tapeprint " + said : said, text);
+    }
+}
+
 TEST_F(Program, HelpAndVersion_NeedNothing)
 {
     const Outcome help = run({u"--help"_qs});
