@@ -125,13 +125,11 @@ ConfinedRun::End follow(Run &run, const std::atomic<bool> *stop, std::chrono::mi
     return run.process().exitStatus() == QProcess::NormalExit ? ConfinedRun::End::finished : ConfinedRun::End::crashed;
 }
 
-} // namespace
-
-ConfinedRun runConfined(const ConfinedCommand &command, const TakeBytes &take, const std::atomic<bool> *stop,
-                        std::chrono::milliseconds longest)
+ConfinedRun runOnce(const ConfinedLaunch &launch, const TakeBytes &take, const std::atomic<bool> *stop,
+                    std::chrono::milliseconds longest)
 {
     ConfinedRun result;
-    Run run(confine(command), take);
+    Run run(launch, take);
     if (!run.start()) {
         result.reason = run.process().errorString();
         return result;
@@ -140,6 +138,31 @@ ConfinedRun runConfined(const ConfinedCommand &command, const TakeBytes &take, c
     run.kill();
     result.exitCode = run.process().exitCode();
     result.messages = run.messages();
+    return result;
+}
+
+} // namespace
+
+ConfinedRun runConfined(const ConfinedCommand &command, const TakeBytes &take, const std::atomic<bool> *stop,
+                        std::chrono::milliseconds longest)
+{
+    bool hasWritten = false;
+    const TakeBytes takeAndNote = [&take, &hasWritten](const QByteArray &bytes) {
+        hasWritten = true;
+        return take(bytes);
+    };
+    const ConfinedLaunch launch = confineUntried(command);
+    ConfinedRun result = runOnce(launch, takeAndNote, stop, longest);
+    if (!launch.confined || result.end != ConfinedRun::End::finished) {
+        return result;
+    }
+    if (result.exitCode == 0) {
+        if (command.seesSettings) {
+            noteThatTheRoomWorks();
+        }
+    } else if (!hasWritten && !confinementProblem().isNull()) {
+        result = runOnce(confine(command), take, stop, longest); // there was no room, and it has not run yet
+    }
     return result;
 }
 

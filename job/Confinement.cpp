@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 
 namespace tapeprint::job
 {
@@ -226,9 +227,25 @@ Obstacle findObstacle()
     return {false, harmless(reason)};
 }
 
+std::atomic<bool> &isTried()
+{
+    static std::atomic<bool> answer{false};
+    return answer;
+}
+
+std::atomic<bool> &hasWorked()
+{
+    static std::atomic<bool> answer{false};
+    return answer;
+}
+
 const Obstacle &obstacle()
 {
-    static const Obstacle found = findObstacle();
+    static const Obstacle found = [] {
+        Obstacle tried = hasWorked() ? Obstacle() : findObstacle();
+        isTried() = true;
+        return tried;
+    }();
     return found;
 }
 
@@ -259,7 +276,13 @@ ConfinedLaunch confine(const ConfinedCommand &command)
 ConfinedLaunch confineUntried(const ConfinedCommand &command)
 {
     const QString bubblewrap = findBubblewrap();
-    return bubblewrap.isEmpty() ? withBoundsAlone(command) : inRoom(bubblewrap, command);
+    const bool isForbidden = bubblewrap.isEmpty() || (isTried() && !isPossible());
+    return isForbidden ? withBoundsAlone(command) : inRoom(bubblewrap, command);
+}
+
+void noteThatTheRoomWorks()
+{
+    hasWorked() = true;
 }
 
 } // namespace tapeprint::job

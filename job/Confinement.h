@@ -44,9 +44,12 @@ struct ConfinedLaunch {
 /// with the process that started it when it is confined; runConfined() sees to that in either case.
 ConfinedLaunch confine(const ConfinedCommand &command);
 
-/// The same for who cannot wait until it has been tried whether this machine allows it. When the program does not come
-/// to life, confinementProblem() says whether that was the reason.
+/// The same without waiting until it has been tried whether this machine allows it. When the program does not come to
+/// life, confinementProblem() says whether that was the reason.
 ConfinedLaunch confineUntried(const ConfinedCommand &command);
+
+/// A program that sees the settings has done its work in the room: that this machine allows it needs no trial any more.
+void noteThatTheRoomWorks();
 
 /// Why nothing can be confined on this machine, in a sentence for the person; null when it can be. Asked once, then
 /// remembered; safe to call in any thread.

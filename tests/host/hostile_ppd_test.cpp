@@ -157,6 +157,29 @@ TEST_F(HostilePpd, WithoutBubblewrap_ConfinementIsSaidToBeMissingAndTheJobPrinte
     EXPECT_TRUE(contentsOf(folder.filePath(u"out.prn"_qs)).endsWith("Hello\n"));
 }
 
+TEST_F(HostilePpd, WhereTheRoomWorks_NothingIsTriedBeforehand)
+{
+    const QString log = folder.filePath(u"calls"_qs);
+    program(u"bwrap"_qs, "echo \"$*\" >>" + QFile::encodeName(log) + "\nexec /usr/bin/bwrap \"$@\"\n");
+    variables.emplace_back(u"PATH"_qs, folder.path());
+    const Outcome outcome = run(job(filterPpd, {u"--trust-ppd"_qs}));
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    EXPECT_FALSE(outcome.messages.contains("without confinement")) << outcome.messages.toStdString();
+    const QByteArray calls = contentsOf(log);
+    EXPECT_TRUE(calls.contains("/cupsfilter")) << calls.toStdString();
+    EXPECT_FALSE(calls.contains("/usr/bin/true")) << calls.toStdString();
+}
+
+TEST_F(HostilePpd, FilterThatFailsInTheRoom_IsNotRunWithoutOne)
+{
+    const QString filter =
+        program(u"failing"_qs, "touch '" + QFile::encodeName(trace) + "'\necho 'bwrap: No permissions' >&2\nexit 1\n");
+    const QString sent = ppdWith("*cupsFilter: \"text/plain 0 " + filter.toUtf8() + "\"\n");
+    const Outcome outcome = run(job(sent, {u"--trust-ppd"_qs}));
+    EXPECT_EQ(outcome.status, testsupport::failedJob);
+    EXPECT_FALSE(QFileInfo::exists(trace)) << outcome.messages.toStdString();
+}
+
 TEST_F(HostilePpd, WhereNameSpacesAreForbidden_TheReasonIsPassedOnAndTheJobPrinted)
 {
     program(u"bwrap"_qs, "echo 'bwrap: No permissions to create new namespace' >&2\nexit 1\n");
