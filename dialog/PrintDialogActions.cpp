@@ -125,6 +125,11 @@ bool PrintDialog::eventFilter(QObject *watched, QEvent *event)
 
 void PrintDialog::keyPressEvent(QKeyEvent *event)
 {
+    if (event->matches(QKeySequence::HelpContents) && mHelpButton->isVisible()) {
+        event->accept();
+        mHelpButton->click();
+        return;
+    }
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!isReturn) {
         QDialog::keyPressEvent(event);

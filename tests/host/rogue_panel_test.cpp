@@ -326,6 +326,8 @@ TEST_F(RoguePanelTest, HelpButton_IsThereForAPanelWithHelpAloneAndLeadsToIt)
     EXPECT_TRUE(help->isVisible());
     QTest::mouseClick(help, Qt::LeftButton);
     EXPECT_EQ(qApp->property("hostTestHelped").toInt(), 1);
+    QTest::keyClick(chooser, Qt::Key_F1);
+    EXPECT_EQ(qApp->property("hostTestHelped").toInt(), 2);
 }
 
 TEST_F(RoguePanelTest, RestoringThatFailsWithoutAReason_NamesTheBundleInAWholeSentence)
