@@ -3,8 +3,9 @@
 #include "dialog/PreviewArea.h"
 
 #include "dialog/TapePreview.h"
-#include "job/Texts.h"
+#include "job/LaidOutJob.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
@@ -183,6 +184,7 @@ void PreviewArea::planAnew()
         mDrawn = mRenderer.drawn();
     }
     mPlan = job::planLabels(mSizes, mPage, mOptions, fitsLength ? mDrawn : std::vector<job::DrawnRects>(), mLaidOn);
+    mRoomProblem = mPlan.labels.empty() ? QString() : job::roomProblem(mPlan);
     turnTo(mLabel);
 }
 
@@ -267,9 +269,8 @@ QStringList PreviewArea::messages()
             sentences.append(tr("There is no preview: %1").arg(document.problem));
         }
     }
-    if (!shownLabel().empty() && mPage.layoutRect().isEmpty()) {
-        sentences.append(job::Texts::tr("The margins leave nothing of the tape to print on: make the tape longer or "
-                                        "the margin smaller."));
+    if (!mRoomProblem.isNull()) {
+        sentences.append(mRoomProblem);
     } else if (isCutOff()) {
         sentences.append(tr("Part of the page is cut off."));
     }

@@ -93,6 +93,7 @@ private:
     job::JobOptions mOptions;
     TapeLook mLook;
     QString mProblem;
+    QString mRoomProblem; ///< of the tape, as job::roomProblem()
     QString mWhyNone;
     bool mExpectsDocuments = false;
     QStringList mAwaited; ///< sentences about documents that another program makes later

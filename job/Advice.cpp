@@ -28,9 +28,14 @@ AdviceForTheWindow::~AdviceForTheWindow()
     --windows();
 }
 
+bool isAtTheWindow()
+{
+    return windows() > 0;
+}
+
 QString advice(const QString &atTheWindow, const QString &onTheCommandLine)
 {
-    return windows() > 0 ? atTheWindow : onTheCommandLine;
+    return isAtTheWindow() ? atTheWindow : onTheCommandLine;
 }
 
 } // namespace tapeprint::job

@@ -18,6 +18,9 @@ public:
     AdviceForTheWindow &operator=(const AdviceForTheWindow &) = delete;
 };
 
+/// Whether the person sits at a window of this program.
+bool isAtTheWindow();
+
 /// The one of two pieces of advice that is for the person.
 QString advice(const QString &atTheWindow, const QString &onTheCommandLine);
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 #include <pdekit/Numbers.h>
@@ -49,7 +50,7 @@ PlacedPage placed(const PageOfAll &source, const QRectF &place, const LayoutChoi
     turned.turn = part.turn; // what a whole page would do, also when little of it counts
     return {source.document, source.page,
             QTransform::fromTranslate(-part.part.left(), -part.part.top()) * placePage(part.part.size(), place, turned),
-            place};
+            place, part.part};
 }
 
 bool isInSet(PageSet set, int number)
@@ -148,7 +149,7 @@ std::vector<Label> asTheyAre(const std::vector<PageOfAll> &pages)
     std::vector<Label> sheets;
     sheets.reserve(pages.size());
     for (const PageOfAll &page : pages) {
-        sheets.push_back({{page.document, page.page, QTransform(), QRectF({}, page.size)}});
+        sheets.push_back({{page.document, page.page, QTransform(), QRectF({}, page.size), QRectF({}, page.size)}});
     }
     return sheets;
 }
@@ -169,6 +170,31 @@ std::size_t LabelPlan::sheetCount() const
         sheets += sides % 2;
     }
     return sheets * static_cast<std::size_t>(copies);
+}
+
+bool PlacedPage::isUnreadable() const
+{
+    const double leastPt = pointsFromMm(1.0);
+    const double scale = std::hypot(place.m11(), place.m12());
+    const QSizeF whole = place.mapRect(part).size() / scale; // turned as it is printed
+    const QSizeF printed = printedPt();
+    return (printed.width() < leastPt && whole.width() >= leastPt) ||
+           (printed.height() < leastPt && whole.height() >= leastPt);
+}
+
+const PlacedPage *LabelPlan::unreadablePage() const
+{
+    if (!page.isTape) {
+        return nullptr;
+    }
+    for (const Label &label : labels) {
+        const auto found =
+            std::find_if(label.begin(), label.end(), [](const PlacedPage &placed) { return placed.isUnreadable(); });
+        if (found != label.end()) {
+            return &*found;
+        }
+    }
+    return nullptr;
 }
 
 double LabelPlan::tapeLengthMm() const

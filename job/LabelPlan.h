@@ -25,6 +25,12 @@ struct PlacedPage {
     int page = 0;             ///< index of its page, from 0
     QTransform place;         ///< from points of the document's page to points of the label, both from the top left
     QRectF clip;              ///< what of the label the page may cover
+    QRectF part = {};         ///< what of the document's page counts, in its points
+
+    /// How large the part is on the label, in points: made smaller, and without what is cut off.
+    QSizeF printedPt() const { return place.mapRect(part).intersected(clip).size(); }
+    /// Whether nobody can read it any more: it comes out less than a millimetre high or wide, and is larger itself.
+    bool isUnreadable() const;
 };
 
 /// One label, or one sheet of paper: the pages on it.
@@ -40,6 +46,8 @@ struct LabelPlan {
     /// Labels, or sheets of paper: printed on both sides, two labels are one, and each document and copy begins anew.
     std::size_t sheetCount() const;
     double tapeLengthMm() const;
+    /// The first page that nobody can read on the tape; null when there is none. Paper is laid out by filters.
+    const PlacedPage *unreadablePage() const;
 };
 
 /// The pages that a job's options select out of all pages of its documents, from 0 and in their order: page-ranges, and

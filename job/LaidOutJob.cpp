@@ -2,6 +2,7 @@
 // The steps from documents to labels, in their order.
 #include "job/LaidOutJob.h"
 
+#include "job/Advice.h"
 #include "job/LaidOutDocument.h"
 #include "job/PageDrawer.h"
 #include "job/PdfPages.h"
@@ -218,23 +219,39 @@ QString lengthNotice(const TapePage &page)
     return {};
 }
 
+QString roomProblem(const LabelPlan &plan)
+{
+    if (plan.page.layoutRect().isEmpty()) {
+        return Texts::tr("The margins leave nothing of the tape to print on: make the tape longer or the margin "
+                         "smaller.");
+    }
+    const PlacedPage *page = plan.unreadablePage();
+    if (page == nullptr) {
+        return {};
+    }
+    const QSizeF printed = page->printedPt();
+    return Texts::tr("Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a "
+                     "smaller margin or fewer pages on a label.")
+        .arg(QString::number(page->page + 1), lengthText(printed.width()), lengthText(printed.height()));
+}
+
 std::optional<LabelPlan> layOutJob(const SettledJob &job, const PdfDocuments &documents, const QString &path,
                                    const std::atomic<bool> &stop, Problem *error)
 {
-    const TapePage page = job.page;
-    if (page.layoutRect().isEmpty()) {
-        *error = {Problem::RefusedValue,
-                  Texts::tr("The margins leave nothing of the tape to print on: make the tape longer or the margin "
-                            "smaller.")};
+    LabelPlan plan = planLabels(documents.sizes, job.page, job.options, documents.drawn);
+    // That a page cannot be read stands beside the preview as well: who presses Print there has been told.
+    const bool isTold = isAtTheWindow() && !job.page.layoutRect().isEmpty();
+    const QString problem = isTold ? QString() : roomProblem(plan);
+    if (!problem.isNull()) {
+        *error = {Problem::RefusedValue, problem};
         return std::nullopt;
     }
-    LabelPlan plan = planLabels(documents.sizes, page, job.options, documents.drawn);
     if (plan.labels.empty()) {
         *error = noPageIsChosen();
         return std::nullopt;
     }
-    if (const QString problem = pageWithoutSize(plan, documents); !problem.isNull()) {
-        *error = {Problem::BadDocument, problem};
+    if (const QString without = pageWithoutSize(plan, documents); !without.isNull()) {
+        *error = {Problem::BadDocument, without};
         return std::nullopt;
     }
     if (!writeLaidOut(plan, documents.pdfs, job.shift, path, stop, error)) {

@@ -59,6 +59,10 @@ Problem noPageIsChosen();
 /// A sentence about a page whose length is not the one that was chosen; null when there is nothing to say.
 QString lengthNotice(const TapePage &page);
 
+/// A sentence about margins that leave nothing of the tape, or so little of it that a page cannot be read; null when
+/// there is nothing to say.
+QString roomProblem(const LabelPlan &plan);
+
 /// Lays a job's documents out on its page. \param path the PDF to write. \return the plan that was followed.
 std::optional<LabelPlan> layOutJob(const SettledJob &job, const PdfDocuments &documents, const QString &path,
                                    const std::atomic<bool> &stop, Problem *error);

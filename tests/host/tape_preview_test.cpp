@@ -371,6 +371,11 @@ TEST_F(TapePreviewTest, MarginsThatLeaveNothing_AreSaid)
     EXPECT_TRUE(extent(inkColour).isEmpty());
     EXPECT_EQ(words(u"previewMessages"_qs),
               u"The margins leave nothing of the tape to print on: make the tape longer or the margin smaller."_qs);
+    // Next to nothing: 1.134 points are 0.4 mm, of a page that is four times as long as wide.
+    tape.freeEndsPt = 72.0 - 0.567;
+    showTape(36.0, 144.0);
+    EXPECT_TRUE(words(u"previewMessages"_qs).startsWith(u"Page 1 would come out 0.1 mm wide and 0.4 mm long, "_qs))
+        << words(u"previewMessages"_qs).toStdString();
 }
 
 TEST_F(TapePreviewTest, LongTape_HasABreakInItsMiddleAndKeepsItsEnds)

@@ -103,6 +103,22 @@ TEST(LabelPlan_Sheets, LastSheetThatIsNotFull_KeepsThePlacesOfAFullOne)
     EXPECT_EQ(plan.labels[0][1].place, QTransform(1, 0, 0, 1, 0, 145.5));
 }
 
+TEST(LabelPlan_Sheets, MorePagesThanThereIsRoomFor_CannotBeRead)
+{
+    TapePage narrow = tape();
+    narrow.sizePt = {10, 288}; // 3.5 mm
+    const std::vector<PageSizes> documents{pages(16, {10, 142.5})};
+    const auto on = [](int pagesPerSheet) { return options({{u"number-up"_qs, QString::number(pagesPerSheet)}}); };
+    // Four below each other are (288 - 9) / 4 long and 4.9 points wide, sixteen in pairs (288 - 21) / 8 long and 2.3
+    // wide, which are 0.8 mm.
+    EXPECT_EQ(planLabels(documents, narrow, on(4)).unreadablePage(), nullptr);
+    const LabelPlan plan = planLabels(documents, narrow, on(16));
+    ASSERT_NE(plan.unreadablePage(), nullptr);
+    EXPECT_NEAR(mmFromPoints(plan.unreadablePage()->printedPt().width()), 0.8, 0.05);
+    narrow.isTape = false;
+    EXPECT_EQ(planLabels(documents, narrow, on(16)).unreadablePage(), nullptr);
+}
+
 TEST(LabelPlan_Order, Reverse_BringsTheLastFirst)
 {
     EXPECT_EQ(told(planLabels({pages(2), pages(1)}, tape(), options({{u"outputorder"_qs, u"reverse"_qs}}))),

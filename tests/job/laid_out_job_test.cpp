@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // A job's way from its documents to the labels, and what is said when there is none.
+#include "job/Advice.h"
 #include "job/LaidOutDocument.h"
 #include "job/LaidOutJob.h"
 
@@ -76,6 +77,31 @@ TEST_F(LaidOutJob, MarginsThatLeaveNothing_AreSaid)
     EXPECT_EQ(laidOut(job, {document}),
               u"! The margins leave nothing of the tape to print on: make the tape longer or the margin smaller."_qs);
     EXPECT_FALSE(QFileInfo::exists(folder.path(u"labels.pdf"_qs)));
+}
+
+TEST_F(LaidOutJob, MarginsThatLeaveTooLittleToRead_AreSaid)
+{
+    SettledJob job = tapeJob();
+    job.page.freeEndsPt = 144 - 0.5 * pointsFromMm(0.5);
+    // 40 by 100 points become half a millimetre long, and two fifths of that wide.
+    EXPECT_EQ(laidOut(job, {document}),
+              u"! Page 1 would come out 0.2 mm wide and 0.5 mm long, which nobody can read: choose a longer tape, a "
+              "smaller margin or fewer pages on a label."_qs);
+    EXPECT_FALSE(QFileInfo::exists(folder.path(u"labels.pdf"_qs)));
+    // Cut off, no more of it is to be seen.
+    job.options.set(u"print-scaling"_qs, u"none"_qs);
+    EXPECT_TRUE(laidOut(job, {document}).contains(u"14.1 mm wide and 0.5 mm long"_qs)); // 40 points
+    // Who sits at a window has read it there.
+    const AdviceForTheWindow window;
+    EXPECT_TRUE(laidOut(job, {document}).endsWith(u"labels.pdf"_qs)) << laidOut(job, {document}).toStdString();
+}
+
+TEST_F(LaidOutJob, DocumentMadeForSoLittle_IsPrinted)
+{
+    const QString line = folder.write(u"line.pdf"_qs, pdfOf({blockPage(60, 1, block(0, 0, 60, 1))}));
+    SettledJob job = tapeJob(jobtest::options({{u"orientation-requested"_qs, u"3"_qs}}));
+    job.page.freeEndsPt = 144 - 0.5 * pointsFromMm(0.5); // 1.4 points
+    EXPECT_TRUE(laidOut(job, {line}).endsWith(u"labels.pdf"_qs)) << laidOut(job, {line}).toStdString();
 }
 
 TEST_F(LaidOutJob, SecondDocumentThatCannotBeUsed_IsNamed)
