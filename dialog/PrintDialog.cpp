@@ -102,6 +102,9 @@ void PrintDialog::showNotices()
     if (!mRefusal.isEmpty()) {
         own.append(mRefusal);
     }
+    if (!mOutcome.isEmpty()) {
+        own.append(mOutcome);
+    }
     own += mPrinters.notices() + mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts;
     mNotices->setSentences(own.join(u'\n'));
 }

@@ -192,6 +192,7 @@ private:
     void tellJob(const QString &words, int percent);
     void failPrinting(const job::Problem &problem);
     void endPrinting();
+    void forgetOutcome();
 
     job::SettledJob currentJob() const;
     void takeDocuments();
@@ -274,6 +275,7 @@ private:
     QSize mWishedSize;   ///< that a panel gave its view and waits to be fitted; invalid when there is none
     QStringList mAlerts; ///< what panels said of the values that were laid down
     QString mRefusal;    ///< that a panel refused the last time Print was pressed; empty when none did
+    QString mOutcome;    ///< what became of the last job, where the person wanted it so; empty else
     int mAlertsSeen = 0; ///< how many alerts had been run by then
     std::vector<Page> mPageList;
     QPointer<OptionsPage> mOptionsPage;

@@ -71,6 +71,7 @@ void PrintDialog::takeDestination(job::Destination destination)
     // The old pages go before the panels and the PPD that they show.
     removeOwnPages();
     mGreyed.undo();
+    forgetOutcome();
     mPanels.open(std::move(destination), asked);
     showDestination();
     followPrinters();

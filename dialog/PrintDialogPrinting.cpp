@@ -33,7 +33,9 @@ void PrintDialog::connectPrinting()
     connect(&mRun, &PrintRun::ended, this, &PrintDialog::endPrinting);
     connect(&mRun, &PrintRun::notCancelled, this, [this](const job::Problem &problem) {
         mCancelButton->setEnabled(true);
-        tellProblem(problem.sentence);
+        if (problem.kind != job::Problem::Cancelled) {
+            tellProblem(problem.sentence);
+        }
     });
     mLeaveTimer.setSingleShot(true);
     mLeaveTimer.setInterval(leaveAfterMs);
@@ -47,6 +49,7 @@ void PrintDialog::print()
         return;
     }
     mIsSaving = false;
+    forgetOutcome();
     const job::SettledJob settled = job::settle(mJob);
     if (mSetup.takeSettings) {
         mSetup.takeSettings(settled, keepingForNextTime());
@@ -99,8 +102,8 @@ void PrintDialog::tellJob(const QString &words, int percent)
 {
     mJobRow->tell(words, percent);
     const std::optional<job::JobNews> &news = mRun.news();
-    const bool isOwnTurn = !news || news->waitsForPerson() || news->status.jobsBefore == 0;
-    if (isOwnTurn) {
+    const bool waitsItsTurn = news && !news->waitsForPerson() && (news->isHeld() || news->status.jobsBefore > 0);
+    if (!waitsItsTurn || mRun.isCancelling()) {
         mLeaveTimer.stop();
     } else if (!mLeaveTimer.isActive()) {
         mLeaveTimer.start();
@@ -110,8 +113,19 @@ void PrintDialog::tellJob(const QString &words, int percent)
 void PrintDialog::failPrinting(const job::Problem &problem)
 {
     showPrinting();
-    if (!problem.isNull()) { // without a sentence it was stopped
+    if (problem.kind == job::Problem::Cancelled) { // which nobody has to be told twice
+        mOutcome = problem.sentence;
+        showNotices();
+    } else if (!problem.isNull()) {
         tellProblem(problem.sentence);
+    }
+}
+
+void PrintDialog::forgetOutcome()
+{
+    if (!mOutcome.isEmpty()) {
+        mOutcome.clear();
+        showNotices();
     }
 }
 
@@ -124,10 +138,8 @@ void PrintDialog::endPrinting()
         if (mIsSaving) { // a file is no print: the window stays
             return;
         }
-    } else if (news->status.state != IPP_JSTATE_COMPLETED && !news->isLost) {
-        mCancelButton->setEnabled(false);
-        mLeaveTimer.start(); // it is held, which is to be read
-        return;
+    } else if (news->isHeld()) {
+        return; // which is to be read; the window leaves it in a while
     }
     accept();
 }

@@ -106,6 +106,7 @@ void PrintDialog::save(SaveButton::Kind kind, const QString &path)
         job.pdfPath.clear();
     }
     mIsSaving = true;
+    forgetOutcome();
     mRun.start([action = mPrintAction, job](const job::PrintWatch &watch,
                                             job::Problem *problem) { return action(job, watch, problem); },
                job.page.isTape);

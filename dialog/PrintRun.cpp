@@ -95,11 +95,18 @@ void PrintRun::takeEnd(const std::optional<job::JobNews> &last, const job::Probl
     }
     mPrinted->job.state = last->status.stateName();
     if (last->hasFailed()) {
-        fail({job::Problem::FailedJob, last->sentence()});
+        // The end may be heard of before the answer to who wanted it.
+        const bool isByPerson = isCancelling() && last->status.state == IPP_JSTATE_CANCELED;
+        fail({isByPerson ? job::Problem::Cancelled : job::Problem::FailedJob, last->sentence()});
         return;
     }
-    mPhase = Phase::Idle;
+    mNews = last;
     mReadTimer.stop();
+    if (last->isHeld()) {
+        tellNews();
+    } else {
+        mPhase = Phase::Idle;
+    }
     Q_EMIT ended();
 }
 
@@ -111,16 +118,22 @@ void PrintRun::fail(const job::Problem &problem)
     Q_EMIT failed(problem);
 }
 
+job::Problem PrintRun::cancelledByPerson() const
+{
+    job::JobNews news{mJob, {}, false};
+    news.status.state = IPP_JSTATE_CANCELED;
+    return {job::Problem::Cancelled, news.sentence()};
+}
+
 void PrintRun::cancel()
 {
     if (mPhase == Phase::Sending) {
         mWork.stop();
         Q_EMIT told(tr("Cancelling…"), -1);
     }
-    if (mPhase != Phase::Following || mCancelling.isRunning()) {
+    if (mPhase != Phase::Following || isCancelling()) {
         return;
     }
-    Q_EMIT told(tr("Cancelling…"), -1);
     mCancelling.start(
         [this, job = mJob, cancel = mServer.cancel](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
             job::Problem problem;
@@ -131,12 +144,14 @@ void PrintRun::cancel()
                 }
                 if (isCancelled) {
                     mWork.stop();
-                    fail({job::Problem::Cancelled, QString()});
+                    fail(cancelledByPerson());
                 } else {
                     Q_EMIT notCancelled(problem);
+                    tellNews(); // the last words were others
                 }
             };
         });
+    Q_EMIT told(tr("Cancelling…"), -1);
 }
 
 void PrintRun::leave()
@@ -157,10 +172,17 @@ void PrintRun::readBoard()
     }
     if (news) {
         mNews = news;
-        Q_EMIT told(news->sentence(), news->percentOf(mPieces));
+        tellNews();
     } else if (progress && mPhase == Phase::Sending && progress->ofBytes > 0) {
         constexpr int whole = 100;
         Q_EMIT told(tr("Sending…"), static_cast<int>(whole * progress->bytes / progress->ofBytes));
+    }
+}
+
+void PrintRun::tellNews()
+{
+    if (mPhase == Phase::Following && mNews) {
+        Q_EMIT told(mNews->sentence(), mNews->percentOf(mPieces));
     }
 }
 

@@ -35,7 +35,7 @@ public:
     enum class Phase {
         Idle,
         Sending,   ///< it is being laid out and sent; stop() ends it with nothing printed
-        Following, ///< the server has it; it goes on without this object as well
+        Following, ///< the server has it, also one that it holds; it goes on without this object as well
     };
 
     explicit PrintRun(QObject *parent = nullptr) : PrintRun(Server(), parent) {}
@@ -48,6 +48,8 @@ public:
 
     /// The person has changed their mind: ends sending, or has the server cancel the job.
     void cancel();
+    /// Whether the server has been asked to cancel the job, and has not answered.
+    bool isCancelling() const { return mCancelling.isRunning(); }
     /// Follows the job no longer. It goes on.
     void leave();
 
@@ -64,9 +66,10 @@ Q_SIGNALS:
     void told(const QString &words, int percent);
     /// The server has taken the job, and it is followed from now on.
     void sent();
-    /// Nothing is printed, or not as it should be. Without a sentence the person wanted it so.
+    /// Nothing is printed, or not as it should be. The person may have wanted it so (Cancelled), and there may be no
+    /// sentence then.
     void failed(const job::Problem &problem);
-    /// All is done that can be waited for.
+    /// All is done that can be waited for. A held job can still be cancelled, and is to be left.
     void ended();
     /// The server does not cancel the job; it is followed as before.
     void notCancelled(const job::Problem &problem);
@@ -78,6 +81,8 @@ private:
     void follow();
     void takeEnd(const std::optional<job::JobNews> &last, const job::Problem &problem);
     void readBoard();
+    void tellNews();
+    job::Problem cancelledByPerson() const;
     void fail(const job::Problem &problem);
 
     Server mServer;

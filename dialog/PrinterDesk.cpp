@@ -290,7 +290,10 @@ void PrinterDesk::checkDescription()
         job::Problem problem;
         std::optional<job::Destination> opened = open(request, stop, &problem);
         Arrival destination = opened ? std::make_shared<job::Destination>(std::move(*opened)) : nullptr;
-        return [this, destination] { takeCheck(destination); };
+        return [this, destination, isDeclined = problem.kind == job::Problem::Cancelled] {
+            mChecksLeft = isDeclined ? 0 : mChecksLeft; // nobody is asked again and again
+            takeCheck(destination);
+        };
     });
 }
 

@@ -125,8 +125,6 @@ QString failureOf(const ConfinedRun &run, const FilterJob &job, const QString &f
     case ConfinedRun::End::notStarted:
         return Texts::tr("The filters cannot be started (%1): see that CUPS is installed whole.")
             .arg(reasonText(run.reason));
-    case ConfinedRun::End::stopped:
-        return Texts::tr("Printing was stopped.");
     case ConfinedRun::End::tooLong:
         return Texts::tr("The filters of %1 did not come to an end with the document %2 and were stopped.")
             .arg(harmless(job.ppdPath), harmless(file));
@@ -151,6 +149,10 @@ bool runOneFile(const FilterJob &job, const FilterChain &chain, const QString &f
         [&](const QByteArray &bytes) { return output.write(bytes, error); }, job.stop, job.longest);
     if (run.end == ConfinedRun::End::refused) {
         return false; // the output has said why
+    }
+    if (run.end == ConfinedRun::End::stopped) {
+        *error = {Problem::Cancelled, Texts::tr("Printing was stopped.")};
+        return false;
     }
     if (run.end != ConfinedRun::End::finished || run.exitCode != 0) {
         *error = {Problem::FailedJob, failureOf(run, job, file)};

@@ -83,12 +83,12 @@ QString whyItFailed(const JobNews &news)
 
 bool JobNews::isOver() const
 {
-    return isLost || status.state == IPP_JSTATE_HELD || status.state >= IPP_JSTATE_STOPPED;
+    return isLost || isHeld() || status.state >= IPP_JSTATE_STOPPED;
 }
 
 bool JobNews::hasFailed() const
 {
-    return isOver() && !isLost && status.state != IPP_JSTATE_HELD && status.state != IPP_JSTATE_COMPLETED;
+    return isOver() && !isLost && !isHeld() && status.state != IPP_JSTATE_COMPLETED;
 }
 
 bool JobNews::waitsForPerson() const
@@ -175,7 +175,9 @@ bool cancelSentJob(const JobName &job, const std::atomic<bool> &stop, Problem *e
     if (server->isOpen() && cancelJob(*server, job.id)) {
         return true;
     }
-    *error = {server->isUnreachable() ? Problem::Unreachable : Problem::RejectedJob,
+    *error = {server->wasDeclined()     ? Problem::Cancelled
+              : server->isUnreachable() ? Problem::Unreachable
+                                        : Problem::RejectedJob,
               Texts::tr("Job %1 cannot be cancelled (%2).").arg(nameOf(job), server->problem())};
     return false;
 }

@@ -30,6 +30,8 @@ struct JobNews {
 
     /// Whether nothing more is to come by itself: it is completed, failed, cancelled, held or lost.
     bool isOver() const;
+    /// Whether it waits in the queue until somebody releases it.
+    bool isHeld() const { return !isLost && status.state == IPP_JSTATE_HELD; }
     /// Whether it is over and did not print as it should: it failed, or was cancelled.
     bool hasFailed() const;
     /// Whether somebody has to see to the printer before the job prints.

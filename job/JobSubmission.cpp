@@ -76,7 +76,7 @@ private:
             return {Problem::Cancelled, QString()};
         }
         if (mServer->wasRefused()) {
-            return {Problem::RejectedJob, mServer->problem()};
+            return {mServer->wasDeclined() ? Problem::Cancelled : Problem::RejectedJob, mServer->problem()};
         }
         return mServer->isUnreachable() ? Problem(Problem::Unreachable, mServer->problem()) : said;
     }
@@ -240,6 +240,7 @@ private:
             const QString left = Texts::tr("Job %1 may be left half sent on the server; cancel it with: cancel %2-%1")
                                      .arg(QString::number(mJobId), harmless(mSubmission.queue.name));
             error->sentence = error->isNull() ? left : error->sentence + u' ' + left;
+            error->kind = error->kind == Problem::Cancelled ? Problem::FailedJob : error->kind; // nobody wanted that
         }
         return std::nullopt;
     }

@@ -212,7 +212,8 @@ Problem serverProblem(const ServerConnection &server)
     if (server.isStopped()) {
         return {Problem::Cancelled, QString()};
     }
-    return {Problem::Unreachable, server.isOpen() ? server.problem() : ServerConnection::noAnswer()};
+    return {server.wasDeclined() ? Problem::Cancelled : Problem::Unreachable,
+            server.isOpen() ? server.problem() : ServerConnection::noAnswer()};
 }
 
 std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueName &wanted, Problem *error)

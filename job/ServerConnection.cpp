@@ -213,9 +213,11 @@ const char *ServerConnection::answerPassword()
 {
     const PasswordAsker ask = mPasswords == Passwords::Ask ? passwordAsker() : nullptr;
     std::optional<Credentials> answer;
+    mWasDeclined = false;
     if (ask && !isOver() && mQuestions < mostQuestions) {
         ++mQuestions;
         answer = ask({serverName(), QString::fromUtf8(cupsUser()), mQuestions}, [this] { return isOver(); });
+        mWasDeclined = !answer && !isOver() && isAtTheWindow();
     }
     mWasRefused = !answer;
     mPassword = answer ? std::move(answer->password) : Secret();

@@ -71,6 +71,8 @@ public:
     bool isUnreachable() const;
     /// Whether calls fail because the server was given no password that it accepts.
     bool wasRefused() const { return mWasRefused; }
+    /// Whether, of those, the person pressed Cancel in a window's question. Then they need not be told in another.
+    bool wasDeclined() const { return mWasDeclined; }
     /// Keeps what a server said of a request, for problem(): libcups knows of the answers that it has read itself.
     /// \param words null for nothing.
     void hear(const QString &words) const { mWords = words; }
@@ -99,7 +101,8 @@ private:
     bool mIsToldOf = false; ///< its silence
     bool mHasBeenOpen = false;
     int mQuestions = 0;
-    bool mWasRefused = false; ///< no password was given, or none that is good
+    bool mWasRefused = false;  ///< no password was given, or none that is good
+    bool mWasDeclined = false; ///< the person pressed Cancel when asked for one
     mutable QString mWords;   ///< asking leaves the connection as it is
     Secret mPassword;         ///< libcups reads it from here
     QByteArray mThreadsUser;  ///< who the thread's calls are made for, before any question

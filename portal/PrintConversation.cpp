@@ -77,8 +77,9 @@ void PrintConversation::close()
 
 void PrintConversation::fail(const job::Problem &problem)
 {
-    answer(Response::Ended);
-    if (!problem.isNull()) {
+    const bool isByPerson = problem.kind == job::Problem::Cancelled;
+    answer(isByPerson ? Response::Cancelled : Response::Ended);
+    if (!problem.isNull() && !isByPerson) {
         qCWarning(portalLog) << "a program's document is not printed:" << job::harmless(problem.sentence);
         tell(problem.sentence);
     }

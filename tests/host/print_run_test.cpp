@@ -129,6 +129,7 @@ TEST(JobRow, BarThatHasNothingToShow_IsNotShown)
 /// What the server does; threads may look at it when the test is over.
 struct Script {
     std::atomic<bool> mayEnd = false;
+    std::atomic<bool> mayCancel = true;
     std::atomic<bool> wasLeft = false;
     ipp_jstate_t lastState = IPP_JSTATE_COMPLETED;
     int piecesOut = 0;
@@ -163,7 +164,10 @@ protected:
                                           const job::JobReport &report, job::Problem *problem) {
             return followBy(*script, name, stop, report, problem);
         };
-        server.cancel = [script = script](const job::JobName &, const std::atomic<bool> &, job::Problem *problem) {
+        server.cancel = [script = script](const job::JobName &, const std::atomic<bool> &stop, job::Problem *problem) {
+            while (!script->mayCancel && !stop) {
+                QThread::msleep(5);
+            }
             *problem = script->cancelProblem;
             return problem->isNull();
         };
@@ -172,13 +176,15 @@ protected:
                          [this](const QString &words, int percent) { told.emplace_back(words, percent); });
         QObject::connect(run.get(), &PrintRun::sent, [this] { events.append(u"sent"_qs); });
         QObject::connect(run.get(), &PrintRun::ended, [this] { events.append(u"ended"_qs); });
-        QObject::connect(run.get(), &PrintRun::failed,
-                         [this](const job::Problem &problem) { events.append(u"failed:"_qs + problem.sentence); });
+        QObject::connect(run.get(), &PrintRun::failed, [this](const job::Problem &problem) {
+            isByPerson = problem.kind == job::Problem::Cancelled;
+            events.append(u"failed:"_qs + problem.sentence);
+        });
         QObject::connect(run.get(), &PrintRun::notCancelled,
                          [this](const job::Problem &problem) { events.append(u"not:"_qs + problem.sentence); });
     }
 
-    ~PrintRunTest() override { script->mayEnd = true; }
+    ~PrintRunTest() override { script->mayEnd = script->mayCancel = true; }
 
     static std::optional<job::PrintedJob> inQueue() { return job::PrintedJob{u"tape"_qs, {7, u"pending"_qs}, {}}; }
 
@@ -196,6 +202,7 @@ protected:
 
     std::shared_ptr<Script> script = std::make_shared<Script>();
     QStringList events;
+    bool isByPerson = false; ///< whether what failed was the person's wish
     std::vector<std::pair<QString, int>> told;
     std::unique_ptr<PrintRun> run;
 };
@@ -254,8 +261,63 @@ TEST_F(PrintRunTest, CancelOfASentJob_IsTheServers)
     send();
     run->cancel();
     ASSERT_TRUE(QTest::qWaitFor([this] { return events.size() == 2; }));
-    EXPECT_EQ(events.last(), u"failed:"_qs);
+    EXPECT_EQ(events.last(), u"failed:Job tape-7 was cancelled."_qs);
+    EXPECT_TRUE(isByPerson);
     EXPECT_FALSE(run->printed());
+}
+
+TEST_F(PrintRunTest, CancelWhoseEndIsHeardOfFirst_IsThePersonsAllTheSame)
+{
+    script->lastState = IPP_JSTATE_CANCELED;
+    script->mayCancel = false;
+    send();
+    run->cancel();
+    script->mayEnd = true;
+    ASSERT_TRUE(QTest::qWaitFor([this] { return events.size() == 2; }));
+    EXPECT_EQ(events.last(), u"failed:Job tape-7 was cancelled."_qs);
+    EXPECT_TRUE(isByPerson);
+}
+
+TEST_F(PrintRunTest, JobThatSomebodyElseCancels_IsNotThePersons)
+{
+    script->lastState = IPP_JSTATE_CANCELED;
+    script->mayEnd = true;
+    run->start([](const job::PrintWatch &, job::Problem *) { return inQueue(); }, true);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return events.size() == 2; }));
+    EXPECT_EQ(events.last(), u"failed:Job tape-7 was cancelled."_qs);
+    EXPECT_FALSE(isByPerson);
+}
+
+TEST_F(PrintRunTest, HeldJob_CanBeCancelledWhenThatIsKnown)
+{
+    script->lastState = IPP_JSTATE_HELD;
+    script->mayEnd = true;
+    run->start([](const job::PrintWatch &, job::Problem *) { return inQueue(); }, true);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return events.size() == 2; }));
+    EXPECT_EQ(events.last(), u"ended"_qs);
+    EXPECT_EQ(run->printed()->job.state, u"pending-held"_qs);
+    run->cancel();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return events.size() == 3; }));
+    EXPECT_EQ(events.last(), u"failed:Job tape-7 was cancelled."_qs);
+    EXPECT_EQ(run->phase(), PrintRun::Phase::Idle);
+    EXPECT_FALSE(run->printed());
+}
+
+TEST_F(PrintRunTest, HeldJobThatTheServerDoesNotCancel_IsToldOfAgain)
+{
+    script->lastState = IPP_JSTATE_HELD;
+    script->mayEnd = true;
+    script->cancelProblem = u"No."_qs;
+    run->start([](const job::PrintWatch &, job::Problem *) { return inQueue(); }, true);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return events.size() == 2; }));
+    run->cancel();
+    EXPECT_EQ(told.back().first, u"Cancelling…"_qs);
+    EXPECT_TRUE(run->isCancelling());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return events.size() == 3; }));
+    EXPECT_EQ(events.last(), u"not:No."_qs);
+    EXPECT_EQ(told.back().first, u"Job tape-7 is held: it waits until it is released."_qs);
+    run->leave();
+    ASSERT_TRUE(run->printed());
 }
 
 TEST_F(PrintRunTest, CancelThatTheServerRefuses_IsSaidAndTheJobFollowedOn)

@@ -5,6 +5,8 @@
 #include "tests/system/SystemTest.h"
 #include "tests/system/WindowTest.h"
 
+#include <QThread>
+
 #include <cups/cups.h>
 #include <poll.h>
 #include <pty.h>
@@ -154,17 +156,15 @@ TEST_F(WindowPassword, WrongAndThenRight_PrintsInThePersonsName)
     EXPECT_EQ(cups.attributeOfJob(1, "job-originating-user-name"), "anna");
 }
 
-TEST_F(WindowPassword, NoAnswer_IsSaidAndNothingIsPrinted)
+TEST_F(WindowPassword, NoAnswer_PrintsNothingAndAsksForNoMore)
 {
     dialog.clickPrint();
     const QString question = dialog.waitForFurtherWindow();
     ASSERT_FALSE(question.isNull());
     dialog.press({u"Escape"_qs});
     ASSERT_TRUE(dialog.waitForGone(question));
-    const QString alert = dialog.waitForFurtherWindow(); // that the server wants one
-    ASSERT_FALSE(alert.isNull());
-    dialog.press({u"Return"_qs});
-    ASSERT_TRUE(dialog.waitForGone(alert));
+    QThread::sleep(1);
+    EXPECT_EQ(dialog.windows(), QStringList{dialog.window()}); // it is said in passing
     EXPECT_TRUE(cups.jobs().empty());
     dialog.clickPrint(); // the window is of use as before
     ASSERT_FALSE(answer(u"anna"_qs, u"right"_qs).isNull());

@@ -251,6 +251,31 @@ TEST_F(WindowJob, PausedQueue_TheWindowSaysSoAndCanBeClosedWithoutEndingTheJob)
     EXPECT_EQ(cups.jobs().at(0).state, IPP_JSTATE_PENDING);
 }
 
+TEST_F(WindowJob, HeldJob_CanBeCancelledAsLongAsItIsShown)
+{
+    ASSERT_NO_FATAL_FAILURE(open({u"-H"_qs, u"hold"_qs}));
+    dialog.clickPrint();
+    ASSERT_TRUE(systemtest::waitUntil([this] {
+        const auto jobs = cups.jobs();
+        return jobs.size() == 1 && jobs[0].state == IPP_JSTATE_HELD;
+    }));
+    QThread::sleep(1);                       // by then the window has heard of it
+    dialog.press({u"Tab"_qs, u"Return"_qs}); // from Close to Cancel Job
+    ASSERT_TRUE(systemtest::waitUntil([this] { return cups.jobs().at(0).state == IPP_JSTATE_CANCELED; }));
+    QThread::sleep(6); // longer than a held job is shown
+    EXPECT_EQ(dialog.windows(), QStringList{dialog.window()});
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(dialog.waitForEnd().status, testsupport::cancelled);
+}
+
+TEST_F(WindowJob, HeldJobThatNobodyCancels_LetsTheWindowGo)
+{
+    ASSERT_NO_FATAL_FAILURE(open({u"-H"_qs, u"hold"_qs}));
+    dialog.clickPrint();
+    EXPECT_EQ(dialog.waitForEnd().output, "Job tape-1 is pending-held.\n");
+    EXPECT_EQ(cups.jobs().at(0).state, IPP_JSTATE_HELD);
+}
+
 TEST_F(WindowJob, CancelWhileTheServerIsSilentInTheMiddle_CancelsTheJobAndTheWindowPrintsAgain)
 {
     using tapeprint::test::Meddling;
