@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The connection to the print server when the server is silent, goes away, or wants a password.
+#include "job/Advice.h"
 #include "job/IppQuestion.h"
 #include "job/JobRequests.h"
 #include "job/Printers.h"
@@ -421,6 +422,23 @@ TEST_F(ServerConnectionTest, PersonWhoDeclines_IsAskedOnce)
     EXPECT_FALSE(ask(*server));
     EXPECT_EQ(questions.size(), 1U);
     EXPECT_TRUE(server->problem().contains(u"user's name and password")) << server->problem().toStdString();
+    EXPECT_FALSE(server->wasDeclined()); // on a terminal that is all that is said of it
+}
+
+TEST_F(ServerConnectionTest, PersonWhoDeclinesAtAWindow_HasAnsweredAndSomebodyWhoIsWrongHasNot)
+{
+    const AdviceForTheWindow window;
+    const MeddlingServer guarded(socket, {}, letAnnaIn);
+    answerWith({});
+    const auto server = ServerConnection::open(&stop);
+    EXPECT_FALSE(ask(*server));
+    EXPECT_TRUE(server->wasDeclined());
+    questions.clear();
+    answerWith({"wrong", "wrong", "wrong"});
+    const auto second = ServerConnection::open(&stop);
+    EXPECT_FALSE(ask(*second));
+    EXPECT_TRUE(second->wasRefused());
+    EXPECT_FALSE(second->wasDeclined());
 }
 
 TEST_F(ServerConnectionTest, NobodyToAsk_IsSaidAtOnce)
