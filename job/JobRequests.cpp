@@ -4,8 +4,11 @@
 
 #include "job/PlainText.h"
 
+#include <algorithm>
 #include <array>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace tapeprint::job
 {
@@ -119,6 +122,76 @@ std::optional<QueueAddress> addressOnNetwork(const ServerConnection &server, con
     return destination && !server.isStopped() ? readAddress(uriOf(*destination)) : std::nullopt;
 }
 
+/// A job as the server lists it among others. What was not asked for is as here.
+struct ListedJob {
+    int id = 0;
+    ipp_jstate_t state = IPP_JSTATE_PENDING;
+    int priority = 0;
+    int documents = -1;
+    QString name = {};
+};
+
+/// The jobs of a queue that have not ended. \param areOwn those of this user alone.
+template <std::size_t count>
+Response askForJobs(const ServerConnection &server, const QString &queue,
+                    const std::array<const char *, count> &attributes, bool areOwn)
+{
+    ipp_t *request = aboutPrinter(IPP_OP_GET_JOBS, queue);
+    if (areOwn) {
+        ippAddBoolean(request, IPP_TAG_OPERATION, "my-jobs", 1);
+    }
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, "not-completed");
+    askFor(request, attributes);
+    return askServer(server, request);
+}
+
+std::vector<ListedJob> jobsIn(const Response &response)
+{
+    std::vector<ListedJob> jobs;
+    ListedJob job;
+    const auto finishJob = [&jobs, &job] {
+        if (job.id != 0) {
+            jobs.push_back(std::exchange(job, {}));
+        }
+    };
+    // An attribute without a name divides the jobs.
+    for (ipp_attribute_t *attribute = ippFirstAttribute(response.get()); attribute != nullptr;
+         attribute = ippNextAttribute(response.get())) {
+        const QLatin1String name(ippGetName(attribute));
+        if (name.isEmpty()) {
+            finishJob();
+        } else if (name == QLatin1String("job-id")) {
+            job.id = ippGetInteger(attribute, 0);
+        } else if (name == QLatin1String("job-state")) {
+            job.state = static_cast<ipp_jstate_t>(ippGetInteger(attribute, 0));
+        } else if (name == QLatin1String("job-priority")) {
+            job.priority = ippGetInteger(attribute, 0);
+        } else if (name == QLatin1String("job-name")) {
+            job.name = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
+        } else if (name == QLatin1String("number-of-documents")) {
+            job.documents = ippGetInteger(attribute, 0);
+        }
+    }
+    finishJob();
+    return jobs;
+}
+
+/// How many jobs a queue prints before one that is pending. CUPS knows number-of-intervening-jobs and does not tell it.
+int countJobsBefore(const ServerConnection &server, const QString &queue, int jobId)
+{
+    static constexpr std::array attributes{"job-id", "job-state", "job-priority"};
+    const std::vector<ListedJob> jobs = jobsIn(askForJobs(server, queue, attributes, false));
+    const auto own = std::find_if(jobs.begin(), jobs.end(), [jobId](const ListedJob &job) { return job.id == jobId; });
+    if (own == jobs.end()) {
+        return 0;
+    }
+    const auto isBefore = [&own](const ListedJob &job) {
+        const bool comesFirst = job.priority > own->priority || (job.priority == own->priority && job.id < own->id);
+        return job.state == IPP_JSTATE_PROCESSING || (job.state == IPP_JSTATE_PENDING && comesFirst);
+    };
+    return static_cast<int>(std::count_if(jobs.begin(), jobs.end(), isBefore));
+}
+
 } // namespace
 
 std::optional<QueueAddress> addressOf(const ServerConnection &server, const QString &queue)
@@ -208,7 +281,10 @@ std::optional<JobStatus> readJob(const ServerConnection &server, const QString &
     status.reasons = wordsIn(job, "job-state-reasons");
     status.message = wordsIn(job, "job-printer-state-message").join(u' ');
     status.documents = numberIn(job, "number-of-documents", IPP_TAG_INTEGER, 0);
-    status.jobsBefore = numberIn(job, "number-of-intervening-jobs", IPP_TAG_INTEGER, 0);
+    status.jobsBefore = numberIn(job, "number-of-intervening-jobs", IPP_TAG_INTEGER, -1);
+    if (status.jobsBefore < 0) {
+        status.jobsBefore = status.state == IPP_JSTATE_PENDING ? countJobsBefore(server, queue, jobId) : 0;
+    }
     status.piecesOut = numberIn(job, "job-media-sheets-completed", IPP_TAG_INTEGER, 0);
 
     request = aboutPrinter(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
@@ -250,39 +326,16 @@ std::optional<std::vector<int>> unfinishedJobs(const ServerConnection &server, c
                                                const QString &title, int documents)
 {
     static constexpr std::array attributes{"job-id", "job-name", "number-of-documents"};
-    ipp_t *request = aboutPrinter(IPP_OP_GET_JOBS, queue);
-    ippAddBoolean(request, IPP_TAG_OPERATION, "my-jobs", 1);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, "not-completed");
-    askFor(request, attributes);
-    const Response response = askServer(server, request);
+    const Response response = askForJobs(server, queue, attributes, true);
     if (!isAccepted(response.get())) {
         return std::nullopt;
     }
     std::vector<int> jobs;
-    int id = 0;
-    bool isCalledSo = false;
-    bool lacksDocuments = false;
-    const auto finishJob = [&] {
-        if (id != 0 && isCalledSo && lacksDocuments) {
-            jobs.push_back(id);
-        }
-        id = 0;
-    };
-    // An attribute without a name divides the jobs.
-    for (ipp_attribute_t *attribute = ippFirstAttribute(response.get()); attribute != nullptr;
-         attribute = ippNextAttribute(response.get())) {
-        const QLatin1String name(ippGetName(attribute));
-        if (name.isEmpty()) {
-            finishJob();
-        } else if (name == QLatin1String("job-id")) {
-            id = ippGetInteger(attribute, 0);
-        } else if (name == QLatin1String("job-name")) {
-            isCalledSo = QString::fromUtf8(ippGetString(attribute, 0, nullptr)) == title;
-        } else if (name == QLatin1String("number-of-documents")) {
-            lacksDocuments = ippGetInteger(attribute, 0) < documents;
+    for (const ListedJob &job : jobsIn(response)) {
+        if (job.documents >= 0 && job.documents < documents && job.name == title) {
+            jobs.push_back(job.id);
         }
     }
-    finishJob();
     return jobs;
 }
 

@@ -268,6 +268,19 @@ TEST_F(WindowJob, HeldJob_CanBeCancelledAsLongAsItIsShown)
     EXPECT_EQ(dialog.waitForEnd().status, testsupport::cancelled);
 }
 
+TEST_F(WindowJob, JobThatWaitsBehindOthers_LetsTheWindowGo)
+{
+    ASSERT_TRUE(cups.addScriptedQueue(u"busy"_qs, u"mm"_qs, "cat >/dev/null; sleep 30; echo tape\n").isNull());
+    for (int i = 0; i < 2; ++i) {
+        systemtest::runClient({u"/usr/bin/lp"_qs, {u"-d"_qs, u"busy"_qs, document}, variables()});
+    }
+    const QString problem = dialog.open(
+        {QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), {u"-d"_qs, u"busy"_qs, document}, variables(), workFolder});
+    ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+    dialog.clickPrint();
+    EXPECT_EQ(dialog.waitForEnd().output, "Job busy-3 is pending.\n");
+}
+
 TEST_F(WindowJob, HeldJobThatNobodyCancels_LetsTheWindowGo)
 {
     ASSERT_NO_FATAL_FAILURE(open({u"-H"_qs, u"hold"_qs}));
