@@ -103,10 +103,10 @@ private:
     int mQuestions = 0;
     bool mWasRefused = false;  ///< no password was given, or none that is good
     bool mWasDeclined = false; ///< the person pressed Cancel when asked for one
-    mutable QString mWords;   ///< asking leaves the connection as it is
-    Secret mPassword;         ///< libcups reads it from here
-    QByteArray mThreadsUser;  ///< who the thread's calls are made for, before any question
-    ServerConnection *mOuter; ///< the thread's connection before this one
+    mutable QString mWords;    ///< asking leaves the connection as it is
+    Secret mPassword;          ///< libcups reads it from here
+    QByteArray mThreadsUser;   ///< who the thread's calls are made for, before any question
+    ServerConnection *mOuter;  ///< the thread's connection before this one
     std::unique_ptr<LineCutter> mCutter;
 };
 
