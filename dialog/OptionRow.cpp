@@ -62,7 +62,7 @@ void OptionRow::makePopUp(const job::OfferedOption &option, const MeasureUnit &u
         mFields = new CustomFields(mKey, option.customValues, unit, this);
         mFields->hide();
         connect(mFields, &CustomFields::entered, this, [this](const QString &value) { Q_EMIT picked(mKey, value); });
-        grid->addWidget(mFields, 1, 0, 1, 2);
+        grid->addWidget(mFields, 1, 0);
     }
 }
 

@@ -205,6 +205,22 @@ TEST_F(OptionsPageTest, OptionThatTakesSeveral_HasBoxesOfWhichOneStaysChecked)
     EXPECT_EQ(carried(u"Add"_qs), u"C"_qs);
 }
 
+TEST_F(OptionsPageTest, RowsWithAndWithoutOwnValues_EndAtOneEdge)
+{
+    open(ownValues + pickOne("Tone", ab("Tone")));
+    page->resize(500, 600);
+    page->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(page.get()));
+    const auto end = [this](const QString &key) {
+        auto *popUp = child<PopUp>(key);
+        return popUp->mapTo(page.get(), popUp->rect().topRight()).x();
+    };
+    EXPECT_EQ(end(u"Count"_qs), end(u"Tone"_qs));
+    pick(u"Count"_qs, u"Custom…"_qs);
+    QApplication::processEvents();
+    EXPECT_EQ(end(u"Count"_qs), end(u"Tone"_qs));
+}
+
 TEST_F(OptionsPageTest, ChosenText_IsWholeWhereThereIsRoomAndNeedsNone)
 {
     open(pickOne("Tone", "*Tone A/As the printer is set up: \"\"\n*Tone B/Off: \"\"\n"));
