@@ -2,12 +2,14 @@
 // Only what a person changed is carried along: each printer's own defaults stay its own.
 #include "job/KeptChoices.h"
 
+#include "job/CustomValues.h"
 #include "job/IppAttributeNames.h"
 #include "job/PpdMarks.h"
 
 #include <algorithm>
 #include <cmath>
 #include <span>
+#include <vector>
 
 namespace tapeprint::job
 {
@@ -53,6 +55,21 @@ QString fittingCustomSize(ppd_file_t *ppd, const QString &name)
     return isWithin ? name : QString();
 }
 
+/// A choice as the PPD spells it; null when it lists none such, or does not take such an own value.
+QString fittingChoice(ppd_file_t *ppd, const QString &name, const QString &value)
+{
+    if (isCustomValue(value)) {
+        const std::vector<CustomParameter> parameters = customParameters(ppd, name);
+        const QStringList values = customValuesIn(parameters, value);
+        for (std::size_t i = 0; i < parameters.size(); ++i) {
+            if (!customProblem(parameters[i], values.at(static_cast<qsizetype>(i)), false).isNull()) {
+                return {};
+            }
+        }
+    }
+    return listedChoice(ppd, name, value);
+}
+
 bool isMatterOfPpd(ppd_file_t *ppd, const QString &name)
 {
     return name == OptionName::pageSize || (!isIppJobAttribute(name) && findOption(ppd, name) != nullptr);
@@ -71,6 +88,11 @@ void KeptChoices::leave(const JobOptions &opened, const JobOptions &left, ppd_fi
             continue;
         }
         mOfPpd.set(name, value);
+        if (listedChoice(ppd, name, value).isNull()) {
+            mUnlisted.insert(name);
+        } else {
+            mUnlisted.remove(name);
+        }
         if (name == OptionName::pageSize) {
             mPaper = paperNamed(ppd, value);
         }
@@ -108,9 +130,10 @@ JobOptions KeptChoices::fitting(ppd_file_t *ppd, const JobOptions &saved) const
         if (saved.contains(name) || findOption(ppd, name) == nullptr) {
             continue;
         }
+        const bool isPanels = isNumber(value) && mUnlisted.contains(name);
         const QString kept = name == OptionName::pageSize ? fittingPaper(ppd, value)
-                             : isNumber(value)            ? value
-                                                          : listedChoice(ppd, name, value);
+                             : isPanels                   ? value
+                                                          : fittingChoice(ppd, name, value);
         if (!kept.isNull()) {
             fitting.set(name, kept);
         }

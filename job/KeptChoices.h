@@ -4,6 +4,9 @@
 
 #include "job/JobOptions.h"
 
+#include <QSet>
+#include <QString>
+
 #include <optional>
 
 #include <pdekit/PrintingCore.h>
@@ -21,8 +24,9 @@ public:
     /// \param ppd the printer's; may be null.
     void leave(const JobOptions &opened, const JobOptions &left, ppd_file_t *ppd);
 
-    /// What of it a printer can have: a choice that its PPD lists, a number of an option that it knows, a paper of the
-    /// same size whatever it is called, and everything that is no matter of a PPD, such as copies and pages.
+    /// What of it a printer can have: a choice that its PPD lists, an own value within its limits, a number that was no
+    /// listed choice before either and so is a panel's, a paper of the same size whatever it is called, and everything
+    /// that is no matter of a PPD, such as copies and pages.
     /// \param ppd the printer's; may be null. \param saved what the person saved with the instance that they turn to:
     /// it goes before what they chose elsewhere.
     JobOptions fitting(ppd_file_t *ppd, const JobOptions &saved) const;
@@ -34,6 +38,7 @@ private:
 
     JobOptions mGeneral;                 ///< what every printer takes
     JobOptions mOfPpd;                   ///< options of some printer's PPD
+    QSet<QString> mUnlisted;             ///< those of them whose value that PPD did not list
     std::optional<pdekit::Paper> mPaper; ///< the paper behind PageSize in mOfPpd
 };
 

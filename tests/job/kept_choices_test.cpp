@@ -75,6 +75,33 @@ TEST(KeptChoices, Number_IsKeptWhereThePpdHasTheOption)
     EXPECT_EQ(kept(tapePpdText(length), {}, {{u"Length"_qs, u"75.5"_qs}}, tapePpdText("")), QStringList());
 }
 
+TEST(KeptChoices, NumberThatWasAChoice_IsKeptWhereItIsOneAgain)
+{
+    const QByteArray speeds = "*OpenUI *Speed/Speed: PickOne\n*DefaultSpeed: 2\n*Speed 2/Slow: \"\"\n"
+                              "*Speed 6/Fast: \"\"\n*CloseUI: *Speed\n";
+    const QByteArray slower = QByteArray(speeds).replace("6/Fast", "4/Fast");
+    EXPECT_EQ(kept(tapePpdText(speeds), {}, {{u"Speed"_qs, u"6"_qs}}, tapePpdText(speeds)), QStringList{u"Speed=6"_qs});
+    EXPECT_EQ(kept(tapePpdText(speeds), {}, {{u"Speed"_qs, u"6"_qs}}, tapePpdText(slower)), QStringList());
+}
+
+TEST(KeptChoices, OwnValue_IsKeptWithinTheLimitsOfThePrinter)
+{
+    const QByteArray shift = "*OpenUI *Shift/Shift: PickOne\n*DefaultShift: None\n*Shift None/None: \"\"\n"
+                             "*CloseUI: *Shift\n*CustomShift True: \"\"\n"
+                             "*ParamCustomShift By/By: 1 int 0 100\n";
+    const QByteArray both = shift + "*ParamCustomShift Along/Along: 2 points 0 72\n";
+    const QByteArray less = QByteArray(shift).replace("0 100", "0 20");
+    EXPECT_EQ(kept(tapePpdText(shift), {}, {{u"Shift"_qs, u"Custom.50"_qs}}, tapePpdText(shift)),
+              QStringList{u"Shift=Custom.50"_qs});
+    EXPECT_EQ(kept(tapePpdText(shift), {}, {{u"Shift"_qs, u"Custom.50"_qs}}, tapePpdText(less)), QStringList());
+    EXPECT_EQ(kept(tapePpdText(shift), {}, {{u"Shift"_qs, u"Custom.20"_qs}}, tapePpdText(less)),
+              QStringList{u"Shift=Custom.20"_qs});
+    EXPECT_EQ(kept(tapePpdText(both), {}, {{u"Shift"_qs, u"{By=50 Along=10mm}"_qs}}, tapePpdText(both)),
+              QStringList{u"Shift={By=50 Along=10mm}"_qs});
+    // A value of two parameters is none of one, and the other way round.
+    EXPECT_EQ(kept(tapePpdText(shift), {}, {{u"Shift"_qs, u"Custom.50"_qs}}, tapePpdText(both)), QStringList());
+}
+
 TEST(KeptChoices, Paper_IsKeptByItsSizeWhateverItsName)
 {
     EXPECT_EQ(kept(tapePpdText(), {}, {{u"PageSize"_qs, u"T72"_qs}}, otherPapers()), QStringList{u"PageSize=Roll"_qs});
