@@ -7,6 +7,7 @@
 #include "job/FilterRun.h"
 #include "job/LaidDownOptions.h"
 #include "job/PpdTexts.h"
+#include "job/RefusedValues.h"
 
 #include <utility>
 
@@ -129,8 +130,9 @@ void Job::layDownPages()
 
 QStringList Job::notices() const
 {
-    QStringList notices = unlistedValues(ppd(), mOptions) + optionsThatNeverArrive(mChosen) +
-                          bracedForNobody(ppd(), mOptions) + optionsWithoutEffect(mChosen, page());
+    QStringList notices = unlistedValues(ppd(), mOptions) + ownValuesNotTaken(ppd(), mOptions) +
+                          optionsThatNeverArrive(mChosen) + bracedForNobody(ppd(), mOptions) +
+                          optionsWithoutEffect(mChosen, page());
     if (mDestination.isFile() && ppd() != nullptr) {
         notices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
     }

@@ -164,6 +164,22 @@ QString problemOf(ppd_file_t *ppd, const QString &name, const QString &value, co
 
 } // namespace
 
+QStringList ownValuesNotTaken(ppd_file_t *ppd, const JobOptions &options)
+{
+    QStringList sentences;
+    for (const auto &[name, value] : options.entries()) {
+        if (!isCustomValue(value) || listedChoice(ppd, name, value).isNull()) {
+            continue;
+        }
+        const QString sentence =
+            name == OptionName::pageSize ? customSizeProblem(ppd, name, value) : customValueProblem(ppd, name, value);
+        if (!sentence.isNull()) {
+            sentences.append(sentence);
+        }
+    }
+    return sentences;
+}
+
 QStringList refusedValues(ppd_file_t *ppd, const JobOptions &asked, const AnswersFor &isPanels)
 {
     QStringList sentences;

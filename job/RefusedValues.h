@@ -22,4 +22,8 @@ using AnswersFor = std::function<bool(const QString &key, const QString &value)>
 /// was asked for.
 QStringList refusedValues(ppd_file_t *ppd, const JobOptions &asked, const AnswersFor &isPanels);
 
+/// A sentence for each own value and each size of one's own that is beyond what the printer takes, wherever it comes
+/// from. Those of options that take none are unlistedValues(). \param ppd may be null.
+QStringList ownValuesNotTaken(ppd_file_t *ppd, const JobOptions &options);
+
 } // namespace tapeprint::job

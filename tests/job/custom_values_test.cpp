@@ -257,6 +257,27 @@ TEST(JobWithCustomValues, ChangeWithoutAnOptionOrAValue_IsNone)
     EXPECT_EQ(markedValue(job.ppd(), u"Int"_qs), u"Custom.42"_qs);
 }
 
+TEST(JobWithCustomValues, SavedOnesThatThePrinterDoesNotTake_AreSaidAndSecretsAreNot)
+{
+    Destination destination;
+    destination.ppd = ppdOf(tapePpdText(everyKind + jobtest::customPages));
+    destination.queue = PrintQueue();
+    destination.queue->options = jobtest::options({{u"Int"_qs, u"Custom.101"_qs},
+                                                   {u"Real"_qs, u"Custom.0.5"_qs},
+                                                   {u"Passcode"_qs, u"Custom.123"_qs},
+                                                   {u"PageSize"_qs, u"Custom.145x100"_qs}});
+    Job job;
+    job.open(std::move(destination), {});
+    EXPECT_EQ(job.notices(),
+              (QStringList{u"Int=Custom.101: Give a whole number from -5 to 100."_qs,
+                           u"Passcode=Custom.***: Give 4 to 8 digits."_qs,
+                           u"PageSize=Custom.145x100 is smaller or larger than the printer can take."_qs}));
+    job.changeOption(u"Int"_qs, u"Custom.100"_qs);
+    job.changeOption(u"Passcode"_qs, u"Custom.1234"_qs);
+    job.changeOption(u"PageSize"_qs, u"Custom.144x100"_qs);
+    EXPECT_EQ(job.notices(), QStringList());
+}
+
 TEST(JobWithCustomValues, RevertsToThem)
 {
     Destination destination;
