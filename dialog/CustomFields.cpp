@@ -78,6 +78,7 @@ void CustomFields::addField(const QString &key, const job::CustomParameter &para
     connect(field.edit, &QLineEdit::editingFinished, this, &CustomFields::commit);
     auto *label = plainLabel(tr("%1:", "name of a value").arg(parameter.text), field.edit);
     label->setParent(this);
+    nameByFarLabel(field.edit, *label);
     qobject_cast<QFormLayout *>(layout())->addRow(label, place);
     mFields.push_back(field);
 }

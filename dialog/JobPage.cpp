@@ -3,6 +3,7 @@
 #include "dialog/JobPage.h"
 
 #include "dialog/MeasureUnit.h"
+#include "dialog/PlainText.h"
 #include "job/PageRanges.h"
 #include "job/UsualOptions.h"
 
@@ -81,6 +82,7 @@ void JobPage::addPages(QFormLayout *form)
     pagesLayout->addWidget(mPagesProblem);
     auto *label = new QLabel(tr("Pages:"), this);
     label->setBuddy(mPages);
+    nameByFarLabel(mPages, *label);
     form->addRow(label, pages);
 
     mPageSet = new QComboBox(this);
@@ -136,6 +138,7 @@ void JobPage::addQueue(QFormLayout *form)
     holdLayout->addWidget(mHoldTime);
     auto *label = new QLabel(tr("Print it:", "when the job is printed"), this);
     label->setBuddy(mHold);
+    nameByFarLabel(mHold, *label);
     form->addRow(label, hold);
 
     mBilling = new QLineEdit(this);

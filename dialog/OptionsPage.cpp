@@ -112,6 +112,9 @@ void OptionsPage::makeRow()
     row->setAccessibleName(option.text);
     auto *label = plainLabel(tr("%1:", "name of an option").arg(option.text), row->firstControl());
     label->setParent(mForm->parentWidget());
+    if (!option.takesSeveral) {
+        nameByFarLabel(row->firstControl(), *label);
+    }
     mForm->addRow(label, row);
     // The page may be in the window already, where a new control would come last.
     QWidget *before = mRows.empty() ? nullptr : focusable(mRows.back()).back();

@@ -2,6 +2,7 @@
 // What the toolkit would read as markup is switched off where it can be, and doubled or escaped where it cannot.
 #include "dialog/PlainText.h"
 
+#include <QComboBox>
 #include <QLabel>
 
 namespace tapeprint::dialog
@@ -16,6 +17,20 @@ QLabel *plainLabel(const QString &text, QWidget *buddy)
     label->setAccessibleName(text);
     label->setText(QString(text).replace(u'&', QLatin1String("&&")));
     return label;
+}
+
+void nameByFarLabel(QWidget *control, const QLabel &label)
+{
+    const QString name = label.accessibleName().isEmpty() ? label.text() : label.accessibleName();
+    control->setAccessibleName(name);
+    // A pop-up is called by what is chosen in it, whatever its name; only a label beside it says what it is for.
+    if (qobject_cast<QComboBox *>(control) != nullptr) {
+        auto *heard = new QLabel(label.text(), control->parentWidget());
+        heard->setTextFormat(label.textFormat());
+        heard->setAccessibleName(name);
+        heard->setBuddy(control);
+        heard->hide();
+    }
 }
 
 QString plainToolTip(const QString &text)

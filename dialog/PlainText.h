@@ -15,6 +15,10 @@ namespace tapeprint::dialog
 /// \param buddy the control; its parent becomes the label's.
 QLabel *plainLabel(const QString &text, QWidget *buddy);
 
+/// Names a control for a screen reader by a label that stands in another widget than the control: of that one nothing
+/// is heard.
+void nameByFarLabel(QWidget *control, const QLabel &label);
+
 /// A text for a tooltip, drawn as it stands.
 QString plainToolTip(const QString &text);
 

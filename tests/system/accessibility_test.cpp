@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace
@@ -65,13 +66,19 @@ protected:
     }
 
     /// Opens the window and hears all of it.
-    void listen(const QStringList &arguments)
+    /// \param steps keys that are pressed one after the other, after each of which all is heard again.
+    void listen(const QStringList &arguments, const QStringList &steps = {})
     {
+        QStringList presses;
+        for (const QString &keys : steps) {
+            presses += {u"--press"_qs, keys};
+        }
         const QString reader = QStringLiteral(TAPEPRINT_SOURCE_DIR "/tests/system/read_accessible.py");
         const systemtest::Outcome outcome = systemtest::runClient(
             {u"dbus-run-session"_qs,
-             QStringList{u"--"_qs, reader, QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), u"--ppd"_qs,
-                         QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd")} +
+             QStringList{u"--"_qs, reader} + presses +
+                 QStringList{QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), u"--ppd"_qs,
+                             QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd")} +
                  arguments + QStringList{QStringLiteral(TAPEPRINT_SOURCE_DIR "/docs/sample/address-label.pdf")},
              {{u"DISPLAY"_qs, display.name()},
               {u"XDG_RUNTIME_DIR"_qs, folder.makeFolder(u"run"_qs)},
@@ -80,8 +87,22 @@ protected:
               {u"QT_LINUX_ACCESSIBILITY_ALWAYS_ON"_qs, u"1"_qs}}});
         ASSERT_EQ(outcome.status, 0) << outcome.messages.toStdString();
         for (const QByteArray &line : outcome.output.split('\n')) {
-            if (!line.isEmpty()) {
-                all.push_back(heardOf(QJsonDocument::fromJson(line).object()));
+            const QJsonObject object = QJsonDocument::fromJson(line).object();
+            if (object.contains(u"pressed"_qs)) {
+                earlier.push_back(std::exchange(all, {}));
+            } else if (!object.isEmpty()) {
+                all.push_back(heardOf(object));
+            }
+        }
+    }
+
+    /// Whatever takes keys says what it is.
+    void expectNames() const
+    {
+        for (const Heard &control : all) {
+            if (control.takesKeys()) {
+                EXPECT_FALSE(control.name.isEmpty() && control.labels.isEmpty()) << control.said().toStdString();
+                EXPECT_NE(control.role, u"filler"_qs) << control.said().toStdString();
             }
         }
     }
@@ -100,7 +121,8 @@ protected:
 
     systemtest::PrivateFolder folder;
     systemtest::PrivateDisplay display;
-    std::vector<Heard> all;
+    std::vector<Heard> all;                  ///< what is heard last
+    std::vector<std::vector<Heard>> earlier; ///< and before each press of keys
 };
 
 TEST_F(ScreenReader, HearsNamesValuesUnitsAndLimitsOfTheWindow)
@@ -128,12 +150,44 @@ TEST_F(ScreenReader, HearsNamesValuesUnitsAndLimitsOfTheWindow)
         EXPECT_TRUE(heard(u"push button"_qs, button).takesKeys()) << button.toStdString();
     }
 
-    for (const Heard &control : all) {
-        if (control.takesKeys()) {
-            EXPECT_FALSE(control.name.isEmpty() && control.labels.isEmpty()) << control.said().toStdString();
-            EXPECT_NE(control.role, u"filler"_qs) << control.said().toStdString();
-        }
+    expectNames();
+}
+
+TEST_F(ScreenReader, HearsTheOtherPagesAndTheSheets)
+{
+    // The next page of the settings each time; then the commands, and a tape of one's own, which is the last.
+    ASSERT_NO_FATAL_FAILURE(
+        listen({}, {u"alt+n Down"_qs, u"Down"_qs, u"Down"_qs, u"alt+w"_qs, u"Escape"_qs, u"alt+t End"_qs}));
+    ASSERT_EQ(earlier.size(), 6U);
+    std::vector<std::vector<Heard>> heardAfter(earlier.begin() + 1, earlier.end());
+    heardAfter.push_back(all);
+
+    all = heardAfter[0];
+    expectNames();
+    for (const QString &popUp : {u"Size:"_qs, u"Direction:"_qs, u"Along the tape:"_qs, u"Across the tape:"_qs,
+                                 u"Pages on a label:"_qs, u"Their order:"_qs}) {
+        heard(u"combo box"_qs, popUp);
     }
+    all = heardAfter[1];
+    expectNames();
+    EXPECT_TRUE(heard(u"text"_qs, u"Title:"_qs).takesKeys());
+    EXPECT_TRUE(heard(u"text"_qs, u"Pages:"_qs).takesKeys());
+    EXPECT_TRUE(heard(u"combo box"_qs, u"Of these:"_qs).takesKeys());
+    EXPECT_FALSE(heard(u"check box"_qs, u"Last page first"_qs).states.contains(u"checked"_qs));
+    all = heardAfter[2];
+    expectNames();
+    EXPECT_TRUE(heard(u"combo box"_qs, u"Cut:"_qs).takesKeys());
+    all = heardAfter[3];
+    expectNames();
+    EXPECT_TRUE(heard(u"text"_qs, u"The same job by tapeprint:"_qs).takesKeys());
+    EXPECT_TRUE(heard(u"push button"_qs, u"Copy the command of tapeprint"_qs).takesKeys());
+    all = heardAfter[5];
+    expectNames();
+    // The description says 11.33 and 102.06 points: 3.997 and 36.004 mm.
+    const Heard width = heard(u"text"_qs, u"Width:"_qs);
+    EXPECT_TRUE(width.takesKeys());
+    EXPECT_TRUE(width.description.contains(u" 4 to 36 mm"_qs)) << width.description.toStdString();
+    EXPECT_TRUE(heard(u"text"_qs, u"Name:"_qs).takesKeys());
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: Apache-2.0
 # (Debian's own python3 has the bindings.) Starts a program and prints what a screen reader finds in its window, one line a control, as JSON. To be run on a
-# session bus and a display of its own.
+# session bus and a display of its own. With --press KEYS before the program, such as --press "alt+n Down", it presses
+# these keys and prints all again, after a line that names them.
 import json
 import subprocess
 import sys
@@ -13,6 +14,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 PATIENCE_SECONDS = 20
+REST_SECONDS = 0.2
 LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 
 
@@ -46,21 +48,55 @@ def told_of(node):
     }
 
 
-def print_tree(node):
-    print(json.dumps(told_of(node), ensure_ascii=False))
+def lines_of(node):
+    lines = [json.dumps(told_of(node), ensure_ascii=False)]
+    if node.get_role_name() == "combo box":  # its items would take most of the time
+        return lines
     for index in range(node.get_child_count()):
         child = node.get_child_at_index(index)
         if child is not None:
-            print_tree(child)
+            lines += lines_of(child)
+    return lines
 
 
-def window_of(pid):
+def program_of(pid):
     desktop = Atspi.get_desktop(0)
     for index in range(desktop.get_child_count()):
         program = desktop.get_child_at_index(index)
         if program is not None and program.get_process_id() == pid and program.get_child_count() > 0:
-            return program.get_child_at_index(0)
+            return program
     return None
+
+
+def window_of(pid):
+    program = program_of(pid)
+    return None if program is None else program.get_child_at_index(0)
+
+
+def press(pid, keys):
+    """Presses keys in the window of the program that was opened last."""
+    found = subprocess.run(
+        ["xdotool", "search", "--onlyvisible", "--pid", str(pid)], stdout=subprocess.PIPE, text=True, check=True
+    )
+    subprocess.run(["xdotool", "windowfocus", "--sync", found.stdout.split()[-1]], check=True)
+    time.sleep(REST_SECONDS)
+    subprocess.run(["xdotool", "key", "--delay", "150", *keys.split()], check=True)
+
+
+def rested_lines(pid):
+    """What is heard of all windows once nothing changes any more."""
+    until = time.monotonic() + PATIENCE_SECONDS
+    before = None
+    while time.monotonic() < until:
+        time.sleep(REST_SECONDS)
+        try:
+            lines = lines_of(program_of(pid))
+        except GLib.Error:  # something went away meanwhile
+            continue
+        if lines == before:
+            break
+        before = lines
+    return before or []
 
 
 def wait_for_window(program):
@@ -78,14 +114,23 @@ def wait_for_window(program):
 
 
 def main():
+    arguments = sys.argv[1:]
+    steps = []
+    while arguments[0] == "--press":
+        steps.append(arguments[1])
+        arguments = arguments[2:]
     launcher = subprocess.Popen([LAUNCHER, "--launch-immediately"])
-    program = subprocess.Popen(sys.argv[1:], stdin=subprocess.DEVNULL)
+    program = subprocess.Popen(arguments, stdin=subprocess.DEVNULL)
     try:
         window = wait_for_window(program)
         if window is None:
             print("no window is to be heard", file=sys.stderr)
             return 1
-        print_tree(window)
+        print("\n".join(lines_of(window)))
+        for keys in steps:
+            press(program.pid, keys)
+            print(json.dumps({"pressed": keys}))
+            print("\n".join(rested_lines(program.pid)))
         return 0
     finally:
         program.terminate()
