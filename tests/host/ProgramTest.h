@@ -30,14 +30,15 @@ struct Outcome {
 class Program : public testing::Test
 {
 protected:
-    /// A copy far from the build, whose own bundles would otherwise be found beside the program. What reads documents
-    /// stands there as it does when installed.
+    /// A copy far from the build, whose own bundles would otherwise be found beside the program. The library
+    /// and what reads documents stand there as they do when installed.
     static void SetUpTestSuite()
     {
         programFolder = std::make_unique<QTemporaryDir>();
         ASSERT_TRUE(QDir().mkpath(programFolder->filePath(u"bin"_qs)));
         ASSERT_TRUE(QDir().mkpath(programFolder->filePath(u"lib/tapeprint"_qs)));
-        for (const QString &part : {u"/lib/tapeprint/tapeprint-pages"_qs, u"/lib/tapeprint/tapeprint-drawer"_qs}) {
+        for (const QString &part :
+             {u"/lib/libpdekit.so.1"_qs, u"/lib/tapeprint/tapeprint-pages"_qs, u"/lib/tapeprint/tapeprint-drawer"_qs}) {
             ASSERT_TRUE(QFile::link(QStringLiteral(TAPEPRINT_BIN_DIR "/..") + part, programFolder->path() + part));
         }
         ASSERT_TRUE(QFile::copy(QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), programPath()));

@@ -302,10 +302,12 @@ class InstalledProgram : public Program
 protected:
     InstalledProgram()
     {
-        for (const QString &place : {u"bin"_qs, u"share/ppd/tapeprint"_qs}) {
+        for (const QString &place : {u"bin"_qs, u"lib"_qs, u"share/ppd/tapeprint"_qs}) {
             QDir(prefix.path()).mkpath(place);
         }
         QFile::copy(QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), prefix.filePath(u"bin/tapeprint"_qs));
+        const QString library = u"lib/libpdekit.so.1"_qs;
+        QFile::link(QStringLiteral(TAPEPRINT_BIN_DIR "/../") + library, prefix.filePath(library));
         hosttest::writeFile(prefix, u"share/ppd/tapeprint/sample.ppd"_qs, hosttest::testPpd());
     }
 
