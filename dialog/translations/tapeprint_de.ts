@@ -1897,6 +1897,10 @@
         <source>what reads it has broken off</source>
         <translation>das Programm, das es liest, ist abgebrochen</translation>
     </message>
+    <message>
+        <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
+        <translation>Seite %1 würde %2 mm breit und %3 mm lang, was niemand lesen kann. Wählen Sie ein längeres Band, einen kleineren Rand oder weniger Seiten pro Etikett.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

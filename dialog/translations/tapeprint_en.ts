@@ -1897,6 +1897,10 @@
         <source>what reads it has broken off</source>
         <translation>what reads it has broken off</translation>
     </message>
+    <message>
+        <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
+        <translation>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

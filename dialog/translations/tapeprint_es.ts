@@ -1897,6 +1897,10 @@
         <source>what reads it has broken off</source>
         <translation>el programa que lo lee se ha interrumpido</translation>
     </message>
+    <message>
+        <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
+        <translation>La página %1 quedaría de %2 mm de ancho y %3 mm de largo, lo que nadie puede leer. Elija una cinta más larga, un margen menor o menos páginas por etiqueta.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

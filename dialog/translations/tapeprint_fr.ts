@@ -1897,6 +1897,10 @@
         <source>what reads it has broken off</source>
         <translation>le programme qui le lit s’est interrompu</translation>
     </message>
+    <message>
+        <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
+        <translation>La page %1 ferait %2 mm de large et %3 mm de long, ce que personne ne peut lire. Choisissez un ruban plus long, une marge plus petite ou moins de pages par étiquette.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

@@ -1897,6 +1897,10 @@
         <source>what reads it has broken off</source>
         <translation>il programma che lo legge si è interrotto</translation>
     </message>
+    <message>
+        <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
+        <translation>La pagina %1 risulterebbe larga %2 mm e lunga %3 mm, e nessuno potrebbe leggerla. Scegliere un nastro più lungo, un margine più piccolo o meno pagine per etichetta.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

@@ -1893,6 +1893,10 @@
         <source>what reads it has broken off</source>
         <translation>読み取るプログラムが途中で終了しました</translation>
     </message>
+    <message>
+        <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
+        <translation>ページ %1 は幅 %2 mm、長さ %3 mm になり、読むことができません。テープを長くするか、余白を小さくするか、ラベルあたりのページ数を減らしてください。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

@@ -1893,6 +1893,10 @@
         <source>what reads it has broken off</source>
         <translation>읽는 프로그램이 중단되었습니다</translation>
     </message>
+    <message>
+        <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
+        <translation>%1페이지가 너비 %2 mm, 길이 %3 mm가 되어 읽을 수 없습니다. 테이프를 길게 하거나, 여백을 줄이거나, 라벨당 페이지 수를 줄이십시오.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

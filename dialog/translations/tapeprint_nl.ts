@@ -1897,6 +1897,10 @@
         <source>what reads it has broken off</source>
         <translation>het programma dat het leest, is afgebroken</translation>
     </message>
+    <message>
+        <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
+        <translation>Pagina %1 zou %2 mm breed en %3 mm lang worden, wat niemand kan lezen. Kies een langere tape, een kleinere marge of minder pagina’s per label.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

@@ -1897,6 +1897,10 @@
         <source>what reads it has broken off</source>
         <translation>o programa que o lê foi interrompido</translation>
     </message>
+    <message>
+        <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
+        <translation>A página %1 ficaria com %2 mm de largura e %3 mm de comprimento, o que ninguém consegue ler. Escolha uma fita mais longa, uma margem menor ou menos páginas por etiqueta.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>

@@ -1893,6 +1893,10 @@
         <source>what reads it has broken off</source>
         <translation>读取它的程序已中断</translation>
     </message>
+    <message>
+        <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
+        <translation>第 %1 页将只有 %2 毫米宽、%3 毫米长，无法阅读。请增加长度、减小边距或减少每张标签的页数。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::portal::PortalTexts</name>
