@@ -605,7 +605,7 @@
     <name>tapeprint::dialog::PresetRow</name>
     <message>
         <source>Printer&apos;s Defaults</source>
-        <translation>Vorgaben des Druckers</translation>
+        <translation>Druckervorgaben</translation>
     </message>
     <message>
         <source>As Last Time</source>

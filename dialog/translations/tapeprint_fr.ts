@@ -605,7 +605,7 @@
     <name>tapeprint::dialog::PresetRow</name>
     <message>
         <source>Printer&apos;s Defaults</source>
-        <translation>Réglages de l’imprimante</translation>
+        <translation>Par défaut</translation>
     </message>
     <message>
         <source>As Last Time</source>
