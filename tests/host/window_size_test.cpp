@@ -15,10 +15,13 @@
 #include "tests/support/TextPrinting.h"
 
 #include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
 #include <QScrollArea>
@@ -28,6 +31,8 @@
 #include <QTest>
 #include <QToolTip>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -364,6 +369,76 @@ TEST_P(WindowParts, TabKey_GoesAsTheEyeReads)
         }
     }
     EXPECT_EQ(found, known);
+}
+
+bool isControl(const QObject *object)
+{
+    const auto *field = qobject_cast<const QLineEdit *>(object);
+    return qobject_cast<const QAbstractButton *>(object) != nullptr ||
+           qobject_cast<const QAbstractSlider *>(object) != nullptr ||
+           qobject_cast<const QAbstractSpinBox *>(object) != nullptr ||
+           qobject_cast<const QComboBox *>(object) != nullptr || (field != nullptr && !field->isReadOnly());
+}
+
+/// What a person can set in a page. Of buttons that exclude one another, arrows reach the others.
+QList<QWidget *> controlsOf(const QWidget &page)
+{
+    QList<QWidget *> controls = page.findChildren<QWidget *>();
+    controls.removeIf([](const QWidget *control) {
+        const auto *button = qobject_cast<const QAbstractButton *>(control);
+        const bool isAnothers = button != nullptr && button->isCheckable() && !button->isChecked() &&
+                                (button->autoExclusive() || button->group() != nullptr);
+        return !isControl(control) || isControl(control->parent()) || isAnothers || !control->isVisible() ||
+               !control->isEnabled() || qobject_cast<const QScrollBar *>(control) != nullptr;
+    });
+    return controls;
+}
+
+TEST_P(WindowParts, TabKey_ReachesEveryControlOfEveryPageFromTheTopDown)
+{
+    constexpr int mostKeys = 100;
+    constexpr int sameRow = 12;
+    for (const QString &printer : {u"mm"_qs, u"plain"_qs}) {
+        ASSERT_NO_FATAL_FAILURE(open(printer));
+        ASSERT_NO_FATAL_FAILURE(show({1000, 900}));
+        auto *chooser = dialog->findChild<QComboBox *>(u"pageChooser"_qs);
+        ASSERT_GE(chooser->count(), 3);
+        for (int page = 0; page < chooser->count(); ++page) {
+            chooser->setCurrentIndex(page);
+            Q_EMIT chooser->activated(page);
+            QTest::qWait(100); // rows are made in portions
+            chooser->setFocus();
+            const QWidget *shown = dialog->findChild<PageStack *>()->currentWidget();
+            QList<QWidget *> reached;
+            for (int key = 0; key < mostKeys; ++key) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                ASSERT_NE(QApplication::focusWidget(), nullptr);
+                if (QApplication::focusWidget() == chooser) {
+                    break;
+                }
+                if (shown->isAncestorOf(QApplication::focusWidget())) {
+                    reached.append(QApplication::focusWidget());
+                }
+            }
+            const QList<QWidget *> controls = controlsOf(*shown);
+            EXPECT_GE(controls.size(), 3) << chooser->currentText().toStdString();
+            for (const QWidget *control : controls) {
+                EXPECT_TRUE(reached.contains(control))
+                    << chooser->currentText().toStdString() << ": " << control->objectName().toStdString() << ", a "
+                    << control->metaObject()->className();
+            }
+            // A panel has an order of its own.
+            const bool isPanels = std::any_of(panels.entries().begin(), panels.entries().end(),
+                                              [shown](const PanelEntry &entry) { return entry.view == shown; });
+            int above = 0;
+            for (const QWidget *control : isPanels ? QList<QWidget *>() : reached) {
+                const int middle = control->mapTo(shown, control->rect().center()).y();
+                EXPECT_GE(middle, above - sameRow)
+                    << chooser->currentText().toStdString() << ": " << control->objectName().toStdString();
+                above = middle;
+            }
+        }
+    }
 }
 
 TEST_P(WindowParts, ReturnOnASlider_DoesNotPrint)
