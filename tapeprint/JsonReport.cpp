@@ -3,12 +3,23 @@
 #include "tapeprint/JsonReport.h"
 
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 namespace tapeprint
 {
 
 namespace
 {
+
+/// A number where a reader of the number has the whole text again, up to noughts at the end: a billing code of 0042 or
+/// a choice named 1E3 is none.
+QJsonValue valueOf(const QString &text)
+{
+    constexpr int mostDigits = 15; // of a double
+    static const QRegularExpression plain(QStringLiteral("\\A-?(0|[1-9][0-9]*)(\\.[0-9]+)?\\z"));
+    const bool isNumber = text.size() <= mostDigits && plain.match(text).hasMatch();
+    return isNumber ? QJsonValue(text.toDouble()) : QJsonValue(text);
+}
 
 void putText(QJsonObject *object, const char *name, const QString &text)
 {
@@ -35,7 +46,7 @@ QJsonObject jsonOptions(const job::JobOptions &options)
 {
     QJsonObject object;
     for (const auto &[name, value] : options.entries()) {
-        object.insert(name, job::isNumber(value) ? QJsonValue(value.toDouble()) : QJsonValue(value));
+        object.insert(name, valueOf(value));
     }
     return object;
 }

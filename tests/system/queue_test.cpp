@@ -5,6 +5,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace
 {
@@ -169,6 +171,36 @@ TEST_F(QueueJob, CompletionOfQueues_NamesThem)
     EXPECT_TRUE(tapeprint({u"--complete"_qs, u"queues"_qs}).output.contains("tape\t"));
     EXPECT_TRUE(tapeprint({u"--complete"_qs, u"choices:KsTapeColor"_qs, u"-d"_qs, u"tape"_qs})
                     .output.contains("KsTapeColorYellow\t"));
+}
+
+TEST_F(QueueJob, CompletionOfQueues_NamesTheirInstances)
+{
+    run(u"/usr/bin/lpoptions"_qs, {u"-p"_qs, u"tape/red"_qs, u"-o"_qs, u"KsTapeColor=KsTapeColorRed"_qs});
+    const QByteArray queues = tapeprint({u"--complete"_qs, u"queues"_qs}).output;
+    EXPECT_TRUE(queues.startsWith("tape\t") || queues.contains("\ntape\t")) << queues.toStdString();
+    EXPECT_TRUE(queues.startsWith("tape/red\t") || queues.contains("\ntape/red\t")) << queues.toStdString();
+}
+
+TEST_F(QueueJob, Json_NamesTheJobAndWhatItCarries)
+{
+    const Outcome outcome = tapeprint({u"--json"_qs, u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, u"--wait"_qs, u"-o"_qs,
+                                       u"KsTapeLength=45.5"_qs, u"-o"_qs, u"job-billing=0042"_qs, document});
+    EXPECT_EQ(outcome.messages, "");
+    const QJsonObject object = QJsonDocument::fromJson(outcome.output).object();
+    EXPECT_EQ(object[u"status"].toInt(-1), testsupport::done) << outcome.output.toStdString();
+    EXPECT_EQ(object[u"job"][u"queue"].toString(), u"tape"_qs);
+    EXPECT_EQ(object[u"job"][u"id"].toInt(), 1);
+    EXPECT_EQ(object[u"job"][u"state"].toString(), u"completed"_qs);
+    EXPECT_EQ(object[u"options"][u"KsTapeLength"].toDouble(), 45.5) << outcome.output.toStdString();
+    EXPECT_EQ(object[u"options"][u"job-billing"].toString(), u"0042"_qs); // a text, and not 42
+    ASSERT_EQ(cups.jobs().size(), 1U);
+}
+
+TEST_F(QueueJob, Check_OfAPrinterThatIsNotThere_SaysSo)
+{
+    const Outcome outcome = tapeprint({u"--check"_qs, u"-d"_qs, u"nobody"_qs, document});
+    EXPECT_EQ(outcome.status, testsupport::noSuchPrinter);
+    EXPECT_TRUE(outcome.messages.contains("nobody")) << outcome.messages.toStdString();
 }
 
 TEST_F(QueueJob, Class_HasTheDescriptionOfItsFirstQueue)
