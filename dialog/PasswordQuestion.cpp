@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
 #include <functional>
@@ -27,6 +28,21 @@ namespace
 {
 
 constexpr std::chrono::milliseconds lookInterval{100};
+/// So often a window is looked for before a question comes without one.
+constexpr int mostLooks = 20;
+
+/// What a question stands over: the window that has the keys, or where another program has them, one that is seen.
+QWidget *windowInSight()
+{
+    if (QWidget *active = QApplication::activeWindow()) {
+        return active;
+    }
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto seen = std::find_if(windows.begin(), windows.end(), [](const QWidget *window) {
+        return window->isVisible() && window->windowType() == Qt::Dialog;
+    });
+    return seen == windows.end() ? nullptr : *seen;
+}
 
 /// The text of a field as bytes, of which no other copy is left.
 job::Secret secretOf(QLineEdit *field)
@@ -98,6 +114,11 @@ struct PasswordDesk::Exchange {
         isAnswered = true;
         answered.notify_all();
     }
+    bool isGivenUp()
+    {
+        const std::lock_guard lock(mutex);
+        return isOver;
+    }
 };
 
 PasswordDesk::PasswordDesk(QObject *parent) : QObject(parent), mDoor(std::make_shared<Door>())
@@ -112,7 +133,7 @@ PasswordDesk::PasswordDesk(QObject *parent) : QObject(parent), mDoor(std::make_s
                 return std::nullopt;
             }
             QMetaObject::invokeMethod(
-                door->desk, [desk = door->desk, question, exchange] { desk->ask(question, exchange); },
+                door->desk, [desk = door->desk, question, exchange] { desk->ask(question, exchange, 0); },
                 Qt::QueuedConnection);
         }
         std::unique_lock lock(exchange->mutex);
@@ -135,21 +156,30 @@ PasswordDesk::~PasswordDesk()
     mDoor->desk = nullptr;
 }
 
-void PasswordDesk::ask(const job::PasswordQuestion &question, const std::shared_ptr<Exchange> &exchange)
+void PasswordDesk::ask(const job::PasswordQuestion &question, const std::shared_ptr<Exchange> &exchange, int looks)
 {
-    auto *dialog = new PasswordDialog(question, QApplication::activeWindow());
+    QWidget *window = windowInSight();
+    if (window == nullptr && looks < mostLooks) {
+        QTimer::singleShot(lookInterval, this,
+                           [this, question, exchange, looks] { ask(question, exchange, looks + 1); });
+        return;
+    }
+    if (!exchange->isGivenUp()) {
+        show(question, exchange, window);
+    }
+}
+
+void PasswordDesk::show(const job::PasswordQuestion &question, const std::shared_ptr<Exchange> &exchange,
+                        QWidget *window)
+{
+    auto *dialog = new PasswordDialog(question, window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::finished, this, [dialog, exchange](int result) {
         exchange->give(result == QDialog::Accepted ? std::optional(dialog->takeCredentials()) : std::nullopt);
     });
     auto *look = new QTimer(dialog);
     connect(look, &QTimer::timeout, dialog, [dialog, exchange] {
-        bool isOver = false;
-        {
-            const std::lock_guard lock(exchange->mutex);
-            isOver = exchange->isOver;
-        }
-        if (isOver) {
+        if (exchange->isGivenUp()) {
             dialog->reject();
         }
     });

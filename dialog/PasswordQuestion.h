@@ -32,7 +32,8 @@ private:
 
 /// While it lives, the questions of print servers are asked in windows over the one that is active. It lives in the
 /// window's thread, which nothing holds up: the thread that talks with the server waits for the answer. A question that
-/// nobody waits for any more closes by itself.
+/// comes before there is a window waits a moment for one, which would open above it. One that nobody waits for any more
+/// closes by itself.
 class PasswordDesk : public QObject
 {
     Q_OBJECT
@@ -44,7 +45,8 @@ public:
 private:
     struct Door;
     struct Exchange;
-    void ask(const job::PasswordQuestion &question, const std::shared_ptr<Exchange> &exchange);
+    void ask(const job::PasswordQuestion &question, const std::shared_ptr<Exchange> &exchange, int looks);
+    void show(const job::PasswordQuestion &question, const std::shared_ptr<Exchange> &exchange, QWidget *window);
 
     std::shared_ptr<Door> mDoor;
 };

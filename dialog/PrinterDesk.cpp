@@ -87,6 +87,7 @@ void PrinterDesk::pick(const QString &name)
     }
     mArrived = nullptr;
     mOpenProblem = {};
+    mDeclined.reset();
     if (name == mOpen) {
         mOpening.drop();
         mWanted.reset();
@@ -115,6 +116,7 @@ void PrinterDesk::finishOpening(const Arrival &destination, const job::Problem &
         deliver();
         return;
     }
+    mDeclined = !problem.isNull() && problem.kind == job::Problem::Cancelled ? mWanted : std::nullopt;
     mWanted.reset();
     mOpenProblem = problem;
     fillRows();
@@ -143,6 +145,7 @@ void PrinterDesk::take(const job::Destination &destination)
     mChecking.drop();
     mFresh = nullptr;
     mWanted.reset();
+    mDeclined.reset();
     mOpenProblem = {};
     mOpen = destination.queue ? destination.queue->fullName() : QString(QLatin1String(""));
     takeTimeOf(destination);
@@ -344,13 +347,14 @@ void PrinterDesk::fillRows()
             rows.push_back({printer, false});
         }
     }
-    // The open printer stays on offer, and so does the one that is being opened.
+    // The open printer stays on offer, and so does the one that is being opened or that wants a password.
     if (mOpen && !isListed(*mOpen)) {
         rows.insert(rows.begin(), PrinterRow{mLastKnown, isGone()});
     }
-    if (mWanted && !mWanted->isEmpty() && !isListed(*mWanted)) {
+    const std::optional<QString> &wanted = mWanted ? mWanted : mDeclined;
+    if (wanted && !wanted->isEmpty() && !isListed(*wanted)) {
         PrinterRow row;
-        const job::QueueName name = job::QueueName::parse(*mWanted);
+        const job::QueueName name = job::QueueName::parse(*wanted);
         row.printer.name = name.queue;
         row.printer.instance = name.instance;
         rows.insert(rows.begin(), row);
@@ -376,11 +380,17 @@ QStringList PrinterDesk::notices() const
 {
     QStringList notices;
     const bool isSilent = !mServerProblem.isNull();
-    if (isSilent) {
+    if (isSilent && mServerProblem.kind == job::Problem::Unreachable) {
         notices.append(tr("The print server does not answer. Its printers come back when it does."));
+    } else if (isSilent && !hasOpen()) { // for an open printer a password was given, and its list can be done without
+        notices.append(mServerProblem.sentence);
     }
-    if (!mOpenProblem.isNull() && !(isSilent && mOpenProblem.kind == job::Problem::Unreachable)) {
+    if (!mOpenProblem.isNull() && !(isSilent && mOpenProblem.kind == job::Problem::Unreachable) &&
+        !notices.contains(mOpenProblem.sentence)) {
         notices.append(lacksDefault() ? tr("There is no default printer. Choose a printer.") : mOpenProblem.sentence);
+    }
+    if (mDeclined && !mDeclined->isEmpty()) {
+        notices.append(tr("Choose the printer again to be asked once more."));
     }
     if (isGone()) {
         notices.append(tr("The printer %1 is not there any more. Choose another, or wait until it is back: what you "

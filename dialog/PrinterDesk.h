@@ -116,6 +116,7 @@ private:
     Arrival mFresh;                   ///< the open printer with its new PPD
     job::Problem mOpenProblem;
     job::Problem mServerProblem;
+    std::optional<QString> mDeclined; ///< what was to be opened when the person gave no password
     bool mIsTape = false;
 };
 

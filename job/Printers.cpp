@@ -213,7 +213,7 @@ Problem serverProblem(const ServerConnection &server)
         return {Problem::Cancelled, QString()};
     }
     return {server.wasDeclined() ? Problem::Cancelled : Problem::Unreachable,
-            server.isOpen() ? server.problem() : ServerConnection::noAnswer()};
+            server.isOpen() || server.wasRefused() ? server.problem() : ServerConnection::noAnswer()};
 }
 
 std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueName &wanted, Problem *error)

@@ -963,6 +963,10 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>Die Beschreibung des Druckers %1 hat sich auf dem Druckserver geändert. Laden Sie sie vor dem Drucken neu.</translation>
     </message>
+    <message>
+        <source>Choose the printer again to be asked once more.</source>
+        <translation>Wählen Sie den Drucker noch einmal, um wieder gefragt zu werden.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>

@@ -963,6 +963,10 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>The description of the printer %1 has changed on the print server. Load it anew before you print.</translation>
     </message>
+    <message>
+        <source>Choose the printer again to be asked once more.</source>
+        <translation>Choose the printer again to be asked once more.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>

@@ -963,6 +963,10 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>La descripción de la impresora %1 ha cambiado en el servidor. Vuelva a cargarla antes de imprimir.</translation>
     </message>
+    <message>
+        <source>Choose the printer again to be asked once more.</source>
+        <translation>Elija la impresora otra vez para que se le vuelva a preguntar.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>

@@ -963,6 +963,10 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>La description de l’imprimante %1 a changé sur le serveur. Rechargez-la avant d’imprimer.</translation>
     </message>
+    <message>
+        <source>Choose the printer again to be asked once more.</source>
+        <translation>Choisissez à nouveau l’imprimante pour que la question soit reposée.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>

@@ -963,6 +963,10 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>La descrizione della stampante %1 è cambiata sul server. Ricaricarla prima di stampare.</translation>
     </message>
+    <message>
+        <source>Choose the printer again to be asked once more.</source>
+        <translation>Scegliere di nuovo la stampante per ricevere un’altra richiesta.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>

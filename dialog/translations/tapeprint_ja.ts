@@ -959,6 +959,10 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>プリンター %1 の記述がサーバー上で変わりました。印刷する前に再読み込みしてください。</translation>
     </message>
+    <message>
+        <source>Choose the printer again to be asked once more.</source>
+        <translation>もう一度入力するには、プリンターを選び直してください。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>

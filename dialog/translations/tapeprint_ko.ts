@@ -959,6 +959,10 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>프린터 %1의 설명이 서버에서 바뀌었습니다. 인쇄하기 전에 다시 불러오십시오.</translation>
     </message>
+    <message>
+        <source>Choose the printer again to be asked once more.</source>
+        <translation>다시 입력하려면 프린터를 다시 선택하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>

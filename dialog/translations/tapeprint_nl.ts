@@ -963,6 +963,10 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>De beschrijving van de printer %1 is op de server gewijzigd. Laad die opnieuw voor u afdrukt.</translation>
     </message>
+    <message>
+        <source>Choose the printer again to be asked once more.</source>
+        <translation>Kies de printer opnieuw om nog eens gevraagd te worden.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>

@@ -111,8 +111,25 @@ TEST_F(PasswordTest, TerminalWhereNothingIsTyped_EndsInWords)
     EXPECT_TRUE(cups.jobs().empty());
 }
 
+/// Somebody at a window who is asked.
+class AskedAtAWindow : public systemtest::WindowTest
+{
+protected:
+    /// Waits for the question and answers it. \return the question's window; null when none comes.
+    QString answer(const QString &user, const QString &password)
+    {
+        const QString question = dialog.waitForFurtherWindow();
+        dialog.press({u"alt+u"_qs, u"ctrl+a"_qs});
+        dialog.type(user);
+        dialog.press({u"Tab"_qs});
+        dialog.type(password);
+        dialog.press({u"Return"_qs});
+        return question;
+    }
+};
+
 /// A server that itself wants a password, and the window.
-class WindowPassword : public systemtest::WindowTest
+class WindowPassword : public AskedAtAWindow
 {
 protected:
     void SetUp() override
@@ -128,18 +145,6 @@ protected:
                                              variables(),
                                              workFolder});
         ASSERT_TRUE(problem.isNull()) << problem.toStdString();
-    }
-
-    /// Waits for the question and answers it. \return the question's window; null when none comes.
-    QString answer(const QString &user, const QString &password)
-    {
-        const QString question = dialog.waitForFurtherWindow();
-        dialog.press({u"alt+u"_qs, u"ctrl+a"_qs});
-        dialog.type(user);
-        dialog.press({u"Tab"_qs});
-        dialog.type(password);
-        dialog.press({u"Return"_qs});
-        return question;
     }
 };
 
@@ -169,6 +174,42 @@ TEST_F(WindowPassword, NoAnswer_PrintsNothingAndAsksForNoMore)
     dialog.clickPrint(); // the window is of use as before
     ASSERT_FALSE(answer(u"anna"_qs, u"right"_qs).isNull());
     EXPECT_EQ(dialog.waitForEnd().status, 0);
+}
+
+/// A server that wants a password for whatever it is asked.
+class GuardedWindow : public AskedAtAWindow
+{
+protected:
+    std::unique_ptr<MeddlingServer> guardAll() const
+    {
+        return std::make_unique<MeddlingServer>(
+            folder.path(u"meddling.sock"_qs), cups.socket(), [](const SeenRequest &request) {
+                return request.authorization == "anna:right" ? Meddling::PassOn : Meddling::Deny;
+            });
+    }
+};
+
+TEST_F(GuardedWindow, WhoseFirstQuestionIsDeclined_AsksNoMoreUntilThePrinterIsChosenAgain)
+{
+    const auto server = guardAll();
+    moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"meddling.sock"_qs)}};
+    const QString problem = dialog.openUnconnected(
+        {QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), {u"-d"_qs, u"tape"_qs, document}, variables(), workFolder});
+    ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+    const QString question = dialog.waitForFurtherWindow();
+    ASSERT_FALSE(question.isNull());
+    dialog.press({u"Escape"_qs});
+    ASSERT_TRUE(dialog.waitForGone(question));
+    QThread::sleep(4);
+    EXPECT_EQ(dialog.windows(), QStringList{dialog.window()});
+    // Whoever chooses the printer once more is asked once more.
+    dialog.press({u"alt+r"_qs, u"Down"_qs});
+    const QString again = answer(u"anna"_qs, u"right"_qs);
+    ASSERT_FALSE(again.isNull());
+    ASSERT_TRUE(dialog.waitForGone(again));
+    EXPECT_TRUE(dialog.isConnected());
+    dialog.press({u"Escape"_qs});
+    EXPECT_EQ(dialog.waitForEnd().status, testsupport::cancelled);
 }
 
 } // namespace
