@@ -6,12 +6,14 @@
 #include "tests/support/TextPrinting.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QProgressBar>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 
 #include <thread>
 
@@ -396,13 +398,25 @@ TEST(PasswordDesk, WhatIsTyped_ReachesTheThreadAndStaysNowhere)
     ASSERT_NE(question, nullptr);
     auto *password = question->findChild<QLineEdit *>(u"password"_qs);
     EXPECT_EQ(password->echoMode(), QLineEdit::Password);
-    EXPECT_TRUE(password->hasFocus());
+    EXPECT_TRUE(QTest::qWaitFor([password] { return password->hasFocus(); }));
     EXPECT_EQ(question->findChild<QLineEdit *>(u"user"_qs)->text(), u"me"_qs);
     QTest::keyClicks(password, u"right"_qs);
     QTest::keyClick(password, Qt::Key_Return);
     ASSERT_TRUE(QTest::qWaitFor([&thread] { return thread.isAnswered.load(); }));
     EXPECT_EQ(thread.given, u"me/right"_qs);
     EXPECT_TRUE(QTest::qWaitFor([&question] { return question.isNull(); }));
+}
+
+TEST(PasswordDesk, QuestionThatComesBeforeTheWindow_StandsOverIt)
+{
+    const dialog::PasswordDesk desk;
+    Asking thread;
+    QDialog window;
+    QTimer::singleShot(300, &window, &QDialog::show);
+    const dialog::PasswordDialog *question = openQuestion();
+    ASSERT_NE(question, nullptr);
+    EXPECT_EQ(question->parentWidget(), &window);
+    thread.isOver = true;
 }
 
 TEST(PasswordDesk, PersonWhoDeclines_GivesNone)
