@@ -5,6 +5,7 @@
 #include "job/ChosenPages.h"
 #include "job/Conversion.h"
 #include "job/DocumentCheck.h"
+#include "job/LaidOutDocument.h"
 #include "job/LaidOutJob.h"
 #include "job/PageLayout.h"
 #include "job/UsualOptions.h"
@@ -24,6 +25,25 @@ bool selectsOtherThanFilters(const JobOptions &options, qsizetype documents)
     const bool hasSheets = pagesPerPaper(layoutChoicesOf(options).pagesPerSheet) > 1;
     const bool hasSet = pageSetOf(options) != PageSet::All;
     return (hasRanges && hasSheets) || (documents > 1 && (hasRanges || (hasSet && !hasSheets)));
+}
+
+/// Whether the filters would find nothing to print among the pages of paper that they are told to print: they make an
+/// empty document of it, and the print server calls the job done. Where pages cannot be counted, they are told.
+bool selectsNothing(const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop)
+{
+    if (job.options.value(OptionName::pageRanges).isEmpty() && pageSetOf(job.options) != PageSet::Even) {
+        return false;
+    }
+    Problem unknown;
+    const PdfDocuments documents = collectForPaper(job, files, stop, &unknown);
+    if (!unknown.isNull() || stop) {
+        return false;
+    }
+    std::vector<PageSizes> sizes;
+    for (const QString &pdf : documents.pdfs) {
+        sizes.push_back(pageSizesOf(pdf, &unknown).value_or(PageSizes()));
+    }
+    return unknown.isNull() && planLabels(sizes, job.page, job.options, {}, documents.laidOn).labels.empty();
 }
 
 /// A file of the job's own, which goes with it. \return its path; null, and a sentence in *error, when there is no
@@ -95,6 +115,10 @@ std::optional<PreparedJob> prepareJob(const SettledJob &job, const QStringList &
         return layOut(prepared, job, files, stop, error) ? std::optional(std::move(prepared)) : std::nullopt;
     }
     if (!areWhole(files, error)) {
+        return std::nullopt;
+    }
+    if (selectsNothing(job, files, stop)) {
+        *error = noPageIsChosen();
         return std::nullopt;
     }
     if (selectsOtherThanFilters(job.options, files.size()) && !choosePages(prepared, job, stop, error)) {

@@ -116,6 +116,25 @@ TEST_F(PreparedJobTest, NoPageOfPaperChosen_IsSaid)
     EXPECT_EQ(error.sentence, u"None of the document's pages is chosen: change the page range."_qs);
 }
 
+TEST_F(PreparedJobTest, NoPageOfPaperChosenByTheFilters_IsSaidAsWell)
+{
+    const QString one = documentOf(u"one.pdf"_qs, 1, 1);
+    for (const auto &[file, options] :
+         {std::pair{four, jobtest::options({{u"page-ranges"_qs, u"5-9"_qs}})},
+          std::pair{four, jobtest::options({{u"page-ranges"_qs, u"3"_qs}, {u"page-set"_qs, u"even"_qs}})},
+          std::pair{one, jobtest::options({{u"page-set"_qs, u"even"_qs}})},
+          std::pair{four, jobtest::options({{u"page-set"_qs, u"even"_qs}, {u"number-up"_qs, u"4"_qs}})}}) {
+        SettledJob paper = job(false, {});
+        paper.options = options;
+        Problem error;
+        EXPECT_FALSE(prepareJob(paper, {file}, goOn, &error)) << options.lines().join(u' ').toStdString();
+        EXPECT_EQ(error.sentence, u"None of the document's pages is chosen: change the page range."_qs);
+    }
+    // The second sheet has the third and the fourth page.
+    EXPECT_EQ(prepared(job(false, {{u"page-set"_qs, u"even"_qs}, {u"number-up"_qs, u"2"_qs}}), {four}).size(), 1);
+    EXPECT_EQ(prepared(job(false, {{u"page-ranges"_qs, u"4-9"_qs}}), {four}).size(), 1);
+}
+
 TEST_F(PreparedJobTest, Tape_IsOneDocumentOfLabelsAndCopiesAreLeftToTheFilters)
 {
     const QList<QList<int>> labels = prepared(job(true, {{u"page-ranges"_qs, u"2-5"_qs},
