@@ -5,16 +5,21 @@
 #include "job/CustomSizes.h"
 #include "job/CustomValues.h"
 #include "job/IppAttributeNames.h"
+#include "job/PageRanges.h"
 #include "job/PpdMarks.h"
+#include "job/TapePage.h"
 #include "job/Texts.h"
+#include "job/UsualOptions.h"
 
 #include <QHash>
 #include <QRegularExpression>
 #include <QSizeF>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include <cups/pwg.h>
@@ -26,16 +31,21 @@ namespace
 {
 
 const QString wholeNumber = QStringLiteral(R"([1-9]\d{0,8})");
+const QString truth = QStringLiteral("true|false|yes|no|on|off|1|0");
 
 /// What CUPS and this program read in options that are no choices of a PPD; each pattern stands for the whole value.
 const QHash<QString, QString> &patterns()
 {
     static const QHash<QString, QString> known{
         {OptionName::copies, wholeNumber},
-        {OptionName::pageRanges, QStringLiteral(R"(\d+(-\d*)?(,\d+(-\d*)?)*)")},
-        {OptionName::fitLength, QStringLiteral("true|false|yes|no|on|off|1|0")},
-        {QStringLiteral("fit-to-page"), QStringLiteral("true|false|yes|no|on|off|1|0")},
+        {OptionName::fitLength, truth},
+        {OptionName::collate, truth},
+        {QStringLiteral("fit-to-page"), truth},
+        {QStringLiteral("landscape"), truth},
+        {QStringLiteral("mirror"), truth},
         {QStringLiteral("job-priority"), QStringLiteral(R"([1-9]\d?|100)")},
+        {OptionName::holdUntil, QStringLiteral("no-hold|indefinite|day-time|evening|night|weekend|second-shift|"
+                                               R"(third-shift|([01]?\d|2[0-3]):[0-5]\d(:[0-5]\d)?)")},
         {QStringLiteral("number-up"), QStringLiteral("[1-9]|1[0-6]")}, // on tape; paper has fewer, which is said
         {QStringLiteral("orientation-requested"), QStringLiteral("[3-7]")},
         {QStringLiteral("print-scaling"), QStringLiteral("auto|auto-fit|fit|fill|none")},
@@ -43,6 +53,8 @@ const QHash<QString, QString> &patterns()
         {QStringLiteral("page-set"), QStringLiteral("all|odd|even")},
         {QStringLiteral("outputorder"), QStringLiteral("normal|reverse")},
         {QStringLiteral("position"), QStringLiteral("center|top|bottom|left|right|(top|bottom)-(left|right)")},
+        {OptionName::pageBorder, QStringLiteral("none|(single|double)(-thick)?")},
+        {OptionName::numberUpLayout, QStringLiteral("[lr]{2}[tb]{2}|[tb]{2}[lr]{2}")},
         {QStringLiteral("sides"), QStringLiteral("one-sided|two-sided-(long|short)-edge")},
     };
     return known;
@@ -111,16 +123,43 @@ bool lacksItsOwnValue(ppd_file_t *ppd, const QString &name, const QString &value
     return takesOwn && value.compare(QLatin1String("Custom"), Qt::CaseInsensitive) == 0;
 }
 
+/// Whether a printer has a paper of this size, as near as CUPS looks for one, or cuts one.
+bool hasSize(ppd_file_t *ppd, const pwg_media_t &media)
+{
+    constexpr double unitsPerMm = 100.0;
+    constexpr double nearMm = 0.5;
+    const QSizeF sizePt(pointsFromMm(media.width / unitsPerMm), pointsFromMm(media.length / unitsPerMm));
+    const auto isNear = [](double side, float listed) {
+        return std::abs(mmFromPoints(side - static_cast<double>(listed))) <= nearMm;
+    };
+    const std::span<const ppd_size_t> sizes(ppd->sizes, static_cast<std::size_t>(ppd->num_sizes));
+    return (ppd->variable_sizes != 0 && isWithinLimits(ppd, sizePt)) ||
+           std::any_of(sizes.begin(), sizes.end(), [&](const ppd_size_t &size) {
+               return isNear(sizePt.width(), size.width) && isNear(sizePt.height(), size.length);
+           });
+}
+
 /// Whether CUPS finds a paper, a tray or a kind of paper by a name in the option media.
 bool isMedia(ppd_file_t *ppd, const QString &name)
 {
-    static const QStringList options{OptionName::pageSize, QStringLiteral("InputSlot"), QStringLiteral("MediaType")};
-    const bool isListed = std::any_of(options.begin(), options.end(),
-                                      [&](const QString &key) { return !listedChoice(ppd, key, name).isNull(); });
+    static const QStringList trays{QStringLiteral("InputSlot"), QStringLiteral("MediaType")};
+    const auto isListed = [&](const QString &key) { return !listedChoice(ppd, key, name).isNull(); };
+    if (isListed(OptionName::pageSize) || std::any_of(trays.begin(), trays.end(), isListed)) {
+        return true;
+    }
     const QByteArray bytes = name.toUtf8();
-    // What is written as a keyword may be one of a tray: the print server knows.
-    return isListed || pwgMediaForPWG(bytes.constData()) != nullptr ||
-           pwgMediaForLegacy(bytes.constData()) != nullptr || matches(QStringLiteral("[a-z]+(-[a-z0-9]+)*"), name);
+    const pwg_media_t *size = pwgMediaForPWG(bytes.constData());
+    if (size == nullptr) {
+        size = pwgMediaForLegacy(bytes.constData());
+    }
+    if (size != nullptr) {
+        return hasSize(ppd, *size);
+    }
+    // What is written as a keyword may be one of a tray or of a kind of paper, which the print server makes of the
+    // printer's own words. Where there are none it means nothing.
+    const bool hasTrays =
+        std::any_of(trays.begin(), trays.end(), [&](const QString &key) { return findOption(ppd, key) != nullptr; });
+    return hasTrays && matches(QStringLiteral("[a-z]+(-[a-z0-9]+)*"), name);
 }
 
 QString mediaProblem(ppd_file_t *ppd, const QString &value)
@@ -143,6 +182,9 @@ QString problemOf(ppd_file_t *ppd, const QString &name, const QString &value, co
     }
     if (name == OptionName::media) {
         return mediaProblem(ppd, value);
+    }
+    if (name == OptionName::pageRanges && wellFormedPageRanges(value).isNull()) {
+        return Texts::tr("%1=%2 is no value that CUPS knows for %1.").arg(name, value);
     }
     if (name.compare(OptionName::pageSize, Qt::CaseInsensitive) == 0 && isCustom(value)) {
         return customSizeProblem(ppd, name, value);

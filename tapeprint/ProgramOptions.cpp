@@ -3,6 +3,7 @@
 #include "tapeprint/ProgramOptions.h"
 
 #include "job/CupsOptions.h"
+#include "job/PageRanges.h"
 #include "job/Presets.h"
 
 #include <QRegularExpression>
@@ -53,8 +54,7 @@ bool takeCopies(CommandLine &line, const QString &value, Problem *error)
 
 bool takePages(CommandLine &line, const QString &value, Problem *error)
 {
-    static const QRegularExpression ranges(QStringLiteral(R"(\A[1-9]\d*(-([1-9]\d*)?)?(,[1-9]\d*(-([1-9]\d*)?)?)*\z)"));
-    if (!ranges.match(value).hasMatch()) {
+    if (value.isEmpty() || job::wellFormedPageRanges(value).isNull()) {
         return refuse(
             error,
             QStringLiteral("\"%1\" is no list of pages: give -P page numbers and ranges such as 1-4,7.").arg(value));
