@@ -34,11 +34,27 @@ double contrast(const QColor &one, const QColor &other)
     return std::max(first, second) / std::min(first, second);
 }
 
+/// A colour as it is seen over another.
+QColor over(const QColor &colour, const QColor &ground)
+{
+    const double share = colour.alphaF();
+    const auto mixed = [share](double one, double other) {
+        return static_cast<float>(one * share + other * (1.0 - share));
+    };
+    return QColor::fromRgbF(mixed(colour.redF(), ground.redF()), mixed(colour.greenF(), ground.greenF()),
+                            mixed(colour.blueF(), ground.blueF()));
+}
+
+/// What has the keys is outlined in the colour of what is chosen, and twice as strongly.
 void outline(QPainter *painter, const QStyleOption *option, const QRect &rect)
 {
-    painter->setPen(option->palette.color(QPalette::WindowText));
+    constexpr double strong = 2.0;
+    const bool hasKeys = option->state.testFlag(QStyle::State_HasFocus);
+    const double width = hasKeys ? strong : 1.0;
+    painter->setPen(QPen(option->palette.color(hasKeys ? QPalette::Highlight : QPalette::WindowText), width,
+                         Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter->setBrush(Qt::NoBrush);
-    painter->drawRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter->drawRect(QRectF(rect).adjusted(width / 2, width / 2, -width / 2, -width / 2));
 }
 
 } // namespace
@@ -67,8 +83,22 @@ QPalette ContrastStyle::withGreyTexts(QPalette palette)
     return palette;
 }
 
+QPalette ContrastStyle::withReadableHints(QPalette palette)
+{
+    constexpr double readable = 3.0;
+    constexpr int half = 128;
+    const QColor ground = palette.color(QPalette::Active, QPalette::Base);
+    if (contrast(over(palette.color(QPalette::Active, QPalette::PlaceholderText), ground), ground) < readable) {
+        QColor hint = palette.color(QPalette::Active, QPalette::Text);
+        hint.setAlpha(half);
+        palette.setColor(QPalette::PlaceholderText, hint);
+    }
+    return palette;
+}
+
 void ContrastStyle::takeWhereWanted()
 {
+    QApplication::setPalette(withReadableHints(QApplication::palette()));
     if (QApplication::style()->name() == toolkitsOwn && isWanted(QApplication::palette())) {
         QApplication::setStyle(new ContrastStyle); // the application's from here on
         QApplication::setPalette(withGreyTexts(QApplication::palette()));

@@ -22,8 +22,11 @@ public:
     /// The colours with texts of controls that are off halfway between window and text: the toolkit makes these a shade
     /// of the window, too.
     static QPalette withGreyTexts(QPalette palette);
-    /// Takes it for the program where it is wanted. Asked once, at the start: a desktop whose colours change while a
-    /// print dialog is open is rare.
+    /// The colours with hints in empty fields that can be read: where a desktop names no colour for them, the toolkit
+    /// keeps the one of its light look, which is dark, in the dark as well.
+    static QPalette withReadableHints(QPalette palette);
+    /// Takes it for the program where it is wanted, and readable hints in any style. Asked once, at the start: a
+    /// desktop whose colours change while a print dialog is open is rare.
     static void takeWhereWanted();
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,

@@ -6,13 +6,16 @@
 #include <QComboBox>
 #include <QImage>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QStyleOptionButton>
 
 #include <functional>
 #include <memory>
 #include <ostream>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -49,6 +52,41 @@ TEST(ContrastStyle, TextsOfControlsThatAreOff_CanBeRead)
         EXPECT_EQ(readable.color(QPalette::Disabled, role), QColor(127, 127, 127)) << role;
         EXPECT_EQ(readable.color(QPalette::Active, role), QColor(Qt::white)) << role;
     }
+}
+
+TEST(ContrastStyle, HintsInEmptyFields_CanBeReadInTheDarkToo)
+{
+    // What a desktop with dark colours leaves of the toolkit's light look.
+    QPalette dark = paletteOf({49, 54, 59}, {35, 38, 41}, Qt::white);
+    dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    EXPECT_EQ(ContrastStyle::withReadableHints(dark).color(QPalette::PlaceholderText), QColor(255, 255, 255, 128));
+    // A desktop's own colour, and the toolkit's on white, stay.
+    dark.setColor(QPalette::PlaceholderText, QColor(160, 160, 170));
+    EXPECT_EQ(ContrastStyle::withReadableHints(dark).color(QPalette::PlaceholderText), QColor(160, 160, 170));
+    QPalette light = paletteOf({239, 239, 239}, Qt::white, Qt::black);
+    light.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    EXPECT_EQ(ContrastStyle::withReadableHints(light).color(QPalette::PlaceholderText), QColor(0, 0, 0, 128));
+}
+
+TEST(ContrastStyle, WhatHasTheKeys_IsOutlinedInTheColourOfWhatIsChosen)
+{
+    ContrastStyle style;
+    const auto corner = [&style](QStyle::State state) {
+        QStyleOptionButton option;
+        option.rect = QRect(0, 0, 40, 20);
+        option.state = state;
+        option.palette = paletteOf(Qt::black, Qt::black, Qt::white);
+        option.palette.setColor(QPalette::Highlight, Qt::yellow);
+        QImage image(option.rect.size(), QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        style.drawPrimitive(QStyle::PE_PanelButtonCommand, &option, &painter);
+        return std::pair(image.pixelColor(20, 0), image.pixelColor(20, 1));
+    };
+    EXPECT_EQ(corner(QStyle::State_Enabled).first, QColor(Qt::white));
+    const auto [outer, inner] = corner(QStyle::State_Enabled | QStyle::State_HasFocus);
+    EXPECT_EQ(outer, QColor(Qt::yellow));
+    EXPECT_EQ(inner, QColor(Qt::yellow));
 }
 
 struct Part {
