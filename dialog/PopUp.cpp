@@ -96,7 +96,9 @@ int PopUp::textWidth() const
 
 bool PopUp::isCut() const
 {
-    return fontMetrics().horizontalAdvance(currentText()) > textWidth();
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return fontMetrics().horizontalAdvance(option.currentText) > textWidth();
 }
 
 void PopUp::showPopup()

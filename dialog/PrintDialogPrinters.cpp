@@ -9,6 +9,7 @@
 #include "dialog/PlainText.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
+#include "dialog/PrinterModel.h"
 #include "dialog/PrinterPopUp.h"
 
 #include <QApplication>
@@ -161,7 +162,7 @@ void PrintDialog::followPrinters()
     const int row = mPrinters.currentRow();
     mPrinterPopUp->setCurrentIndex(row);
     mPrinterPopUp->setToolTip(mPrinterPopUp->itemData(row, Qt::ToolTipRole).toString());
-    mPrinterPopUp->setAccessibleDescription(mPrinterPopUp->itemData(row, Qt::AccessibleTextRole).toString());
+    mPrinterPopUp->setAccessibleDescription(mPrinterPopUp->itemData(row, PrinterModel::AboutRole).toString());
     const bool isUsable = mPrinters.hasOpen() && !mPrinters.isOpening();
     if (!isUsable && !mGreyed.isOn()) {
         mGreyed.greyAllBut({mPrinterPopUp, mNotices, mCancelButton, mPrintButton}, this);

@@ -64,9 +64,9 @@ QString PrinterModel::wordsOf(const PrinterRow &row) const
     return row.isGone ? tr("not there any more") : row.printer.stateWords(mIsTape);
 }
 
-QString PrinterModel::toolTipOf(const PrinterRow &row) const
+QStringList PrinterModel::linesAbout(const PrinterRow &row) const
 {
-    QStringList lines{textOf(row.printer)};
+    QStringList lines;
     if (!row.printer.location.isEmpty()) {
         lines.append(tr("Location: %1").arg(job::harmless(row.printer.location)));
     }
@@ -79,7 +79,7 @@ QString PrinterModel::toolTipOf(const PrinterRow &row) const
     if (const QString words = wordsOf(row); !words.isEmpty()) {
         lines.append(words);
     }
-    return lines.join(u'\n');
+    return lines;
 }
 
 QVariant PrinterModel::data(const QModelIndex &index, int role) const
@@ -89,12 +89,19 @@ QVariant PrinterModel::data(const QModelIndex &index, int role) const
     }
     const PrinterRow &row = mRows[static_cast<std::size_t>(index.row())];
     switch (role) {
-    case Qt::DisplayRole:
+    case Qt::DisplayRole: // a mark alone does not say why
+        return markOf(row) == StateMark::Failure || markOf(row) == StateMark::Paused ||
+                       markOf(row) == StateMark::Warning
+                   ? textOf(row.printer) + QStringLiteral(" – ") + wordsOf(row)
+                   : textOf(row.printer);
+    case AboutRole:
+        return linesAbout(row).join(QLatin1String("; "));
+    case TitleRole:
         return textOf(row.printer);
     case Qt::DecorationRole:
         return row.printer.name.isEmpty() ? QVariant() : QVariant(iconOf(markOf(row)));
     case Qt::ToolTipRole:
-        return plainToolTip(toolTipOf(row));
+        return plainToolTip((QStringList{textOf(row.printer)} + linesAbout(row)).join(u'\n'));
     case Qt::AccessibleTextRole: {
         const QString words = wordsOf(row);
         return words.isEmpty() ? textOf(row.printer)

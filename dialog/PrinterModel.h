@@ -26,7 +26,9 @@ class PrinterModel : public QAbstractListModel
 public:
     enum Role {
         NameRole = Qt::UserRole, ///< QUEUE or QUEUE/INSTANCE; empty for a destination that is no queue
-        SearchRole               ///< everything that a person may look for a printer by
+        SearchRole,              ///< everything that a person may look for a printer by
+        AboutRole,               ///< where it is and how it is, for where its title is said beside it
+        TitleRole                ///< the printer without its state, for where it is chosen already
     };
 
     using QAbstractListModel::QAbstractListModel;
@@ -45,7 +47,7 @@ private:
     void removeRowsFrom(int first, int end);
     void insertRowsFrom(const std::vector<PrinterRow> &rows, int first, int end);
     QString wordsOf(const PrinterRow &row) const;
-    QString toolTipOf(const PrinterRow &row) const;
+    QStringList linesAbout(const PrinterRow &row) const;
 
     std::vector<PrinterRow> mRows;
     bool mIsTape = false;

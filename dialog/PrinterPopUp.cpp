@@ -38,9 +38,8 @@ PrinterPopUp::PrinterPopUp(QWidget *parent) : PopUp(parent) {}
 void PrinterPopUp::initStyleOption(QStyleOptionComboBox *option) const
 {
     PopUp::initStyleOption(option);
-    if (currentIndex() < 0) {
-        option->currentText = placeholderText();
-    }
+    // What the printer has to say stands in the notices.
+    option->currentText = currentIndex() < 0 ? placeholderText() : currentData(PrinterModel::TitleRole).toString();
 }
 
 void PrinterPopUp::makeSearch()

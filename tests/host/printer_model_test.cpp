@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 // The rows of the printer pop-up, and how they follow a list that changes.
 #include "dialog/PrinterModel.h"
+#include "dialog/PrinterPopUp.h"
 
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
 #include <QIcon>
 #include <QPixmap>
 #include <QSignalSpy>
+#include <QStyleOptionComboBox>
 
 #include <cstdlib>
 
@@ -95,9 +97,12 @@ TEST(PrinterModel, Row_SaysWhatThereIsToKnow)
     model.setIsTape(true);
     model.setRows({hall, network, gone});
     const QModelIndex index = model.index(0);
-    EXPECT_EQ(index.data().toString(), u"tape (Tape <b>printer</b>) (default)"_qs);
+    // A mark alone does not say why; where the printer is chosen, the notices do.
+    EXPECT_EQ(index.data().toString(), u"tape (Tape <b>printer</b>) (default) – Stopped: out of tape"_qs);
+    EXPECT_EQ(index.data(PrinterModel::TitleRole).toString(), u"tape (Tape <b>printer</b>) (default)"_qs);
     EXPECT_EQ(index.data(Qt::AccessibleTextRole).toString(),
               u"tape (Tape <b>printer</b>) (default), Stopped: out of tape"_qs);
+    EXPECT_EQ(index.data(PrinterModel::AboutRole).toString(), u"Location: Hall; Stopped: out of tape"_qs);
     const QString toolTip = index.data(Qt::ToolTipRole).toString();
     EXPECT_TRUE(toolTip.contains(u"&lt;b&gt;printer"_qs)) << toolTip.toStdString();
     EXPECT_TRUE(toolTip.contains(u"Location: Hall"_qs)) << toolTip.toStdString();
@@ -106,7 +111,27 @@ TEST(PrinterModel, Row_SaysWhatThereIsToKnow)
     EXPECT_TRUE(index.data(PrinterModel::SearchRole).toString().contains(u"Hall"_qs));
     EXPECT_TRUE(model.index(1).data(Qt::ToolTipRole).toString().contains(u"Found on the network"_qs));
     EXPECT_FALSE(model.index(1).data(Qt::DecorationRole).value<QIcon>().isNull()); // its name begins where others do
+    EXPECT_EQ(model.index(1).data().toString(), u"found"_qs);
+    EXPECT_EQ(model.index(2).data().toString(), u"gone – not there any more"_qs);
     EXPECT_EQ(model.index(2).data(Qt::AccessibleTextRole).toString(), u"gone, not there any more"_qs);
+}
+
+TEST(PrinterModel, ChosenPrinter_IsShownWithoutItsState)
+{
+    class Looked : public dialog::PrinterPopUp
+    {
+    public:
+        using PrinterPopUp::initStyleOption;
+    };
+    PrinterModel model;
+    model.setRows({row(u"tape"_qs, job::PrinterState::Stopped)});
+    Looked popUp;
+    popUp.setModel(&model);
+    popUp.setCurrentIndex(0);
+    QStyleOptionComboBox option;
+    popUp.initStyleOption(&option);
+    EXPECT_EQ(option.currentText, u"tape"_qs);
+    EXPECT_EQ(popUp.currentText(), u"tape – Stopped"_qs); // which is heard
 }
 
 TEST(PrinterModel, MarksOfAllStates_DifferByShapeWithoutTheirColours)
