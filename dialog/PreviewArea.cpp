@@ -81,19 +81,17 @@ QWidget *PreviewArea::makePaging()
     mPaging->setObjectName(QStringLiteral("paging"));
     auto *layout = new QHBoxLayout(mPaging);
     layout->setContentsMargins({});
-    const auto makeButton = [this](const QString &name, const QString &words, int step) {
+    const auto makeButton = [this](const QString &name, int step) {
         auto *button = new QToolButton(mPaging);
         button->setObjectName(name);
         button->setAutoRepeat(true);
         button->setFocusPolicy(Qt::StrongFocus);
-        button->setAccessibleName(words);
-        button->setToolTip(words);
         connect(button, &QToolButton::clicked, this,
                 [this, step] { turnTo(step < 0 ? mLabel - std::min<std::size_t>(mLabel, 1) : mLabel + 1); });
         return button;
     };
-    mPrevious = makeButton(QStringLiteral("previousLabel"), tr("Previous label"), -1);
-    mNext = makeButton(QStringLiteral("nextLabel"), tr("Next label"), 1);
+    mPrevious = makeButton(QStringLiteral("previousLabel"), -1);
+    mNext = makeButton(QStringLiteral("nextLabel"), 1);
     pointArrows();
     mPosition = new QLabel(mPaging);
     mPosition->setObjectName(QStringLiteral("labelPosition"));
@@ -156,6 +154,7 @@ void PreviewArea::awaitProgram(const QString &about)
 void PreviewArea::setIsTapePrinter(bool isTapePrinter)
 {
     mPreview->setIsTapePrinter(isTapePrinter);
+    mIsTapePrinter = isTapePrinter;
 }
 
 void PreviewArea::follow(const job::TapePage &page, const job::JobOptions &options, const TapeLook &look)
@@ -208,13 +207,19 @@ void PreviewArea::showLabel()
     }
     const auto count = static_cast<int>(mPlan.labels.size());
     const auto number = static_cast<int>(mLabel) + 1;
-    const QString position = tr("Label %1 of %2").arg(number).arg(count);
+    const bool isLabel = mPage.isTape || mIsTapePrinter;
+    const QString position = (isLabel ? tr("Label %1 of %2") : tr("Sheet %1 of %2")).arg(number).arg(count);
     mPreview->showLabel({mPage, shownLabel(), content, isCutOff(), mLook, count > 1 ? position : QString()});
     askForPages();
     showWords();
     mPaging->setVisible(count > 1);
     mPosition->setText(tr("%1 / %2", "which label of how many").arg(number).arg(count));
     mPosition->setAccessibleName(position);
+    for (const auto &[button, words] : {std::pair(mPrevious, isLabel ? tr("Previous label") : tr("Previous sheet")),
+                                        std::pair(mNext, isLabel ? tr("Next label") : tr("Next sheet"))}) {
+        button->setAccessibleName(words);
+        button->setToolTip(words);
+    }
     mPrevious->setEnabled(number > 1);
     mNext->setEnabled(number < count);
 }

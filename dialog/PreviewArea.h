@@ -98,6 +98,7 @@ private:
     bool mExpectsDocuments = false;
     QStringList mAwaited; ///< sentences about documents that another program makes later
     bool mShowsAmount = true;
+    bool mIsTapePrinter = false;
     std::vector<job::PageSizes> mSizes; ///< of the documents that are shown, or were until others are read
     std::vector<job::DrawnRects> mDrawn;
     job::LaidOnSheets mLaidOn;
