@@ -16,11 +16,11 @@
 #include <vector>
 
 class QAction;
-class QToolButton;
 
 namespace tapeprint::dialog
 {
 
+class MenuButton;
 class PopUp;
 
 class PresetRow : public QWidget
@@ -103,7 +103,7 @@ private:
     QStringList mNotices;
 
     PopUp *mPopUp = nullptr;
-    QToolButton *mMenuButton = nullptr;
+    MenuButton *mMenuButton = nullptr;
     QAction *mSaveAs = nullptr;
     QAction *mSaveOver = nullptr;
     QAction *mRename = nullptr;

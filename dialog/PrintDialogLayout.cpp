@@ -176,10 +176,11 @@ QWidget *PrintDialog::makeSummary(QWidget *parent)
     auto *area = new QWidget(parent);
     mSummary = new SummaryView(area);
     auto *heading = new QLabel(tr("Summary"), area);
+    heading->setObjectName(QStringLiteral("summaryHeading"));
     heading->setTextFormat(Qt::PlainText);
     auto *layout = new QVBoxLayout(area);
     layout->setContentsMargins({});
-    layout->addWidget(heading);
+    layout->addWidget(heading, 0, Qt::AlignLeft); // mirrored with the layout, whatever the text's own direction
     layout->addWidget(mSummary);
     return area;
 }

@@ -42,12 +42,10 @@ QString freeName(const QDir &folder, const QString &name, const QString &ending)
 
 } // namespace
 
-SaveButton::SaveButton(const QString &title, QWidget *parent) : QToolButton(parent), mName(nameOf(title))
+SaveButton::SaveButton(const QString &title, QWidget *parent) : MenuButton(parent), mName(nameOf(title))
 {
     setObjectName(QStringLiteral("save"));
     setText(tr("Save"));
-    setPopupMode(QToolButton::InstantPopup);
-    setFocusPolicy(Qt::StrongFocus);
     setToolTip(tr("Save the job in a file in place of printing it"));
     auto *menu = new QMenu(this);
     QAction *pdf = menu->addAction(tr("Save as &PDF…"));

@@ -2,14 +2,16 @@
 // The button beside Print for a job that goes into a file: as a PDF, or as the printer's bytes.
 #pragma once
 
-#include <QToolButton>
+#include "dialog/MenuButton.h"
+
+#include <QString>
 
 class QAction;
 
 namespace tapeprint::dialog
 {
 
-class SaveButton : public QToolButton
+class SaveButton : public MenuButton
 {
     Q_OBJECT
 

@@ -11,12 +11,10 @@
 namespace tapeprint::dialog
 {
 
-UnitButton::UnitButton(MeasureUnit &unit, QWidget *parent) : QToolButton(parent), mUnit(unit)
+UnitButton::UnitButton(MeasureUnit &unit, QWidget *parent) : MenuButton(parent), mUnit(unit)
 {
     setObjectName(QStringLiteral("measureUnit"));
     setAutoRaise(true);
-    setFocusPolicy(Qt::StrongFocus);
-    setPopupMode(QToolButton::InstantPopup);
     setToolTip(tr("The unit of the lengths shown here"));
     auto *menu = new QMenu(this);
     auto *choices = new QActionGroup(this);

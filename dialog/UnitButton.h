@@ -2,7 +2,7 @@
 // The switch between millimetres and inches: a small button that shows the unit and offers both.
 #pragma once
 
-#include <QToolButton>
+#include "dialog/MenuButton.h"
 
 class QAction;
 
@@ -11,7 +11,7 @@ namespace tapeprint::dialog
 
 class MeasureUnit;
 
-class UnitButton : public QToolButton
+class UnitButton : public MenuButton
 {
     Q_OBJECT
 

@@ -499,6 +499,9 @@ TEST_P(WindowParts, RightToLeft_MirrorsTheWindowAndNotThePreview)
                                         {u"revert"_qs, u"cancel"_qs}}) {
         EXPECT_GT(leftOf(first), leftOf(second)) << first.toStdString();
     }
+    // A heading follows the window, too, whatever language it is in.
+    EXPECT_GT(leftOf(u"summaryHeading"_qs),
+              leftOf(u"summary"_qs) + dialog->findChild<QWidget *>(u"summary"_qs)->width() / 2);
     EXPECT_EQ(preview->grab().toImage(), before);
 }
 
