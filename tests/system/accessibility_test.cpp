@@ -2,6 +2,7 @@
 // What a screen reader finds in the program's real window, on a session bus of the test's own.
 #include "tests/support/TextPrinting.h"
 #include "tests/system/Client.h"
+#include "tests/system/PrivateCups.h"
 #include "tests/system/PrivateDisplay.h"
 
 #include <QFileInfo>
@@ -28,6 +29,7 @@ struct Heard {
     QStringList labels;
     QStringList states;
     std::vector<double> value; ///< the value and its limits; empty when there is none
+    QString text;              ///< what stands in a field
 
     bool takesKeys() const { return states.contains(u"focusable"_qs) && states.contains(u"showing"_qs); }
     QString said() const { return (QStringList{role, name} + labels).join(u'/'); }
@@ -45,7 +47,8 @@ QStringList strings(const QJsonValue &list)
 Heard heardOf(const QJsonObject &line)
 {
     Heard heard{line[u"role"_qs].toString(), line[u"name"_qs].toString(), line[u"description"_qs].toString(),
-                strings(line[u"labels"_qs]), strings(line[u"states"_qs]), {}};
+                strings(line[u"labels"_qs]), strings(line[u"states"_qs]), {},
+                line[u"text"_qs].toString()};
     for (const QJsonValue &number : line[u"value"_qs].toArray()) {
         heard.value.push_back(number.toDouble());
     }
@@ -74,17 +77,18 @@ protected:
             presses += {u"--press"_qs, keys};
         }
         const QString reader = QStringLiteral(TAPEPRINT_SOURCE_DIR "/tests/system/read_accessible.py");
+        variables.insert(variables.end(),
+                         {{u"DISPLAY"_qs, display.name()},
+                          {u"XDG_RUNTIME_DIR"_qs, folder.makeFolder(u"run"_qs)},
+                          {u"XDG_DATA_DIRS"_qs, u"/usr/share"_qs}, // the settings that the bus asks for
+                          {u"GSETTINGS_BACKEND"_qs, u"memory"_qs},
+                          {u"QT_LINUX_ACCESSIBILITY_ALWAYS_ON"_qs, u"1"_qs}});
         const systemtest::Outcome outcome = systemtest::runClient(
             {u"dbus-run-session"_qs,
-             QStringList{u"--"_qs, reader} + presses +
-                 QStringList{QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), u"--ppd"_qs,
-                             QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd")} +
-                 arguments + QStringList{QStringLiteral(TAPEPRINT_SOURCE_DIR "/docs/sample/address-label.pdf")},
-             {{u"DISPLAY"_qs, display.name()},
-              {u"XDG_RUNTIME_DIR"_qs, folder.makeFolder(u"run"_qs)},
-              {u"XDG_DATA_DIRS"_qs, u"/usr/share"_qs}, // the settings that the bus asks for
-              {u"GSETTINGS_BACKEND"_qs, u"memory"_qs},
-              {u"QT_LINUX_ACCESSIBILITY_ALWAYS_ON"_qs, u"1"_qs}}});
+             QStringList{u"--"_qs, reader} + presses + QStringList{QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint")} +
+                 printer + arguments +
+                 QStringList{QStringLiteral(TAPEPRINT_SOURCE_DIR "/docs/sample/address-label.pdf")},
+             variables});
         ASSERT_EQ(outcome.status, 0) << outcome.messages.toStdString();
         for (const QByteArray &line : outcome.output.split('\n')) {
             const QJsonObject object = QJsonDocument::fromJson(line).object();
@@ -118,6 +122,9 @@ protected:
         ADD_FAILURE() << "nothing is heard of the " << role.toStdString() << " \"" << name.toStdString() << "\"";
         return {};
     }
+
+    QStringList printer{u"--ppd"_qs, QStringLiteral(TAPEPRINT_PRINTER_DIR "/tapeprint-mm.ppd")};
+    std::vector<std::pair<QString, QString>> variables;
 
     systemtest::PrivateFolder folder;
     systemtest::PrivateDisplay display;
@@ -188,6 +195,77 @@ TEST_F(ScreenReader, HearsTheOtherPagesAndTheSheets)
     EXPECT_TRUE(width.takesKeys());
     EXPECT_TRUE(width.description.contains(u" 4 to 36 mm"_qs)) << width.description.toStdString();
     EXPECT_TRUE(heard(u"text"_qs, u"Name:"_qs).takesKeys());
+}
+
+/// The same on a queue of a print server.
+class ScreenReaderOnAQueue : public ScreenReader
+{
+protected:
+    void SetUp() override
+    {
+        if (const QString reason = systemtest::PrivateCups::reasonToSkip(); !reason.isNull()) {
+            GTEST_SKIP() << reason.toStdString();
+        }
+        ASSERT_NO_FATAL_FAILURE(ScreenReader::SetUp());
+        printer = QStringList{u"-d"_qs, u"tape"_qs};
+    }
+
+    void startServer()
+    {
+        const QString problem = cups.start();
+        ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+        const QString refusal = cups.addPlainQueue(u"tape"_qs, u"mm"_qs);
+        ASSERT_TRUE(refusal.isNull()) << refusal.toStdString();
+        variables = cups.clientVariables();
+    }
+
+    systemtest::PrivateCups cups;
+};
+
+TEST_F(ScreenReaderOnAQueue, HearsPriorityTimeOfPrintingAndWhyThePrinterWaits)
+{
+    ASSERT_NO_FATAL_FAILURE(startServer());
+    ASSERT_TRUE(cups.run(u"lpadmin"_qs, {u"-p"_qs, u"tape"_qs, u"-L"_qs, u"Store room"_qs}).isNull());
+    ASSERT_TRUE(cups.run(u"cupsdisable"_qs, {u"-r"_qs, u"out of tape"_qs, u"tape"_qs}).isNull());
+    variables.emplace_back(u"TZ"_qs, u"UTC"_qs); // what is sent
+    // The page "Job"; then the sheet of a new preset; then the question about an unusual amount.
+    ASSERT_NO_FATAL_FAILURE(
+        listen({u"-o"_qs, u"job-priority=60"_qs, u"-o"_qs, u"job-hold-until=12:30"_qs, u"-n"_qs, u"400"_qs},
+               {u"alt+n Down Down"_qs, u"alt+s Tab space Down Return"_qs, u"Escape"_qs, u"ctrl+Return"_qs}));
+    ASSERT_EQ(earlier.size(), 4U);
+    const std::vector<Heard> question = std::exchange(all, earlier[1]);
+    expectNames();
+    EXPECT_EQ(heard(u"combo box"_qs, u"Printer:"_qs).description, u"Location: Store room; Stopped: out of tape"_qs);
+    const Heard priority = heard(u"spin button"_qs, u"Priority:"_qs);
+    EXPECT_EQ(priority.value, (std::vector<double>{60.0, 1.0, 100.0}));
+    EXPECT_EQ(priority.description, u"1 is the lowest, 100 the highest"_qs);
+    EXPECT_EQ(heard(u"combo box"_qs, u"Print it:"_qs).name, u"At a time"_qs);
+    const Heard time = heard(u"spin button"_qs, u"Time of printing"_qs);
+    EXPECT_TRUE(time.takesKeys());
+    EXPECT_TRUE(time.text.startsWith(u"12:30"_qs)) << time.text.toStdString();
+    EXPECT_TRUE(heard(u"text"_qs, u"Billing:"_qs).takesKeys());
+
+    all = earlier[2];
+    expectNames();
+    EXPECT_TRUE(heard(u"text"_qs, u"Name:"_qs).takesKeys());
+    all = question;
+    expectNames();
+    EXPECT_TRUE(heard(u"push button"_qs, u"Print 400 Labels"_qs).takesKeys());
+}
+
+TEST_F(ScreenReaderOnAQueue, HearsWhoAsksForAPassword)
+{
+    cups.requirePassword("anna", "right");
+    ASSERT_NO_FATAL_FAILURE(startServer());
+    variables.emplace_back(u"CUPS_SERVER"_qs, cups.guardedServer());
+    ASSERT_NO_FATAL_FAILURE(listen({}, {u"ctrl+Return"_qs}));
+    expectNames();
+    EXPECT_TRUE(heard(u"text"_qs, u"User:"_qs).takesKeys());
+    const Heard password = heard(u"password text"_qs, u"Password:"_qs);
+    EXPECT_TRUE(password.takesKeys());
+    EXPECT_TRUE(std::any_of(all.begin(), all.end(), [this](const Heard &control) {
+        return control.role == u"label"_qs && control.name.contains(cups.guardedServer());
+    }));
 }
 
 } // namespace

@@ -29,6 +29,13 @@ def value_of(node):
     return [node.get_current_value(), node.get_minimum_value(), node.get_maximum_value()]
 
 
+def text_of(node):
+    """What stands in a field."""
+    if "Text" not in node.get_interfaces():
+        return None
+    return Atspi.Text.get_text(node, 0, -1)
+
+
 def labels_of(node):
     found = []
     for relation in node.get_relation_set():
@@ -45,6 +52,7 @@ def told_of(node):
         "labels": labels_of(node),
         "states": states_of(node),
         "value": value_of(node),
+        "text": text_of(node),
     }
 
 
