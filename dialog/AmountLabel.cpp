@@ -2,6 +2,8 @@
 // The amount in words, also when it is none.
 #include "dialog/AmountLabel.h"
 
+#include "dialog/ButtonIcons.h"
+
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -39,6 +41,7 @@ bool AmountLabel::isAgreed()
                                        QMessageBox::AcceptRole);
     print->setObjectName(QStringLiteral("printUnusual"));
     box.setDefaultButton(QMessageBox::Cancel);
+    removeButtonIcons(box);
     box.exec();
     if (box.clickedButton() != print) {
         return false;

@@ -2,6 +2,7 @@
 // Width and height are fields like those of any option's own values, with the same refusals.
 #include "dialog/CustomSizeSheet.h"
 
+#include "dialog/ButtonIcons.h"
 #include "dialog/CustomFields.h"
 #include "dialog/Mnemonics.h"
 #include "dialog/PopUp.h"
@@ -72,6 +73,7 @@ CustomSizeSheet::CustomSizeSheet(const std::vector<job::CustomParameter> &parame
     rows->addLayout(nameRow);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     rows->addWidget(buttons);
+    removeButtonIcons(*this);
     rows->setSizeConstraint(QLayout::SetFixedSize); // a sentence about a wrong value is not cut off
     mFields->takeKeys();
     assignMnemonics(*this, {});

@@ -3,6 +3,7 @@
 // other.
 #include "dialog/PasswordQuestion.h"
 
+#include "dialog/ButtonIcons.h"
 #include "dialog/Mnemonics.h"
 
 #include <QApplication>
@@ -79,6 +80,7 @@ PasswordDialog::PasswordDialog(const job::PasswordQuestion &question, QWidget *p
     layout->addWidget(sentence);
     layout->addLayout(form);
     layout->addWidget(buttons);
+    removeButtonIcons(*this);
     mPassword->setFocus();
     assignMnemonics(*this, {});
 }

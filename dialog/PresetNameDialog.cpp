@@ -2,6 +2,7 @@
 // The remark below the field and the offer follow each letter; only a name that can be kept is accepted.
 #include "dialog/PresetNameDialog.h"
 
+#include "dialog/ButtonIcons.h"
 #include "dialog/Mnemonics.h"
 #include "dialog/PlainText.h"
 #include "job/PlainText.h"
@@ -53,6 +54,7 @@ PresetNameDialog::PresetNameDialog(const QString &title, const QString &name, QS
     layout->addWidget(mRemark);
     layout->addWidget(mOffer, 0, Qt::AlignLeft);
     layout->addWidget(mButtons);
+    removeButtonIcons(*this);
 
     connect(mField, &QLineEdit::textChanged, this, &PresetNameDialog::follow);
     connect(mOffer, &QPushButton::clicked, this, &PresetNameDialog::takeOffer);

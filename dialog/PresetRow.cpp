@@ -3,6 +3,8 @@
 // thread.
 #include "dialog/PresetRow.h"
 
+#include "dialog/ButtonIcons.h"
+#include "dialog/MenuButton.h"
 #include "dialog/PopUp.h"
 #include "dialog/PresetNameDialog.h"
 #include "job/LastSettings.h"
@@ -16,7 +18,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QToolButton>
 
 #include <algorithm>
 
@@ -60,13 +61,11 @@ PresetRow::PresetRow(OptionsToSave optionsToSave, QWidget *parent)
     mPopUp->setMinimumWidth(QFontMetrics(mPopUp->font()).averageCharWidth() * shownLetters);
     auto *label = new QLabel(tr("Pre&set:"), this);
     label->setBuddy(mPopUp);
-    mMenuButton = new QToolButton(this);
+    mMenuButton = new MenuButton(this);
     mMenuButton->setObjectName(QStringLiteral("presetMenu"));
     mMenuButton->setText(QStringLiteral("…"));
     mMenuButton->setToolTip(tr("Save, rename or delete presets"));
     mMenuButton->setAccessibleName(mMenuButton->toolTip());
-    mMenuButton->setPopupMode(QToolButton::InstantPopup);
-    mMenuButton->setFocusPolicy(Qt::StrongFocus);
     layout->addWidget(label);
     layout->addWidget(mPopUp, 1);
     layout->addWidget(mMenuButton);
@@ -291,6 +290,7 @@ void PresetRow::remove()
     question->setTextFormat(Qt::PlainText);
     question->setText(tr("Delete the preset %1? Other programs have it, too, and will lose it.").arg(name));
     QPushButton *yes = question->addButton(tr("Delete"), QMessageBox::DestructiveRole);
+    removeButtonIcons(*question);
     connect(yes, &QPushButton::clicked, this, [this, name] {
         change([queue = mQueue, name](job::Problem *error) { return job::deletePreset(queue, name, error); },
                [this, name] {

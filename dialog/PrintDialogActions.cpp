@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the window does when the person acts: picks, Revert, Print, Cancel, and the live summary.
+#include "dialog/ButtonIcons.h"
 #include "dialog/JobPage.h"
 #include "dialog/LayoutPage.h"
 #include "dialog/MiddleArea.h"
@@ -271,6 +272,7 @@ void PrintDialog::say(QMessageBox::Icon icon, const QString &sentence)
     QMessageBox box(icon, windowTitle(), {}, QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
     box.setText(sentence);
+    removeButtonIcons(box);
     box.exec();
 }
 

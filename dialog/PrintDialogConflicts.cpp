@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the window does about options that do not go together: says it where it arises, resolves it when asked to, and
 // prints nothing with a conflict that the person has not seen.
+#include "dialog/ButtonIcons.h"
 #include "dialog/ConflictNotice.h"
 #include "dialog/NoticesArea.h"
 #include "dialog/OptionsPage.h"
@@ -58,6 +59,7 @@ bool PrintDialog::asksAboutConflicts(const std::function<void()> &again)
     box->setInformativeText(resolution ? resolution->sentence() : tr("Choose something else for one of them."));
     QPushButton *change = resolution ? box->addButton(tr("Change and &Print"), QMessageBox::AcceptRole) : nullptr;
     QPushButton *asItIs = box->addButton(tr("Print All the &Same"), QMessageBox::DestructiveRole);
+    removeButtonIcons(*box);
     box->setDefaultButton(change != nullptr ? change : qobject_cast<QPushButton *>(box->button(QMessageBox::Cancel)));
     connect(box, &QMessageBox::buttonClicked, this, [this, change, asItIs, again](const QAbstractButton *clicked) {
         if (clicked == change) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the window does about the length of the tape: fitting it once, keeping it fitted, and never over a length that a
 // person typed without asking.
+#include "dialog/ButtonIcons.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
 
@@ -114,10 +115,12 @@ bool PrintDialog::mayReplaceTypedLength(double lengthMm)
     if (mKeepFitting->isChecked() && mFittedLengthMm > 0.0) {
         return true;
     }
-    const bool replace =
-        QMessageBox::question(this, windowTitle(),
-                              tr("The tape length was set to %1 by hand. Replace it by the length that fits?")
-                                  .arg(mUnit.measureText(job::pointsFromMm(lengthMm)))) == QMessageBox::Yes;
+    QMessageBox question(QMessageBox::Question, windowTitle(),
+                         tr("The tape length was set to %1 by hand. Replace it by the length that fits?")
+                             .arg(mUnit.measureText(job::pointsFromMm(lengthMm))),
+                         QMessageBox::Yes | QMessageBox::No, this);
+    removeButtonIcons(question);
+    const bool replace = question.exec() == QMessageBox::Yes;
     if (!replace) {
         mKeepFitting->setChecked(false);
         mJob.changeOption(job::OptionName::fitLength, QStringLiteral("false"));

@@ -2,6 +2,7 @@
 // One field a command, which wraps and can be selected, and a button that copies it whole.
 #include "dialog/ShowCommand.h"
 
+#include "dialog/ButtonIcons.h"
 #include "dialog/Mnemonics.h"
 
 #include <QApplication>
@@ -13,6 +14,7 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
@@ -48,7 +50,6 @@ protected:
 
 ShowCommand::ShowCommand(const QString &tapeprint, const QString &lp, QWidget *parent) : QDialog(parent)
 {
-    constexpr QSize wished(640, 420); // seven lines each: all that a tape printer has
     setWindowTitle(tr("Commands for a Shell"));
     auto *layout = new QVBoxLayout(this);
     addCommand(layout, tr("The same job by &tapeprint:"), tapeprint, QStringLiteral("tapeprint"));
@@ -56,11 +57,17 @@ ShowCommand::ShowCommand(const QString &tapeprint, const QString &lp, QWidget *p
         addCommand(layout, tr("The same options by &lp, which lays nothing out:"), lp, QStringLiteral("lp"));
     }
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    buttons->button(QDialogButtonBox::Close)->setIcon({}); // no other button has one
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    resize(wished);
+    removeButtonIcons(*this);
+    resize(sizeOn(screen()->availableSize()));
     assignMnemonics(*this, {});
+}
+
+QSize ShowCommand::sizeOn(QSize screen)
+{
+    constexpr QSize wished(640, 420);         // seven lines each: all that a tape printer has
+    return wished.boundedTo(screen * 9 / 10); // a window's frame has its place, too
 }
 
 void ShowCommand::addCommand(QVBoxLayout *layout, const QString &title, const QString &command, const QString &name)

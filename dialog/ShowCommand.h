@@ -18,6 +18,9 @@ public:
     /// a shell already.
     ShowCommand(const QString &tapeprint, const QString &lp, QWidget *parent);
 
+    /// How large it opens on a screen: the button below is to be seen on the smallest.
+    static QSize sizeOn(QSize screen);
+
 private:
     void addCommand(QVBoxLayout *layout, const QString &title, const QString &command, const QString &name);
 };

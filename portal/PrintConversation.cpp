@@ -2,6 +2,7 @@
 // The document is here as a whole before anything else is done with it.
 #include "portal/PrintConversation.h"
 
+#include "dialog/ButtonIcons.h"
 #include "job/PlainText.h"
 #include "portal/Log.h"
 
@@ -94,6 +95,7 @@ void PrintConversation::tell(const QString &sentence)
     box->setTextFormat(Qt::PlainText);
     box->setText(sentence);
     box->setModal(false);
+    dialog::removeButtonIcons(*box);
     box->show();
 }
 

@@ -2,6 +2,7 @@
 // Opens what the command line names, shows the window, and says what became of the job.
 #include "tapeprint/WindowRun.h"
 
+#include "dialog/ButtonIcons.h"
 #include "dialog/JobWindow.h"
 #include "dialog/PasswordQuestion.h"
 #include "dialog/Translations.h"
@@ -65,6 +66,7 @@ RunReport failedBeforeTheWindow(const job::Problem &problem, const std::function
         QMessageBox box(QMessageBox::Critical, QStringLiteral("Tape Print"), {}, QMessageBox::Ok);
         box.setTextFormat(Qt::PlainText);
         box.setText(said.isNull() ? problem.sentence : said.sentence);
+        dialog::removeButtonIcons(box);
         box.exec();
     }
     return failedRun(problem);

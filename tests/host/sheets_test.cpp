@@ -14,8 +14,10 @@
 #include "tests/support/TextPrinting.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QLocale>
 #include <QMessageBox>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QTest>
 
@@ -34,6 +36,18 @@ const std::vector<job::CustomParameter> widthAndHeight{
     {u"Width"_qs, u"Width"_qs, job::CustomKind::Length, 36.0, 144.0},
     {u"Height"_qs, u"Height"_qs, job::CustomKind::Length, 36.0, 28800.0}};
 
+/// As desktops are that have pictures on the buttons which the toolkit words.
+class PicturesOnButtons : public QProxyStyle
+{
+public:
+    PicturesOnButtons() : QProxyStyle(u"fusion"_qs) {}
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returned) const override
+    {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 1 : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
+
 class Sheets : public testing::TestWithParam<const char *>
 {
 protected:
@@ -41,9 +55,13 @@ protected:
     {
         QLocale::setDefault(QLocale(QString::fromLatin1(GetParam())));
         translations = std::make_unique<Translations>();
+        QApplication::setStyle(new PicturesOnButtons); // the application's from here on
+        const QDialogButtonBox others(QDialogButtonBox::Ok);
+        ASSERT_FALSE(others.button(QDialogButtonBox::Ok)->icon().isNull());
     }
     void TearDown() override
     {
+        QApplication::setStyle(u"fusion"_qs);
         translations.reset();
         QLocale::setDefault(mBefore);
     }
@@ -55,6 +73,9 @@ protected:
         EXPECT_LE(sheet.minimumSizeHint().width(), smallestScreen.width());
         EXPECT_LE(sheet.minimumSizeHint().height(), smallestScreen.height());
         EXPECT_EQ(hosttest::cutTexts(sheet), QStringList());
+        for (const QPushButton *button : sheet.findChildren<QPushButton *>()) {
+            EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString();
+        }
         const QStringList found = hosttest::lettersOf(sheet);
         EXPECT_GE(found.size(), letters) << found.join(u' ').toStdString();
         EXPECT_EQ(hosttest::lettersTwice(found), QStringList());
@@ -101,6 +122,10 @@ TEST_P(Sheets, OfTheCommands)
     sheet.resize(sheet.minimumSizeHint());
     QApplication::processEvents();
     EXPECT_EQ(hosttest::cutTexts(sheet), QStringList());
+    // On half of 1366 by 768 its last button is seen, below a window's title.
+    constexpr int titleBar = 28;
+    EXPECT_LE(ShowCommand::sizeOn({683, 384}).height(), 384 - titleBar);
+    EXPECT_EQ(ShowCommand::sizeOn({1366, 768}), QSize(640, 420));
 }
 
 TEST_P(Sheets, OfAConflict)
