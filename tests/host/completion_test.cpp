@@ -113,6 +113,54 @@ TEST_F(Completions, OfFish_FollowThePrinterOfTheLine)
     EXPECT_EQ(offeredByFish(u"-t lab"_qs), QStringList());
 }
 
+/// What zsh offers at the end of a line that is typed, where there is a zsh.
+TEST_F(Completions, OfZsh_FollowThePrinterOfTheLine)
+{
+    if (QStandardPaths::findExecutable(u"zsh"_qs).isEmpty()) {
+        GTEST_SKIP() << "there is no zsh";
+    }
+    hosttest::writeFile(folder, u"my printer.ppd"_qs, hosttest::testPpd());
+    variables.insert(variables.end(),
+                     {{u"TERM"_qs, u"vt100"_qs},
+                      {u"PATH"_qs, QFileInfo(programPath()).path() + u':' + qEnvironmentVariable("PATH")}});
+    // What is typed, what is offered, and how the line goes on.
+    struct Line {
+        QString typed;
+        QStringList offered;
+        QString more;
+    };
+    std::vector<Line> lines{{u"--no-d"_qs, {u"--no-dialog"_qs}, u"ialog "_qs},
+                            {u"--ppd=te"_qs, {u"test.ppd"_qs}, u"st.ppd "_qs},
+                            {u"-H h"_qs, {u"hold"_qs}, u"old "_qs},
+                            {u"lab"_qs, {u"label.txt"_qs}, u"el.txt "_qs},
+                            {u"-t lab"_qs, {}, {}}};
+    for (const QString &printer :
+         {u"--ppd=test.ppd"_qs, u"--ppd ~/test.ppd"_qs, u"--ppd 'my printer.ppd'"_qs, u"-t 'a b' --ppd test.ppd"_qs}) {
+        lines.push_back({printer + u" -o KsMar"_qs, {u"KsMargin="_qs}, u"gin="_qs});
+    }
+    // A quote that is open is none of the option's name.
+    for (const QString &option : {u"KsMargin=5"_qs, u"\"KsMargin=5"_qs}) {
+        lines.push_back(
+            {u"--ppd test.ppd -o "_qs + option, {u"5.0"_qs}, option.startsWith(u'"') ? u".0\" "_qs : u".0 "_qs});
+    }
+    const QString result = folder.filePath(u"offered"_qs);
+    QStringList arguments{u"-f"_qs, QStringLiteral(TAPEPRINT_SOURCE_DIR "/tests/host/fixtures/complete.zsh"),
+                          QStringLiteral(TAPEPRINT_SOURCE_DIR "/packaging/completions"), result};
+    for (const Line &line : lines) {
+        arguments.append(u"tapeprint "_qs + line.typed);
+    }
+    QProcess zsh;
+    start(zsh, u"zsh"_qs, arguments);
+    EXPECT_TRUE(zsh.waitForFinished(60000));
+    EXPECT_EQ(zsh.exitCode(), 0) << zsh.readAllStandardError().toStdString();
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        QFile file(result + u'.' + QString::number(i + 1));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << lines[i].typed.toStdString();
+        EXPECT_EQ(QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts),
+                  lines[i].offered + QStringList{u"tapeprint "_qs + lines[i].typed + lines[i].more});
+    }
+}
+
 /// A shell that is not on the machine reads nothing; the other two are tried where they are.
 TEST_F(Completions, OfTheOtherShells_AreReadByThem)
 {
