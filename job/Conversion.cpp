@@ -8,13 +8,13 @@
 #include "job/PicturePdf.h"
 #include "job/PlainText.h"
 #include "job/Reason.h"
+#include "job/TextEncoding.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -27,7 +27,6 @@ namespace
 {
 
 constexpr qint64 looksAtBytes = 4096;
-constexpr qint64 pieceBytes = 65536;
 constexpr qint64 pdfHeaderWithin = 1024;
 
 /// A PPD of one page, so that the filter sets text on exactly that page, whatever the printer's own description says.
@@ -156,38 +155,26 @@ bool convertByFilters(const Input &document, const Wanted &wanted, const QString
     return true;
 }
 
-/// CUPS takes text as UTF-8. What is none is Latin-1, and is written anew beside the PDF.
+/// The text as the filters read it, beside the PDF where it has to be written anew.
 /// \return the file to print; null, and a sentence in *error, when that cannot be written.
-QString asUtf8(const QString &document, const QString &path, Problem *error)
+QString asFilterText(const QString &document, const QString &path, Problem *error)
 {
-    QFile file(document);
-    QStringDecoder decoder(QStringDecoder::Utf8);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return document; // the filters say so
-    }
-    while (!file.atEnd() && !decoder.hasError()) {
-        const QString decoded = decoder(file.read(pieceBytes));
-    }
-    if (!decoder.hasError()) {
+    if (isFilterText(document)) {
         return document;
     }
-    QFile copy(path + QLatin1String(".txt"));
-    bool written = file.seek(0) && copy.open(QIODevice::WriteOnly);
-    while (written && !file.atEnd()) {
-        const QByteArray piece = QString::fromLatin1(file.read(pieceBytes)).toUtf8();
-        written = copy.write(piece) == piece.size();
-    }
-    if (!written || !copy.flush()) {
-        *error = noRoomForTemporaryFiles(copy.errorString());
+    const QString copy = path + QLatin1String(".txt");
+    QString reason;
+    if (!writeFilterText(document, copy, &reason)) {
+        *error = noRoomForTemporaryFiles(reason);
         return {};
     }
-    return copy.fileName();
+    return copy;
 }
 
 bool textToPdf(const QString &document, const QSizeF &pagePt, const QString &path, const std::atomic<bool> &stop,
                Problem *error)
 {
-    const QString text = asUtf8(document, path, error);
+    const QString text = asFilterText(document, path, error);
     const QString description = path + QLatin1String(".ppd");
     if (text.isNull() || !writeDescription(description, pagePt, {}, error)) {
         return false;
@@ -255,6 +242,9 @@ DocumentKind documentKindOf(const QString &path)
     if (beginning.startsWith("%!") || beginning.startsWith("\x04%!") || beginning.startsWith("\x1b%-12345X")) {
         return DocumentKind::PostScript;
     }
+    if (beginsAsUtf16(beginning)) {
+        return DocumentKind::Text;
+    }
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     if (reader.canRead()) {
@@ -307,11 +297,15 @@ bool convertForPaper(const QString &document, const PaperSheet &sheet, const QSt
     if (kind == DocumentKind::Picture) {
         wanted.to = QStringLiteral("application/vnd.cups-pdf"); // the next filter lays nothing out any more
     }
-    if (!writeDescription(wanted.description, sheet.sizePt, sheet.unprintablePt, error)) {
+    const QString file = kind == DocumentKind::Text ? asFilterText(document, path, error) : document;
+    if (file.isNull() || !writeDescription(wanted.description, sheet.sizePt, sheet.unprintablePt, error)) {
         return false;
     }
-    const bool done = convertByFilters({document, document}, wanted, path, stop, error);
+    const bool done = convertByFilters({document, file}, wanted, path, stop, error);
     QFile::remove(wanted.description);
+    if (file != document) {
+        QFile::remove(file);
+    }
     return done;
 }
 

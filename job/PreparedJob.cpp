@@ -8,6 +8,7 @@
 #include "job/LaidOutDocument.h"
 #include "job/LaidOutJob.h"
 #include "job/PageLayout.h"
+#include "job/TextEncoding.h"
 #include "job/UsualOptions.h"
 
 #include <algorithm>
@@ -93,6 +94,33 @@ bool choosePages(PreparedJob &paper, const SettledJob &job, const std::atomic<bo
     return true;
 }
 
+/// Puts texts that the filters would not read to their end in a form that they do. A queue without a description may
+/// want its bytes as they are.
+bool writeTexts(PreparedJob &paper, const SettledJob &job, Problem *error)
+{
+    const bool isRaw = job.ppdPath.isEmpty() && job.queuePpd.isEmpty();
+    if (isRaw || job.options.contains(QStringLiteral("raw")) ||
+        job.options.contains(QStringLiteral("document-format"))) {
+        return true;
+    }
+    for (QString &file : paper.files) {
+        if (documentKindOf(file) != DocumentKind::Text || isFilterText(file)) {
+            continue;
+        }
+        const QString text = newFile(paper, QStringLiteral("text.txt"), error);
+        QString reason;
+        if (text.isNull()) {
+            return false;
+        }
+        if (!writeFilterText(file, text, &reason)) {
+            *error = noRoomForTemporaryFiles(reason);
+            return false;
+        }
+        file = text;
+    }
+    return true;
+}
+
 bool layOut(PreparedJob &tape, const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
             Problem *error)
 {
@@ -122,6 +150,9 @@ std::optional<PreparedJob> prepareJob(const SettledJob &job, const QStringList &
         return std::nullopt;
     }
     if (selectsOtherThanFilters(job.options, files.size()) && !choosePages(prepared, job, stop, error)) {
+        return std::nullopt;
+    }
+    if (!writeTexts(prepared, job, error)) {
         return std::nullopt;
     }
     if (isReversed(job.options)) {

@@ -246,6 +246,22 @@ TEST_F(DocumentConversion, TextWithUmlauts_IsDrawnInUtf8AndLatin1Alike)
     EXPECT_EQ(utf8, latin1);
 }
 
+TEST_F(DocumentConversion, TextOfWindows_IsDrawnAsTheSameTextInUtf8)
+{
+    // A price and a word in quotes; the filter sets a mark of byte order as a blank.
+    const QByteArray text = "5 \xe2\x82\xac \xe2\x80\x9egut\xe2\x80\x9c\n";
+    const QRectF plain = inkOf(converted(folder.write(u"a.txt"_qs, text)));
+    EXPECT_EQ(inkOf(converted(folder.write(u"b.txt"_qs, "\xef\xbb\xbf" + text))), plain);
+    EXPECT_EQ(inkOf(converted(folder.write(u"c.txt"_qs, "5 \x80 \x84gut\x93\n"))), plain);
+    QByteArray wide = "\xff\xfe";
+    for (const QChar character : QString::fromUtf8(text)) {
+        wide += static_cast<char>(character.unicode() & 0xff);
+        wide += static_cast<char>(character.unicode() >> 8);
+    }
+    EXPECT_EQ(inkOf(converted(folder.write(u"d.txt"_qs, wide))), plain);
+    EXPECT_FALSE(QFileInfo::exists(folder.path(u"converted.pdf.txt"_qs)));
+}
+
 TEST_F(DocumentConversion, PostScript_KeepsItsOwnPageSize)
 {
     const QByteArray text = "%!PS-Adobe-3.0\n<< /PageSize [150 60] >> setpagedevice\n"

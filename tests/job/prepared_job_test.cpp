@@ -135,6 +135,31 @@ TEST_F(PreparedJobTest, NoPageOfPaperChosenByTheFilters_IsSaidAsWell)
     EXPECT_EQ(prepared(job(false, {{u"page-ranges"_qs, u"4-9"_qs}}), {four}).size(), 1);
 }
 
+TEST_F(PreparedJobTest, TextOnPaper_GoesToTheFiltersInAnEncodingThatTheyReadToItsEnd)
+{
+    const auto printed = [](const SettledJob &paper, const QString &file) {
+        Problem error;
+        const std::optional<PreparedJob> ready = prepareJob(paper, {file}, goOn, &error);
+        QFile text(ready ? ready->files.value(0) : QString());
+        EXPECT_TRUE(text.open(QIODevice::ReadOnly)) << error.sentence.toStdString();
+        return text.readAll();
+    };
+    SettledJob paper = job(false, {});
+    paper.queuePpd = "*PPD-Adobe: \"4.3\"\n";
+    const QByteArray latin1 = "Gr\xfc\xdf"
+                              "e f\xfcr 5 \x80\n";
+    const QByteArray utf8 = u"Grüße für 5 €\n"_qs.toUtf8();
+    const QString file = folder.write(u"latin1.txt"_qs, latin1);
+    EXPECT_EQ(printed(paper, file), utf8);
+    EXPECT_EQ(printed(paper, folder.write(u"cut.txt"_qs, "Gr\xc3\xbc\xc3")), u"GrÃ¼Ã"_qs.toUtf8());
+    EXPECT_EQ(printed(paper, folder.write(u"utf8.txt"_qs, utf8)), utf8);
+    EXPECT_EQ(printed(paper, folder.write(u"marked.txt"_qs, "\xef\xbb\xbf" + utf8)), utf8);
+    // Nobody knows what a printer without a description makes of them.
+    EXPECT_EQ(printed(job(false, {}), file), latin1);
+    paper.options.set(u"raw"_qs, u"true"_qs);
+    EXPECT_EQ(printed(paper, file), latin1);
+}
+
 TEST_F(PreparedJobTest, Tape_IsOneDocumentOfLabelsAndCopiesAreLeftToTheFilters)
 {
     const QList<QList<int>> labels = prepared(job(true, {{u"page-ranges"_qs, u"2-5"_qs},
