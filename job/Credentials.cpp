@@ -41,6 +41,13 @@ Secret &Secret::operator=(Secret &&other) noexcept
     return *this;
 }
 
+Secret Secret::copy() const
+{
+    Secret same;
+    same.mBytes = mBytes;
+    return same;
+}
+
 void Secret::wipe()
 {
     if (!mBytes.empty()) { // an empty one may have no address

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Who a person is to a print server, and how one is asked. Nothing of it outlives its use.
+// Who a person is to a print server, and how one is asked. What is kept of it, and how long, is KeptPasswords.h's.
 #pragma once
 
 #include <QByteArray>
@@ -12,7 +12,7 @@
 namespace tapeprint::job
 {
 
-/// Bytes that are overwritten when nobody needs them any more. They are moved, never copied.
+/// Bytes that are overwritten when nobody needs them any more. They are moved, and never copied by accident.
 class Secret
 {
 public:
@@ -25,6 +25,7 @@ public:
     Secret(const Secret &) = delete;
     Secret &operator=(const Secret &) = delete;
 
+    Secret copy() const;
     /// Ends with a null byte. Valid as long as this object.
     const char *text() const { return mBytes.empty() ? "" : mBytes.data(); }
 

@@ -11,9 +11,9 @@ namespace tapeprint::job
 namespace
 {
 
-/// A question is asked so often of a server that wants something first: three passwords, and encryption. One that
-/// always wants more is left.
-constexpr int mostTimes = 6;
+/// A question is asked so often of a server that wants something first: a password that was kept and three that are
+/// typed, each of which libcups sends twice, and encryption. One that always wants more is left.
+constexpr int mostTimes = 10;
 
 /// A connection as ippReadIO reads from it. It ends with the message, whatever comes after that.
 struct Source {
@@ -86,6 +86,11 @@ QString wordsOf(ipp_t *answer)
 Response heardAnswer(const ServerConnection &server)
 {
     Response answer = readAnswer(server.http());
+    const ipp_status_t status = answer ? ippGetStatusCode(answer.get()) : IPP_STATUS_OK;
+    if (status == IPP_STATUS_ERROR_FORBIDDEN || status == IPP_STATUS_ERROR_NOT_AUTHENTICATED ||
+        status == IPP_STATUS_ERROR_NOT_AUTHORIZED) {
+        server.hearRefusal();
+    }
     server.hear(wordsOf(answer.get()));
     return answer;
 }

@@ -99,15 +99,22 @@ ServerConnection::ServerConnection(const std::atomic<bool> *stop, Passwords pass
     : mStop(stop), mPasswords(passwords), mThreadsUser(cupsUser()), mOuter(std::exchange(current, this))
 {
     // libcups's own way is to ask on the terminal and to wait there for good.
-    cupsSetPasswordCB2([](const char * /*prompt*/, http_t * /*http*/, const char * /*method*/,
-                          const char * /*resource*/,
-                          void * /*data*/) { return current != nullptr ? current->answerPassword() : nullptr; },
+    cupsSetPasswordCB2([](const char * /*prompt*/, http_t *http, const char * /*method*/, const char * /*resource*/,
+                          void * /*data*/) { return current != nullptr ? current->answerPassword(http) : nullptr; },
                        nullptr);
+    mPlace.server = QStringLiteral("%1 %2").arg(QString::fromUtf8(cupsServer())).arg(ippPort());
+    mPlace.user = mOuter != nullptr ? mOuter->mPlace.user : QString::fromUtf8(mThreadsUser);
 }
 
 ServerConnection::~ServerConnection()
 {
     mCutter.reset();
+    const http_status_t last = mHttp != nullptr ? httpGetStatus(mHttp) : HTTP_STATUS_OK;
+    if (last == HTTP_STATUS_UNAUTHORIZED || last == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED) {
+        forgetPassword(mKeptAs); // it was not accepted, and not asked for again
+    } else if (last == HTTP_STATUS_FORBIDDEN) {
+        hearRefusal();
+    }
     httpClose(mHttp);
     cupsSetUser(mThreadsUser.constData());
     current = mOuter;
@@ -209,22 +216,39 @@ bool ServerConnection::isUnreachable() const
     return mIsSilent || !isOpen() || httpError(mHttp) != 0;
 }
 
-const char *ServerConnection::answerPassword()
+void ServerConnection::hearRefusal() const
 {
-    const PasswordAsker ask = mPasswords == Passwords::Ask ? passwordAsker() : nullptr;
-    std::optional<Credentials> answer;
+    // A look that nobody asked for may be refused to somebody who may print.
+    if (mPasswords == Passwords::Ask) {
+        forgetPassword(std::exchange(mKeptAs, 0));
+    }
+}
+
+const char *ServerConnection::answerPassword(const http_t *http)
+{
+    forgetPassword(std::exchange(mKeptAs, 0)); // the server has asked again
     mWasDeclined = false;
-    if (ask && !isOver() && mQuestions < mostQuestions) {
-        ++mQuestions;
-        answer = ask({serverName(), QString::fromUtf8(cupsUser()), mQuestions}, [this] { return isOver(); });
-        mWasDeclined = !answer && !isOver() && isAtTheWindow();
+    std::optional<KeptPassword> answer;
+    if (http == mHttp && !isOver()) { // and nobody else's connection
+        mPlace.isEncrypted = httpIsEncrypted(mHttp) != 0;
+        answer = keptPassword(mPlace);
+        const PasswordAsker ask = mPasswords == Passwords::Ask ? passwordAsker() : nullptr;
+        if (!answer && ask && mQuestions < mostQuestions) {
+            const auto isOverNow = [this] { return isOver(); };
+            answer = keptOrAsked(mPlace, isOverNow, [this, &ask, &isOverNow] {
+                ++mQuestions;
+                return ask({serverName(), QString::fromUtf8(cupsUser()), mQuestions}, isOverNow);
+            });
+            mWasDeclined = !answer && !isOver() && isAtTheWindow();
+        }
     }
     mWasRefused = !answer;
-    mPassword = answer ? std::move(answer->password) : Secret();
+    mPassword = answer ? std::move(answer->credentials.password) : Secret();
     if (!answer) {
         return nullptr;
     }
-    cupsSetUser(answer->user.toUtf8().constData());
+    mKeptAs = answer->number;
+    cupsSetUser(answer->credentials.user.toUtf8().constData());
     return mPassword.text();
 }
 

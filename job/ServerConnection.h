@@ -3,7 +3,7 @@
 // that has gone silent, and asks the front end, not the terminal, for a password.
 #pragma once
 
-#include "job/Credentials.h"
+#include "job/KeptPasswords.h"
 #include "job/LineCutter.h"
 
 #include <QString>
@@ -20,7 +20,8 @@ namespace tapeprint::job
 {
 
 /// For one thread, which opens it, uses it and destroys it. While it lives, its thread's password questions go to
-/// setPasswordAsker()'s function; a password given is good for this connection alone.
+/// setPasswordAsker()'s function; a password given is good for this connection, and for others to the same server as
+/// long as there is a PasswordKeeping.
 ///
 ///     const auto server = ServerConnection::open(stop);
 ///     if (server->isOpen()) {
@@ -42,7 +43,7 @@ public:
     /// a program that nobody sits at prints when a busy server comes to it.
     static void setPatience(Patience patience);
 
-    /// Whether the person is asked when the server wants a password.
+    /// Whether the person is asked when the server wants a password. One that is kept is given in any case.
     enum class Passwords { Ask, GoWithout };
 
     /// Connects to the server of libcups's settings, whichever the thread has. \param stop when it becomes true every
@@ -76,6 +77,8 @@ public:
     /// Keeps what a server said of a request, for problem(): libcups knows of the answers that it has read itself.
     /// \param words null for nothing.
     void hear(const QString &words) const { mWords = words; }
+    /// That the server knows the person now, and does not let them do this: for the next call another may be asked for.
+    void hearRefusal() const;
     /// Why the last call failed, as a sentence; null when it was stopped. For use in the connection's own thread.
     QString problem() const;
     /// That the server cannot be reached, as a sentence.
@@ -87,7 +90,7 @@ private:
     ServerConnection(const std::atomic<bool> *stop, Passwords passwords);
     bool isOver() const;
     bool mayWaitOn();
-    const char *answerPassword();
+    const char *answerPassword(const http_t *http);
     void watchLine();
 
     http_t *mHttp = nullptr;
@@ -101,12 +104,14 @@ private:
     bool mIsToldOf = false; ///< its silence
     bool mHasBeenOpen = false;
     int mQuestions = 0;
-    bool mWasRefused = false;  ///< no password was given, or none that is good
-    bool mWasDeclined = false; ///< the person pressed Cancel when asked for one
-    mutable QString mWords;    ///< asking leaves the connection as it is
-    Secret mPassword;          ///< libcups reads it from here
-    QByteArray mThreadsUser;   ///< who the thread's calls are made for, before any question
-    ServerConnection *mOuter;  ///< the thread's connection before this one
+    bool mWasRefused = false;          ///< no password was given, or none that is good
+    bool mWasDeclined = false;         ///< the person pressed Cancel when asked for one
+    mutable QString mWords;            ///< asking leaves the connection as it is
+    PasswordPlace mPlace;              ///< whom passwords are for
+    mutable std::uint64_t mKeptAs = 0; ///< the password given last, where it is kept; else 0
+    Secret mPassword;                  ///< libcups reads it from here
+    QByteArray mThreadsUser;           ///< who the thread's calls are made for, before any question
+    ServerConnection *mOuter;          ///< the thread's connection before this one
     std::unique_ptr<LineCutter> mCutter;
 };
 

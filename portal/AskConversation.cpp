@@ -4,6 +4,7 @@
 
 #include "portal/PortalTexts.h"
 
+#include <memory>
 #include <utility>
 
 namespace tapeprint::portal
@@ -25,7 +26,7 @@ dialog::PrinterSource printersFor(const AskedSettings &asked)
             last.queue = asked.printer;
             destination = openAny(last, stop, problem);
         }
-        if (!destination) {
+        if (!destination && problem->kind != job::Problem::Cancelled) { // who declined a password is not asked again
             *problem = {};
             destination = openAny(request, stop, problem);
         }
@@ -85,7 +86,8 @@ void AskConversation::take(const job::SettledJob &job, const std::function<bool(
     mResults = {
         {QStringLiteral("settings"), answeredSettings(mAsked, job, mWindow->job().ppd())},
         {QStringLiteral("page-setup"), answeredPageSetup(job)},
-        {QStringLiteral("token"), mTokens.add(mCaller.program, {withoutProgramsPart(job), keep, mAsked.documentName})}};
+        {QStringLiteral("token"), mTokens.add(mCaller.program, {withoutProgramsPart(job), keep, mAsked.documentName,
+                                                                std::make_shared<job::PasswordKeeping>()})}};
 }
 
 } // namespace tapeprint::portal

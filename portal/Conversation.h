@@ -2,6 +2,8 @@
 // One call of the portal's, from its arrival to its answer, and to the last thing that has to be done for it.
 #pragma once
 
+#include "job/KeptPasswords.h"
+
 #include <QObject>
 #include <QVariantMap>
 
@@ -40,6 +42,7 @@ protected:
     void answer(Response response, const QVariantMap &results = {});
 
 private:
+    job::PasswordKeeping mPasswords; ///< the program runs on for others: what was typed for one call goes with it
     bool mIsAnswered = false;
 };
 

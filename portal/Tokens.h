@@ -3,6 +3,7 @@
 // that program, and not for long.
 #pragma once
 
+#include "job/KeptPasswords.h"
 #include "job/SettledJob.h"
 
 #include <QString>
@@ -11,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -22,6 +24,8 @@ struct ChosenSettings {
     job::SettledJob job;
     std::function<bool()> keep; ///< keeps them for the next time, when the job has been printed; may be null
     QString jobName = {};       ///< empty: the program has not told it yet
+    /// Who chose with a password is not asked for it again to print; null keeps nothing.
+    std::shared_ptr<job::PasswordKeeping> passwords = {};
 };
 
 class Tokens

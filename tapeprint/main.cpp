@@ -4,6 +4,7 @@
 #include "dialog/ContrastStyle.h"
 #include "dialog/FontReading.h"
 #include "dialog/ToolkitStart.h"
+#include "job/KeptPasswords.h"
 #include "job/OutputFile.h"
 #include "job/PdfWorker.h"
 #include "job/ServerConnection.h"
@@ -142,6 +143,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("tapeprint"));
     QApplication::setDesktopFileName(QStringLiteral("org.tapeprint.TapePrint")); // whose icon a Wayland desktop shows
 
+    const tapeprint::job::PasswordKeeping passwords; // typed once for the whole run
     if (!wantsWindow) {
         tapeprint::job::setPasswordAsker(tapeprint::askOnTerminal); // the window has its own
         bePatientWithServers(line->silent);
