@@ -2,7 +2,6 @@
 // The steps from documents to labels, in their order.
 #include "job/LaidOutJob.h"
 
-#include "job/Advice.h"
 #include "job/LaidOutDocument.h"
 #include "job/PageDrawer.h"
 #include "job/PdfPages.h"
@@ -239,8 +238,7 @@ std::optional<LabelPlan> layOutJob(const SettledJob &job, const PdfDocuments &do
                                    const std::atomic<bool> &stop, Problem *error)
 {
     LabelPlan plan = planLabels(documents.sizes, job.page, job.options, documents.drawn);
-    // That a page cannot be read stands beside the preview as well: who presses Print there has been told.
-    const bool isTold = isAtTheWindow() && !job.page.layoutRect().isEmpty();
+    const bool isTold = job.isRoomTold && !job.page.layoutRect().isEmpty();
     const QString problem = isTold ? QString() : roomProblem(plan);
     if (!problem.isNull()) {
         *error = {Problem::RefusedValue, problem};

@@ -2,6 +2,7 @@
 // Everything that printing needs of the PPD is worked out here, so that the PPD itself stays behind.
 #include "job/SettledJob.h"
 
+#include "job/Advice.h"
 #include "job/FilterOptions.h"
 #include "job/PageLayout.h"
 #include "job/UsualOptions.h"
@@ -57,7 +58,8 @@ SettledJob settle(const Job &job)
             page,
             rasterShiftOf(job.ppd(), page),
             isReversedBy(job.ppd()),
-            lengthRulesOf(job.ppd(), job.tape())};
+            lengthRulesOf(job.ppd(), job.tape()),
+            isAtTheWindow()}; // it stands beside the preview there
 }
 
 } // namespace tapeprint::job

@@ -29,6 +29,7 @@ struct SettledJob {
     RasterShift shift;
     bool isReversedByPpd = false; ///< the filters print the last page first unless they are told not to
     LengthRules lengths;
+    bool isRoomTold = false; ///< whoever prints knows of a page that comes out too small to be read, and wants it
 
     bool isFile() const { return !outputPath.isEmpty() || !queue; }
     /// Whether the tape becomes as long as the documents need.

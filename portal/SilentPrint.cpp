@@ -51,9 +51,11 @@ job::SettledJob asLaidOut(const job::SettledJob &job)
 
 } // namespace
 
-std::optional<job::PrintedJob> printChosen(const job::SettledJob &job, const QString &title, const QString &document,
+std::optional<job::PrintedJob> printChosen(const job::SettledJob &chosen, const QString &title, const QString &document,
                                            const job::PrintWatch &watch, job::Problem *error)
 {
+    job::SettledJob job = chosen;
+    job.isRoomTold = false; // there were no pages to tell of
     const job::LayoutChoices layout = job::layoutChoicesOf(job.options);
     // Margins that leave nothing of the tape are refused by the job.
     if (!job.page.isTape || layout.scaling != job::Scaling::Auto || layout.pagesPerSheet > 1 ||

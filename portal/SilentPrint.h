@@ -15,7 +15,7 @@ namespace tapeprint::portal
 
 /// Prints a document with chosen settings, in the calling thread. Pages that the program has laid out on the very paper
 /// that it was told are printed as they are. As job::printJob() otherwise.
-std::optional<job::PrintedJob> printChosen(const job::SettledJob &job, const QString &title, const QString &document,
+std::optional<job::PrintedJob> printChosen(const job::SettledJob &chosen, const QString &title, const QString &document,
                                            const job::PrintWatch &watch, job::Problem *error);
 
 class SilentPrint : public QObject

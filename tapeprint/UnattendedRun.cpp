@@ -248,9 +248,12 @@ private:
     /// Everything that printing would stumble over, as far as it can be known without doing it.
     bool check()
     {
-        const job::SettledJob settled = job::settle(mJob);
-        if (!job::isPrintable(settled, mDocuments->files(), neverStopped, &mProblem) ||
-            (!settled.isFile() && !job::takesJobs(*settled.queue, &mProblem))) {
+        const job::SettledJob settled = settledForPrinting();
+        if (!job::isPrintable(settled, mDocuments->files(), neverStopped, &mProblem)) {
+            adviseToAdjust(settled);
+            return false;
+        }
+        if (!settled.isFile() && !job::takesJobs(*settled.queue, &mProblem)) {
             return false;
         }
         if (!mLine.silent) {
@@ -264,9 +267,11 @@ private:
         if (!job::areUnchanged(mDocuments->sources(), &mProblem)) {
             return false;
         }
-        std::optional<job::PrintedJob> printed = job::printJob(
-            job::settle(mJob), mDocuments->title(mLine.request.title), mDocuments->files(), neverStopped, &mProblem);
+        const job::SettledJob settled = settledForPrinting();
+        std::optional<job::PrintedJob> printed = job::printJob(settled, mDocuments->title(mLine.request.title),
+                                                               mDocuments->files(), neverStopped, &mProblem);
         if (!printed) {
+            adviseToAdjust(settled);
             return false;
         }
         mIsPrinted = true;
@@ -278,6 +283,37 @@ private:
             mReport.output.append(printed->sentence());
         }
         return true;
+    }
+
+    /// With --adjust a page that comes out too small to be read is said, and printed all the same.
+    job::SettledJob settledForPrinting()
+    {
+        job::SettledJob settled = job::settle(mJob);
+        job::Problem tooSmall;
+        if (mLine.adjusts && isOnlyTooSmall(settled, &tooSmall)) {
+            settled.isRoomTold = true;
+            mReport.messages.append(tooSmall.sentence);
+        }
+        return settled;
+    }
+
+    void adviseToAdjust(const job::SettledJob &settled)
+    {
+        job::Problem tooSmall;
+        if (mProblem.kind == job::Problem::RefusedValue && isOnlyTooSmall(settled, &tooSmall)) {
+            mProblem.sentence += QStringLiteral(" Nothing was printed; --adjust prints it all the same.");
+        }
+    }
+
+    bool isOnlyTooSmall(const job::SettledJob &settled, job::Problem *tooSmall) const
+    {
+        job::SettledJob told = settled;
+        told.isRoomTold = true;
+        job::Problem other;
+        return settled.page.isTape && !settled.isRoomTold &&
+               !job::isPrintable(settled, mDocuments->files(), neverStopped, tooSmall) &&
+               tooSmall->kind == job::Problem::RefusedValue &&
+               job::isPrintable(told, mDocuments->files(), neverStopped, &other);
     }
 
     void addNotices()

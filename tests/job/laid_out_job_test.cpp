@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 // A job's way from its documents to the labels, and what is said when there is none.
-#include "job/Advice.h"
 #include "job/LaidOutDocument.h"
 #include "job/LaidOutJob.h"
 
@@ -92,7 +91,7 @@ TEST_F(LaidOutJob, MarginsThatLeaveTooLittleToRead_AreSaid)
     job.options.set(u"print-scaling"_qs, u"none"_qs);
     EXPECT_TRUE(laidOut(job, {document}).contains(u"14.1 mm wide and 0.5 mm long"_qs)); // 40 points
     // Who sits at a window has read it there.
-    const AdviceForTheWindow window;
+    job.isRoomTold = true;
     EXPECT_TRUE(laidOut(job, {document}).endsWith(u"labels.pdf"_qs)) << laidOut(job, {document}).toStdString();
 }
 

@@ -104,6 +104,22 @@ TEST_F(ProgramsDocument, WhatThePersonChoseOfTheLayout_Holds)
     EXPECT_NEAR(square().width(), 9.0 * 64 / 72, 0.5);
 }
 
+TEST_F(ProgramsDocument, PageThatNobodyCouldRead_IsRefusedThoughTheSettingsWereChosenInAWindow)
+{
+    SettledJob job;
+    job.page.sizePt = {72, 288};
+    job.page.isTape = true;
+    job.isRoomTold = true; // of what the window knew: there was no page yet
+    job.pdfPath = folder.filePath(u"labels.pdf"_qs);
+    tapeprint::job::Problem problem;
+    // Made to fit the tape, 3,600 by 20 points become 288 by 1.6: half a millimetre.
+    const QString document = written(pages(1, "0 0 3600 20"));
+    EXPECT_FALSE(tapeprint::portal::printChosen(job, {}, document, goOn, &problem).has_value());
+    EXPECT_EQ(problem.kind, tapeprint::job::Problem::RefusedValue);
+    EXPECT_TRUE(problem.sentence.contains(u"nobody can read"_qs)) << problem.sentence.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(job.pdfPath));
+}
+
 TEST_F(ProgramsDocument, DocumentThatIsNone_IsAProblemInWords)
 {
     SettledJob job;

@@ -102,6 +102,19 @@ TEST_F(BadDocument, PageOfTenMetres_IsMadeSmaller)
     EXPECT_NEAR(black.width(), 20 / 25.4 * 300, 2.0);
 }
 
+TEST_F(BadDocument, PageThatNobodyCouldRead_IsPrintedAndSaidWhenThatIsAskedFor)
+{
+    // 3,600 by 20 points come out 40 mm long and two tenths of a millimetre wide.
+    const QString line = written(u"line.pdf"_qs, pdfWith({{3600, 20, {{0, 0, 3600, 20}}}}));
+    const QStringList tape{u"KsTapeLength=50"_qs, u"KsMargin=5"_qs};
+    expectRefused(tape, line, "nobody can read", {}, testsupport::refusedValue);
+    expectRefused(tape, line, "--adjust prints it all the same", {u"--check"_qs}, testsupport::refusedValue);
+    const PrintedTape printed = printTape(folder, u"mm"_qs, tape, {u"--adjust"_qs, line});
+    ASSERT_EQ(printed.labels.size(), 1U) << printed.outcome.messages.toStdString();
+    EXPECT_TRUE(printed.outcome.messages.contains("nobody can read")) << printed.outcome.messages.toStdString();
+    EXPECT_FALSE(printed.outcome.messages.contains("--adjust")) << printed.outcome.messages.toStdString();
+}
+
 TEST_F(BadDocument, LengthsBeyondTheLimits_AreHeldByThePanelAndSaidWhenThatIsAskedFor)
 {
     const PrintedTape printed = printTape(folder, u"mm"_qs, {u"KsTapeLength=5000"_qs}, {u"--adjust"_qs, good});
