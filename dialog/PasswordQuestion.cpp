@@ -119,7 +119,7 @@ struct PasswordDesk::Exchange {
     bool isGivenUp()
     {
         const std::lock_guard lock(mutex);
-        return isOver;
+        return isOver || isAnswered;
     }
 };
 
@@ -178,6 +178,12 @@ void PasswordDesk::show(const job::PasswordQuestion &question, const std::shared
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::finished, this, [dialog, exchange](int result) {
         exchange->give(result == QDialog::Accepted ? std::optional(dialog->takeCredentials()) : std::nullopt);
+    });
+    // What it stands over may be closed by the program, and takes it along.
+    connect(dialog, &QObject::destroyed, this, [this, question, exchange] {
+        if (!exchange->isGivenUp()) {
+            QTimer::singleShot(0, this, [this, question, exchange] { ask(question, exchange, 0); });
+        }
     });
     auto *look = new QTimer(dialog);
     connect(look, &QTimer::timeout, dialog, [dialog, exchange] {

@@ -32,8 +32,8 @@ private:
 
 /// While it lives, the questions of print servers are asked in windows over the one that is active. It lives in the
 /// window's thread, which nothing holds up: the thread that talks with the server waits for the answer. A question that
-/// comes before there is a window waits a moment for one, which would open above it. One that nobody waits for any more
-/// closes by itself.
+/// comes before there is a window waits a moment for one, which would open above it; one whose window goes is asked
+/// over another. One that nobody waits for any more closes by itself.
 class PasswordDesk : public QObject
 {
     Q_OBJECT

@@ -235,6 +235,7 @@ private:
     GreyedOut mGreyed; ///< while no printer is open
 
     PrinterPopUp *mPrinterPopUp = nullptr;
+    QPushButton *mAskAgain = nullptr; ///< among the notices, when a password was declined
     QPushButton *mLoadAnew = nullptr; ///< among the notices, when the printer's PPD has changed
     PresetRow *mPresetRow = nullptr;
     MiddleArea *mMiddle = nullptr;

@@ -29,12 +29,16 @@ namespace tapeprint::dialog
 void PrintDialog::connectPrinters()
 {
     mPrinterPopUp->setModel(&mPrinters.model());
+    mAskAgain = new QPushButton(tr("&Ask Again"), mNotices);
+    mAskAgain->setObjectName(QStringLiteral("askAgain"));
     mLoadAnew = new QPushButton(tr("&Load Anew"), mNotices);
     mLoadAnew->setObjectName(QStringLiteral("loadAnew"));
-    mLoadAnew->setAutoDefault(false);
-    mLoadAnew->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    mLoadAnew->hide();
-    mNotices->addNotice(mLoadAnew);
+    for (QPushButton *button : {mAskAgain, mLoadAnew}) {
+        button->setAutoDefault(false);
+        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        button->hide();
+        mNotices->addNotice(button);
+    }
     // A panel whose alert stands open is in the middle of a call: it is not to be released under it.
     const int usualLevel = std::max(QThread::currentThread()->loopLevel(), 1);
     mPrinters.setGate([this, usualLevel] {
@@ -43,6 +47,7 @@ void PrintDialog::connectPrinters()
         return isOwn && QThread::currentThread()->loopLevel() <= usualLevel && !isPrinting() && !mIsFitting &&
                !mPanels.isInCall();
     });
+    connect(mAskAgain, &QPushButton::clicked, &mPrinters, &PrinterDesk::askAgain);
     connect(mLoadAnew, &QPushButton::clicked, &mPrinters, &PrinterDesk::takeNewDescription);
     connect(&mPrinters, &PrinterDesk::changed, this, &PrintDialog::followPrinters);
     connect(&mPrinters, &PrinterDesk::opened, this,
@@ -169,6 +174,7 @@ void PrintDialog::followPrinters()
     } else if (isUsable && mGreyed.isOn()) {
         mGreyed.undo();
     }
+    mAskAgain->setVisible(mPrinters.wasDeclined());
     mLoadAnew->setVisible(mPrinters.hasNewDescription());
     showWhetherPrintable();
     showNotices();

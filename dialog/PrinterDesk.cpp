@@ -99,6 +99,13 @@ void PrinterDesk::pick(const QString &name)
     Q_EMIT changed();
 }
 
+void PrinterDesk::askAgain()
+{
+    if (mDeclined) {
+        pick(QString(*mDeclined)); // which forgets it
+    }
+}
+
 void PrinterDesk::open(const job::JobRequest &request)
 {
     mOpening.start([this, request, open = mSource.open](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
@@ -388,9 +395,6 @@ QStringList PrinterDesk::notices() const
     if (!mOpenProblem.isNull() && !(isSilent && mOpenProblem.kind == job::Problem::Unreachable) &&
         !notices.contains(mOpenProblem.sentence)) {
         notices.append(lacksDefault() ? tr("There is no default printer. Choose a printer.") : mOpenProblem.sentence);
-    }
-    if (mDeclined && !mDeclined->isEmpty()) {
-        notices.append(tr("Choose the printer again to be asked once more."));
     }
     if (isGone()) {
         notices.append(tr("The printer %1 is not there any more. Choose another, or wait until it is back: what you "

@@ -41,6 +41,8 @@ public:
     /// The person picks a printer by QUEUE or QUEUE/INSTANCE. The newest pick counts; the open printer, picked again,
     /// ends the opening of another.
     void pick(const QString &name);
+    /// Opens once more what the person declined to give a password for.
+    void askAgain();
     /// Takes the open printer's new PPD, after hasNewDescription().
     void takeNewDescription();
 
@@ -52,6 +54,8 @@ public:
     bool isOpening() const { return mWanted.has_value(); }
     /// Whether a job can go to the open printer.
     bool canPrint() const { return hasOpen() && !isOpening() && !isGone(); }
+    /// Whether the person declined to give a password for the printer that was to be opened last.
+    bool wasDeclined() const { return mDeclined.has_value(); }
     /// Whether the server's PPD of the open printer is another one by now.
     bool hasNewDescription() const { return mFresh != nullptr; }
     /// Sentences about printers and server as they are now.

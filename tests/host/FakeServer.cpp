@@ -86,6 +86,10 @@ std::optional<job::Destination> FakeServer::open(const job::JobRequest &request,
             *problem = {job::Problem::Unreachable, u"silence"_qs};
             return std::nullopt;
         }
+        if (mIsDeclined) {
+            *problem = {job::Problem::Cancelled, u"no password"_qs};
+            return std::nullopt;
+        }
         const Queue *queue = find(request.queue.isEmpty() ? mDefault : request.queue);
         if (stop || queue == nullptr) {
             *problem = {job::Problem::NoSuchPrinter, u"no queue "_qs + request.queue};

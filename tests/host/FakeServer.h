@@ -50,6 +50,11 @@ public:
     {
         locked([&] { mFails = fails; });
     }
+    /// Openings of printers want a password, which the person declines to give.
+    void setDeclined(bool isDeclined)
+    {
+        locked([&] { mIsDeclined = isDeclined; });
+    }
     /// A queue gets another description in the second in which it was configured before.
     void describeInTheSameSecond(const QString &name, const QByteArray &morePpd)
     {
@@ -94,6 +99,7 @@ private:
     int mFiles = 0;
     bool mIsSilent = false;
     bool mFails = false;
+    bool mIsDeclined = false;
 };
 
 } // namespace hosttest

@@ -419,6 +419,25 @@ TEST(PasswordDesk, QuestionThatComesBeforeTheWindow_StandsOverIt)
     thread.isOver = true;
 }
 
+TEST(PasswordDesk, QuestionWhoseWindowGoes_IsAskedOverTheOneThatIsLeft)
+{
+    const dialog::PasswordDesk desk;
+    QDialog window;
+    window.show();
+    auto *alert = new QDialog(&window);
+    alert->open();
+    ASSERT_TRUE(QTest::qWaitFor([alert] { return QApplication::activeWindow() == alert; }));
+    Asking thread;
+    ASSERT_TRUE(QTest::qWaitFor([alert] { return alert->findChild<dialog::PasswordDialog *>() != nullptr; }));
+    delete alert;
+    dialog::PasswordDialog *question = openQuestion();
+    ASSERT_NE(question, nullptr);
+    EXPECT_EQ(question->parentWidget(), &window);
+    QTest::keyClick(question, Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&thread] { return thread.isAnswered.load(); }));
+    thread.isOver = true; // or it would be waited for
+}
+
 TEST(PasswordDesk, PersonWhoDeclines_GivesNone)
 {
     const dialog::PasswordDesk desk;

@@ -180,6 +180,41 @@ TEST_F(PrinterChoice, PickThatFails_IsSaidAndLeavesThePrinterBefore)
     EXPECT_TRUE(canPrint());
 }
 
+TEST_F(PrinterChoice, DeclinedPasswordWithNoPrinterNamed_CanBeAskedForAgain)
+{
+    server->setDeclined(true);
+    open();
+    ASSERT_TRUE(waitForNotice(u"no password"_qs));
+    auto *askAgain = child<QPushButton>("askAgain");
+    ASSERT_TRUE(askAgain->isVisible());
+    EXPECT_TRUE(askAgain->isEnabled());
+    const std::size_t before = server->opened().size();
+    askAgain->click();
+    ASSERT_TRUE(waitFor([&] { return server->opened().size() > before && window->isSettled(); }));
+    EXPECT_TRUE(askAgain->isVisible()); // declined once more
+    server->setDeclined(false);
+    server->setDefault(u"other"_qs);
+    askAgain->click();
+    EXPECT_TRUE(waitForPrinter(u"other"_qs));
+    EXPECT_FALSE(askAgain->isVisible());
+    EXPECT_EQ(notices(), QString());
+}
+
+TEST_F(PrinterChoice, DeclinedPasswordForAPickedPrinter_IsAskedForAgainForThatOne)
+{
+    openWith(u"tape"_qs);
+    server->setDeclined(true);
+    pick(u"other"_qs);
+    ASSERT_TRUE(waitForNotice(u"no password"_qs));
+    EXPECT_TRUE(canPrint()); // on the printer before
+    server->setDeclined(false);
+    auto *askAgain = child<QPushButton>("askAgain");
+    ASSERT_TRUE(askAgain->isVisible());
+    askAgain->click();
+    EXPECT_TRUE(waitForPrinter(u"other"_qs));
+    EXPECT_FALSE(askAgain->isVisible());
+}
+
 TEST_F(PrinterChoice, NewestPick_Wins)
 {
     openWith(u"tape"_qs);
@@ -308,6 +343,20 @@ TEST_F(PrinterChoice, NewDescriptionThatCannotBeReadAtFirst_IsSaidWhenItCan)
     ASSERT_TRUE(waitFor([&] { return server->opened().size() > before; }));
     server->setFails(false); // nothing on the server's list changes by it
     EXPECT_TRUE(waitForNotice(u"The description of the printer tape has changed"_qs));
+}
+
+TEST_F(PrinterChoice, PasswordDeclinedForALookAtAChangedDescription_IsNotAskedForAgainAndAgain)
+{
+    openWith(u"tape"_qs);
+    const std::size_t before = server->opened().size();
+    server->setDeclined(true);
+    server->describe(u"tape"_qs, "*TestMark: \"new\"\n");
+    ASSERT_TRUE(waitFor([&] { return server->opened().size() > before; }));
+    const int readings = server->readings();
+    ASSERT_TRUE(waitFor([&] { return server->readings() > readings + 10; })); // each of which could look again
+    EXPECT_EQ(server->opened().size(), before + 1);
+    EXPECT_FALSE(child<QPushButton>("askAgain")->isVisible()); // it was for no printer that was to be opened
+    EXPECT_TRUE(canPrint());
 }
 
 TEST_F(PrinterChoice, DescriptionThatChangesTwiceInASecond_IsSaid)
