@@ -28,12 +28,16 @@ bool WindowUnderTest::isConnected() const
 
 QString WindowUnderTest::adopt(qint64 process, const QStringList &known)
 {
+    const QString problem = adoptUnconnected(process, known);
+    return problem.isNull() && !isConnected() ? QStringLiteral("The printer is not connected.") : problem;
+}
+
+QString WindowUnderTest::adoptUnconnected(qint64 process, const QStringList &known)
+{
     mProcess = process;
     mIsAdopted = true;
     mWindow = waitForWindowBeside(known);
-    return mWindow.isNull() ? QStringLiteral("There is no window.")
-           : isConnected()  ? QString()
-                            : QStringLiteral("The printer is not connected.");
+    return mWindow.isNull() ? QStringLiteral("There is no window.") : QString();
 }
 
 QString WindowUnderTest::openUnconnected(Client client)

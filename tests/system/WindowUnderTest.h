@@ -42,6 +42,8 @@ public:
     /// Takes over the next window of a program that is running, whoever started it, once its printer is connected and
     /// it has the keys. \param process its number; \param known windows of it that are others.
     QString adopt(qint64 process, const QStringList &known = {});
+    /// The same, without waiting for the printer.
+    QString adoptUnconnected(qint64 process, const QStringList &known = {});
     /// Waits until its printer is connected.
     bool isConnected() const;
     /// Waits for the program's end.

@@ -30,10 +30,12 @@ protected:
         moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"meddling.sock"_qs)}};
     }
 
-    MeddlingServer guardedServer() const
+    /// Guards everything, or the making of jobs alone.
+    MeddlingServer guardedServer(bool guardsAll = false) const
     {
-        return {folder.path(u"meddling.sock"_qs), cups.socket(), [](const SeenRequest &request) {
-                    return request.operation != IPP_OP_CREATE_JOB || request.authorization == "anna:right"
+        return {folder.path(u"meddling.sock"_qs), cups.socket(), [guardsAll](const SeenRequest &request) {
+                    return (!guardsAll && request.operation != IPP_OP_CREATE_JOB) ||
+                                   request.authorization == "anna:right"
                                ? Meddling::PassOn
                                : Meddling::Deny;
                 }};
@@ -98,6 +100,16 @@ TEST_F(PasswordTest, Terminal_AsksAgainAndShowsNoPassword)
     EXPECT_FALSE(shown.contains("wrong")) << shown.toStdString();
     EXPECT_FALSE(shown.contains("right")) << shown.toStdString();
     EXPECT_TRUE(shown.contains("Job tape-1 is ")) << shown.toStdString();
+    EXPECT_TRUE(cups.waitForEnd(1).has_value());
+}
+
+TEST_F(PasswordTest, TerminalOfAServerThatGuardsEverything_AsksOnce)
+{
+    const auto server = guardedServer(true);
+    int status = -1;
+    const QByteArray shown = printAtTerminal({"anna", "right"}, &status);
+    EXPECT_EQ(status, 0) << shown.toStdString();
+    EXPECT_EQ(shown.count("Password: "), 1) << shown.toStdString();
     EXPECT_TRUE(cups.waitForEnd(1).has_value());
 }
 
@@ -188,6 +200,45 @@ protected:
             });
     }
 };
+
+TEST_F(GuardedWindow, AsksOnceToOpenToPrintAndToFollow)
+{
+    const auto server = guardAll();
+    moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"meddling.sock"_qs)}};
+    const QString problem = dialog.openUnconnected(
+        {QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), {u"-d"_qs, u"tape"_qs, document}, variables(), workFolder});
+    ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+    const QString question = answer(u"anna"_qs, u"right"_qs);
+    ASSERT_FALSE(question.isNull());
+    ASSERT_TRUE(dialog.waitForGone(question));
+    ASSERT_TRUE(dialog.isConnected());
+    dialog.clickPrint();
+    const Outcome outcome = dialog.waitForEnd(); // it closes when the job that it follows is printed
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    ASSERT_TRUE(cups.waitForEnd(1).has_value());
+    EXPECT_EQ(cups.attributeOfJob(1, "job-originating-user-name"), "anna");
+}
+
+TEST_F(GuardedWindow, WithNoPrinterNamed_CanBeAskedAgain)
+{
+    ASSERT_TRUE(cups.run(u"lpadmin"_qs, {u"-d"_qs, u"tape"_qs}).isNull());
+    const auto server = guardAll();
+    moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"meddling.sock"_qs)}};
+    const QString problem =
+        dialog.openUnconnected({QStringLiteral(TAPEPRINT_BIN_DIR "/tapeprint"), {document}, variables(), workFolder});
+    ASSERT_TRUE(problem.isNull()) << problem.toStdString();
+    const QString question = dialog.waitForFurtherWindow();
+    ASSERT_FALSE(question.isNull());
+    dialog.press({u"Escape"_qs});
+    ASSERT_TRUE(dialog.waitForGone(question));
+    dialog.press({u"alt+a"_qs}); // Ask Again
+    const QString again = answer(u"anna"_qs, u"right"_qs);
+    ASSERT_FALSE(again.isNull());
+    ASSERT_TRUE(dialog.waitForGone(again));
+    ASSERT_TRUE(dialog.isConnected());
+    dialog.clickPrint();
+    EXPECT_EQ(dialog.waitForEnd().status, 0);
+}
 
 TEST_F(GuardedWindow, WhoseFirstQuestionIsDeclined_AsksNoMoreUntilThePrinterIsChosenAgain)
 {
