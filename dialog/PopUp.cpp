@@ -4,6 +4,7 @@
 #include "dialog/PopUp.h"
 
 #include "dialog/PlainText.h"
+#include "dialog/Shortened.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -158,7 +159,7 @@ void PopUp::paintEvent(QPaintEvent * /*event*/)
     QStyleOptionComboBox option;
     initStyleOption(&option);
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideMiddle, textWidth());
+    option.currentText = shortened(option.currentText, fontMetrics(), textWidth());
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 

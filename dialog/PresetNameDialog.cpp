@@ -24,7 +24,7 @@ namespace
 {
 
 constexpr int fieldLetters = 30;
-constexpr int remarkLines = 2;
+constexpr int remarkLetters = 45;
 
 } // namespace
 
@@ -41,7 +41,11 @@ PresetNameDialog::PresetNameDialog(const QString &title, const QString &name, QS
     mRemark->setObjectName(QStringLiteral("presetNameRemark"));
     mRemark->setTextFormat(Qt::PlainText);
     mRemark->setWordWrap(true);
-    mRemark->setMinimumHeight(QFontMetrics(mRemark->font()).lineSpacing() * remarkLines); // nothing jumps while typing
+    // Nothing jumps while typing, and the longest remark has its room.
+    const QFontMetrics metrics(mRemark->font());
+    const int width = metrics.averageCharWidth() * remarkLetters;
+    const QString longest = job::problemWithPresetName(QStringLiteral("two words"));
+    mRemark->setMinimumSize(width, metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, longest).height());
     mOffer = new QPushButton(this);
     mOffer->setObjectName(QStringLiteral("presetNameOffer"));
     mOffer->setAutoDefault(false);

@@ -208,15 +208,15 @@ void PreviewArea::showLabel()
     const auto count = static_cast<int>(mPlan.labels.size());
     const auto number = static_cast<int>(mLabel) + 1;
     const bool isLabel = mPage.isTape || mIsTapePrinter;
-    const QString position = (isLabel ? tr("Label %1 of %2") : tr("Sheet %1 of %2")).arg(number).arg(count);
+    const QString position = (isLabel ? tr("Label %1 of %2") : tr("Page %1 of %2")).arg(number).arg(count);
     mPreview->showLabel({mPage, shownLabel(), content, isCutOff(), mLook, count > 1 ? position : QString()});
     askForPages();
     showWords();
     mPaging->setVisible(count > 1);
     mPosition->setText(tr("%1 / %2", "which label of how many").arg(number).arg(count));
     mPosition->setAccessibleName(position);
-    for (const auto &[button, words] : {std::pair(mPrevious, isLabel ? tr("Previous label") : tr("Previous sheet")),
-                                        std::pair(mNext, isLabel ? tr("Next label") : tr("Next sheet"))}) {
+    for (const auto &[button, words] : {std::pair(mPrevious, isLabel ? tr("Previous label") : tr("Previous page")),
+                                        std::pair(mNext, isLabel ? tr("Next label") : tr("Next page"))}) {
         button->setAccessibleName(words);
         button->setToolTip(words);
     }

@@ -108,6 +108,15 @@ TEST_P(Sheets, OfAPresetsName)
     expectFitsAndHasLetters(sheet, 1);
 }
 
+TEST_P(Sheets, OfAPresetsNameThatIsTyped)
+{
+    PresetNameDialog sheet(u"Preset"_qs, {}, {}, PresetNameDialog::TakenNames::Replace, nullptr);
+    expectFitsAndHasLetters(sheet, 1);
+    sheet.findChild<QLineEdit *>(u"presetName"_qs)->setText(u"two words"_qs);
+    QApplication::processEvents();
+    EXPECT_EQ(hosttest::cutTexts(sheet), QStringList());
+}
+
 TEST_P(Sheets, OfAPassword)
 {
     PasswordDialog sheet({u"printers.example.com:631"_qs, u"mary"_qs, 2});

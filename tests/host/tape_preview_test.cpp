@@ -159,15 +159,15 @@ TEST_F(TapePreviewTest, Paper_Drawn_StandsAsWhitePaper)
     EXPECT_EQ(preview->accessibleDescription(), u"Length 101.6 mm, width 50.8 mm"_qs);
 }
 
-TEST_F(TapePreviewTest, SheetsOfPaper_AreCalledSheets)
+TEST_F(TapePreviewTest, SidesOfPaper_AreCalledPages)
 {
     tape.isTape = false;
     showTape(144.0, 288.0);
     const QByteArray box = "/MediaBox[0 0 144 288]";
     showDocument(pdf({{box, "0 0 36 36 re f"}, {box, "0 0 72 36 re f"}}));
-    EXPECT_EQ(preview->accessibleDescription(), u"Sheet 1 of 2; Length 101.6 mm, width 50.8 mm"_qs);
-    EXPECT_EQ(area.findChild<QToolButton *>(u"previousLabel"_qs)->accessibleName(), u"Previous sheet"_qs);
-    EXPECT_EQ(area.findChild<QToolButton *>(u"nextLabel"_qs)->toolTip(), u"Next sheet"_qs);
+    EXPECT_EQ(preview->accessibleDescription(), u"Page 1 of 2; Length 101.6 mm, width 50.8 mm"_qs);
+    EXPECT_EQ(area.findChild<QToolButton *>(u"previousLabel"_qs)->accessibleName(), u"Previous page"_qs);
+    EXPECT_EQ(area.findChild<QToolButton *>(u"nextLabel"_qs)->toolTip(), u"Next page"_qs);
     area.setIsTapePrinter(true); // labels that are cut already
     settle();
     showTape(144.0, 287.0);
