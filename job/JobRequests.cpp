@@ -257,6 +257,12 @@ bool isAccepted(ipp_t *response)
     return response != nullptr && ippGetStatusCode(response) <= IPP_STATUS_OK_CONFLICTING;
 }
 
+QString stateIn(ipp_t *response)
+{
+    ipp_attribute_t *state = ippFindAttribute(response, "job-state", IPP_TAG_ENUM);
+    return state == nullptr ? QString() : QString::fromLatin1(ippEnumString("job-state", ippGetInteger(state, 0)));
+}
+
 QString JobStatus::stateName() const
 {
     return QString::fromLatin1(ippEnumString("job-state", static_cast<int>(state)));

@@ -24,6 +24,9 @@ namespace tapeprint::job
 /// it may still be that of the request before. \param response null when there was none.
 bool isAccepted(ipp_t *response);
 
+/// The state of a job that a response tells, as IPP names it, such as "pending"; null when it tells none.
+QString stateIn(ipp_t *response);
+
 /// A job as the server knows it.
 struct JobStatus {
     ipp_jstate_t state = IPP_JSTATE_PENDING;

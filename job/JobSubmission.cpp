@@ -64,8 +64,7 @@ public:
             return abandon(error);
         }
         *error = {};
-        const std::optional<JobStatus> status = readJob(*mServer, mSubmission.queue.name, mJobId);
-        return SubmittedJob{mJobId, status ? status->stateName() : QStringLiteral("sent")};
+        return SubmittedJob{mJobId, state()};
     }
 
 private:
@@ -199,9 +198,10 @@ private:
             *error = problem({Problem::RejectedJob,
                               Texts::tr("The print server did not take the document %1 (%2): see that it is a kind "
                                         "of document that the queue prints.")
-                                  .arg(path, mServer->problem())});
+                                  .arg(name, mServer->problem())});
             return false;
         }
+        mLastState = stateIn(answer.get());
         return true;
     }
 
@@ -227,6 +227,16 @@ private:
         }
         *error = problem(notTaken());
         return false;
+    }
+
+    /// How the job is now. The answer to the last document tells it, unless the job was held or set free after it.
+    QString state() const
+    {
+        if (mHoldUntil.isNull() && !mLastState.isNull()) {
+            return mLastState;
+        }
+        const std::optional<JobStatus> status = readJob(*mServer, mSubmission.queue.name, mJobId);
+        return status ? status->stateName() : QStringLiteral("sent");
     }
 
     /// Cancels what was begun. \param error in it stands why it is not completed; its number is added where needed.
@@ -267,6 +277,7 @@ private:
     std::unique_ptr<ServerConnection> mServer;
     std::optional<QueueAddress> mAddress;
     int mJobId = 0;
+    QString mLastState; ///< as the answer to the last document tells it; null before, and where it does not
     QString mHoldUntil; ///< what the job is held for when it is whole; null when it is not held meanwhile
     SendProgress mProgress;
     std::optional<std::chrono::steady_clock::time_point> mEndOfOrder; ///< none while nothing has gone wrong

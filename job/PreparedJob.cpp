@@ -47,12 +47,13 @@ bool selectsNothing(const SettledJob &job, const QStringList &files, const std::
     return unknown.isNull() && planLabels(sizes, job.page, job.options, {}, documents.laidOn).labels.empty();
 }
 
-/// A file of the job's own, which goes with it. \return its path; null, and a sentence in *error, when there is no
-/// room.
-QString newFile(PreparedJob &job, const QString &name, Problem *error)
+/// A file of the job's own, which goes with it. \param create one way to make it or the other. \return its path; null,
+/// and a sentence in *error, when there is no room.
+QString newFile(PreparedJob &job, const QString &name, Problem *error,
+                decltype(&PrivateFile::create) create = PrivateFile::create)
 {
     QString reason;
-    std::unique_ptr<PrivateFile> file = PrivateFile::create(name, &reason);
+    std::unique_ptr<PrivateFile> file = create(name, &reason);
     if (!file) {
         *error = noRoomForTemporaryFiles(reason);
         return {};
@@ -124,7 +125,9 @@ bool writeTexts(PreparedJob &paper, const SettledJob &job, Problem *error)
 bool layOut(PreparedJob &tape, const SettledJob &job, const QStringList &files, const std::atomic<bool> &stop,
             Problem *error)
 {
-    const QString labels = newFile(tape, QStringLiteral("labels.pdf"), error);
+    // Filters look at the name; a queue's document goes by the job's title.
+    const QString labels = newFile(tape, QStringLiteral("labels.pdf"), error,
+                                   job.isFile() ? PrivateFile::create : PrivateFile::createUnnamed);
     if (labels.isNull()) {
         return false;
     }

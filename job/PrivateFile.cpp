@@ -11,8 +11,10 @@
 #include <QMutexLocker>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace tapeprint::job
@@ -21,10 +23,18 @@ namespace tapeprint::job
 namespace
 {
 
+/// Where temporary files go. QDir::tempPath() answers "/" where TMPDIR names a folder that is not there.
+QByteArray temporaryFolder()
+{
+    const QByteArray given = qgetenv("TMPDIR");
+    return given.isEmpty() ? QByteArrayLiteral(P_tmpdir)
+                           : QFile::encodeName(QDir::cleanPath(QDir::current().filePath(QFile::decodeName(given))));
+}
+
 /// What the system says, with the folder that it is about: the person may name another in TMPDIR.
 QString aboutTheFolder(const QString &reason)
 {
-    return QStringLiteral("%1: %2").arg(harmless(QDir::tempPath()), reason);
+    return QStringLiteral("%1: %2").arg(harmless(QFile::decodeName(temporaryFolder())), reason);
 }
 
 class PrivateFolder
@@ -59,7 +69,7 @@ public:
 private:
     bool make()
     {
-        QByteArray path = QFile::encodeName(QDir::cleanPath(QDir::tempPath())) + "/tapeprint-XXXXXX";
+        QByteArray path = temporaryFolder() + "/tapeprint-XXXXXX";
         if (mkdtemp(path.data()) == nullptr) {
             return false;
         }
@@ -96,6 +106,18 @@ std::unique_ptr<PrivateFile> PrivateFile::create(const QString &name, QString *e
     return created;
 }
 
+std::unique_ptr<PrivateFile> PrivateFile::createUnnamed(const QString &otherwise, QString *error)
+{
+    const int handle = ::open(temporaryFolder().constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (handle < 0) {
+        return create(otherwise, error); // which says what is wrong with the folder, if that is the reason
+    }
+    std::unique_ptr<PrivateFile> created(new PrivateFile(QStringLiteral("/proc/self/fd/%1").arg(handle)));
+    created->mHasName = false;
+    created->mFile.open(handle, QIODevice::ReadWrite, QFileDevice::AutoCloseHandle); // of a handle it cannot fail
+    return created;
+}
+
 bool PrivateFile::fill(const QByteArray &bytes, QString *error)
 {
     if (mFile.write(bytes) == bytes.size() && mFile.flush()) {
@@ -108,6 +130,9 @@ bool PrivateFile::fill(const QByteArray &bytes, QString *error)
 PrivateFile::~PrivateFile()
 {
     mFile.close();
+    if (!mHasName) {
+        return;
+    }
     QDir(QFileInfo(path()).path()).removeRecursively();
 }
 

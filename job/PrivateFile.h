@@ -19,21 +19,27 @@ public:
     /// \param name the file's name without folders, which filters may see and look at for its ending.
     /// \param error takes what the system says, for a sentence of the caller's.
     static std::unique_ptr<PrivateFile> create(const QString &name, QString *error);
+    /// The same without a name, for what this program alone reads: nothing of it can be left behind, so no helper
+    /// process has to be started that sees to that. Where files without names cannot be had, it is one with the name
+    /// given.
+    static std::unique_ptr<PrivateFile> createUnnamed(const QString &otherwise, QString *error);
     ~PrivateFile();
     PrivateFile(const PrivateFile &) = delete;
     PrivateFile &operator=(const PrivateFile &) = delete;
 
-    /// Absolute.
-    QString path() const { return mFile.fileName(); }
+    /// Absolute. That of a file without a name leads to it in this process alone.
+    QString path() const { return mPath; }
     /// Open for writing.
     QFile &file() { return mFile; }
     /// Writes everything that is to be in the file. \return false, and what the system says, when it does not fit.
     bool fill(const QByteArray &bytes, QString *error);
 
 private:
-    explicit PrivateFile(const QString &path) : mFile(path) {}
+    explicit PrivateFile(const QString &path) : mPath(path), mFile(path) {}
 
+    QString mPath;
     QFile mFile;
+    bool mHasName = true;
 };
 
 } // namespace tapeprint::job

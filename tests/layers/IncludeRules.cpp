@@ -218,7 +218,8 @@ void checkRoom(const fs::path &root, const Room &room, const std::vector<fs::pat
                 factory = name;
             }
             if (!wrong.empty()) {
-                report.findings.push_back(std::string(name).append(":" + std::to_string(number) + ": ").append(wrong));
+                report.findings.push_back(
+                    std::string(name).append(":").append(std::to_string(number)).append(": ").append(wrong));
             }
         }
     }

@@ -265,6 +265,23 @@ TEST_F(FailingServer, CutAtAnyByteOfItsAnswersToAJob_PrintsItWholeOrNotAtAll)
     EXPECT_EQ(send().toStdString(), "");
 }
 
+TEST_F(FailingServer, ThatSaysHowTheJobIs_IsAskedNothingMore)
+{
+    int id = 0;
+    EXPECT_EQ(send(&id).toStdString(), "");
+    EXPECT_GT(id, 0);
+    // Its answer to the document tells the job's state.
+    EXPECT_EQ(server->operations().back(), IPP_OP_SEND_DOCUMENT);
+}
+
+TEST_F(FailingServer, ThatFallsSilentWhenItHasTheJob_IsNotWaitedFor)
+{
+    fail(IPP_OP_GET_JOB_ATTRIBUTES, Meddling::KeepSilent);
+    const auto start = steady_clock::now();
+    EXPECT_EQ(send().toStdString(), "");
+    EXPECT_LT(steady_clock::now() - start, milliseconds(3000));
+}
+
 TEST_F(FailingServer, AnswersOfWrongLengthsAndStates_AreRefusedOrReadHarmlessly)
 {
     server->replyWith(once(wrongLengths()));

@@ -3,6 +3,7 @@
 #include "tests/support/ExitStatuses.h"
 #include "tests/system/SystemTest.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -221,6 +222,28 @@ TEST_F(QueueJob, PpdOfTheQueue_LeavesNoTemporaryFile)
     EXPECT_TRUE(outcome.output.contains("PageSize=24mm\n")) << outcome.output.toStdString();
     EXPECT_EQ(QDir(temporary).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
               QStringList());
+}
+
+TEST_F(QueueJob, LabelsOnTheirWayToAQueue_StandInNoFolder)
+{
+    const QString temporary = folder.makeFolder(u"temporary"_qs, 0700);
+    moreVariables = {{u"TMPDIR"_qs, temporary}};
+    const QDateTime before = QFileInfo(temporary).lastModified();
+    const Outcome outcome = tapeprint({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document});
+    EXPECT_EQ(outcome.status, 0) << outcome.messages.toStdString();
+    ASSERT_EQ(cups.jobs().size(), 1U);
+    // What comes and goes in a folder changes its time.
+    EXPECT_EQ(QFileInfo(temporary).lastModified(), before);
+}
+
+TEST_F(QueueJob, WithoutAFolderForTemporaryFiles_SaysWhichAndPrintsNothing)
+{
+    const QString none = folder.path(u"none"_qs);
+    moreVariables = {{u"TMPDIR"_qs, none}};
+    const Outcome outcome = tapeprint({u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document});
+    EXPECT_NE(outcome.status, 0);
+    EXPECT_TRUE(outcome.messages.contains(QFile::encodeName(none))) << outcome.messages.toStdString();
+    EXPECT_TRUE(cups.jobs().empty());
 }
 
 TEST_F(QueueJob, DescriptionThatBringsAFilter_PrintsOnTheQueueButNotIntoAFile)
