@@ -9,6 +9,7 @@
 #include "job/PlainText.h"
 #include "job/Reason.h"
 #include "job/TextEncoding.h"
+#include "job/TextPdf.h"
 #include "job/Texts.h"
 
 #include <QByteArray>
@@ -171,12 +172,12 @@ QString asFilterText(const QString &document, const QString &path, Problem *erro
     return copy;
 }
 
-bool textToPdf(const QString &document, const QSizeF &pagePt, const QString &path, const std::atomic<bool> &stop,
-               Problem *error)
+/// Sets text by CUPS's filter.
+bool filterText(const Input &document, const QSizeF &pagePt, const QString &path, const std::atomic<bool> &stop,
+                Problem *error)
 {
-    const QString text = asFilterText(document, path, error);
     const QString description = path + QLatin1String(".ppd");
-    if (text.isNull() || !writeDescription(description, pagePt, {}, error)) {
+    if (!writeDescription(description, pagePt, {}, error)) {
         return false;
     }
     // The margins of the label are kept free by the layout; text begins at the very edge of its page.
@@ -188,8 +189,21 @@ bool textToPdf(const QString &document, const QSizeF &pagePt, const QString &pat
     wanted.from = QStringLiteral("text/plain");
     wanted.description = description;
     wanted.options = options;
-    const bool done = convertByFilters({document, text}, wanted, path, stop, error);
+    const bool done = convertByFilters(document, wanted, path, stop, error);
     QFile::remove(description);
+    return done;
+}
+
+bool textToPdf(const QString &document, const QSizeF &pagePt, const QString &path, const std::atomic<bool> &stop,
+               Problem *error)
+{
+    const QString text = asFilterText(document, path, error);
+    if (text.isNull()) {
+        return false;
+    }
+    const bool isDrawnHere = canDrawText() && needsOwnFonts(text);
+    const bool done = isDrawnHere ? drawTextPdf(text, pagePt, path, stop, error)
+                                  : filterText({document, text}, pagePt, path, stop, error);
     if (text != document) {
         QFile::remove(text);
     }

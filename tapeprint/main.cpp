@@ -8,6 +8,7 @@
 #include "job/OutputFile.h"
 #include "job/PdfWorker.h"
 #include "job/ServerConnection.h"
+#include "job/TextPdf.h"
 #include "tapeprint/CommandLine.h"
 #include "tapeprint/Completion.h"
 #include "tapeprint/Display.h"
@@ -22,6 +23,7 @@
 #include <QApplication>
 #include <QFile>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <optional>
@@ -67,6 +69,13 @@ QStringList argumentsOf(int argc, char **argv)
         arguments.append(QFile::decodeName(argv[i]));
     }
     return arguments;
+}
+
+/// Whether a run without a window may come upon a text that it has to draw by itself.
+bool mayDrawText(const tapeprint::CommandLine &line)
+{
+    return line.readsDocuments() &&
+           (line.files.isEmpty() || std::any_of(line.files.begin(), line.files.end(), tapeprint::job::mayNeedOwnFonts));
 }
 
 tapeprint::RunReport helpReport()
@@ -117,7 +126,8 @@ int main(int argc, char **argv)
         // By itself the toolkit would load whatever style is installed.
         QApplication::setStyle(QStringLiteral("fusion"));
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-            qputenv("QT_QPA_PLATFORM", "minimal"); // the toolkit's quickest: it reads no fonts
+            // The toolkit's quickest, which reads no fonts unless it is told to.
+            qputenv("QT_QPA_PLATFORM", mayDrawText(*line) ? "minimal:enable_fonts" : "minimal");
         }
         if (line->readsDocuments()) {
             tapeprint::job::PdfWorker::prepare(); // is ready when the toolkit is

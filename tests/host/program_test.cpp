@@ -2,11 +2,17 @@
 // The program as it is run: what it prints, where, and its exit status. No print server and no display is there.
 #include "ProgramTest.h"
 
+#include "job/PdfPages.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
+#include <atomic>
+#include <memory>
 
 #include <pdekit/Version.h>
 
@@ -220,6 +226,28 @@ TEST_F(Program, NamedPipe_IsReadOnceToItsEnd)
     ASSERT_TRUE(writer.waitForFinished());
     EXPECT_EQ(writer.readAllStandardOutput(), "whole\n");
     EXPECT_TRUE(contentsOf(folder.filePath(u"out.prn"_qs)).endsWith("Through a pipe\n"));
+}
+
+TEST_F(Program, JapaneseText_HasItsCharactersWithoutAWindowAsWell)
+{
+    // One low stroke a character, in a line that runs along the tape; a box in its place would be about nine points
+    // high.
+    const QByteArray text = u"一一\n"_qs.toUtf8();
+    const QString file = hosttest::writeFile(folder, u"japanese.txt"_qs, text);
+    const QString pdf = folder.filePath(u"out.pdf"_qs);
+    const std::atomic<bool> goOn = false;
+    for (const QStringList &documents : {QStringList{file}, QStringList()}) {
+        const Outcome outcome =
+            run(QStringList{u"--no-dialog"_qs, u"--ppd"_qs, ppd, u"--pdf"_qs, pdf} + documents, text);
+        ASSERT_EQ(outcome.status, testsupport::done) << outcome.messages.toStdString();
+        tapeprint::job::Problem error;
+        const std::unique_ptr<tapeprint::job::PdfPages> pages = tapeprint::job::PdfPages::open(pdf, &error);
+        ASSERT_TRUE(pages) << error.sentence.toStdString();
+        const QSizeF ink = pages->drawnRect(0, goOn).value_or(QRectF()).size();
+        EXPECT_LT(std::min(ink.width(), ink.height()), 4);
+        EXPECT_GT(std::max(ink.width(), ink.height()), 10);
+        QFile::remove(pdf);
+    }
 }
 
 TEST_F(Program, SeveralFiles_ArePrintedInTheirOrder)

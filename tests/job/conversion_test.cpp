@@ -262,6 +262,27 @@ TEST_F(DocumentConversion, TextOfWindows_IsDrawnAsTheSameTextInUtf8)
     EXPECT_FALSE(QFileInfo::exists(folder.path(u"converted.pdf.txt"_qs)));
 }
 
+TEST_F(DocumentConversion, TextInScriptsThatTheFilterHasNoFontsFor_IsDrawnAndNotBoxes)
+{
+    // Characters of one low stroke: Japanese, Korean and Arabic ones. A box is about nine points high.
+    for (const QString &strokes : {u"一一"_qs, u"\u3161\u3161"_qs, u"\u0640\u0640\u0640"_qs}) {
+        const QRectF ink = inkOf(converted(folder.write(u"a.txt"_qs, strokes.toUtf8())));
+        EXPECT_GT(ink.width(), 5) << strokes.toStdString();
+        EXPECT_GT(ink.height(), 0.1) << strokes.toStdString();
+        EXPECT_LT(ink.height(), 4) << strokes.toStdString();
+    }
+    // Lines are where the filter has them: 68 points hold five of 12 points, and a form feed ends a page.
+    const QByteArray line = u"日本語\n"_qs.toUtf8();
+    const QString pdf = converted(folder.write(u"b.txt"_qs, line.repeated(12)));
+    ASSERT_EQ(sizesOf(pdf).size(), 3U);
+    expectSize(sizesOf(pdf)[0], 200, 68, 0.01);
+    EXPECT_EQ(sizesOf(converted(folder.write(u"c.txt"_qs, line + '\f' + line + "\f\n"))).size(), 2U);
+    const QRectF ink = inkOf(converted(folder.write(u"d.txt"_qs, u"一\r\n一\r\n"_qs.toUtf8())));
+    EXPECT_NEAR(ink.height(), 12, 2); // from one line to the next
+    // A long line goes on on the next.
+    EXPECT_GT(inkOf(converted(folder.write(u"e.txt"_qs, u"日"_qs.repeated(20).toUtf8()))).bottom(), 18);
+}
+
 TEST_F(DocumentConversion, PostScript_KeepsItsOwnPageSize)
 {
     const QByteArray text = "%!PS-Adobe-3.0\n<< /PageSize [150 60] >> setpagedevice\n"
