@@ -53,6 +53,17 @@ bool canDeliver(int descriptor, job::Problem *problem)
     return true;
 }
 
+/// A program that has written its document and hands over the descriptor that it wrote by stands at the document's end.
+void rewindFromEnd(int descriptor)
+{
+    struct stat status {
+    };
+    const bool isFile = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+    if (isFile && lseek(descriptor, 0, SEEK_CUR) >= status.st_size) {
+        lseek(descriptor, 0, SEEK_SET); // where that cannot be, reading will tell
+    }
+}
+
 /// Waits until something can be read. \return false when nobody wants it any more.
 bool waitForMore(int descriptor, const std::atomic<bool> &stop)
 {
@@ -128,6 +139,7 @@ std::shared_ptr<job::PrivateFile> receiveDocument(int descriptor, const ReceiveL
         *problem = job::noRoomForTemporaryFiles(reason);
         return nullptr;
     }
+    rewindFromEnd(descriptor);
     return fillFrom(descriptor, *file, limits, stop, problem) ? file : nullptr;
 }
 

@@ -121,6 +121,18 @@ TEST_F(ProgramsDescriptor, FileAndSocket_AreRead)
     EXPECT_EQ(received(near.number()), "%PDF of a socket");
 }
 
+TEST_F(ProgramsDescriptor, FileThatStandsAtItsEnd_IsReadFromItsBeginning)
+{
+    QTemporaryFile written;
+    ASSERT_TRUE(written.open());
+    written.write("%PDF just written");
+    written.flush();
+    EXPECT_EQ(received(written.handle()), "%PDF just written");
+    // One that stands elsewhere was put there.
+    ASSERT_EQ(lseek(written.handle(), 5, SEEK_SET), 5);
+    EXPECT_EQ(received(written.handle()), "just written");
+}
+
 TEST_F(ProgramsDescriptor, ClosedOne_IsRefusedInWords)
 {
     const int number = out.number();
