@@ -16,6 +16,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -29,6 +30,16 @@ namespace
 
 constexpr qint64 looksAtBytes = 4096;
 constexpr qint64 pdfHeaderWithin = 1024;
+
+/// Whether a text is the source of something that nobody wants to see as a text: CUPS prints neither. Comments, an XML
+/// declaration and the like may come first.
+bool isMarkup(const QByteArray &beginning)
+{
+    static const QRegularExpression markup(
+        QStringLiteral(R"(\A\x{FEFF}?\s*(<\?[^>]*>\s*|<!--.*?-->\s*)*(<!DOCTYPE\s+(html|svg)\b|<(html|svg)\b))"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    return markup.match(QString::fromUtf8(beginning)).hasMatch();
+}
 
 /// A PPD of one page, so that the filter sets text on exactly that page, whatever the printer's own description says.
 QByteArray pageDescription(const QSizeF &sizePt, const QMarginsF &unprintablePt)
@@ -269,7 +280,7 @@ DocumentKind documentKindOf(const QString &path)
         return code < 0x20 && byte != '\n' && byte != '\r' && byte != '\t' && byte != '\f' && byte != '\b' &&
                byte != '\x1b';
     });
-    return isText ? DocumentKind::Text : DocumentKind::Unknown;
+    return isText && !isMarkup(beginning) ? DocumentKind::Text : DocumentKind::Unknown;
 }
 
 bool convertToPdf(const QString &document, const QSizeF &textPagePt, const QString &path, const std::atomic<bool> &stop,

@@ -91,6 +91,18 @@ TEST_F(DocumentConversion, Kinds_AreToldByTheFirstBytes)
     EXPECT_EQ(documentKindOf(folder.path(u"none"_qs)), DocumentKind::Unknown);
 }
 
+TEST_F(DocumentConversion, Kinds_SourcesOfDrawingsAndPagesAreNoPlainText)
+{
+    for (const char *source : {"<svg xmlns=\"http://www.w3.org/2000/svg\"/>", "<!DOCTYPE html>\n<html/>",
+                               "\xef\xbb\xbf<?xml version=\"1.0\"?>\n<!-- drawn\n by hand -->\n<svg width=\"9\"/>",
+                               "  <HTML><body/></HTML>"}) {
+        EXPECT_EQ(kindOf(source), DocumentKind::Unknown) << source;
+    }
+    for (const char *text : {"<svgs> are fine\n", "How to write <html>\n", "<shelf 3>\n<html>\n", "<\n"}) {
+        EXPECT_EQ(kindOf(text), DocumentKind::Text) << text;
+    }
+}
+
 TEST_F(DocumentConversion, Kinds_OfPicturesNeedNoName)
 {
     QImage picture(3, 2, QImage::Format_RGB32);
