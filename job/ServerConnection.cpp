@@ -109,10 +109,7 @@ ServerConnection::ServerConnection(const std::atomic<bool> *stop, Passwords pass
 ServerConnection::~ServerConnection()
 {
     mCutter.reset();
-    const http_status_t last = mHttp != nullptr ? httpGetStatus(mHttp) : HTTP_STATUS_OK;
-    if (last == HTTP_STATUS_UNAUTHORIZED || last == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED) {
-        forgetPassword(mKeptAs); // it was not accepted, and not asked for again
-    } else if (last == HTTP_STATUS_FORBIDDEN) {
+    if (mHttp != nullptr && httpGetStatus(mHttp) == HTTP_STATUS_FORBIDDEN) {
         hearRefusal();
     }
     httpClose(mHttp);

@@ -158,13 +158,22 @@ TEST_F(KeptPasswords, OneThatWasWrongToTheEnd_IsNotKept)
     EXPECT_TRUE(seen.empty());
 }
 
-TEST_F(KeptPasswords, WhoMayNotDoThis_IsAskedWhoElseMayAtTheNextTry)
+/// A server that says in HTTP, or in IPP, that the person may not do this.
+class RefusingServer : public KeptPasswords, public testing::WithParamInterface<QByteArray>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Both, RefusingServer,
+                         testing::Values(QByteArray("HTTP/1.1 403 Forbidden\r\nContent-Length: 0\r\n\r\n"),
+                                         QByteArray("HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\n"
+                                                    "Content-Length: 9\r\n\r\n") +
+                                             QByteArray::fromHex("020004010000000103"))); // client-error-forbidden
+
+TEST_P(RefusingServer, WhoMayNotDoThis_IsAskedWhoElseMayAtTheNextTry)
 {
     const PasswordKeeping keeping;
     MeddlingServer guarded(socket, {}, [this](const SeenRequest &request) { return guard(request); });
-    guarded.replyWith([](int piece) {
-        return piece == 0 ? QByteArray("HTTP/1.1 403 Forbidden\r\nContent-Length: 0\r\n\r\n") : QByteArray();
-    });
+    guarded.replyWith([](int piece) { return piece == 0 ? GetParam() : QByteArray(); });
     EXPECT_TRUE(ask());
     answer = Meddling::OwnReply;
     EXPECT_FALSE(ask(ServerConnection::Passwords::GoWithout)); // the list may be closed to who may print
