@@ -22,9 +22,15 @@ MenuButton::MenuButton(QWidget *parent) : QToolButton(parent)
     setFocusPolicy(Qt::StrongFocus);
 }
 
+void MenuButton::setShowsArrow(bool shows)
+{
+    mShowsArrow = shows;
+    updateGeometry();
+}
+
 QSize MenuButton::sizeHint() const
 {
-    return QToolButton::sizeHint() + QSize(arrowSize + besideArrow, 0);
+    return QToolButton::sizeHint() + QSize(mShowsArrow ? arrowSize + besideArrow : 0, 0);
 }
 
 void MenuButton::paintEvent(QPaintEvent * /*event*/)
@@ -33,6 +39,10 @@ void MenuButton::paintEvent(QPaintEvent * /*event*/)
     QStyleOptionToolButton option;
     initStyleOption(&option);
     option.features &= ~QStyleOptionToolButton::HasMenu; // its arrow is the one in the corner
+    if (!mShowsArrow) {
+        painter.drawComplexControl(QStyle::CC_ToolButton, option);
+        return;
+    }
     QStyleOptionToolButton frame(option);
     frame.text.clear();
     painter.drawComplexControl(QStyle::CC_ToolButton, frame);

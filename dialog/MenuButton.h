@@ -17,11 +17,17 @@ public:
     /// Opens its menu at a press, and takes the keys.
     explicit MenuButton(QWidget *parent);
 
+    /// None beside a text that says by itself that there is more, such as three dots.
+    void setShowsArrow(bool shows);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool mShowsArrow = true;
 };
 
 } // namespace tapeprint::dialog

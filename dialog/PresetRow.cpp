@@ -64,6 +64,7 @@ PresetRow::PresetRow(OptionsToSave optionsToSave, QWidget *parent)
     mMenuButton = new MenuButton(this);
     mMenuButton->setObjectName(QStringLiteral("presetMenu"));
     mMenuButton->setText(QStringLiteral("…"));
+    mMenuButton->setShowsArrow(false);
     mMenuButton->setToolTip(tr("Save, rename or delete presets"));
     mMenuButton->setAccessibleName(mMenuButton->toolTip());
     layout->addWidget(label);

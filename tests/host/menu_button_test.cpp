@@ -66,6 +66,16 @@ TEST_P(MenuButtonTest, Text_HasAllItsRoom)
     EXPECT_GE(button.sizeHint().width(), usual.sizeHint().width() + 10); // the arrow and the gaps beside it
 }
 
+TEST_P(MenuButtonTest, TextThatSaysItAll_HasNoArrow)
+{
+    const int wide = button.sizeHint().width();
+    button.setShowsArrow(false);
+    EXPECT_LE(button.sizeHint().width(), wide - 10);
+    button.setText({});
+    const QImage image = button.grab().toImage();
+    EXPECT_EQ(darkDots(image, button.rect().adjusted(3, 3, -3, -3)), 0);
+}
+
 INSTANTIATE_TEST_SUITE_P(Directions, MenuButtonTest, testing::Values(Qt::LeftToRight, Qt::RightToLeft));
 
 } // namespace
