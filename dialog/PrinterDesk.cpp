@@ -23,6 +23,12 @@ constexpr int lookAgainMs = 1500;
 constexpr qint64 justConfiguredSeconds = 3;
 constexpr int mostChecks = 5;
 
+/// Whether the person gave no password for what was to be opened, or none that is good.
+bool lacksPassword(const job::Problem &problem)
+{
+    return !problem.isNull() && (problem.kind == job::Problem::Cancelled || problem.kind == job::Problem::RejectedJob);
+}
+
 PrinterRow rowOfDestination(const job::Destination &destination)
 {
     PrinterRow row;
@@ -123,7 +129,7 @@ void PrinterDesk::finishOpening(const Arrival &destination, const job::Problem &
         deliver();
         return;
     }
-    mDeclined = !problem.isNull() && problem.kind == job::Problem::Cancelled ? mWanted : std::nullopt;
+    mDeclined = lacksPassword(problem) ? mWanted : std::nullopt;
     mWanted.reset();
     mOpenProblem = problem;
     fillRows();
@@ -300,7 +306,7 @@ void PrinterDesk::checkDescription()
         job::Problem problem;
         std::optional<job::Destination> opened = open(request, stop, &problem);
         Arrival destination = opened ? std::make_shared<job::Destination>(std::move(*opened)) : nullptr;
-        return [this, destination, isDeclined = problem.kind == job::Problem::Cancelled] {
+        return [this, destination, isDeclined = lacksPassword(problem)] {
             mChecksLeft = isDeclined ? 0 : mChecksLeft; // nobody is asked again and again
             takeCheck(destination);
         };

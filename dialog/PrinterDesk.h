@@ -54,7 +54,7 @@ public:
     bool isOpening() const { return mWanted.has_value(); }
     /// Whether a job can go to the open printer.
     bool canPrint() const { return hasOpen() && !isOpening() && !isGone(); }
-    /// Whether the person declined to give a password for the printer that was to be opened last.
+    /// Whether the person gave no password, or none that is good, for the printer that was to be opened last.
     bool wasDeclined() const { return mDeclined.has_value(); }
     /// Whether the server's PPD of the open printer is another one by now.
     bool hasNewDescription() const { return mFresh != nullptr; }
@@ -120,7 +120,7 @@ private:
     Arrival mFresh;                   ///< the open printer with its new PPD
     job::Problem mOpenProblem;
     job::Problem mServerProblem;
-    std::optional<QString> mDeclined; ///< what was to be opened when the person gave no password
+    std::optional<QString> mDeclined; ///< what was to be opened when the person gave no password that is good
     bool mIsTape = false;
 };
 

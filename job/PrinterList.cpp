@@ -256,7 +256,6 @@ std::optional<PrinterList> readPrinters(const std::atomic<bool> *stop, Problem *
     }
     if (!response || ippGetStatusCode(response.get()) > IPP_STATUS_OK_EVENTS_COMPLETE) {
         *error = serverProblem(*server);
-        error->kind = server->wasRefused() ? Problem::RejectedJob : error->kind; // it answers, and wants a password
         return std::nullopt;
     }
     return withSaved(printersIn(response.get()), SavedDestinations::read());

@@ -212,7 +212,10 @@ Problem serverProblem(const ServerConnection &server)
     if (server.isStopped()) {
         return {Problem::Cancelled, QString()};
     }
-    return {server.wasDeclined() ? Problem::Cancelled : Problem::Unreachable,
+    // One that wants a password does answer: it is not asked again until it is there.
+    return {server.wasDeclined()  ? Problem::Cancelled
+            : server.wasRefused() ? Problem::RejectedJob
+                                  : Problem::Unreachable,
             server.isOpen() || server.wasRefused() ? server.problem() : ServerConnection::noAnswer()};
 }
 

@@ -87,7 +87,7 @@ std::optional<job::Destination> FakeServer::open(const job::JobRequest &request,
             return std::nullopt;
         }
         if (mIsDeclined) {
-            *problem = {job::Problem::Cancelled, u"no password"_qs};
+            *problem = {mDeclinedAs, u"no password"_qs};
             return std::nullopt;
         }
         const Queue *queue = find(request.queue.isEmpty() ? mDefault : request.queue);

@@ -50,10 +50,13 @@ public:
     {
         locked([&] { mFails = fails; });
     }
-    /// Openings of printers want a password, which the person declines to give.
-    void setDeclined(bool isDeclined)
+    /// Openings of printers want a password, which the person declines to give; RejectedJob: gives wrong ones.
+    void setDeclined(bool isDeclined, tapeprint::job::Problem::Kind kind = tapeprint::job::Problem::Cancelled)
     {
-        locked([&] { mIsDeclined = isDeclined; });
+        locked([&] {
+            mIsDeclined = isDeclined;
+            mDeclinedAs = kind;
+        });
     }
     /// A queue gets another description in the second in which it was configured before.
     void describeInTheSameSecond(const QString &name, const QByteArray &morePpd)
@@ -100,6 +103,7 @@ private:
     bool mIsSilent = false;
     bool mFails = false;
     bool mIsDeclined = false;
+    tapeprint::job::Problem::Kind mDeclinedAs = tapeprint::job::Problem::Cancelled;
 };
 
 } // namespace hosttest

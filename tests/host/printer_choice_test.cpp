@@ -215,6 +215,22 @@ TEST_F(PrinterChoice, DeclinedPasswordForAPickedPrinter_IsAskedForAgainForThatOn
     EXPECT_FALSE(askAgain->isVisible());
 }
 
+TEST_F(PrinterChoice, WrongPasswords_AreAskedForAgainWhenThatIsWishedAndNotBefore)
+{
+    server->setDeclined(true, job::Problem::RejectedJob);
+    server->setDefault(u"other"_qs);
+    open();
+    ASSERT_TRUE(waitForNotice(u"no password"_qs));
+    const int readings = server->readings();
+    ASSERT_TRUE(waitFor([&] { return server->readings() > readings + 10; }));
+    EXPECT_EQ(server->opened().size(), 1U);
+    server->setDeclined(false);
+    auto *askAgain = child<QPushButton>("askAgain");
+    ASSERT_TRUE(askAgain->isVisible());
+    askAgain->click();
+    EXPECT_TRUE(waitForPrinter(u"other"_qs));
+}
+
 TEST_F(PrinterChoice, NewestPick_Wins)
 {
     openWith(u"tape"_qs);

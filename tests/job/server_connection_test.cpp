@@ -439,6 +439,7 @@ TEST_F(ServerConnectionTest, PersonWhoDeclinesAtAWindow_HasAnsweredAndSomebodyWh
     EXPECT_FALSE(ask(*second));
     EXPECT_TRUE(second->wasRefused());
     EXPECT_FALSE(second->wasDeclined());
+    EXPECT_EQ(serverProblem(*second).kind, Problem::RejectedJob); // it does answer
 }
 
 TEST_F(ServerConnectionTest, NobodyToAsk_IsSaidAtOnce)
