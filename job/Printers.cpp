@@ -219,8 +219,10 @@ Problem serverProblem(const ServerConnection &server)
             server.isOpen() || server.wasRefused() ? server.problem() : ServerConnection::noAnswer()};
 }
 
-std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueName &wanted, Problem *error)
+std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueName &named, Problem *error)
 {
+    // Looked up by name as well, so that one which is not there is said by its name.
+    const QueueName wanted = named.queue.isEmpty() ? namedByVariable() : named;
     const QString &name = wanted.queue;
     const QString &instance = wanted.instance;
     if (!server.isOpen() || !isAnswered(server, name)) {

@@ -42,7 +42,7 @@ struct PrintQueue {
 Problem serverProblem(const ServerConnection &server);
 
 /// The queue of a name; an empty name stands for the default printer.
-std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueName &wanted, Problem *error);
+std::optional<PrintQueue> findQueue(const ServerConnection &server, const QueueName &named, Problem *error);
 
 /// The PPD of a queue, from the server. Null without an error when the queue has none.
 /// \param digest takes what tells two PPDs apart.

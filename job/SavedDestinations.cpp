@@ -25,7 +25,8 @@ bool isSame(const QueueName &left, const QueueName &right)
            left.instance.compare(right.instance, Qt::CaseInsensitive) == 0;
 }
 
-/// A printer that is named by a variable. The value "lp" of PRINTER is what many systems set for everybody.
+} // namespace
+
 QueueName namedByVariable()
 {
     if (const QString name = qEnvironmentVariable("LPDEST"); !name.isEmpty()) {
@@ -34,8 +35,6 @@ QueueName namedByVariable()
     const QString name = qEnvironmentVariable("PRINTER");
     return name.isEmpty() || name == u"lp" ? QueueName() : QueueName::parse(name);
 }
-
-} // namespace
 
 void SavedDestinations::add(const QByteArray &text)
 {

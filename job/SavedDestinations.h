@@ -12,6 +12,10 @@
 namespace tapeprint::job
 {
 
+/// The printer that the variable LPDEST or else PRINTER names; of an empty name when neither does. The value "lp" of
+/// PRINTER is what many systems set for everybody.
+QueueName namedByVariable();
+
 struct SavedDestinations {
     std::vector<QueueName> instances; ///< in the files' order; each once
     QueueName preferred;              ///< the person's own default; of an empty name when there is none

@@ -80,6 +80,16 @@ TEST_F(BadInput, UnknownQueueOrInstance_IsNamed)
     expectFailure(testsupport::noSuchPrinter, {u"--no-dialog"_qs, document}, "no default printer");
 }
 
+TEST_F(BadInput, UnknownQueueOrInstanceOfAVariable_IsNamed)
+{
+    moreVariables = {{u"LPDEST"_qs, u"nosuch"_qs}};
+    expectFailure(testsupport::noSuchPrinter, {u"--no-dialog"_qs, document}, "knows no queue nosuch");
+    moreVariables = {{u"PRINTER"_qs, u"tape/nosuch"_qs}};
+    expectFailure(testsupport::noSuchPrinter, {u"--no-dialog"_qs, document}, "knows no queue tape/nosuch");
+    moreVariables = {{u"PRINTER"_qs, u"lp"_qs}}; // says nothing
+    expectFailure(testsupport::noSuchPrinter, {u"--no-dialog"_qs, document}, "no default printer");
+}
+
 TEST_F(BadInput, ServerThatIsNotThere_IsNamed)
 {
     moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"nobody.sock"_qs)}};
