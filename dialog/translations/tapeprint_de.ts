@@ -734,6 +734,18 @@
         <source>The program&apos;s pages come later, laid out for this size.</source>
         <translation>Die Seiten des Programms kommen später, für diese Größe gesetzt.</translation>
     </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -929,6 +941,10 @@
         <comment>two controls</comment>
         <translation>„%1“ passt nicht zu dem, was für „%2“ eingestellt ist.</translation>
     </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation>&amp;Erneut fragen</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -962,10 +978,6 @@
     <message>
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>Die Beschreibung des Druckers %1 hat sich auf dem Druckserver geändert. Laden Sie sie vor dem Drucken neu.</translation>
-    </message>
-    <message>
-        <source>Choose the printer again to be asked once more.</source>
-        <translation>Wählen Sie den Drucker noch einmal, um wieder gefragt zu werden.</translation>
     </message>
 </context>
 <context>

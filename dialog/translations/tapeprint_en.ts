@@ -734,6 +734,18 @@
         <source>The program&apos;s pages come later, laid out for this size.</source>
         <translation>The program&apos;s pages come later, laid out for this size.</translation>
     </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Previous page</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Next page</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -929,6 +941,10 @@
         <comment>two controls</comment>
         <translation>“%1” does not go with what is set for “%2”.</translation>
     </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation>&amp;Ask Again</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -962,10 +978,6 @@
     <message>
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>The description of the printer %1 has changed on the print server. Load it anew before you print.</translation>
-    </message>
-    <message>
-        <source>Choose the printer again to be asked once more.</source>
-        <translation>Choose the printer again to be asked once more.</translation>
     </message>
 </context>
 <context>

@@ -734,6 +734,18 @@
         <source>The program&apos;s pages come later, laid out for this size.</source>
         <translation>Las páginas del programa llegan después, compuestas para este tamaño.</translation>
     </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Página siguiente</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -929,6 +941,10 @@
         <comment>two controls</comment>
         <translation>«%1» no es compatible con lo que está ajustado en «%2».</translation>
     </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation>&amp;Preguntar de nuevo</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -962,10 +978,6 @@
     <message>
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>La descripción de la impresora %1 ha cambiado en el servidor. Vuelva a cargarla antes de imprimir.</translation>
-    </message>
-    <message>
-        <source>Choose the printer again to be asked once more.</source>
-        <translation>Elija la impresora otra vez para que se le vuelva a preguntar.</translation>
     </message>
 </context>
 <context>

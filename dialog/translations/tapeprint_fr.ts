@@ -734,6 +734,18 @@
         <source>The program&apos;s pages come later, laid out for this size.</source>
         <translation>Les pages du programme viennent ensuite, mises en page pour ce format.</translation>
     </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -929,6 +941,10 @@
         <comment>two controls</comment>
         <translation>« %1 » ne va pas avec le réglage de « %2 ».</translation>
     </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation>&amp;Demander à nouveau</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -962,10 +978,6 @@
     <message>
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>La description de l’imprimante %1 a changé sur le serveur. Rechargez-la avant d’imprimer.</translation>
-    </message>
-    <message>
-        <source>Choose the printer again to be asked once more.</source>
-        <translation>Choisissez à nouveau l’imprimante pour que la question soit reposée.</translation>
     </message>
 </context>
 <context>

@@ -734,6 +734,18 @@
         <source>The program&apos;s pages come later, laid out for this size.</source>
         <translation>Le pagine del programma arrivano dopo, impaginate per questo formato.</translation>
     </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Pagina %1 di %2</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Pagina precedente</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Pagina successiva</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -929,6 +941,10 @@
         <comment>two controls</comment>
         <translation>«%1» non va d’accordo con ciò che è impostato per «%2».</translation>
     </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation>&amp;Chiedi di nuovo</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -962,10 +978,6 @@
     <message>
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>La descrizione della stampante %1 è cambiata sul server. Ricaricarla prima di stampare.</translation>
-    </message>
-    <message>
-        <source>Choose the printer again to be asked once more.</source>
-        <translation>Scegliere di nuovo la stampante per ricevere un’altra richiesta.</translation>
     </message>
 </context>
 <context>

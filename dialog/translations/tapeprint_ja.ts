@@ -730,6 +730,18 @@
         <source>The program&apos;s pages come later, laid out for this size.</source>
         <translation>プログラムのページは、このサイズに合わせて後から届きます。</translation>
     </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>ページ %1 / %2</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>前のページ</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>次のページ</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -925,6 +937,10 @@
         <comment>two controls</comment>
         <translation>「%1」は「%2」の設定と一緒に使えません。</translation>
     </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation>もう一度尋ねる(&amp;A)</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -958,10 +974,6 @@
     <message>
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>プリンター %1 の記述がサーバー上で変わりました。印刷する前に再読み込みしてください。</translation>
-    </message>
-    <message>
-        <source>Choose the printer again to be asked once more.</source>
-        <translation>もう一度入力するには、プリンターを選び直してください。</translation>
     </message>
 </context>
 <context>

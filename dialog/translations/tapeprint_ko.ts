@@ -730,6 +730,18 @@
         <source>The program&apos;s pages come later, laid out for this size.</source>
         <translation>프로그램의 페이지는 이 크기에 맞게 나중에 옵니다.</translation>
     </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>%2페이지 중 %1페이지</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>이전 페이지</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>다음 페이지</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -925,6 +937,10 @@
         <comment>two controls</comment>
         <translation>“%1”은(는) “%2”의 설정과 함께 쓸 수 없습니다.</translation>
     </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation>다시 묻기(&amp;A)</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -958,10 +974,6 @@
     <message>
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>프린터 %1의 설명이 서버에서 바뀌었습니다. 인쇄하기 전에 다시 불러오십시오.</translation>
-    </message>
-    <message>
-        <source>Choose the printer again to be asked once more.</source>
-        <translation>다시 입력하려면 프린터를 다시 선택하십시오.</translation>
     </message>
 </context>
 <context>

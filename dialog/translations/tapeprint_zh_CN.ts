@@ -730,6 +730,18 @@
         <source>The program&apos;s pages come later, laid out for this size.</source>
         <translation>程序的页面将按此尺寸排版，稍后送来。</translation>
     </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintDialog</name>
@@ -925,6 +937,10 @@
         <comment>two controls</comment>
         <translation>“%1”与“%2”的设置不能同时使用。</translation>
     </message>
+    <message>
+        <source>&amp;Ask Again</source>
+        <translation>再次询问(&amp;A)</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrintRun</name>
@@ -958,10 +974,6 @@
     <message>
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>打印机 %1 的描述已在打印服务器上更改。请在打印前重新载入。</translation>
-    </message>
-    <message>
-        <source>Choose the printer again to be asked once more.</source>
-        <translation>要再次输入，请重新选择打印机。</translation>
     </message>
 </context>
 <context>
