@@ -264,7 +264,7 @@ private:
     QHBoxLayout *mAmountPlace = nullptr;      ///< before Cancel, for what is said beside Print; it gives way first
     AmountLabel *mAmount = nullptr;
     SaveButton *mSaveButton = nullptr;
-    QStackedWidget *mFooter = nullptr; ///< the buttons beside Cancel and Print; while it prints, the job's row
+    QWidget *mIdleRow = nullptr; ///< the buttons beside Cancel and Print; mJobRow stands there while it prints
     JobRow *mJobRow = nullptr;
     QPushButton *mHelpButton = nullptr; ///< there while a panel that has help is in front
     QPushButton *mRevertButton = nullptr;

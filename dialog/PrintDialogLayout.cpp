@@ -208,13 +208,13 @@ QWidget *PrintDialog::makeButtons()
     auto *rowLayout = new QHBoxLayout(row);
     rowLayout->setContentsMargins({});
     // While a job is sent, what is told of it stands where nothing can be pressed then: no room is taken from the
-    // pages.
-    mFooter = new QStackedWidget(row);
-    auto *buttons = new QWidget(mFooter);
-    mJobRow = new JobRow(mFooter);
-    mFooter->addWidget(buttons);
-    mFooter->addWidget(mJobRow);
-    mFooter->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    // pages. A stack would keep the height of what was told last.
+    mIdleRow = new QWidget(row);
+    mJobRow = new JobRow(row);
+    mJobRow->hide();
+    rowLayout->addWidget(mIdleRow, 1);
+    rowLayout->addWidget(mJobRow, 1);
+    QWidget *buttons = mIdleRow;
     auto *layout = new QHBoxLayout(buttons);
     layout->setContentsMargins({});
     mRevertButton = new QPushButton(tr("Re&vert"), buttons);
@@ -237,7 +237,6 @@ QWidget *PrintDialog::makeButtons()
     mAmountPlace->addWidget(mAmount);
     mSaveButton = new SaveButton(mSetup.title, buttons);
     layout->addWidget(mSaveButton);
-    rowLayout->addWidget(mFooter, 1);
     rowLayout->addWidget(mCancelButton);
     rowLayout->addWidget(mPrintButton);
     return row;

@@ -89,7 +89,8 @@ void PrintDialog::showPrinting()
     mCancelButton->setEnabled(true);
     mCancelButton->setText(isSent ? tr("Cancel Job") : tr("Cancel"));
     mJobRow->setCanClose(isSent);
-    mFooter->setCurrentIndex(isPrinting ? 1 : 0);
+    (isPrinting ? mIdleRow : mJobRow)->hide(); // first, so that both are never there at once
+    (isPrinting ? static_cast<QWidget *>(mJobRow) : mIdleRow)->show();
     if (isPrinting) {
         (isSent ? mJobRow->closeButton() : mCancelButton)->setFocus();
     } else {

@@ -300,6 +300,32 @@ TEST_F(JobPageTest, WhatIsToldOfAJob_TakesNoRoomFromThePages)
     ASSERT_TRUE(QTest::qWaitFor([this] { return child<QPushButton>(u"revert"_qs)->isVisible(); }, patienceMs));
 }
 
+TEST_F(JobPageTest, WhatWasToldOfAJobAtLength_LeavesThePagesTheirRoomAfterIt)
+{
+    open(1);
+    dialog->resize(dialog->minimumSizeHint());
+    QApplication::processEvents();
+    const auto *area = child<QWidget>(u"previewArea"_qs);
+    const QSize before = area->size();
+    const int least = dialog->minimumSizeHint().height();
+    isHeld = true;
+    clickPrint();
+    auto *words = child<QLabel>(u"jobWords"_qs);
+    ASSERT_TRUE(QTest::qWaitFor([words] { return words->isVisible(); }, patienceMs));
+    const int withFewWords = dialog->minimumSizeHint().height();
+    words->setText(
+        QString(u"The tape is jammed in the cutter. "_qs).repeated(12)); // as long as a driver's words may be
+    EXPECT_TRUE(QTest::qWaitFor([words] { return words->height() > 2 * words->fontMetrics().height(); }, patienceMs))
+        << words->text().toStdString() << words->width() << ' ' << dialog->height() << ' '
+        << dialog->minimumSizeHint().height();
+    isHeld = false;
+    ASSERT_TRUE(QTest::qWaitFor([this] { return child<QPushButton>(u"revert"_qs)->isVisible(); }, patienceMs));
+    QApplication::processEvents();
+    EXPECT_EQ(area->size(), before);
+    EXPECT_EQ(dialog->minimumSizeHint().height(), least);
+    EXPECT_LE(withFewWords, least);
+}
+
 TEST_F(JobPageTest, TypedTitle_IsTheJobsAndNoneIsTheDocuments)
 {
     open(1);
