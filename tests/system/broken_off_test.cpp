@@ -154,9 +154,13 @@ TEST_F(BrokenOff, ProgramKilledAtAnyStep_PrintsNothingByHalvesAndTheNextJobWell)
     });
     const QStringList onTape{u"-d"_qs, u"tape"_qs, u"--no-dialog"_qs, document};
     const QStringList onPaper{u"-d"_qs, u"paper"_qs, u"--no-dialog"_qs, document, documentOf(2)};
+    const std::vector<ipp_op_t> steps{IPP_OP_GET_PRINTER_ATTRIBUTES, IPP_OP_CREATE_JOB, IPP_OP_SEND_DOCUMENT};
+    // A job of several documents is held, set free when all of them are there, and looked at then.
+    const std::vector<ipp_op_t> stepsOfSeveral{
+        IPP_OP_GET_PRINTER_ATTRIBUTES, IPP_OP_CREATE_JOB,  IPP_OP_HOLD_JOB,
+        IPP_OP_SEND_DOCUMENT,          IPP_OP_RELEASE_JOB, IPP_OP_GET_JOB_ATTRIBUTES};
     for (const QStringList &job : {onTape, onPaper}) {
-        for (const ipp_op_t killing :
-             {IPP_OP_GET_PRINTER_ATTRIBUTES, IPP_OP_CREATE_JOB, IPP_OP_SEND_DOCUMENT, IPP_OP_GET_JOB_ATTRIBUTES}) {
+        for (const ipp_op_t killing : job == onTape ? steps : stepsOfSeveral) {
             QProcess process;
             process.setProcessEnvironment(systemtest::clientEnvironment(variables()));
             process.setWorkingDirectory(workFolder);
@@ -191,8 +195,7 @@ TEST_F(BrokenOff, OneDocument_IsSentWithoutAskingWhatTheQueueCanDo)
     constexpr int ppd = 0;
     const auto sending = std::find(seen.rbegin(), seen.rend(), ppd).base();
     EXPECT_EQ(std::vector<int>(sending, seen.end()),
-              (std::vector<int>{IPP_OP_GET_PRINTER_ATTRIBUTES, IPP_OP_CREATE_JOB, IPP_OP_SEND_DOCUMENT,
-                                IPP_OP_GET_JOB_ATTRIBUTES, IPP_OP_GET_PRINTER_ATTRIBUTES}));
+              (std::vector<int>{IPP_OP_GET_PRINTER_ATTRIBUTES, IPP_OP_CREATE_JOB, IPP_OP_SEND_DOCUMENT}));
 }
 
 TEST_F(BrokenOff, SeveralDocuments_ArePrintedWhenTheLastIsIn)
