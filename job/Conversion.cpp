@@ -174,7 +174,7 @@ QString asFilterText(const QString &document, const QString &path, Problem *erro
     if (isFilterText(document)) {
         return document;
     }
-    const QString copy = path + QLatin1String(".txt");
+    QString copy = path + QLatin1String(".txt");
     QString reason;
     if (!writeFilterText(document, copy, &reason)) {
         *error = noRoomForTemporaryFiles(reason);
