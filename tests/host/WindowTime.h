@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// How long a piece of work holds up the window's thread, and how long it may.
+// How long a piece of work holds up the window's thread.
 #pragma once
 
 #include <ctime>
@@ -7,13 +7,6 @@
 
 namespace hosttest
 {
-
-/// A tenth of a second. The sanitizers make everything several times slower, and are not what a person waits for.
-#ifdef __SANITIZE_ADDRESS__
-constexpr double longestMs = 500.0;
-#else
-constexpr double longestMs = 100.0;
-#endif
 
 /// Processor time: the machine may have other things to do.
 inline double msOf(const std::function<void()> &work)

@@ -5,6 +5,7 @@
 
 #include "dialog/PaperMenu.h"
 #include "dialog/PopUp.h"
+#include "tests/support/Noticeable.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QApplication>
@@ -61,21 +62,21 @@ TEST(PaperMenu, OfTenThousandPapers_NeverKeepsTheWindowWaiting)
                   papers.follow();
                   QApplication::processEvents();
               }),
-              hosttest::longestMs);
+              test::noticeableMs);
     EXPECT_EQ(popUp.count(), 10002);
     EXPECT_EQ(popUp.currentText(), u"Paper 9999"_qs);
     EXPECT_LT(hosttest::msOf([&] {
                   popUp.showPopup();
                   QApplication::processEvents();
               }),
-              hosttest::longestMs);
+              test::noticeableMs);
     popUp.hidePopup();
     EXPECT_LT(hosttest::msOf([&] {
                   job.changeOption(job::OptionName::pageSize, u"W24"_qs);
                   papers.follow();
                   QApplication::processEvents();
               }),
-              hosttest::longestMs);
+              test::noticeableMs);
     EXPECT_EQ(popUp.currentText(), u"24 mm"_qs);
 }
 

@@ -9,6 +9,7 @@
 #include "job/PrinterList.h"
 #include "tests/support/LoopWatch.h"
 #include "tests/support/MeddlingServer.h"
+#include "tests/support/Noticeable.h"
 #include "tests/system/Client.h"
 #include "tests/system/PrivateCups.h"
 
@@ -36,8 +37,6 @@ using test::Meddling;
 using test::MeddlingServer;
 using test::SeenRequest;
 
-/// What the person may notice.
-constexpr qint64 noticeableMs = 100;
 /// The number under which a request that is none of IPP's is seen: a PPD is fetched by HTTP alone.
 constexpr int fetching = 0;
 constexpr int anyOperation = -1;
@@ -438,16 +437,15 @@ TEST_F(FailingServer, WindowUnderEveryFault_IsNeverDeafAndPrintsWhenTheServerIsW
         auto watch = std::make_unique<test::LoopWatch>();
         QTest::qWait(1200);
         const qint64 failingMs = watch->longestMs();
-        EXPECT_LT(failingMs, noticeableMs) << fault.name;
+        EXPECT_LT(failingMs, test::noticeableMs) << fault.name;
         const QString said = window->findChild<QLabel *>(u"notices"_qs)->text();
         watch.reset();
         mend();
         if (fault.how == Meddling::KeepSilent || fault.reply || fault.how == Meddling::DripReply) {
             // What was begun on the bad server would last; the person closes the window, which waits for nobody.
-            QElapsedTimer closing;
-            closing.start();
+            const test::LoopWatch closing;
             window.reset();
-            EXPECT_LT(closing.elapsed(), noticeableMs) << fault.name;
+            EXPECT_LT(closing.longestMs(), test::noticeableMs) << fault.name;
         } else {
             // A question that was declined, or answered wrongly, does not come again by itself.
             if (auto *again = window->findChild<QPushButton *>(u"askAgain"_qs); again->isVisible()) {
