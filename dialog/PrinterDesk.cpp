@@ -65,7 +65,7 @@ void PrinterDesk::start(const job::Destination &destination)
     if (destination.queue || destination.ppd) {
         take(destination);
     } else if (mSource.open) {
-        pick(mRequest.fullQueueName());
+        open(firstWish());
     }
     fillRows();
     read();
@@ -86,7 +86,19 @@ job::JobRequest PrinterDesk::requestFor(const QString &name) const
     return request;
 }
 
+/// What is opened before anybody has picked.
+QString PrinterDesk::firstWish() const
+{
+    return mSource.lastUsed.isEmpty() || !mLoss.isNull() ? mRequest.fullQueueName() : mSource.lastUsed;
+}
+
 void PrinterDesk::pick(const QString &name)
+{
+    mLoss = {};
+    open(name);
+}
+
+void PrinterDesk::open(const QString &name)
 {
     if (!mSource.open || name == mWanted) {
         return;
@@ -99,7 +111,13 @@ void PrinterDesk::pick(const QString &name)
         mWanted.reset();
     } else {
         mWanted = name;
-        open(requestFor(name));
+        mOpening.start([this, request = requestFor(name),
+                        open = mSource.open](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
+            job::Problem problem;
+            std::optional<job::Destination> opened = open(request, stop, &problem);
+            Arrival destination = opened ? std::make_shared<job::Destination>(std::move(*opened)) : nullptr;
+            return [this, destination, problem] { finishOpening(destination, problem); };
+        });
     }
     fillRows();
     Q_EMIT changed();
@@ -108,18 +126,19 @@ void PrinterDesk::pick(const QString &name)
 void PrinterDesk::askAgain()
 {
     if (mDeclined) {
-        pick(QString(*mDeclined)); // which forgets it
+        open(QString(*mDeclined)); // which forgets it
+    } else if (std::exchange(mIsLookDeclined, false)) {
+        mChecksLeft = mostChecks;
+        checkDescription();
+        Q_EMIT changed();
     }
 }
 
-void PrinterDesk::open(const job::JobRequest &request)
+/// Whether the printer that was used last is what failed to open, for a reason that does not pass by itself.
+bool PrinterDesk::isLastUsedLost(const job::Problem &problem) const
 {
-    mOpening.start([this, request, open = mSource.open](const std::atomic<bool> &stop) -> BackgroundWork::Delivery {
-        job::Problem problem;
-        std::optional<job::Destination> opened = open(request, stop, &problem);
-        Arrival destination = opened ? std::make_shared<job::Destination>(std::move(*opened)) : nullptr;
-        return [this, destination, problem] { finishOpening(destination, problem); };
-    });
+    return !hasOpen() && mLoss.isNull() && !mSource.lastUsed.isEmpty() && mWanted == mSource.lastUsed &&
+           !problem.isNull() && !lacksPassword(problem) && problem.kind != job::Problem::Unreachable;
 }
 
 void PrinterDesk::finishOpening(const Arrival &destination, const job::Problem &problem)
@@ -127,6 +146,12 @@ void PrinterDesk::finishOpening(const Arrival &destination, const job::Problem &
     if (destination != nullptr) {
         mArrived = destination;
         deliver();
+        return;
+    }
+    if (isLastUsedLost(problem)) {
+        mLoss = problem;
+        mWanted.reset();
+        open(firstWish());
         return;
     }
     mDeclined = lacksPassword(problem) ? mWanted : std::nullopt;
@@ -157,6 +182,7 @@ void PrinterDesk::take(const job::Destination &destination)
 {
     mChecking.drop();
     mFresh = nullptr;
+    mIsLookDeclined = false;
     mWanted.reset();
     mDeclined.reset();
     mOpenProblem = {};
@@ -273,12 +299,12 @@ void PrinterDesk::openWhatTheServerAllows()
         return;
     }
     // The server was silent when the printer was to be opened, or the printer was not there.
-    const QString asked = mRequest.fullQueueName();
+    const QString asked = firstWish();
     const bool isThere = std::any_of(mPrinters->begin(), mPrinters->end(),
                                      [&asked](const job::Printer &printer) { return printer.fullName() == asked; });
     if (mOpenProblem.kind == job::Problem::Unreachable ||
         (isThere && mOpenProblem.kind == job::Problem::NoSuchPrinter)) {
-        pick(asked);
+        open(asked);
     }
 }
 
@@ -286,7 +312,7 @@ void PrinterDesk::openTheOnlyPrinter()
 {
     // Nobody named a default, but there is nothing to choose either.
     if (lacksDefault() && !isOpening() && mPrinters && mPrinters->size() == 1 && !std::exchange(mTriedTheOnly, true)) {
-        pick(mPrinters->front().fullName());
+        open(mPrinters->front().fullName());
     }
 }
 
@@ -307,7 +333,11 @@ void PrinterDesk::checkDescription()
         std::optional<job::Destination> opened = open(request, stop, &problem);
         Arrival destination = opened ? std::make_shared<job::Destination>(std::move(*opened)) : nullptr;
         return [this, destination, isDeclined = lacksPassword(problem)] {
-            mChecksLeft = isDeclined ? 0 : mChecksLeft; // nobody is asked again and again
+            mIsLookDeclined = isDeclined;
+            if (isDeclined) {
+                mChecksLeft = 0; // nobody is asked again and again
+                Q_EMIT changed();
+            }
             takeCheck(destination);
         };
     });
@@ -389,9 +419,22 @@ void PrinterDesk::setIsTape(bool isTape)
     mModel.setIsTape(isTape);
 }
 
+/// Nobody is to send a job to another printer than the last one without having been told.
+QString PrinterDesk::lossNotice() const
+{
+    const QString loss =
+        mLoss.kind == job::Problem::NoSuchPrinter
+            ? tr("The printer %1, which was used last, is not there any more.").arg(job::harmless(mSource.lastUsed))
+            : mLoss.sentence;
+    return mOpen ? loss + u' ' + tr("The printer %1 is taken in its place.").arg(job::harmless(*mOpen)) : loss;
+}
+
 QStringList PrinterDesk::notices() const
 {
     QStringList notices;
+    if (!mLoss.isNull()) {
+        notices.append(lossNotice());
+    }
     const bool isSilent = !mServerProblem.isNull();
     if (isSilent && mServerProblem.kind == job::Problem::Unreachable) {
         notices.append(tr("The print server does not answer. Its printers come back when it does."));
@@ -410,6 +453,11 @@ QStringList PrinterDesk::notices() const
         if (const QString notice = printer->notice(mIsTape); !notice.isNull()) {
             notices.append(notice);
         }
+    }
+    if (mIsLookDeclined) {
+        notices.append(tr("The printer %1 was changed on the print server, and without a password its description was "
+                          "not looked at. Ask again before you print.")
+                           .arg(job::harmless(*mOpen)));
     }
     if (hasNewDescription()) {
         notices.append(tr("The description of the printer %1 has changed on the print server. Load it anew before you "

@@ -54,8 +54,9 @@ public:
     bool isOpening() const { return mWanted.has_value(); }
     /// Whether a job can go to the open printer.
     bool canPrint() const { return hasOpen() && !isOpening() && !isGone(); }
-    /// Whether the person gave no password, or none that is good, for the printer that was to be opened last.
-    bool wasDeclined() const { return mDeclined.has_value(); }
+    /// Whether the person gave no password, or none that is good, for the printer that was to be opened last, or for a
+    /// look at the open one's PPD.
+    bool wasDeclined() const { return mDeclined.has_value() || mIsLookDeclined; }
     /// Whether the server's PPD of the open printer is another one by now.
     bool hasNewDescription() const { return mFresh != nullptr; }
     /// Sentences about printers and server as they are now.
@@ -71,7 +72,10 @@ Q_SIGNALS:
 private:
     using Arrival = std::shared_ptr<job::Destination>;
 
-    void open(const job::JobRequest &request);
+    void open(const QString &name);
+    QString firstWish() const;
+    bool isLastUsedLost(const job::Problem &problem) const;
+    QString lossNotice() const;
     void finishOpening(const Arrival &destination, const job::Problem &problem);
     void deliver();
     void take(const job::Destination &destination);
@@ -116,10 +120,12 @@ private:
     int mConfiguredAt = 0;            ///< of the open printer, when its PPD was looked at
     int mChecksLeft = 0;              ///< looks at its PPD that may still fail, one after the other
     QByteArray mDigest;               ///< of the open printer's PPD
+    bool mIsLookDeclined = false;     ///< the person gave no password that is good for the last look at its PPD
     Arrival mArrived;                 ///< waits for the gate
     Arrival mFresh;                   ///< the open printer with its new PPD
     job::Problem mOpenProblem;
     job::Problem mServerProblem;
+    job::Problem mLoss;               ///< why the printer that was used last was not opened; none when the person picks
     std::optional<QString> mDeclined; ///< what was to be opened when the person gave no password that is good
     bool mIsTape = false;
 };

@@ -24,6 +24,10 @@ struct PrinterSource {
                                                   job::Problem *problem)>
         open;
 
+    /// The queue, or QUEUE/INSTANCE, that a program used last: it is opened in place of the default printer, as long as
+    /// it is there. Empty: none is known.
+    QString lastUsed = {};
+
     /// How long the server is left alone after each reading.
     std::chrono::milliseconds pause{1000};
 

@@ -13,23 +13,14 @@ namespace tapeprint::portal
 namespace
 {
 
-/// The server's printers. The one that the program used last is opened first, if it is still there; on it, what the
-/// program asks with counts as saved for it.
+/// The server's printers. What the program asks with counts as saved for the one that it used last.
 dialog::PrinterSource printersFor(const AskedSettings &asked)
 {
     dialog::PrinterSource source = dialog::PrinterSource::server();
+    source.lastUsed = asked.printer;
     source.open = [asked, openAny = source.open](const job::JobRequest &request, const std::atomic<bool> &stop,
                                                  job::Problem *problem) {
-        std::optional<job::Destination> destination;
-        if (request.queue.isEmpty() && !asked.printer.isEmpty()) {
-            job::JobRequest last = request;
-            last.queue = asked.printer;
-            destination = openAny(last, stop, problem);
-        }
-        if (!destination && problem->kind != job::Problem::Cancelled) { // who declined a password is not asked again
-            *problem = {};
-            destination = openAny(request, stop, problem);
-        }
+        std::optional<job::Destination> destination = openAny(request, stop, problem);
         const bool isLast =
             destination && destination->queue && (asked.printer.isEmpty() || asked.printer == destination->queue->name);
         if (isLast && destination->queue->instance.isEmpty()) {

@@ -38,10 +38,12 @@ protected:
         server->add(u"other"_qs);
     }
 
-    void open(const job::JobRequest &request = {})
+    /// \param lastUsed the printer that a program used last.
+    void open(const job::JobRequest &request = {}, const QString &lastUsed = {})
     {
-        window = std::make_unique<PrintDialog>(printJob, panels,
-                                               PrintDialog::Setup{request, u"label"_qs, {}, server->source()},
+        dialog::PrinterSource source = server->source();
+        source.lastUsed = lastUsed;
+        window = std::make_unique<PrintDialog>(printJob, panels, PrintDialog::Setup{request, u"label"_qs, {}, source},
                                                PrintDialog::PrintAction());
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
@@ -162,6 +164,56 @@ TEST_F(PrinterChoice, Default_IsOpenedWithoutBeingNamed)
     open();
     EXPECT_TRUE(waitForPrinter(u"other"_qs));
     EXPECT_EQ(shown(), u"other"_qs);
+}
+
+TEST_F(PrinterChoice, PrinterThatWasUsedLast_GoesBeforeTheDefault)
+{
+    server->setDefault(u"other"_qs);
+    open({}, u"tape"_qs);
+    EXPECT_TRUE(waitForPrinter(u"tape"_qs));
+    EXPECT_EQ(notices(), QString());
+}
+
+TEST_F(PrinterChoice, PrinterThatWasUsedLastAndIsGone_IsNamedBesideTheOneThatIsTakenUntilThePersonPicks)
+{
+    server->setDefault(u"other"_qs);
+    open({}, u"gone"_qs);
+    ASSERT_TRUE(waitForPrinter(u"other"_qs));
+    EXPECT_TRUE(notices().contains(u"gone, which was used last, is not there"_qs)) << notices().toStdString();
+    EXPECT_TRUE(notices().contains(u"printer other is taken"_qs)) << notices().toStdString();
+    pick(u"tape"_qs);
+    ASSERT_TRUE(waitForPrinter(u"tape"_qs));
+    EXPECT_EQ(notices(), QString());
+}
+
+TEST_F(PrinterChoice, PrinterThatWasUsedLastAndIsGone_IsNamedWhereTheServersOnlyOneIsTaken)
+{
+    server->remove(u"other"_qs);
+    open({}, u"gone"_qs);
+    ASSERT_TRUE(waitForPrinter(u"tape"_qs));
+    EXPECT_TRUE(notices().contains(u"gone, which was used last, is not there"_qs)) << notices().toStdString();
+    EXPECT_TRUE(notices().contains(u"printer tape is taken"_qs)) << notices().toStdString();
+}
+
+TEST_F(PrinterChoice, PrinterThatWasUsedLastAndIsGone_IsNamedWhereNoneIsTaken)
+{
+    open({}, u"gone"_qs);
+    ASSERT_TRUE(waitForNotice(u"Choose a printer"_qs));
+    EXPECT_TRUE(notices().contains(u"gone, which was used last, is not there"_qs)) << notices().toStdString();
+    EXPECT_FALSE(canPrint());
+}
+
+TEST_F(PrinterChoice, PrinterThatWasUsedLastOnASilentServer_IsOpenedWhenItAnswersAndNoOther)
+{
+    server->setDefault(u"other"_qs);
+    server->setSilent(true);
+    open({}, u"tape"_qs);
+    ASSERT_TRUE(waitForNotice(u"does not answer"_qs));
+    server->setSilent(false);
+    EXPECT_TRUE(waitForPrinter(u"tape"_qs));
+    for (const job::JobRequest &request : server->opened()) {
+        EXPECT_EQ(request.queue, u"tape"_qs);
+    }
 }
 
 TEST_F(PrinterChoice, PickThatFails_IsSaidAndLeavesThePrinterBefore)
@@ -362,7 +414,7 @@ TEST_F(PrinterChoice, NewDescriptionThatCannotBeReadAtFirst_IsSaidWhenItCan)
     EXPECT_TRUE(waitForNotice(u"The description of the printer tape has changed"_qs));
 }
 
-TEST_F(PrinterChoice, PasswordDeclinedForALookAtAChangedDescription_IsNotAskedForAgainAndAgain)
+TEST_F(PrinterChoice, PasswordDeclinedForALookAtAChangedDescription_IsAskedForAgainWhenThatIsWishedAndNotBefore)
 {
     openWith(u"tape"_qs);
     const std::size_t before = server->opened().size();
@@ -372,8 +424,16 @@ TEST_F(PrinterChoice, PasswordDeclinedForALookAtAChangedDescription_IsNotAskedFo
     const int readings = server->readings();
     ASSERT_TRUE(waitFor([&] { return server->readings() > readings + 10; })); // each of which could look again
     EXPECT_EQ(server->opened().size(), before + 1);
-    EXPECT_FALSE(child<QPushButton>("askAgain")->isVisible()); // it was for no printer that was to be opened
     EXPECT_TRUE(canPrint());
+    EXPECT_TRUE(notices().contains(u"its description was not looked at. Ask again"_qs)) << notices().toStdString();
+    server->setDeclined(false);
+    auto *askAgain = child<QPushButton>("askAgain");
+    ASSERT_TRUE(askAgain->isVisible());
+    askAgain->click();
+    ASSERT_TRUE(waitForNotice(u"The description of the printer tape has changed"_qs));
+    EXPECT_FALSE(notices().contains(u"not looked at"_qs)) << notices().toStdString();
+    EXPECT_FALSE(askAgain->isVisible());
+    EXPECT_TRUE(child<QPushButton>("loadAnew")->isVisible());
 }
 
 TEST_F(PrinterChoice, DescriptionThatChangesTwiceInASecond_IsSaid)

@@ -79,9 +79,9 @@ protected:
         message.setArguments(arguments);
         return session->call(message);
     }
-    QDBusMessage prepare(const QString &token) const
+    QDBusMessage prepare(const QString &token, const QVariantMap &settings = {}) const
     {
-        return call(u"PreparePrint"_qs, {QString(), token, QVariantMap(), QVariantMap()}, token);
+        return call(u"PreparePrint"_qs, {QString(), token, settings, QVariantMap()}, token);
     }
     /// Prints the document with the settings behind a number. \param token the call's.
     QDBusMessage print(const QString &token, uint settings) const
@@ -144,6 +144,34 @@ TEST_F(PortalCase, HomeThatCannotBeWritten_PrintsAndSaysThatNothingIsKept)
     EXPECT_EQ(answer(u"print"_qs).response, 0U);
     EXPECT_EQ(printedJob().size(), 1U);
     EXPECT_TRUE(backendSays("cannot be kept for the next time"));
+}
+
+TEST_F(PortalCase, PrinterOfEarlierSettingsThatIsGone_GivesWayToTheDefaultInTheWindow)
+{
+    ASSERT_NO_FATAL_FAILURE(open(true));
+    prepare(u"gone"_qs, {{u"printer"_qs, u"another"_qs}});
+    ASSERT_NO_FATAL_FAILURE(openDialog(dialog));
+    dialog.clickPrint();
+    const auto settings = qdbus_cast<QVariantMap>(answer(u"gone"_qs).results[u"settings"_qs]);
+    EXPECT_EQ(settings[u"printer"_qs].toString(), u"tape"_qs);
+}
+
+TEST_F(PortalCase, TokenWhosePrinterIsGone_PrintsOnNoOtherAndSaysWhy)
+{
+    ASSERT_NO_FATAL_FAILURE(open(true));
+    ASSERT_TRUE(cups.addRecordedQueue(u"another"_qs, u"mm"_qs).isNull());
+    prepare(u"chosen"_qs, {{u"printer"_qs, u"another"_qs}});
+    ASSERT_NO_FATAL_FAILURE(openDialog(dialog));
+    dialog.clickPrint();
+    const Answer prepared = answer(u"chosen"_qs);
+    EXPECT_EQ(qdbus_cast<QVariantMap>(prepared.results[u"settings"_qs])[u"printer"_qs].toString(), u"another"_qs);
+    ASSERT_TRUE(waitUntil([this] { return dialog.windows().isEmpty(); }));
+    ASSERT_TRUE(cups.run(u"lpadmin"_qs, {u"-x"_qs, u"another"_qs}).isNull());
+    EXPECT_EQ(print(u"print"_qs, prepared.results[u"token"_qs].toUInt()).type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(answer(u"print"_qs).response, 2U);
+    EXPECT_TRUE(backendSays("is not printed"));
+    EXPECT_TRUE(waitUntil([this] { return dialog.windows().size() == 1; })) << "nobody is told";
+    EXPECT_TRUE(cups.jobs().empty());
 }
 
 TEST_F(PortalCase, DelayAndCancel_NothingIsAnsweredUntilThePersonSaysNo)
