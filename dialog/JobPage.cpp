@@ -76,7 +76,7 @@ void JobPage::addPages(QFormLayout *form)
     mPagesProblem = new QLabel(pages);
     mPagesProblem->setObjectName(QStringLiteral("pageRangesProblem"));
     mPagesProblem->setTextFormat(Qt::PlainText);
-    mPagesProblem->setText(tr("Write pages as 1-3,7"));
+    mPagesProblem->setWordWrap(true);
     mPagesProblem->hide();
     pagesLayout->addWidget(mPages);
     pagesLayout->addWidget(mPagesProblem);
@@ -169,11 +169,18 @@ void JobPage::pick(const QString &key, const QString &value)
     }
 }
 
+void JobPage::showPagesProblem()
+{
+    const QString problem = job::pageRangesProblem(mPages->text());
+    mPagesProblem->setText(problem);
+    mPagesProblem->setVisible(!problem.isNull());
+    mPages->setAccessibleDescription(problem);
+}
+
 void JobPage::pickPages(const QString &typed)
 {
     const QString pages = job::wellFormedPageRanges(typed);
-    mPagesProblem->setVisible(pages.isNull());
-    mPages->setAccessibleDescription(pages.isNull() ? mPagesProblem->text() : QString());
+    showPagesProblem();
     if (!pages.isNull()) {
         pick(OptionName::pageRanges, pages);
     }
@@ -226,10 +233,12 @@ void JobPage::followPages()
         return;
     }
     const job::JobOptions &options = mJob.options();
-    // A list that is being typed is another text for the same pages, or none yet.
+    // A list that is being typed is another text for the same pages, or none yet. What was handed in need be none.
     const QString typed = job::wellFormedPageRanges(mPages->text());
-    if (!typed.isNull() && typed != job::wellFormedPageRanges(chosenPages())) {
+    const QString chosen = job::wellFormedPageRanges(chosenPages());
+    if (!typed.isNull() && (typed != chosen || chosen.isNull())) {
         setText(mPages, chosenPages());
+        showPagesProblem();
     }
     mPageSet->setCurrentIndex(static_cast<int>(job::pageSetOf(options)));
     mReverse->setChecked(job::isReversed(options));

@@ -42,6 +42,7 @@ private:
     void addPages(QFormLayout *form);
     void addQueue(QFormLayout *form);
     void pick(const QString &key, const QString &value);
+    void showPagesProblem();
     void pickPages(const QString &typed);
     void pickCollating(bool collated);
     void pickHold();

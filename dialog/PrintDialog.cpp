@@ -15,6 +15,7 @@
 #include "dialog/TabOrder.h"
 #include "dialog/TapeLook.h"
 #include "job/PageDrawer.h"
+#include "job/PageRanges.h"
 #include "job/PlainText.h"
 
 #include <QCheckBox>
@@ -104,6 +105,11 @@ void PrintDialog::showNotices()
     }
     if (!mOutcome.isEmpty()) {
         own.append(mOutcome);
+    }
+    // One that is being typed goes into no job, and is told of at its field.
+    if (const QString problem = job::pageRangesProblem(mJob.options().value(job::OptionName::pageRanges));
+        !problem.isNull()) {
+        own.append(problem);
     }
     own += mPrinters.notices() + mPresetRow->notices() + mJob.notices() + mPanels.notices() + mAlerts;
     mNotices->setSentences(own.join(u'\n'));

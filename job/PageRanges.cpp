@@ -2,6 +2,9 @@
 // Reading and mending lists of pages.
 #include "job/PageRanges.h"
 
+#include "job/PlainText.h"
+#include "job/Texts.h"
+
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -25,6 +28,26 @@ QString rangeText(const PageRange &range)
     }
     return range.first == range.last ? QString::number(range.first)
                                      : QStringLiteral("%1-%2").arg(range.first).arg(range.last);
+}
+
+/// What is wrong with one of the parts between the commas; null when nothing is.
+QString partProblem(const QString &part)
+{
+    constexpr qsizetype mostShown = 24;
+    static const QRegularExpression pages(QStringLiteral(R"(\A(\d{1,9})(-(\d{1,9})?)?\z)"));
+    const QRegularExpressionMatch match = pages.match(part);
+    const QString first = match.captured(1);
+    const QString last = match.captured(3);
+    if (!match.hasMatch()) {
+        return Texts::tr("“%1” is no list of pages: write them as 1-3,7.").arg(harmless(part.left(mostShown)));
+    }
+    if (first.startsWith(u'0') || last.startsWith(u'0')) {
+        return Texts::tr("There is no page %1: pages are counted from 1.").arg(first.startsWith(u'0') ? first : last);
+    }
+    if (!last.isEmpty() && last.toInt() < first.toInt()) {
+        return Texts::tr("The pages %1-%2 run backwards: write %2-%1.").arg(first, last);
+    }
+    return {};
 }
 
 } // namespace
@@ -74,6 +97,21 @@ QString wellFormedPageRanges(const QString &text)
         words.append(rangeText(range));
     }
     return words.join(u',');
+}
+
+QString pageRangesProblem(const QString &text)
+{
+    if (!wellFormedPageRanges(text).isNull()) {
+        return {};
+    }
+    static const QRegularExpression blanks(QStringLiteral("\\s+"));
+    const QString bare = QString(text).remove(blanks);
+    for (const QString &part : bare.split(u',', Qt::SkipEmptyParts)) {
+        if (QString problem = partProblem(part); !problem.isNull()) {
+            return problem;
+        }
+    }
+    return partProblem(bare); // a comma too many
 }
 
 } // namespace tapeprint::job

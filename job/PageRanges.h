@@ -25,4 +25,7 @@ std::vector<PageRange> pageRangesOf(const QString &text, int total);
 /// lists. Empty for an empty text; null for a text that is no such list.
 QString wellFormedPageRanges(const QString &text);
 
+/// What is wrong with a text that is no such list, in one sentence; null for a list and for an empty text.
+QString pageRangesProblem(const QString &text);
+
 } // namespace tapeprint::job

@@ -184,7 +184,7 @@ QString problemOf(ppd_file_t *ppd, const QString &name, const QString &value, co
         return mediaProblem(ppd, value);
     }
     if (name == OptionName::pageRanges && wellFormedPageRanges(value).isNull()) {
-        return Texts::tr("%1=%2 is no value that CUPS knows for %1.").arg(name, value);
+        return QStringLiteral("%1=%2: %3").arg(name, value, pageRangesProblem(value));
     }
     if (name.compare(OptionName::pageSize, Qt::CaseInsensitive) == 0 && isCustom(value)) {
         return customSizeProblem(ppd, name, value);

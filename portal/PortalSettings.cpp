@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 #include <pdekit/Numbers.h>
 
@@ -85,22 +86,26 @@ QString readNumberUpLayout(const QString &value)
     return order.match(value).hasMatch() ? unlessNeutral(value, QLatin1String("lrtb")) : QString();
 }
 
-/// Ranges count from 0 there, from 1 here.
+/// Ranges count from 0 there, from 1 here. What is no list of pages is not left out: all pages would come out where a
+/// few were asked for. The person sees it where pages are typed.
 QString readPageRanges(const QString &value)
 {
-    static const QRegularExpression ranges(QStringLiteral("\\A\\d{1,6}(-\\d{1,6})?(,\\d{1,6}(-\\d{1,6})?)*\\z"));
-    if (!ranges.match(value).hasMatch()) {
+    constexpr qsizetype mostCharacters = 4096;
+    static const QRegularExpression number(QStringLiteral("\\d+"));
+    if (value.size() > mostCharacters) {
         return {};
     }
-    QStringList list;
-    for (const QString &range : value.split(u',')) {
-        QStringList ends;
-        for (const QString &page : range.split(u'-')) {
-            ends.append(QString::number(page.toInt() + 1));
-        }
-        list.append(ends.join(u'-'));
+    QString counted;
+    qsizetype end = 0;
+    for (auto numbers = number.globalMatch(value); numbers.hasNext();) {
+        const QRegularExpressionMatch page = numbers.next();
+        bool isSmall = false;
+        const int index = page.captured().toInt(&isSmall);
+        counted += value.mid(end, page.capturedStart() - end) +
+                   (isSmall && index < std::numeric_limits<int>::max() ? QString::number(index + 1) : page.captured());
+        end = page.capturedEnd();
     }
-    return list.join(u',');
+    return job::harmless(counted + value.mid(end));
 }
 
 /// A key whose value is an option of any printer's.

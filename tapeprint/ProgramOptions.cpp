@@ -54,10 +54,12 @@ bool takeCopies(CommandLine &line, const QString &value, Problem *error)
 
 bool takePages(CommandLine &line, const QString &value, Problem *error)
 {
-    if (value.isEmpty() || job::wellFormedPageRanges(value).isNull()) {
-        return refuse(
-            error,
-            QStringLiteral("\"%1\" is no list of pages: give -P page numbers and ranges such as 1-4,7.").arg(value));
+    if (value.isEmpty()) {
+        return refuse(error,
+                      QStringLiteral("\"\" is no list of pages: give -P page numbers and ranges such as 1-4,7."));
+    }
+    if (const QString problem = job::pageRangesProblem(value); !problem.isNull()) {
+        return refuse(error, QStringLiteral("-P \"%1\": %2").arg(value, problem));
     }
     line.request.options.set(job::OptionName::pageRanges, value);
     return true;

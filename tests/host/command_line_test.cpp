@@ -73,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ErrorCase{{u"-d"_qs, u"/inst"_qs}, u"-d needs"_qs}, ErrorCase{{u"-n"_qs, u"0"_qs}, u"\"0\""_qs},
                     ErrorCase{{u"-n"_qs, u"two"_qs}, u"\"two\""_qs}, ErrorCase{{u"-n"_qs, u"2.5"_qs}, u"\"2.5\""_qs},
                     ErrorCase{{u"-P"_qs, u"0-2"_qs}, u"\"0-2\""_qs}, ErrorCase{{u"-P"_qs, u"1,,2"_qs}, u"\"1,,2\""_qs},
-                    ErrorCase{{u"-P"_qs, u"9-3"_qs}, u"\"9-3\""_qs},
+                    ErrorCase{{u"-P"_qs, u"9-3"_qs}, u"\"9-3\""_qs}, ErrorCase{{u"-P"_qs, u"9-3"_qs}, u"write 3-9"_qs},
                     ErrorCase{{u"-P"_qs, u""_qs}, u"is no list of pages"_qs},
                     ErrorCase{{u"-o"_qs, u""_qs}, u"NAME=VALUE"_qs}, ErrorCase{{u"--ppd="_qs}, u"--ppd needs"_qs},
                     ErrorCase{{u"--ppdx"_qs, u"a"_qs}, u"--ppdx"_qs}, ErrorCase{{u"-Z"_qs}, u"-Z is no option"_qs},

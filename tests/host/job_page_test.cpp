@@ -366,7 +366,7 @@ TEST_F(JobPageTest, PagesThatAreNoList_AreSaidAtTheFieldAndNotPrinted)
     EXPECT_FALSE(problem->isVisible());
     type(u"pageRanges"_qs, u"3-1"_qs);
     EXPECT_TRUE(problem->isVisible());
-    EXPECT_EQ(problem->text(), u"Write pages as 1-3,7"_qs);
+    EXPECT_EQ(problem->text(), u"The pages 3-1 run backwards: write 1-3."_qs);
     turnTo(u"Page Settings"_qs);
     clickPrint();
     EXPECT_FALSE(settled);
@@ -374,6 +374,27 @@ TEST_F(JobPageTest, PagesThatAreNoList_AreSaidAtTheFieldAndNotPrinted)
     EXPECT_TRUE(child<QLineEdit>(u"pageRanges"_qs)->hasFocus());
     type(u"pageRanges"_qs, u"1-3"_qs);
     EXPECT_FALSE(problem->isVisible());
+    clickPrint();
+    EXPECT_TRUE(settled);
+}
+
+TEST_F(JobPageTest, PagesThatWereHandedInAndAreNoList_AreSaidBeforePrintIsPressed)
+{
+    open(9, true, hosttest::options({{u"page-ranges"_qs, u"6-4"_qs}}));
+    const QString backwards = u"The pages 6-4 run backwards: write 4-6."_qs;
+    const auto *notices = child<QLabel>(u"notices"_qs);
+    EXPECT_TRUE(notices->text().contains(backwards)) << notices->text().toStdString();
+    turnTo(u"Job"_qs);
+    EXPECT_EQ(child<QLineEdit>(u"pageRanges"_qs)->text(), u"6-4"_qs);
+    auto *problem = child<QLabel>(u"pageRangesProblem"_qs);
+    EXPECT_TRUE(problem->isVisible());
+    EXPECT_EQ(problem->text(), backwards);
+    clickPrint();
+    EXPECT_FALSE(settled);
+    type(u"pageRanges"_qs, u"4-6"_qs);
+    EXPECT_FALSE(problem->isVisible());
+    EXPECT_EQ(notices->text(), QString());
+    EXPECT_EQ(option(u"page-ranges"_qs), u"4-6"_qs);
     clickPrint();
     EXPECT_TRUE(settled);
 }

@@ -116,7 +116,6 @@ TEST_F(ProgramsSettings, NonsenseAndUnknownKeys_AreLeftOut)
     EXPECT_EQ(usual(texts({{u"n-copies"_qs, u"-1"_qs},
                            {u"collate"_qs, u"perhaps"_qs},
                            {u"reverse"_qs, u""_qs},
-                           {u"page-ranges"_qs, u"3-"_qs},
                            {u"page-set"_qs, u"prime"_qs},
                            {u"number-up"_qs, u"two"_qs},
                            {u"number-up-layout"_qs, u"lrlr"_qs},
@@ -125,6 +124,18 @@ TEST_F(ProgramsSettings, NonsenseAndUnknownKeys_AreLeftOut)
               QStringList());
     EXPECT_EQ(usual(texts({{u"n-copies"_qs, u"99999999999999999999"_qs}})), QStringList());
     EXPECT_EQ(usual(texts({{u"page-ranges"_qs, QString(100000, u'9')}})), QStringList());
+}
+
+TEST_F(ProgramsSettings, PagesThatAreNoList_AreShownToThePersonInPlaceOfAllPages)
+{
+    for (const auto &[asked, shown] : {std::pair{u"5-3"_qs, u"page-ranges=6-4"_qs},
+                                       {u"a"_qs, u"page-ranges=a"_qs},
+                                       {u"0,x,7"_qs, u"page-ranges=1,x,8"_qs},
+                                       {u"2147483647"_qs, u"page-ranges=2147483647"_qs},
+                                       {u"99999999999"_qs, u"page-ranges=99999999999"_qs},
+                                       {u"1-\n"_qs, u"page-ranges=2-\\n"_qs}}) {
+        EXPECT_EQ(usual(texts({{u"page-ranges"_qs, asked}})), QStringList{shown});
+    }
 }
 
 TEST_F(ProgramsSettings, ValuesOfOtherTypes_AreLeftOut)
