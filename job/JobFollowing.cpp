@@ -2,6 +2,7 @@
 // Asking the server again and again, and putting its keywords and messages into sentences.
 #include "job/JobFollowing.h"
 
+#include "job/Advice.h"
 #include "job/PlainText.h"
 #include "job/ServerConnection.h"
 #include "job/StateReasons.h"
@@ -116,7 +117,9 @@ QString JobNews::sentence() const
     case IPP_JSTATE_ABORTED:
         return Texts::tr("Job %1 has failed: %2.").arg(name, whyItFailed(*this));
     case IPP_JSTATE_STOPPED:
-        return Texts::tr("Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1")
+        return advice(Texts::tr("Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the "
+                                "desktop's printer settings."),
+                      QStringLiteral("Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1"))
             .arg(name, whyItFailed(*this));
     case IPP_JSTATE_CANCELED:
         return Texts::tr("Job %1 was cancelled.").arg(name);

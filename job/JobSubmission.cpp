@@ -247,8 +247,11 @@ private:
             const int documents = static_cast<int>(mSubmission.files.size());
             rememberLeftJob(
                 {mSubmission.queue.name, mSubmission.title, mJobId, mHoldUntil.isNull() ? documents : documents + 1});
-            const QString left = Texts::tr("Job %1 may be left half sent on the server; cancel it with: cancel %2-%1")
-                                     .arg(QString::number(mJobId), harmless(mSubmission.queue.name));
+            const QString left =
+                advice(Texts::tr("Job %2-%1 may be left half sent on the server: cancel it in the desktop's printer "
+                                 "settings."),
+                       QStringLiteral("Job %1 may be left half sent on the server; cancel it with: cancel %2-%1"))
+                    .arg(QString::number(mJobId), harmless(mSubmission.queue.name));
             error->sentence = error->isNull() ? left : error->sentence + u' ' + left;
             error->kind = error->kind == Problem::Cancelled ? Problem::FailedJob : error->kind; // nobody wanted that
         }

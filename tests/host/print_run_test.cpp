@@ -3,6 +3,7 @@
 #include "dialog/JobRow.h"
 #include "dialog/PasswordQuestion.h"
 #include "dialog/PrintRun.h"
+#include "job/Advice.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QApplication>
@@ -61,6 +62,10 @@ TEST(JobNews, FailedJob_SaysWhyInTheServersWords)
     EXPECT_EQ(said(failed),
               u"Job tape-7 has failed: Unable to open the document. It stays in the queue; cancel it with: "
               "cancel tape-7"_qs);
+    const job::AdviceForTheWindow window; // whoever sits there types no command
+    EXPECT_EQ(said(failed),
+              u"Job tape-7 has failed: Unable to open the document. It stays in the queue: cancel it or start it again "
+              "in the desktop's printer settings."_qs);
 }
 
 TEST(JobNews, PrinterThatNeedsSomebody_SaysWhatItLacksAndWhatItSays)
