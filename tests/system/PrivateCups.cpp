@@ -170,6 +170,7 @@ void PrivateCups::guard(QByteArray &configuration)
                                            "  </Limit>\n"
                                            "  <Limit All>");
     configuration += "Listen " + guardedServer().toLatin1() + '\n';
+    mFolder.makeFolder(QStringLiteral("etc/ssl"), 0700); // for a certificate, if somebody wants an encrypted connection
     const QString known = writeFile(mFolder.path(QStringLiteral("passwords")), mPassword + ":cups\n", 0600);
     const QByteArray module = QFile::encodeName(passwordModule()) + " passdb=" + QFile::encodeName(known) + '\n';
     const QString services = mFolder.makeFolder(QStringLiteral("pam"));
