@@ -58,7 +58,9 @@ PresetRow::PresetRow(OptionsToSave optionsToSave, QWidget *parent)
     layout->setContentsMargins({});
     mPopUp = new PopUp(this);
     mPopUp->setObjectName(QStringLiteral("preset"));
+    // It wishes for no more: the column that it stands in is as wide as the one below, also where that is narrow.
     mPopUp->setMinimumWidth(QFontMetrics(mPopUp->font()).averageCharWidth() * shownLetters);
+    mPopUp->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto *label = new QLabel(tr("Pre&set:"), this);
     label->setBuddy(mPopUp);
     mMenuButton = new MenuButton(this);

@@ -8,8 +8,10 @@
 #include "dialog/NoticesArea.h"
 #include "dialog/PageStack.h"
 #include "dialog/PopUp.h"
+#include "dialog/PresetRow.h"
 #include "dialog/PreviewArea.h"
 #include "dialog/PrintDialog.h"
+#include "dialog/ScrollingColumn.h"
 #include "dialog/SummaryView.h"
 #include "dialog/Translations.h"
 #include "tests/support/TextPrinting.h"
@@ -162,6 +164,27 @@ TEST_P(WindowSize, Panel_IsSeenWholeOnASmallScreen)
             EXPECT_TRUE(QTest::qWaitFor(isWhole, settledMs))
                 << printer.toStdString() << " on " << screen.width() << ": "
                 << scroller->horizontalScrollBar()->maximum() << " and " << scroller->verticalScrollBar()->maximum();
+        }
+    }
+}
+
+TEST_P(WindowSize, RightColumns_BeginAtOneEdgeOnSmallScreens)
+{
+    const auto begin = [this](const QWidget &column) {
+        const QRect place(column.mapTo(dialog.get(), QPoint()), column.size());
+        return dialog->isRightToLeft() ? dialog->rect().right() - place.right() : place.left();
+    };
+    for (const QSize size : {smallScreen, QSize(1024, 600)}) {
+        for (const QString &printer : {u"mm"_qs, u"plain"_qs}) {
+            ASSERT_NO_FATAL_FAILURE(open(printer));
+            ASSERT_NO_FATAL_FAILURE(show(size));
+            const int lower = begin(*dialog->findChild<ScrollingColumn *>());
+            const bool isBelow = lower < dialog->width() / 4; // where wide pages leave it no room beside them
+            EXPECT_FALSE(isBelow && size != smallScreen) << printer.toStdString();
+            if (!isBelow) { // rounded once in each of the two layouts
+                EXPECT_NEAR(begin(*dialog->findChild<PresetRow *>()), lower, 1)
+                    << size.width() << ' ' << printer.toStdString();
+            }
         }
     }
 }
