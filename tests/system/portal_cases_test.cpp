@@ -149,6 +149,7 @@ TEST_F(PortalCase, HomeThatCannotBeWritten_PrintsAndSaysThatNothingIsKept)
 TEST_F(PortalCase, PrinterOfEarlierSettingsThatIsGone_GivesWayToTheDefaultInTheWindow)
 {
     ASSERT_NO_FATAL_FAILURE(open(true));
+    ASSERT_TRUE(cups.addRecordedQueue(u"further"_qs, u"mm"_qs).isNull()); // or the only one would be taken anyhow
     prepare(u"gone"_qs, {{u"printer"_qs, u"another"_qs}});
     ASSERT_NO_FATAL_FAILURE(openDialog(dialog));
     dialog.clickPrint();
