@@ -131,8 +131,12 @@ void LayoutPage::addNumbers(QFormLayout *form)
 {
     mNumber = addPopUp(form, mIsTape ? tr("Pages on a label:") : tr("Pages on a sheet:"), "layoutNumber",
                        OptionName::numberUp);
+    // Labels are laid out here. Sheets of paper are not, and the server need not know every number.
+    const job::Destination &to = mJob.destination();
     for (const int number : {1, 2, 3, 4, 6, 9, 16}) {
-        mNumber->addItem(QString::number(number), QString::number(number));
+        if (mIsTape || to.isFile() || to.queue->limits.takesPagesASheet(number)) {
+            mNumber->addItem(QString::number(number), QString::number(number));
+        }
     }
     mOrder = addPopUp(form, tr("Their order:", "of the pages on a label or sheet"), "layoutOrder",
                       OptionName::numberUpLayout);

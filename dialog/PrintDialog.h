@@ -160,6 +160,9 @@ private:
     void pickOption(const QString &key, const QString &choice);
     void pickPage(int index);
     void follow();
+    /// Copies that can be asked for where no server has a limit of its own.
+    static constexpr int mostCopies = 9999;
+    void followCopies();
     void followInThePreview();
     QString whyNoPreview(const job::TapePage &page) const;
     void makeConflictNotice();

@@ -180,7 +180,7 @@ void PrintDialog::follow()
     followInThePreview();
     followInThePresets();
     mPapers->follow();
-    mCopiesField->setValue(mJob.copies());
+    followCopies();
     if (mLayoutPage) {
         mLayoutPage->follow();
     }
@@ -192,6 +192,15 @@ void PrintDialog::follow()
     }
     showNotices(); // panels were asked for much by now
     followConflicts();
+}
+
+/// More than the server makes cannot be typed. More that was asked for at first stays, and is said when it is printed.
+void PrintDialog::followCopies()
+{
+    const job::Destination &to = mJob.destination();
+    const int limit = to.isFile() ? 0 : to.queue->limits.mostCopies;
+    mCopiesField->setMaximum(std::max(limit > 0 ? limit : mostCopies, mJob.copies()));
+    mCopiesField->setValue(mJob.copies());
 }
 
 void PrintDialog::followInThePreview()

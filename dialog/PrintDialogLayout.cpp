@@ -42,7 +42,6 @@ namespace tapeprint::dialog
 namespace
 {
 
-constexpr int mostCopies = 9999;
 /// On half of a screen of 1366 by 768, which is what is left of it at 200 %, the window is still whole.
 constexpr QSize smallestPagesArea(280, 64);
 constexpr int smallGap = 4;

@@ -8,6 +8,7 @@
 #include "job/LaidOutDocument.h"
 #include "job/LaidOutJob.h"
 #include "job/PageLayout.h"
+#include "job/ServerLimits.h"
 #include "job/TextEncoding.h"
 #include "job/UsualOptions.h"
 
@@ -142,6 +143,12 @@ std::optional<PreparedJob> prepareJob(const SettledJob &job, const QStringList &
                                       Problem *error)
 {
     PreparedJob prepared{files, job.carried(), {}};
+    const bool goesToServer = !job.isFile() && job.pdfPath.isEmpty();
+    if (const std::optional<QString> refusal =
+            goesToServer ? beyondLimits(job.queue->limits, prepared.options) : std::nullopt) {
+        *error = {Problem::RefusedValue, *refusal};
+        return std::nullopt;
+    }
     if (job.page.isTape) {
         return layOut(prepared, job, files, stop, error) ? std::optional(std::move(prepared)) : std::nullopt;
     }

@@ -104,8 +104,10 @@ bool isAnswered(const ServerConnection &server, const QString &queue)
 /// the person saved is laid down by the dialog.
 void completeFromServer(const ServerConnection &server, PrintQueue &queue)
 {
-    const Response response =
-        askAbout(server, queue.name, std::array{"printer-config-change-time", "printer-defaults"});
+    const Response response = askAbout(
+        server, queue.name,
+        std::array{"printer-config-change-time", "printer-defaults", "copies-supported", "number-up-supported"});
+    queue.limits = limitsIn(response.get());
     static const QLatin1String ending("-default");
     for (ipp_attribute_t *attribute = ippFirstAttribute(response.get()); attribute != nullptr;
          attribute = ippNextAttribute(response.get())) {

@@ -6,6 +6,7 @@
 #include "job/PpdFile.h"
 #include "job/Problem.h"
 #include "job/ServerConnection.h"
+#include "job/ServerLimits.h"
 
 #include <QByteArray>
 #include <QString>
@@ -33,6 +34,7 @@ struct PrintQueue {
     QString deviceUri;    ///< null when the server does not say
     int configuredAt = 0; ///< when its PPD or its settings were changed last, in the server's seconds
     JobOptions options;   ///< what the person saved for the queue or instance
+    ServerLimits limits;  ///< what the server takes in a job, as far as it says
 
     /// QUEUE or QUEUE/INSTANCE.
     QString fullName() const { return QueueName{name, instance}.text(); }

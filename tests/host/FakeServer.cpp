@@ -100,6 +100,7 @@ std::optional<job::Destination> FakeServer::open(const job::JobRequest &request,
         destination.queue->name = queue->printer.name;
         destination.queue->instance = request.instance;
         destination.queue->configuredAt = queue->printer.configuredAt;
+        destination.queue->limits = queue->limits;
         destination.outputPath = request.outputPath;
         destination.ppdPath = request.ppdPath;
         destination.ppdDigest = queue->morePpd + "digest";

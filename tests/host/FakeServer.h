@@ -40,6 +40,11 @@ public:
     {
         locked([&] { mDefault = name; });
     }
+    /// What the server takes in a job for a queue.
+    void limit(const QString &name, const tapeprint::job::ServerLimits &limits)
+    {
+        locked([&] { find(name)->limits = limits; });
+    }
     /// A server that is silent answers that it does not answer.
     void setSilent(bool isSilent)
     {
@@ -85,6 +90,7 @@ private:
     struct Queue {
         tapeprint::job::Printer printer;
         QByteArray morePpd;
+        tapeprint::job::ServerLimits limits = {};
     };
 
     Queue *find(const QString &name);

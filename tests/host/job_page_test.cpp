@@ -111,6 +111,7 @@ protected:
         if (hasQueue) {
             destination.queue = job::PrintQueue();
             destination.queue->name = u"Queue"_qs;
+            destination.queue->limits = limits;
         }
         panels.open(std::move(destination), asked);
         dialog = std::make_unique<PrintDialog>(
@@ -204,6 +205,15 @@ protected:
         QTest::mouseClick(save, Qt::LeftButton);
     }
 
+    QStringList itemsOf(const QString &popUp)
+    {
+        QStringList items;
+        for (int i = 0; i < child<QComboBox>(popUp)->count(); ++i) {
+            items.append(child<QComboBox>(popUp)->itemText(i));
+        }
+        return items;
+    }
+
     QString option(const QString &name) { return printJob.options().value(name); }
     bool saysAmount(const QString &words)
     {
@@ -216,6 +226,7 @@ protected:
     job::Job printJob;
     Panels panels{printJob, {QStringLiteral(TAPEPRINT_BUNDLE_DIR)}};
     std::unique_ptr<PrintDialog> dialog;
+    job::ServerLimits limits;               ///< of the queue
     std::optional<job::SettledJob> settled; ///< what Print did last
     std::atomic<bool> isHeld = false;       ///< whether printing lasts
 };
@@ -517,6 +528,20 @@ TEST_F(JobPageTest, LayoutOfTape_HasPlacesAndSeveralPagesALabel)
     EXPECT_EQ(option(u"number-up-layout"_qs), u"rltb"_qs);
     const job::Label &other = child<PreviewArea>(u"previewArea"_qs)->plan().labels.front();
     EXPECT_LT(other.at(0).clip.top(), other.at(1).clip.top());
+}
+
+TEST_F(JobPageTest, PagesOnASheetOfPaper_AreAsManyAsTheServerTakes)
+{
+    limits.pagesASheet = {1, 2, 4, 9};
+    open(4, false);
+    EXPECT_EQ(itemsOf(u"layoutNumber"_qs), (QStringList{u"1"_qs, u"2"_qs, u"4"_qs, u"9"_qs}));
+}
+
+TEST_F(JobPageTest, PagesOnALabel_AreNoMatterOfTheServer)
+{
+    limits.pagesASheet = {1, 2, 4, 9};
+    open(4);
+    EXPECT_TRUE(itemsOf(u"layoutNumber"_qs).contains(u"3"_qs));
 }
 
 TEST_F(JobPageTest, LayoutOfPaper_HasWhatTheFiltersHonour)

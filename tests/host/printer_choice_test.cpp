@@ -97,6 +97,35 @@ protected:
     std::unique_ptr<PrintDialog> window;
 };
 
+TEST_F(PrinterChoice, CopiesThatTheServerDoesNotMake_CannotBeTyped)
+{
+    server->limit(u"tape"_qs, {20, {}});
+    openWith(u"tape"_qs);
+    auto *copies = child<QSpinBox>("copies");
+    copies->selectAll();
+    QTest::keyClicks(copies, u"21"_qs);
+    copies->setValue(copies->value() + 100); // as by many steps
+    EXPECT_LE(printJob.copies(), 20);
+    EXPECT_EQ(copies->maximum(), 20);
+    pick(u"other"_qs);
+    ASSERT_TRUE(waitForPrinter(u"other"_qs));
+    EXPECT_GT(copies->maximum(), 20);
+}
+
+TEST_F(PrinterChoice, MoreCopiesThanTheServerMakesAskedForAtFirst_StayAsTheyAreAskedFor)
+{
+    server->limit(u"tape"_qs, {20, {}});
+    job::JobRequest request;
+    request.queue = u"tape"_qs;
+    request.options.set(job::OptionName::copies, u"50"_qs);
+    open(request);
+    ASSERT_TRUE(waitForPrinter(u"tape"_qs));
+    EXPECT_EQ(child<QSpinBox>("copies")->value(), 50);
+    EXPECT_EQ(printJob.copies(), 50); // Print says that they are too many
+    child<QSpinBox>("copies")->setValue(3);
+    EXPECT_TRUE(waitFor([&] { return child<QSpinBox>("copies")->maximum() == 20; }));
+}
+
 TEST_F(PrinterChoice, WhileThePrinterIsConnected_TheWindowIsUpAndPrintIsOff)
 {
     server->hold(u"tape"_qs);

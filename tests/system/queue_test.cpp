@@ -155,6 +155,43 @@ TEST_F(QueueJob, Check_TellsAQueueThatTakesNoJobsFromOneThatDoes)
     EXPECT_TRUE(cups.jobs().empty());
 }
 
+class LimitedServer : public QueueJob
+{
+protected:
+    void SetUp() override
+    {
+        cups.configure("MaxCopies 20");
+        QueueJob::SetUp();
+    }
+};
+
+// cupsd puts 1, 2, 4, 6, 9 or 16 pages on a sheet.
+TEST_F(LimitedServer, MoreThanItTakes_IsRefusedByTheCheckAndBeforeAnythingIsSent)
+{
+    ASSERT_TRUE(cups.addRecordedQueue(u"paper"_qs, u"plain"_qs).isNull());
+    const auto expectRefusal = [this](const QStringList &arguments, const char *limit) {
+        for (const QStringList &way : {QStringList{u"--check"_qs}, QStringList{u"--no-dialog"_qs},
+                                       QStringList{u"--no-dialog"_qs, u"--adjust"_qs}}) {
+            const Outcome outcome = tapeprint(way + arguments + QStringList{document});
+            EXPECT_EQ(outcome.status, testsupport::refusedValue) << outcome.output.toStdString();
+            EXPECT_TRUE(outcome.messages.contains(limit)) << outcome.messages.toStdString();
+        }
+    };
+    expectRefusal({u"-d"_qs, u"tape"_qs, u"-n"_qs, u"21"_qs}, "20 copies of a job at most");
+    expectRefusal({u"-d"_qs, u"paper"_qs, u"-n"_qs, u"21"_qs}, "20 copies of a job at most");
+    expectRefusal({u"-d"_qs, u"paper"_qs, u"-o"_qs, u"number-up=3"_qs}, "one of 1, 2, 4, 6, 9, 16");
+    EXPECT_TRUE(cups.jobs().empty());
+
+    // Labels are laid out by the program, and what goes to a file is the program's alone.
+    const auto expectDone = [this](const QStringList &arguments) {
+        const Outcome outcome = tapeprint(arguments + QStringList{document});
+        EXPECT_EQ(outcome.status, testsupport::done) << outcome.messages.toStdString();
+    };
+    expectDone({u"--check"_qs, u"-d"_qs, u"tape"_qs, u"-n"_qs, u"20"_qs, u"-o"_qs, u"number-up=3"_qs});
+    expectDone({u"--check"_qs, u"-d"_qs, u"tape"_qs, u"-n"_qs, u"21"_qs, u"--pdf"_qs, u"labels.pdf"_qs});
+    expectDone({u"--no-dialog"_qs, u"-d"_qs, u"tape"_qs, u"-n"_qs, u"20"_qs});
+}
+
 TEST_F(QueueJob, ServerOfTheLetterH_IsTheOneThatIsUsed)
 {
     moreVariables = {{u"CUPS_SERVER"_qs, folder.path(u"nobody.sock"_qs)}};
