@@ -5,6 +5,7 @@
 #include "job/CupsOptions.h"
 #include "job/CustomSizes.h"
 #include "job/IppAttributeNames.h"
+#include "job/MediaWords.h"
 #include "job/PpdMarks.h"
 #include "job/Texts.h"
 
@@ -55,12 +56,25 @@ void nameTape(ppd_file_t *ppd, JobOptions *job)
     if (job->contains(OptionName::pageSize)) {
         return;
     }
-    const QString media = job->value(OptionName::media);
-    const bool isCustom = media.startsWith(QLatin1String("Custom."), Qt::CaseInsensitive);
-    const QString tape = isCustom ? media : markedPaper(ppd);
+    const QString own = ownSizeIn(ppd, job->value(OptionName::media));
+    if (!own.isNull()) {
+        markChoice(ppd, OptionName::pageSize, own);
+    }
+    const QString tape = own.isNull() ? markedPaper(ppd) : own;
     if (!tape.isNull()) {
         job->set(OptionName::pageSize, tape);
         setDefaultChoice(ppd, OptionName::pageSize, tape);
+    }
+}
+
+/// A tray or a kind of paper that media calls by the printer's own word, which libcups does not take for one.
+void nameTrays(ppd_file_t *ppd, JobOptions *job)
+{
+    for (const QString &word : job->value(OptionName::media).split(u',')) {
+        const QString tray = trayNamed(ppd, word);
+        if (!tray.isNull() && !job->contains(tray) && listedChoice(ppd, OptionName::pageSize, word).isNull()) {
+            layDownOne({tray, word}, ppd, job);
+        }
     }
 }
 
@@ -120,6 +134,7 @@ void layDown(const JobOptions &options, ppd_file_t *ppd, JobOptions *job)
         layDownOne(entry, ppd, job);
     }
     nameTape(ppd, job);
+    nameTrays(ppd, job);
 }
 
 std::optional<pdekit::Paper> markedPaper(ppd_file_t *ppd)

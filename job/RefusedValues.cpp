@@ -5,6 +5,7 @@
 #include "job/CustomSizes.h"
 #include "job/CustomValues.h"
 #include "job/IppAttributeNames.h"
+#include "job/MediaWords.h"
 #include "job/PageRanges.h"
 #include "job/PpdMarks.h"
 #include "job/TapePage.h"
@@ -142,9 +143,7 @@ bool hasSize(ppd_file_t *ppd, const pwg_media_t &media)
 /// Whether CUPS finds a paper, a tray or a kind of paper by a name in the option media.
 bool isMedia(ppd_file_t *ppd, const QString &name)
 {
-    static const QStringList trays{QStringLiteral("InputSlot"), QStringLiteral("MediaType")};
-    const auto isListed = [&](const QString &key) { return !listedChoice(ppd, key, name).isNull(); };
-    if (isListed(OptionName::pageSize) || std::any_of(trays.begin(), trays.end(), isListed)) {
+    if (!listedChoice(ppd, OptionName::pageSize, name).isNull() || !trayNamed(ppd, name).isNull()) {
         return true;
     }
     const QByteArray bytes = name.toUtf8();
@@ -152,23 +151,17 @@ bool isMedia(ppd_file_t *ppd, const QString &name)
     if (size == nullptr) {
         size = pwgMediaForLegacy(bytes.constData());
     }
-    if (size != nullptr) {
-        return hasSize(ppd, *size);
-    }
-    // What is written as a keyword may be one of a tray or of a kind of paper, which the print server makes of the
-    // printer's own words. Where there are none it means nothing.
-    const bool hasTrays =
-        std::any_of(trays.begin(), trays.end(), [&](const QString &key) { return findOption(ppd, key) != nullptr; });
-    return hasTrays && matches(QStringLiteral("[a-z]+(-[a-z0-9]+)*"), name);
+    return size != nullptr ? hasSize(ppd, *size) : isKeywordOfTray(ppd, name);
 }
 
 QString mediaProblem(ppd_file_t *ppd, const QString &value)
 {
-    if (isCustom(value)) {
-        return customSizeProblem(ppd, OptionName::media, value);
-    }
     for (const QString &name : value.split(u',')) {
-        if (ppd != nullptr && !isMedia(ppd, name)) {
+        if (isCustom(name)) {
+            if (QString problem = customSizeProblem(ppd, OptionName::media, name); !problem.isNull()) {
+                return problem;
+            }
+        } else if (ppd != nullptr && !isMedia(ppd, name)) {
             return Texts::tr("media=%1 is none of the choices that the printer's PPD lists.").arg(name);
         }
     }

@@ -45,11 +45,17 @@ TEST_F(RefusedValuesTest, SizeThatThePrinterHasNot_IsRefusedByEveryNameOfIt)
 TEST_F(RefusedValuesTest, WordOfATray_IsRefusedWhereThereAreNone)
 {
     EXPECT_TRUE(isRefused(ppdOf(tapePpdText()), u"media"_qs, u"tray-1"_qs));
-    const PpdFile trays = ppdOf(tapePpdText("*OpenUI *InputSlot: PickOne\n*OrderDependency: 30 AnySetup *InputSlot\n"
-                                            "*DefaultInputSlot: Tray1\n*InputSlot Tray1/One: \"\"\n"
-                                            "*InputSlot Tray2/Two: \"\"\n*CloseUI: *InputSlot\n"));
+    const PpdFile trays =
+        ppdOf(tapePpdText(customPages + "*OpenUI *InputSlot: PickOne\n*OrderDependency: 30 AnySetup *InputSlot\n"
+                                        "*DefaultInputSlot: Tray1\n*InputSlot Tray1/One: \"\"\n"
+                                        "*InputSlot Tray2/Two: \"\"\n*CloseUI: *InputSlot\n"));
     EXPECT_FALSE(isRefused(trays, u"media"_qs, u"tray-1"_qs));
     EXPECT_FALSE(isRefused(trays, u"media"_qs, u"T72,Tray2"_qs));
+    EXPECT_TRUE(isRefused(trays, u"media"_qs, u"foo"_qs));
+    EXPECT_TRUE(isRefused(trays, u"media"_qs, u"T72,tray-3"_qs));
+    EXPECT_FALSE(isRefused(trays, u"media"_qs, u"Custom.24x50mm,Tray2"_qs));
+    EXPECT_TRUE(isRefused(trays, u"media"_qs, u"Custom.24x50mm,foo"_qs));
+    EXPECT_TRUE(isRefused(trays, u"media"_qs, u"Tray2,Custom.24xmm"_qs));
 }
 
 TEST_F(RefusedValuesTest, ValuesThatCupsDoesNotRead_AreRefused)

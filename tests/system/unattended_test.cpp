@@ -140,6 +140,21 @@ TEST_F(UnattendedJob, OptionsLaidDown_ArriveAndShapeTheJob)
     expectDots(labels[0].rows, 60.0, 600.0);
 }
 
+// Whoever asks for 50 mm of tape gets 50 mm, by whatever name.
+TEST_F(UnattendedJob, LengthOfASizeOfOnesOwn_ArrivesAsItWasAskedFor)
+{
+    const Words expected = panelOptionsMm({"KsTapeLength=50.0", "PageSize=Custom.24x50mm"});
+    for (const QString &size :
+         {u"media=custom_24x50mm_24x50mm"_qs, u"media=Custom.24x50mm"_qs, u"PageSize=Custom.24x50mm"_qs}) {
+        const std::vector<FilterCall> calls = printed({u"-o"_qs, size, document});
+        ASSERT_EQ(calls.size(), 1U) << size.toStdString();
+        EXPECT_EQ(tapeOptions(calls[0]), expected) << size.toStdString();
+        const std::vector<Label> labels = labelsIn(cups.printedBy(u"tape"_qs));
+        ASSERT_EQ(labels.size(), 1U) << size.toStdString();
+        expectDots(labels[0].rows, 50.0, 300.0);
+    }
+}
+
 TEST_F(UnattendedJob, ValueThatThePpdDoesNotList_ArrivesAsItIs)
 {
     const std::vector<FilterCall> calls = printed({u"-o"_qs, u"KsMargin=3.3"_qs, u"-o"_qs, u"KsOwn=x"_qs, document});
