@@ -23,18 +23,15 @@ namespace tapeprint::job
 namespace
 {
 
-/// Where temporary files go. QDir::tempPath() answers "/" where TMPDIR names a folder that is not there.
-QByteArray temporaryFolder()
+QByteArray encodedTemporaryFolder()
 {
-    const QByteArray given = qgetenv("TMPDIR");
-    return given.isEmpty() ? QByteArrayLiteral(P_tmpdir)
-                           : QFile::encodeName(QDir::cleanPath(QDir::current().filePath(QFile::decodeName(given))));
+    return QFile::encodeName(temporaryFolder());
 }
 
 /// What the system says, with the folder that it is about: the person may name another in TMPDIR.
 QString aboutTheFolder(const QString &reason)
 {
-    return QStringLiteral("%1: %2").arg(harmless(QFile::decodeName(temporaryFolder())), reason);
+    return QStringLiteral("%1: %2").arg(harmless(temporaryFolder()), reason);
 }
 
 class PrivateFolder
@@ -69,7 +66,7 @@ public:
 private:
     bool make()
     {
-        QByteArray path = temporaryFolder() + "/tapeprint-XXXXXX";
+        QByteArray path = encodedTemporaryFolder() + "/tapeprint-XXXXXX";
         if (mkdtemp(path.data()) == nullptr) {
             return false;
         }
@@ -92,6 +89,12 @@ PrivateFolder &privateFolder()
 
 } // namespace
 
+QString temporaryFolder()
+{
+    const QString given = QFile::decodeName(qgetenv("TMPDIR"));
+    return given.isEmpty() ? QStringLiteral(P_tmpdir) : QDir::cleanPath(QDir::current().filePath(given));
+}
+
 std::unique_ptr<PrivateFile> PrivateFile::create(const QString &name, QString *error)
 {
     const QString place = privateFolder().makePlace(error);
@@ -108,7 +111,7 @@ std::unique_ptr<PrivateFile> PrivateFile::create(const QString &name, QString *e
 
 std::unique_ptr<PrivateFile> PrivateFile::createUnnamed(const QString &otherwise, QString *error)
 {
-    const int handle = ::open(temporaryFolder().constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    const int handle = ::open(encodedTemporaryFolder().constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (handle < 0) {
         return create(otherwise, error); // which says what is wrong with the folder, if that is the reason
     }

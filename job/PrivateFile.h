@@ -11,6 +11,10 @@
 namespace tapeprint::job
 {
 
+/// The folder for temporary files, as TMPDIR names it, whether it is there or not. (QDir::tempPath() answers "/" where
+/// it is not.)
+QString temporaryFolder();
+
 /// A file in a folder of this process alone (mode 0700; the file's is 0600), below the folder for temporary files.
 /// Removed with this object; with the program in any case, also when that is killed.
 class PrivateFile

@@ -2,6 +2,8 @@
 // The first name that is free, after the document.
 #include "tapeprint/OutputPath.h"
 
+#include "job/PrivateFile.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -11,7 +13,7 @@ namespace tapeprint
 QString freeOutputPath(const QString &documentTitle)
 {
     const bool currentIsWritable = QFileInfo(QDir::currentPath()).isWritable();
-    const QDir folder(currentIsWritable ? QDir::currentPath() : QDir::tempPath());
+    const QDir folder(currentIsWritable ? QDir::currentPath() : job::temporaryFolder());
     QString stem = QFileInfo(documentTitle).completeBaseName();
     if (stem.isEmpty() || stem.startsWith(u'(')) {
         stem = QStringLiteral("tapeprint");
