@@ -300,8 +300,8 @@ bool convertToPdf(const QString &document, const QSizeF &textPagePt, const QStri
     }
     *error = {
         Problem::BadDocument,
-        Texts::tr("The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture "
-                  "or plain text.")
+        Texts::tr("The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, "
+                  "save it from there as a PDF or PNG, and print that.")
             .arg(harmless(document))};
     return false;
 }

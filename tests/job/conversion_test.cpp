@@ -91,6 +91,15 @@ TEST_F(DocumentConversion, Kinds_AreToldByTheFirstBytes)
     EXPECT_EQ(documentKindOf(folder.path(u"none"_qs)), DocumentKind::Unknown);
 }
 
+TEST_F(DocumentConversion, SourceOfADrawing_IsRefusedWithWhatToDo)
+{
+    Problem error;
+    const QString drawing = folder.write(u"logo.svg"_qs, "<svg xmlns=\"http://www.w3.org/2000/svg\"/>");
+    EXPECT_FALSE(convertToPdf(drawing, {200, 300}, folder.path(u"out.pdf"_qs), goOn, &error));
+    EXPECT_EQ(error.kind, Problem::BadDocument);
+    EXPECT_TRUE(error.sentence.contains(u"save it from there as a PDF or PNG"_qs)) << error.sentence.toStdString();
+}
+
 TEST_F(DocumentConversion, Kinds_SourcesOfDrawingsAndPagesAreNoPlainText)
 {
     for (const char *source : {"<svg xmlns=\"http://www.w3.org/2000/svg\"/>", "<!DOCTYPE html>\n<html/>",
@@ -223,7 +232,8 @@ TEST_F(DocumentConversion, Unknown_IsRefusedInWords)
     const QString path = folder.write(u"program.bin"_qs, QByteArray("\x7f"
                                                                     "ELF\0\0",
                                                                     6));
-    EXPECT_TRUE(refusal(path).startsWith(QStringLiteral("The document %1 is none that can be laid out").arg(path)))
+    EXPECT_TRUE(
+        refusal(path).startsWith(QStringLiteral("The document %1 is of a kind that cannot be laid out").arg(path)))
         << refusal(path).toStdString();
 }
 
