@@ -11,6 +11,7 @@
 #include "job/TextEncoding.h"
 #include "job/TextPdf.h"
 #include "job/Texts.h"
+#include "job/WriteFailure.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -89,7 +90,7 @@ bool writeDescription(const QString &path, const QSizeF &sizePt, const QMarginsF
     if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush()) {
         return true;
     }
-    *error = noRoomForTemporaryFiles(file.errorString());
+    *error = noRoomForTemporaryFiles(whyNotWritten(file));
     return false;
 }
 
@@ -145,7 +146,7 @@ bool convertByFilters(const Input &document, const Wanted &wanted, const QString
 
     QFile output(path);
     if (!output.open(QIODevice::WriteOnly)) {
-        *error = noRoomForTemporaryFiles(output.errorString());
+        *error = noRoomForTemporaryFiles(whyNotWritten(output));
         return false;
     }
     const ConfinedRun run = runConfined(
@@ -154,7 +155,7 @@ bool convertByFilters(const Input &document, const Wanted &wanted, const QString
         return false;
     }
     if (run.end == ConfinedRun::End::refused || !output.flush()) {
-        *error = noRoomForTemporaryFiles(output.errorString());
+        *error = noRoomForTemporaryFiles(whyNotWritten(output));
         return false;
     }
     if (run.end != ConfinedRun::End::finished || run.exitCode != 0 || output.size() == 0) {

@@ -2,6 +2,8 @@
 // The drawing is embedded as its format asks for: moved to the page's corner, and without a page of its own.
 #include "job/EpsPage.h"
 
+#include "job/WriteFailure.h"
+
 #include <QFile>
 #include <QRegularExpression>
 
@@ -60,7 +62,7 @@ bool writeEpsPage(const QString &eps, const QRectF &boxPt, const QString &path, 
     }
     static const QByteArray after = "\nsystemdict /showpage get exec\n";
     written = written && page.write(after) == after.size() && page.flush();
-    *error = page.errorString();
+    *error = whyNotWritten(page);
     return written;
 }
 

@@ -10,6 +10,7 @@
 #include "job/PlainText.h"
 #include "job/Reason.h"
 #include "job/Texts.h"
+#include "job/WriteFailure.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -138,13 +139,13 @@ public:
         if (mBytes > mMost) {
             return fail(qt_error_string(EFBIG), error);
         }
-        return (open() && mFile.write(piece) == piece.size()) || fail(mFile.errorString(), error);
+        return (open() && mFile.write(piece) == piece.size()) || fail(whyNotWritten(mFile), error);
     }
 
     bool end(Problem *error)
     {
         mIsWhole = open() && mFile.flush() && mFile.size() == mBytes;
-        return mIsWhole || fail(mFile.errorString(), error);
+        return mIsWhole || fail(whyNotWritten(mFile), error);
     }
 
 private:

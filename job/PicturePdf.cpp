@@ -6,6 +6,7 @@
 #include "job/PlainText.h"
 #include "job/Reason.h"
 #include "job/Texts.h"
+#include "job/WriteFailure.h"
 
 #include <QByteArray>
 #include <QByteArrayList>
@@ -142,7 +143,7 @@ bool pictureToPdf(const QString &picture, const QString &path, Problem *error)
     QFile file(path);
     const QByteArray page = pageDocument(onWhite(image), pageOf(image));
     if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size() || !file.flush()) {
-        *error = noRoomForTemporaryFiles(reasonText(file.errorString()));
+        *error = noRoomForTemporaryFiles(reasonText(whyNotWritten(file)));
         return false;
     }
     return true;

@@ -4,6 +4,7 @@
 
 #include "job/DeathWatch.h"
 #include "job/PlainText.h"
+#include "job/WriteFailure.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -126,7 +127,7 @@ bool PrivateFile::fill(const QByteArray &bytes, QString *error)
     if (mFile.write(bytes) == bytes.size() && mFile.flush()) {
         return true;
     }
-    *error = aboutTheFolder(mFile.errorString());
+    *error = aboutTheFolder(whyNotWritten(mFile));
     return false;
 }
 

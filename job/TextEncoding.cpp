@@ -2,6 +2,8 @@
 // Text is read piece by piece: it may be longer than memory.
 #include "job/TextEncoding.h"
 
+#include "job/WriteFailure.h"
+
 #include <QFile>
 #include <QStringDecoder>
 
@@ -86,7 +88,7 @@ bool writeFilterText(const QString &document, const QString &path, QString *reas
     }
     isWritten = isWritten && copy.flush();
     if (!isWritten) {
-        *reason = copy.errorString();
+        *reason = whyNotWritten(copy);
     }
     return isWritten;
 }

@@ -4,6 +4,7 @@
 
 #include "job/Conversion.h"
 #include "job/TextEncoding.h"
+#include "job/WriteFailure.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -197,7 +198,7 @@ bool drawTextPdf(const QString &text, const QSizeF &pagePt, const QString &path,
         }
     }
     if (!output.flush() || output.error() != QFile::NoError) {
-        *error = noRoomForTemporaryFiles(output.errorString());
+        *error = noRoomForTemporaryFiles(whyNotWritten(output));
         return false;
     }
     return true;
