@@ -653,10 +653,15 @@ TEST_F(JobPageTest, SaveAsPdf_ProposesANameThatNoFileHas)
     QStringList proposed;
     const OverTheWindow person([&](QWidget *modal) {
         if (auto *chooser = qobject_cast<QFileDialog *>(modal)) {
-            proposed.append(QFileInfo(chooser->selectedFiles().value(0)).fileName());
-            if (proposed.size() == 1) {
+            const QString proposal = QFileInfo(chooser->selectedFiles().value(0)).fileName();
+            if (proposed.isEmpty()) {
+                proposed.append(proposal);
+            }
+            // The chooser may come up again before it has taken the name: it is told once more.
+            if (!QFileInfo::exists(saved + proposed.first())) {
                 nameFile(chooser, saved + proposed.first());
             } else {
+                proposed.append(proposal);
                 chooser->reject();
             }
         } else {

@@ -2,12 +2,12 @@
 // The page of a description's other options: sections, rows that are made quickly, own values, what is told apart.
 #include "Hands.h"
 #include "TestPrinter.h"
-#include "WindowTime.h"
 
 #include "dialog/OptionsPage.h"
 #include "dialog/PopUp.h"
 #include "job/PpdMarks.h"
 #include "tests/support/Noticeable.h"
+#include "tests/support/ProcessorTime.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QAbstractItemView>
@@ -264,26 +264,26 @@ TEST_F(OptionsPageTest, EightHundredOptionsAndTenThousandChoices_NeverKeepTheWin
     // All rows at once would take seconds.
     QScrollArea area;
     area.setWidgetResizable(true);
-    double longest = hosttest::msOf([&] { area.setWidget(new OptionsPage(job, panels, unit, nullptr)); });
+    double longest = test::processorMsOf([&] { area.setWidget(new OptionsPage(job, panels, unit, nullptr)); });
     auto *made = qobject_cast<OptionsPage *>(area.widget());
     area.resize(400, 300);
     area.show();
     int portions = 0;
     for (; !made->isWhole(); ++portions) {
-        longest = std::max(longest, hosttest::msOf([] { QApplication::processEvents(QEventLoop::AllEvents, 1); }));
+        longest = std::max(longest, test::processorMsOf([] { QApplication::processEvents(QEventLoop::AllEvents, 1); }));
     }
     EXPECT_GT(portions, 0); // beside the first, that the page was made with
     EXPECT_LT(longest, test::noticeableMs);
     auto *popUp = made->findChild<QComboBox *>(u"Long"_qs);
     ASSERT_NE(popUp, nullptr);
     EXPECT_EQ(popUp->count(), 10000);
-    const double following = hosttest::msOf([&] {
+    const double following = test::processorMsOf([&] {
         job.changeOption(u"Long"_qs, u"C9998"_qs);
         made->follow();
     });
     EXPECT_LT(following, test::noticeableMs);
     EXPECT_EQ(popUp->currentText(), u"Choice 9998"_qs);
-    const double opening = hosttest::msOf([&] {
+    const double opening = test::processorMsOf([&] {
         popUp->showPopup();
         QApplication::processEvents();
     });

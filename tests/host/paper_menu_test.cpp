@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // The pop-up of papers of a description that names thousands: the window goes on answering.
 #include "TestPrinter.h"
-#include "WindowTime.h"
 
 #include "dialog/PaperMenu.h"
 #include "dialog/PopUp.h"
 #include "tests/support/Noticeable.h"
+#include "tests/support/ProcessorTime.h"
 #include "tests/support/TextPrinting.h"
 
 #include <QApplication>
@@ -57,7 +57,7 @@ TEST(PaperMenu, OfTenThousandPapers_NeverKeepsTheWindowWaiting)
     popUp.show();
     QApplication::processEvents();
 
-    EXPECT_LT(hosttest::msOf([&] {
+    EXPECT_LT(test::processorMsOf([&] {
                   papers.fill();
                   papers.follow();
                   QApplication::processEvents();
@@ -65,13 +65,13 @@ TEST(PaperMenu, OfTenThousandPapers_NeverKeepsTheWindowWaiting)
               test::noticeableMs);
     EXPECT_EQ(popUp.count(), 10002);
     EXPECT_EQ(popUp.currentText(), u"Paper 9999"_qs);
-    EXPECT_LT(hosttest::msOf([&] {
+    EXPECT_LT(test::processorMsOf([&] {
                   popUp.showPopup();
                   QApplication::processEvents();
               }),
               test::noticeableMs);
     popUp.hidePopup();
-    EXPECT_LT(hosttest::msOf([&] {
+    EXPECT_LT(test::processorMsOf([&] {
                   job.changeOption(job::OptionName::pageSize, u"W24"_qs);
                   papers.follow();
                   QApplication::processEvents();

@@ -170,15 +170,18 @@ TEST_F(PrintingProgram, Qpdfview_OpensTheDialogByTheOneCommandThatItCanBeGiven)
     ASSERT_TRUE(waitUntil([&] {
         display.xdotool({u"mousemove"_qs, u"--window"_qs, viewer.window(), QString::number(size.width() / 2),
                          QString::number(size.height() / 2), u"click"_qs, u"3"_qs});
-        waitUntil([&] { return viewer.windows().size() > 1; }, 500);
+        if (!waitUntil([&] { return viewer.windows().size() > 1; }, 500)) {
+            return false;
+        }
         viewer.press({u"Down"_qs, u"Return"_qs});
+        // Long enough for a slow machine: pressed once more, two dialogs would come.
         return waitUntil(
             [&] {
                 window = QString::fromLatin1(
                     display.xdotool({u"search"_qs, u"--onlyvisible"_qs, u"--name"_qs, u"^Print label.pdf"_qs}));
                 return !window.isEmpty();
             },
-            1000);
+            10000);
     }));
     const qint64 process = display.xdotool({u"getwindowpid"_qs, window.section(u'\n', 0, 0)}).trimmed().toLongLong();
     ASSERT_TRUE(dialog.adopt(process).isNull());

@@ -2,9 +2,9 @@
 // The items of a pop-up while it is filled: replacing by place, inserting in front, and images found by title.
 #include "panel/PopUpItems.h"
 
+#include "ProcessorTime.h"
 #include "TextPrinting.h"
 
-#include <QElapsedTimer>
 #include <QPixmap>
 
 #include <gtest/gtest.h>
@@ -215,29 +215,29 @@ TEST(PopUpItems, TenThousandItemsOfOneTitle_AreFilledWithoutWaiting)
 {
     constexpr std::size_t kCount = 10'000;
     const QIcon red = image(Qt::red);
-    QElapsedTimer timer;
-    timer.start();
     PopUpItems items;
-    for (std::size_t i = 0; i < kCount; ++i) {
-        items.replaceItem(i, QStringLiteral("Same"));
-        items.setImageOfItemWithTitle(QStringLiteral("Same"), red);
-    }
+    const double tookMs = tapeprint::test::processorMsOf([&] {
+        for (std::size_t i = 0; i < kCount; ++i) {
+            items.replaceItem(i, QStringLiteral("Same"));
+            items.setImageOfItemWithTitle(QStringLiteral("Same"), red);
+        }
+    });
     EXPECT_EQ(items.items().size(), kCount);
     // A way that grows with the square takes minutes for these.
-    EXPECT_LT(timer.elapsed(), 2000);
+    EXPECT_LT(tookMs, 2000);
 }
 
 TEST(PopUpItems, TenThousandUnreadableTexts_AreFilledWithoutWaiting)
 {
     constexpr std::size_t kCount = 10'000;
-    QElapsedTimer timer;
-    timer.start();
     PopUpItems items;
-    for (std::size_t i = 0; i < kCount; ++i) {
-        items.insertAtFront(kFallbacks);
-    }
-    items.setImageOfItemWithTitle(QStringLiteral("F2"), image(Qt::red));
+    const double tookMs = tapeprint::test::processorMsOf([&] {
+        for (std::size_t i = 0; i < kCount; ++i) {
+            items.insertAtFront(kFallbacks);
+        }
+        items.setImageOfItemWithTitle(QStringLiteral("F2"), image(Qt::red));
+    });
     EXPECT_EQ(items.items().size(), 3 * kCount);
     EXPECT_EQ(colourOf(items, 2), QColor(Qt::red));
-    EXPECT_LT(timer.elapsed(), 2000);
+    EXPECT_LT(tookMs, 2000);
 }
