@@ -2,6 +2,7 @@
 // Options go by CUPS's own names. An option at its usual value is not sent at all.
 #include "dialog/JobPage.h"
 
+#include "dialog/ElidedLabel.h"
 #include "dialog/MeasureUnit.h"
 #include "dialog/PlainText.h"
 #include "job/PageRanges.h"
@@ -73,10 +74,8 @@ void JobPage::addPages(QFormLayout *form)
     mPages->setObjectName(QStringLiteral("pageRanges"));
     mPages->setPlaceholderText(tr("All"));
     mPages->setToolTip(tr("Write pages as 1-3,7"));
-    mPagesProblem = new QLabel(pages);
+    mPagesProblem = new ElidedLabel(pages);
     mPagesProblem->setObjectName(QStringLiteral("pageRangesProblem"));
-    mPagesProblem->setTextFormat(Qt::PlainText);
-    mPagesProblem->setWordWrap(true);
     mPagesProblem->hide();
     pagesLayout->addWidget(mPages);
     pagesLayout->addWidget(mPagesProblem);

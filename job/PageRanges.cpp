@@ -33,7 +33,7 @@ QString rangeText(const PageRange &range)
 /// What is wrong with one of the parts between the commas; null when nothing is.
 QString partProblem(const QString &part)
 {
-    constexpr qsizetype mostShown = 24;
+    constexpr qsizetype mostShown = 16;
     static const QRegularExpression pages(QStringLiteral(R"(\A(\d{1,9})(-(\d{1,9})?)?\z)"));
     const QRegularExpressionMatch match = pages.match(part);
     const QString first = match.captured(1);

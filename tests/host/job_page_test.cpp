@@ -22,6 +22,8 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTest>
 #include <QThread>
@@ -387,6 +389,27 @@ TEST_F(JobPageTest, PagesThatAreNoList_AreSaidAtTheFieldAndNotPrinted)
     EXPECT_FALSE(problem->isVisible());
     clickPrint();
     EXPECT_TRUE(settled);
+}
+
+TEST_F(JobPageTest, WhatIsSaidOfPages_TakesOneLine)
+{
+    open(1, false);
+    turnTo(u"Job"_qs);
+    const auto *problem = child<QLabel>(u"pageRangesProblem"_qs);
+    const QWidget *scroller = problem;
+    while (qobject_cast<const QScrollArea *>(scroller) == nullptr) {
+        scroller = scroller->parentWidget();
+        ASSERT_NE(scroller, nullptr);
+    }
+    const auto *bar = qobject_cast<const QScrollArea *>(scroller)->verticalScrollBar();
+    const int line = 2 * problem->fontMetrics().lineSpacing(); // with what the layout leaves around it
+    dialog->resize(dialog->size() + QSize(0, line));
+    QApplication::processEvents();
+    ASSERT_EQ(bar->maximum(), 0);
+    type(u"pageRanges"_qs, QString(100, u'a'));
+    QApplication::processEvents();
+    EXPECT_TRUE(problem->isVisible());
+    EXPECT_EQ(bar->maximum(), 0);
 }
 
 TEST_F(JobPageTest, PagesThatWereHandedInAndAreNoList_AreSaidBeforePrintIsPressed)
