@@ -115,7 +115,8 @@ void PrintDialog::paintEvent(QPaintEvent *event)
 /// A size that somebody gave the window stays.
 void PrintDialog::growUnlessSized()
 {
-    if (size() == mGrownSize) {
+    // Its layout may have given it more: words that are wrapped at the width that it took need lines.
+    if (size() == mGrownSize.expandedTo(minimumSize())) {
         growToContents();
     } else {
         mMiddle->arrange(size()); // what is to stand in it may have changed

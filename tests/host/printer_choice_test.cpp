@@ -39,12 +39,16 @@ protected:
     }
 
     /// \param lastUsed the printer that a program used last.
-    void open(const job::JobRequest &request = {}, const QString &lastUsed = {})
+    void make(const job::JobRequest &request = {}, const QString &lastUsed = {})
     {
         dialog::PrinterSource source = server->source();
         source.lastUsed = lastUsed;
         window = std::make_unique<PrintDialog>(printJob, panels, PrintDialog::Setup{request, u"label"_qs, {}, source},
                                                PrintDialog::PrintAction());
+    }
+    void open(const job::JobRequest &request = {}, const QString &lastUsed = {})
+    {
+        make(request, lastUsed);
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     }
@@ -230,6 +234,20 @@ TEST_F(PrinterChoice, PrinterThatWasUsedLastAndIsGone_IsNamedWhereNoneIsTaken)
     ASSERT_TRUE(waitForNotice(u"Choose a printer"_qs));
     EXPECT_TRUE(notices().contains(u"gone, which was used last, is not there"_qs)) << notices().toStdString();
     EXPECT_FALSE(canPrint());
+}
+
+TEST_F(PrinterChoice, WindowThatIsShownWithWordsOfManyLines_GrowsForItsPageAllTheSame)
+{
+    server->setDefault(u"other"_qs);
+    job::JobRequest request;
+    request.options.set(u"page-ranges"_qs, u"6-4"_qs);
+    make(request, u"a printer that is gone, with a name of many words "_qs.repeated(3));
+    ASSERT_TRUE(waitForPrinter(u"other"_qs));
+    QTest::qWait(0); // until it has the size that it takes unseen
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    EXPECT_TRUE(waitFor([&] { return window->height() >= window->sizeHint().height(); }))
+        << window->height() << " of " << window->sizeHint().height();
 }
 
 TEST_F(PrinterChoice, PrinterThatWasUsedLastOnASilentServer_IsOpenedWhenItAnswersAndNoOther)
