@@ -98,4 +98,9 @@ QString ippJobAttributeInOtherLetters(const QString &name)
     return found == names.end() ? QString() : QString(*found);
 }
 
+QStringList ippJobAttributes()
+{
+    return {names.begin(), names.end()};
+}
+
 } // namespace tapeprint::job

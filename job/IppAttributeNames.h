@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace tapeprint::job
 {
@@ -13,5 +14,8 @@ bool isIppJobAttribute(const QString &name);
 
 /// The IPP job attribute that a text spells in other letters, such as "media" for "Media"; null when it spells none.
 QString ippJobAttributeInOtherLetters(const QString &name);
+
+/// All that this program knows.
+QStringList ippJobAttributes();
 
 } // namespace tapeprint::job

@@ -6,6 +6,7 @@
 #include "job/FilterOptions.h"
 #include "job/FilterRun.h"
 #include "job/LaidDownOptions.h"
+#include "job/MistypedOptions.h"
 #include "job/PpdTexts.h"
 #include "job/RefusedValues.h"
 
@@ -131,8 +132,8 @@ void Job::layDownPages()
 QStringList Job::notices() const
 {
     QStringList notices = unlistedValues(ppd(), mOptions) + ownValuesNotTaken(ppd(), mOptions) +
-                          optionsThatNeverArrive(mChosen) + bracedForNobody(ppd(), mOptions) +
-                          optionsWithoutEffect(mChosen, page());
+                          optionsThatNeverArrive(mChosen) + mistypedOptions(ppd(), mChosen) +
+                          bracedForNobody(ppd(), mOptions) + optionsWithoutEffect(mChosen, page());
     if (mDestination.isFile() && ppd() != nullptr) {
         notices += filterNotices(mDestination.ppdPath, ppd(), mDestination.trustsPpd);
     }
