@@ -9,6 +9,7 @@
 #include "job/CustomValues.h"
 #include "job/PlainText.h"
 #include "job/PpdFile.h"
+#include "job/PageRanges.h"
 #include "job/PpdMarks.h"
 #include "job/UsualOptions.h"
 #include "portal/Conversation.h"
@@ -190,7 +191,9 @@ bool isWord(const QString &value)
 void checkUsual(const job::JobOptions &usual)
 {
     for (const auto &[name, value] : usual.entries()) {
-        require(isWord(value));
+        // Pages that are no list are shown to the person as they came, and are refused when they are to be printed.
+        const bool isRefused = name == job::OptionName::pageRanges && !job::pageRangesProblem(value).isNull();
+        require(isWord(value) || (isRefused && isHarmless(value)));
         if (name == job::OptionName::copies) {
             require(value.toInt() >= 2 && value.toInt() <= 9999);
         } else if (name == job::OptionName::numberUp) {

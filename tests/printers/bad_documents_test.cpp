@@ -77,7 +77,7 @@ TEST_F(BadDocument, Unknown_IsNamed)
                   written(u"program.bin"_qs, QByteArray("\x7f"
                                                         "ELF\0\0",
                                                         6)),
-                  "program.bin is none that can be");
+                  "program.bin is of a kind that cannot be laid out on tape");
 }
 
 TEST_F(BadDocument, PictureOf200Megapixels_IsRefusedWithinSeconds)
