@@ -7,9 +7,9 @@
 
 #include "job/CupsOptions.h"
 #include "job/CustomValues.h"
+#include "job/PageRanges.h"
 #include "job/PlainText.h"
 #include "job/PpdFile.h"
-#include "job/PageRanges.h"
 #include "job/PpdMarks.h"
 #include "job/UsualOptions.h"
 #include "portal/Conversation.h"
