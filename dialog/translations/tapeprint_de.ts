@@ -605,7 +605,7 @@
     <name>tapeprint::dialog::PresetRow</name>
     <message>
         <source>Printer&apos;s Defaults</source>
-        <translation>Druckervorgaben</translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>As Last Time</source>
@@ -979,6 +979,18 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>Die Beschreibung des Druckers %1 hat sich auf dem Druckserver geändert. Laden Sie sie vor dem Drucken neu.</translation>
     </message>
+    <message>
+        <source>The printer %1, which was used last, is not there any more.</source>
+        <translation>Der zuletzt benutzte Drucker %1 ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is taken in its place.</source>
+        <translation>Stattdessen wird der Drucker %1 genommen.</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the print server, and without a password its description was not looked at. Ask again before you print.</source>
+        <translation>Der Drucker %1 wurde auf dem Druckserver geändert, und ohne Passwort wurde seine Beschreibung nicht angesehen. Fragen Sie vor dem Drucken erneut.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>
@@ -1307,10 +1319,6 @@
         <translation>Das Bild %1 ist beschädigt (%2). Erstellen Sie es neu oder nennen Sie ein anderes.</translation>
     </message>
     <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>Das Dokument %1 lässt sich nicht auf Band setzen. Drucken Sie ein PDF, eine PostScript-Datei, ein Bild oder reinen Text.</translation>
-    </message>
-    <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
         <translation>Das Dokument %1 ist mit einem Kennwort geschützt. Speichern Sie es ohne Kennwort und drucken Sie dieses.</translation>
     </message>
@@ -1518,10 +1526,6 @@
         <translation>Der Auftrag %1 ist fehlgeschlagen: %2.</translation>
     </message>
     <message>
-        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
-        <translation>Der Auftrag %1 ist fehlgeschlagen: %2. Er bleibt in der Warteschlange. Abbrechen mit: cancel %1</translation>
-    </message>
-    <message>
         <source>Job %1 was cancelled.</source>
         <translation>Der Auftrag %1 wurde abgebrochen.</translation>
     </message>
@@ -1556,10 +1560,6 @@
     <message>
         <source>Job %1 cannot be cancelled (%2).</source>
         <translation>Der Auftrag %1 lässt sich nicht abbrechen (%2).</translation>
-    </message>
-    <message>
-        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
-        <translation>Der Auftrag %1 liegt vielleicht halb gesendet auf dem Server. Abbrechen mit: cancel %2-%1</translation>
     </message>
     <message>
         <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
@@ -1916,6 +1916,42 @@
     <message>
         <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
         <translation>Seite %1 würde %2 mm breit und %3 mm lang, was niemand lesen kann. Wählen Sie ein längeres Band, einen kleineren Rand oder weniger Seiten pro Etikett.</translation>
+    </message>
+    <message>
+        <source>The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, save it from there as a PDF or PNG, and print that.</source>
+        <translation>Ein Dokument wie %1 lässt sich nicht auf Band setzen. Öffnen Sie es in einem Programm, das es anzeigt, speichern Sie es dort als PDF oder PNG, und drucken Sie das.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the desktop&apos;s printer settings.</source>
+        <translation>Der Auftrag %1 ist gescheitert: %2. Er bleibt in der Warteschlange: Brechen Sie ihn in den Druckereinstellungen des Systems ab, oder starten Sie ihn dort erneut.</translation>
+    </message>
+    <message>
+        <source>Job %2-%1 may be left half sent on the server: cancel it in the desktop&apos;s printer settings.</source>
+        <translation>Vom Auftrag %2-%1 ist vielleicht ein Teil auf dem Server geblieben: Brechen Sie ihn in den Druckereinstellungen des Systems ab.</translation>
+    </message>
+    <message>
+        <source>The printer has no option %1: is %2 meant?</source>
+        <translation>Der Drucker hat keine Option %1. Ist %2 gemeint?</translation>
+    </message>
+    <message>
+        <source>“%1” is no list of pages: write them as 1-3,7.</source>
+        <translation>„%1“ ist keine Liste von Seiten: Schreiben Sie sie als 1-3,7.</translation>
+    </message>
+    <message>
+        <source>There is no page %1: pages are counted from 1.</source>
+        <translation>Es gibt keine Seite %1: Seiten zählen ab 1.</translation>
+    </message>
+    <message>
+        <source>The pages %1-%2 run backwards: write %2-%1.</source>
+        <translation>Die Seiten %1-%2 laufen rückwärts: Schreiben Sie %2-%1.</translation>
+    </message>
+    <message>
+        <source>The print server makes %1 copies of a job at most, and not %2: ask for fewer.</source>
+        <translation>Der Druckserver macht höchstens %1 Kopien eines Auftrags, nicht %2. Verlangen Sie weniger.</translation>
+    </message>
+    <message>
+        <source>The print server does not put %1 pages on a sheet (number-up): choose one of %2.</source>
+        <translation>Der Druckserver bringt nicht %1 Seiten auf ein Blatt (number-up). Wählen Sie eine dieser Zahlen: %2.</translation>
     </message>
 </context>
 <context>

@@ -979,6 +979,18 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>The description of the printer %1 has changed on the print server. Load it anew before you print.</translation>
     </message>
+    <message>
+        <source>The printer %1, which was used last, is not there any more.</source>
+        <translation>The printer %1, which was used last, is not there any more.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is taken in its place.</source>
+        <translation>The printer %1 is taken in its place.</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the print server, and without a password its description was not looked at. Ask again before you print.</source>
+        <translation>The printer %1 was changed on the print server, and without a password its description was not looked at. Ask again before you print.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>
@@ -1307,10 +1319,6 @@
         <translation>The picture %1 is damaged (%2): make it anew or name another.</translation>
     </message>
     <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</translation>
-    </message>
-    <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
         <translation>The document %1 is locked with a password: save it without one and print that.</translation>
     </message>
@@ -1518,10 +1526,6 @@
         <translation>Job %1 has failed: %2.</translation>
     </message>
     <message>
-        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
-        <translation>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</translation>
-    </message>
-    <message>
         <source>Job %1 was cancelled.</source>
         <translation>Job %1 was cancelled.</translation>
     </message>
@@ -1556,10 +1560,6 @@
     <message>
         <source>Job %1 cannot be cancelled (%2).</source>
         <translation>Job %1 cannot be cancelled (%2).</translation>
-    </message>
-    <message>
-        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
-        <translation>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</translation>
     </message>
     <message>
         <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
@@ -1916,6 +1916,42 @@
     <message>
         <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
         <translation>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</translation>
+    </message>
+    <message>
+        <source>The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, save it from there as a PDF or PNG, and print that.</source>
+        <translation>The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, save it from there as a PDF or PNG, and print that.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the desktop&apos;s printer settings.</source>
+        <translation>Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the desktop&apos;s printer settings.</translation>
+    </message>
+    <message>
+        <source>Job %2-%1 may be left half sent on the server: cancel it in the desktop&apos;s printer settings.</source>
+        <translation>Job %2-%1 may be left half sent on the server: cancel it in the desktop&apos;s printer settings.</translation>
+    </message>
+    <message>
+        <source>The printer has no option %1: is %2 meant?</source>
+        <translation>The printer has no option %1: is %2 meant?</translation>
+    </message>
+    <message>
+        <source>“%1” is no list of pages: write them as 1-3,7.</source>
+        <translation>“%1” is no list of pages: write them as 1-3,7.</translation>
+    </message>
+    <message>
+        <source>There is no page %1: pages are counted from 1.</source>
+        <translation>There is no page %1: pages are counted from 1.</translation>
+    </message>
+    <message>
+        <source>The pages %1-%2 run backwards: write %2-%1.</source>
+        <translation>The pages %1-%2 run backwards: write %2-%1.</translation>
+    </message>
+    <message>
+        <source>The print server makes %1 copies of a job at most, and not %2: ask for fewer.</source>
+        <translation>The print server makes %1 copies of a job at most, and not %2: ask for fewer.</translation>
+    </message>
+    <message>
+        <source>The print server does not put %1 pages on a sheet (number-up): choose one of %2.</source>
+        <translation>The print server does not put %1 pages on a sheet (number-up): choose one of %2.</translation>
     </message>
 </context>
 <context>

@@ -979,6 +979,18 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>La descripción de la impresora %1 ha cambiado en el servidor. Vuelva a cargarla antes de imprimir.</translation>
     </message>
+    <message>
+        <source>The printer %1, which was used last, is not there any more.</source>
+        <translation>La impresora %1, que se usó la última vez, ya no está.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is taken in its place.</source>
+        <translation>En su lugar se toma la impresora %1.</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the print server, and without a password its description was not looked at. Ask again before you print.</source>
+        <translation>La impresora %1 se modificó en el servidor de impresión y, sin contraseña, no se miró su descripción. Vuelva a preguntar antes de imprimir.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>
@@ -1307,10 +1319,6 @@
         <translation>La imagen %1 está dañada (%2). Vuelva a crearla o indique otra.</translation>
     </message>
     <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>El documento %1 no se puede componer en la cinta. Imprima un PDF, un archivo PostScript, una imagen o texto sin formato.</translation>
-    </message>
-    <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
         <translation>El documento %1 está protegido con contraseña. Guárdelo sin ella e imprima ese.</translation>
     </message>
@@ -1518,10 +1526,6 @@
         <translation>El trabajo %1 ha fallado: %2.</translation>
     </message>
     <message>
-        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
-        <translation>El trabajo %1 ha fallado: %2. Sigue en la cola; cancélelo con: cancel %1</translation>
-    </message>
-    <message>
         <source>Job %1 was cancelled.</source>
         <translation>El trabajo %1 se ha cancelado.</translation>
     </message>
@@ -1556,10 +1560,6 @@
     <message>
         <source>Job %1 cannot be cancelled (%2).</source>
         <translation>No se puede cancelar el trabajo %1 (%2).</translation>
-    </message>
-    <message>
-        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
-        <translation>Puede que el trabajo %1 haya quedado a medio enviar en el servidor; cancélelo con: cancel %2-%1</translation>
     </message>
     <message>
         <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
@@ -1916,6 +1916,42 @@
     <message>
         <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
         <translation>La página %1 quedaría de %2 mm de ancho y %3 mm de largo, lo que nadie puede leer. Elija una cinta más larga, un margen menor o menos páginas por etiqueta.</translation>
+    </message>
+    <message>
+        <source>The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, save it from there as a PDF or PNG, and print that.</source>
+        <translation>El documento %1 es de un tipo que no se puede componer en la cinta. Ábralo en un programa que lo muestre, guárdelo desde allí como PDF o PNG e imprima ese archivo.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the desktop&apos;s printer settings.</source>
+        <translation>El trabajo %1 ha fallado: %2. Sigue en la cola: cancélelo o reinícielo en la configuración de impresoras del escritorio.</translation>
+    </message>
+    <message>
+        <source>Job %2-%1 may be left half sent on the server: cancel it in the desktop&apos;s printer settings.</source>
+        <translation>El trabajo %2-%1 puede haber quedado a medias en el servidor: cancélelo en la configuración de impresoras del escritorio.</translation>
+    </message>
+    <message>
+        <source>The printer has no option %1: is %2 meant?</source>
+        <translation>La impresora no tiene ninguna opción %1. ¿Quiso decir %2?</translation>
+    </message>
+    <message>
+        <source>“%1” is no list of pages: write them as 1-3,7.</source>
+        <translation>«%1» no es una lista de páginas: escríbalas como 1-3,7.</translation>
+    </message>
+    <message>
+        <source>There is no page %1: pages are counted from 1.</source>
+        <translation>No hay página %1: las páginas se cuentan desde 1.</translation>
+    </message>
+    <message>
+        <source>The pages %1-%2 run backwards: write %2-%1.</source>
+        <translation>Las páginas %1-%2 van hacia atrás: escriba %2-%1.</translation>
+    </message>
+    <message>
+        <source>The print server makes %1 copies of a job at most, and not %2: ask for fewer.</source>
+        <translation>El servidor de impresión hace como máximo %1 copias de un trabajo, no %2. Pida menos.</translation>
+    </message>
+    <message>
+        <source>The print server does not put %1 pages on a sheet (number-up): choose one of %2.</source>
+        <translation>El servidor de impresión no pone %1 páginas en una hoja (number-up). Elija uno de estos números: %2.</translation>
     </message>
 </context>
 <context>

@@ -979,6 +979,18 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>La description de l’imprimante %1 a changé sur le serveur. Rechargez-la avant d’imprimer.</translation>
     </message>
+    <message>
+        <source>The printer %1, which was used last, is not there any more.</source>
+        <translation>L’imprimante %1, utilisée la dernière fois, n’est plus là.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is taken in its place.</source>
+        <translation>L’imprimante %1 est prise à sa place.</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the print server, and without a password its description was not looked at. Ask again before you print.</source>
+        <translation>L’imprimante %1 a été modifiée sur le serveur d’impression et, sans mot de passe, sa description n’a pas été consultée. Redemandez avant d’imprimer.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>
@@ -1307,10 +1319,6 @@
         <translation>L’image %1 est endommagée (%2). Recréez-la ou indiquez-en une autre.</translation>
     </message>
     <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>Le document %1 ne peut pas être mis en page sur un ruban. Imprimez un PDF, un fichier PostScript, une image ou du texte brut.</translation>
-    </message>
-    <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
         <translation>Le document %1 est protégé par un mot de passe. Enregistrez-le sans mot de passe et imprimez celui-ci.</translation>
     </message>
@@ -1518,10 +1526,6 @@
         <translation>La tâche %1 a échoué : %2.</translation>
     </message>
     <message>
-        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
-        <translation>La tâche %1 a échoué : %2. Elle reste dans la file ; annulez-la avec : cancel %1</translation>
-    </message>
-    <message>
         <source>Job %1 was cancelled.</source>
         <translation>La tâche %1 a été annulée.</translation>
     </message>
@@ -1556,10 +1560,6 @@
     <message>
         <source>Job %1 cannot be cancelled (%2).</source>
         <translation>La tâche %1 ne peut pas être annulée (%2).</translation>
-    </message>
-    <message>
-        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
-        <translation>La tâche %1 est peut-être restée à moitié envoyée sur le serveur ; annulez-la avec : cancel %2-%1</translation>
     </message>
     <message>
         <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
@@ -1916,6 +1916,42 @@
     <message>
         <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
         <translation>La page %1 ferait %2 mm de large et %3 mm de long, ce que personne ne peut lire. Choisissez un ruban plus long, une marge plus petite ou moins de pages par étiquette.</translation>
+    </message>
+    <message>
+        <source>The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, save it from there as a PDF or PNG, and print that.</source>
+        <translation>Le document %1 est d’un type qui ne peut pas être mis en page sur un ruban. Ouvrez-le dans un programme qui l’affiche, enregistrez-le au format PDF ou PNG, puis imprimez ce fichier.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the desktop&apos;s printer settings.</source>
+        <translation>La tâche %1 a échoué : %2. Elle reste dans la file : annulez-la ou relancez-la dans les paramètres d’impression du bureau.</translation>
+    </message>
+    <message>
+        <source>Job %2-%1 may be left half sent on the server: cancel it in the desktop&apos;s printer settings.</source>
+        <translation>La tâche %2-%1 est peut-être restée à moitié envoyée sur le serveur : annulez-la dans les paramètres d’impression du bureau.</translation>
+    </message>
+    <message>
+        <source>The printer has no option %1: is %2 meant?</source>
+        <translation>L’imprimante n’a pas d’option %1. S’agit-il de %2 ?</translation>
+    </message>
+    <message>
+        <source>“%1” is no list of pages: write them as 1-3,7.</source>
+        <translation>« %1 » n’est pas une liste de pages : écrivez 1-3,7.</translation>
+    </message>
+    <message>
+        <source>There is no page %1: pages are counted from 1.</source>
+        <translation>Il n’y a pas de page %1 : les pages sont comptées à partir de 1.</translation>
+    </message>
+    <message>
+        <source>The pages %1-%2 run backwards: write %2-%1.</source>
+        <translation>Les pages %1-%2 vont à rebours : écrivez %2-%1.</translation>
+    </message>
+    <message>
+        <source>The print server makes %1 copies of a job at most, and not %2: ask for fewer.</source>
+        <translation>Le serveur d’impression fait au plus %1 copies d’une tâche, et non %2. Demandez-en moins.</translation>
+    </message>
+    <message>
+        <source>The print server does not put %1 pages on a sheet (number-up): choose one of %2.</source>
+        <translation>Le serveur d’impression ne met pas %1 pages sur une feuille (number-up). Choisissez l’un de ces nombres : %2.</translation>
     </message>
 </context>
 <context>

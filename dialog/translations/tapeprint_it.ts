@@ -979,6 +979,18 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>La descrizione della stampante %1 è cambiata sul server. Ricaricarla prima di stampare.</translation>
     </message>
+    <message>
+        <source>The printer %1, which was used last, is not there any more.</source>
+        <translation>La stampante %1, usata l’ultima volta, non c’è più.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is taken in its place.</source>
+        <translation>Al suo posto si usa la stampante %1.</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the print server, and without a password its description was not looked at. Ask again before you print.</source>
+        <translation>La stampante %1 è stata modificata sul server di stampa e, senza password, la sua descrizione non è stata esaminata. Chiedere di nuovo prima di stampare.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>
@@ -1307,10 +1319,6 @@
         <translation>L’immagine %1 è danneggiata (%2). Ricrearla o indicarne un’altra.</translation>
     </message>
     <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>Il documento %1 non può essere disposto sul nastro. Stampare un PDF, un file PostScript, un’immagine o testo semplice.</translation>
-    </message>
-    <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
         <translation>Il documento %1 è protetto da password. Salvarlo senza password e stampare quello.</translation>
     </message>
@@ -1518,10 +1526,6 @@
         <translation>Il lavoro %1 non è riuscito: %2.</translation>
     </message>
     <message>
-        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
-        <translation>Il lavoro %1 non è riuscito: %2. Resta in coda; annullarlo con: cancel %1</translation>
-    </message>
-    <message>
         <source>Job %1 was cancelled.</source>
         <translation>Il lavoro %1 è stato annullato.</translation>
     </message>
@@ -1556,10 +1560,6 @@
     <message>
         <source>Job %1 cannot be cancelled (%2).</source>
         <translation>Impossibile annullare il lavoro %1 (%2).</translation>
-    </message>
-    <message>
-        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
-        <translation>Il lavoro %1 potrebbe essere rimasto inviato a metà sul server; annullarlo con: cancel %2-%1</translation>
     </message>
     <message>
         <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
@@ -1916,6 +1916,42 @@
     <message>
         <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
         <translation>La pagina %1 risulterebbe larga %2 mm e lunga %3 mm, e nessuno potrebbe leggerla. Scegliere un nastro più lungo, un margine più piccolo o meno pagine per etichetta.</translation>
+    </message>
+    <message>
+        <source>The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, save it from there as a PDF or PNG, and print that.</source>
+        <translation>Il documento %1 è di un tipo che non può essere disposto sul nastro. Aprirlo in un programma che lo mostri, salvarlo da lì come PDF o PNG e stampare quel file.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the desktop&apos;s printer settings.</source>
+        <translation>Il lavoro %1 non è riuscito: %2. Resta in coda: annullarlo o riavviarlo nelle impostazioni delle stampanti del desktop.</translation>
+    </message>
+    <message>
+        <source>Job %2-%1 may be left half sent on the server: cancel it in the desktop&apos;s printer settings.</source>
+        <translation>Il lavoro %2-%1 può essere rimasto inviato a metà sul server: annullarlo nelle impostazioni delle stampanti del desktop.</translation>
+    </message>
+    <message>
+        <source>The printer has no option %1: is %2 meant?</source>
+        <translation>La stampante non ha un’opzione %1. Si intende %2?</translation>
+    </message>
+    <message>
+        <source>“%1” is no list of pages: write them as 1-3,7.</source>
+        <translation>«%1» non è un elenco di pagine: scrivere 1-3,7.</translation>
+    </message>
+    <message>
+        <source>There is no page %1: pages are counted from 1.</source>
+        <translation>Non c’è una pagina %1: le pagine si contano da 1.</translation>
+    </message>
+    <message>
+        <source>The pages %1-%2 run backwards: write %2-%1.</source>
+        <translation>Le pagine %1-%2 vanno all’indietro: scrivere %2-%1.</translation>
+    </message>
+    <message>
+        <source>The print server makes %1 copies of a job at most, and not %2: ask for fewer.</source>
+        <translation>Il server di stampa fa al massimo %1 copie di un lavoro, non %2. Chiederne di meno.</translation>
+    </message>
+    <message>
+        <source>The print server does not put %1 pages on a sheet (number-up): choose one of %2.</source>
+        <translation>Il server di stampa non mette %1 pagine su un foglio (number-up). Scegliere uno di questi numeri: %2.</translation>
     </message>
 </context>
 <context>

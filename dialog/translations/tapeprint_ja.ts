@@ -603,7 +603,7 @@
     <name>tapeprint::dialog::PresetRow</name>
     <message>
         <source>Printer&apos;s Defaults</source>
-        <translation>プリンターの既定値</translation>
+        <translation>既定値</translation>
     </message>
     <message>
         <source>As Last Time</source>
@@ -975,6 +975,18 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>プリンター %1 の記述がサーバー上で変わりました。印刷する前に再読み込みしてください。</translation>
     </message>
+    <message>
+        <source>The printer %1, which was used last, is not there any more.</source>
+        <translation>前回使ったプリンター %1 はもうありません。</translation>
+    </message>
+    <message>
+        <source>The printer %1 is taken in its place.</source>
+        <translation>代わりにプリンター %1 を使います。</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the print server, and without a password its description was not looked at. Ask again before you print.</source>
+        <translation>プリンター %1 はプリントサーバーで変更されましたが、パスワードがないため記述を確認していません。印刷する前にもう一度確認してください。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>
@@ -1303,10 +1315,6 @@
         <translation>画像 %1 は壊れています（%2）。作り直すか、別の画像を指定してください。</translation>
     </message>
     <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>文書 %1 はテープに割り付けられません。PDF、PostScript ファイル、画像、またはプレーンテキストを印刷してください。</translation>
-    </message>
-    <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
         <translation>文書 %1 はパスワードで保護されています。パスワードなしで保存し、それを印刷してください。</translation>
     </message>
@@ -1514,10 +1522,6 @@
         <translation>ジョブ %1 は失敗しました：%2。</translation>
     </message>
     <message>
-        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
-        <translation>ジョブ %1 は失敗しました：%2。キューに残っています。次のコマンドで取り消せます：cancel %1</translation>
-    </message>
-    <message>
         <source>Job %1 was cancelled.</source>
         <translation>ジョブ %1 は取り消されました。</translation>
     </message>
@@ -1552,10 +1556,6 @@
     <message>
         <source>Job %1 cannot be cancelled (%2).</source>
         <translation>ジョブ %1 を取り消せません（%2）。</translation>
-    </message>
-    <message>
-        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
-        <translation>ジョブ %1 が途中まで送られたままサーバーに残っている可能性があります。次のコマンドで取り消せます：cancel %2-%1</translation>
     </message>
     <message>
         <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
@@ -1912,6 +1912,42 @@
     <message>
         <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
         <translation>ページ %1 は幅 %2 mm、長さ %3 mm になり、読むことができません。テープを長くするか、余白を小さくするか、ラベルあたりのページ数を減らしてください。</translation>
+    </message>
+    <message>
+        <source>The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, save it from there as a PDF or PNG, and print that.</source>
+        <translation>文書 %1 はテープに割り付けられない種類です。表示できるプログラムで開き、PDF または PNG として保存して、それを印刷してください。</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the desktop&apos;s printer settings.</source>
+        <translation>ジョブ %1 は失敗しました：%2。キューに残っています。デスクトップのプリンター設定で取り消すか、再開してください。</translation>
+    </message>
+    <message>
+        <source>Job %2-%1 may be left half sent on the server: cancel it in the desktop&apos;s printer settings.</source>
+        <translation>ジョブ %2-%1 は途中まで送られたままサーバーに残っている可能性があります。デスクトップのプリンター設定で取り消してください。</translation>
+    </message>
+    <message>
+        <source>The printer has no option %1: is %2 meant?</source>
+        <translation>プリンターにオプション %1 はありません。%2 のことですか？</translation>
+    </message>
+    <message>
+        <source>“%1” is no list of pages: write them as 1-3,7.</source>
+        <translation>「%1」はページの並びではありません。1-3,7 のように入力してください。</translation>
+    </message>
+    <message>
+        <source>There is no page %1: pages are counted from 1.</source>
+        <translation>%1 ページはありません。ページは 1 から数えます。</translation>
+    </message>
+    <message>
+        <source>The pages %1-%2 run backwards: write %2-%1.</source>
+        <translation>ページ %1-%2 は逆順です。%2-%1 と入力してください。</translation>
+    </message>
+    <message>
+        <source>The print server makes %1 copies of a job at most, and not %2: ask for fewer.</source>
+        <translation>プリントサーバーが 1 つのジョブで作れるのは %1 部までです（指定は %2 部）。部数を減らしてください。</translation>
+    </message>
+    <message>
+        <source>The print server does not put %1 pages on a sheet (number-up): choose one of %2.</source>
+        <translation>プリントサーバーは 1 枚に %1 ページを置けません（number-up）。次のどれかを選んでください：%2。</translation>
     </message>
 </context>
 <context>

@@ -975,6 +975,18 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>프린터 %1의 설명이 서버에서 바뀌었습니다. 인쇄하기 전에 다시 불러오십시오.</translation>
     </message>
+    <message>
+        <source>The printer %1, which was used last, is not there any more.</source>
+        <translation>마지막으로 사용한 프린터 %1이(가) 더 이상 없습니다.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is taken in its place.</source>
+        <translation>대신 프린터 %1을(를) 사용합니다.</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the print server, and without a password its description was not looked at. Ask again before you print.</source>
+        <translation>프린터 %1이(가) 인쇄 서버에서 변경되었지만 암호가 없어 설명을 확인하지 못했습니다. 인쇄하기 전에 다시 물어보세요.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>
@@ -1303,10 +1315,6 @@
         <translation>그림 %1이(가) 손상되었습니다(%2). 다시 만들거나 다른 그림을 지정하십시오.</translation>
     </message>
     <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>문서 %1은(는) 테이프에 배치할 수 없습니다. PDF, PostScript 파일, 그림 또는 일반 텍스트를 인쇄하십시오.</translation>
-    </message>
-    <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
         <translation>문서 %1은(는) 암호로 잠겨 있습니다. 암호 없이 저장한 다음 그 문서를 인쇄하십시오.</translation>
     </message>
@@ -1514,10 +1522,6 @@
         <translation>작업 %1이(가) 실패했습니다: %2.</translation>
     </message>
     <message>
-        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
-        <translation>작업 %1이(가) 실패했습니다: %2. 대기열에 남아 있습니다. 취소하려면: cancel %1</translation>
-    </message>
-    <message>
         <source>Job %1 was cancelled.</source>
         <translation>작업 %1이(가) 취소되었습니다.</translation>
     </message>
@@ -1552,10 +1556,6 @@
     <message>
         <source>Job %1 cannot be cancelled (%2).</source>
         <translation>작업 %1을(를) 취소할 수 없습니다(%2).</translation>
-    </message>
-    <message>
-        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
-        <translation>작업 %1이(가) 일부만 전송된 채 서버에 남아 있을 수 있습니다. 취소하려면: cancel %2-%1</translation>
     </message>
     <message>
         <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
@@ -1912,6 +1912,42 @@
     <message>
         <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
         <translation>%1페이지가 너비 %2 mm, 길이 %3 mm가 되어 읽을 수 없습니다. 테이프를 길게 하거나, 여백을 줄이거나, 라벨당 페이지 수를 줄이십시오.</translation>
+    </message>
+    <message>
+        <source>The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, save it from there as a PDF or PNG, and print that.</source>
+        <translation>문서 %1은(는) 테이프에 배치할 수 없는 종류입니다. 그 문서를 표시하는 프로그램에서 열어 PDF나 PNG로 저장한 뒤 그 파일을 인쇄하십시오.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the desktop&apos;s printer settings.</source>
+        <translation>작업 %1이(가) 실패했습니다: %2. 대기열에 남아 있으니 데스크톱의 프린터 설정에서 취소하거나 다시 시작하세요.</translation>
+    </message>
+    <message>
+        <source>Job %2-%1 may be left half sent on the server: cancel it in the desktop&apos;s printer settings.</source>
+        <translation>작업 %2-%1이(가) 서버에 절반만 전송된 채 남아 있을 수 있습니다. 데스크톱의 프린터 설정에서 취소하세요.</translation>
+    </message>
+    <message>
+        <source>The printer has no option %1: is %2 meant?</source>
+        <translation>프린터에 %1 옵션이 없습니다. %2을(를) 뜻합니까?</translation>
+    </message>
+    <message>
+        <source>“%1” is no list of pages: write them as 1-3,7.</source>
+        <translation>“%1”은(는) 페이지 목록이 아닙니다. 1-3,7처럼 쓰세요.</translation>
+    </message>
+    <message>
+        <source>There is no page %1: pages are counted from 1.</source>
+        <translation>%1페이지는 없습니다. 페이지는 1부터 셉니다.</translation>
+    </message>
+    <message>
+        <source>The pages %1-%2 run backwards: write %2-%1.</source>
+        <translation>페이지 %1-%2은(는) 거꾸로입니다. %2-%1로 쓰세요.</translation>
+    </message>
+    <message>
+        <source>The print server makes %1 copies of a job at most, and not %2: ask for fewer.</source>
+        <translation>인쇄 서버는 한 작업을 최대 %1부까지 인쇄합니다(요청: %2부). 매수를 줄이십시오.</translation>
+    </message>
+    <message>
+        <source>The print server does not put %1 pages on a sheet (number-up): choose one of %2.</source>
+        <translation>인쇄 서버는 한 장에 %1페이지를 넣지 않습니다(number-up). 다음 중에서 선택하십시오: %2.</translation>
     </message>
 </context>
 <context>

@@ -979,6 +979,18 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>De beschrijving van de printer %1 is op de server gewijzigd. Laad die opnieuw voor u afdrukt.</translation>
     </message>
+    <message>
+        <source>The printer %1, which was used last, is not there any more.</source>
+        <translation>De printer %1, die het laatst is gebruikt, is er niet meer.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is taken in its place.</source>
+        <translation>In plaats daarvan wordt de printer %1 genomen.</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the print server, and without a password its description was not looked at. Ask again before you print.</source>
+        <translation>De printer %1 is op de printserver gewijzigd, en zonder wachtwoord is de beschrijving niet bekeken. Vraag opnieuw voordat u afdrukt.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>
@@ -1307,10 +1319,6 @@
         <translation>De afbeelding %1 is beschadigd (%2). Maak haar opnieuw of noem een andere.</translation>
     </message>
     <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>Het document %1 kan niet op tape worden geplaatst. Druk een pdf, een PostScript-bestand, een afbeelding of platte tekst af.</translation>
-    </message>
-    <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
         <translation>Het document %1 is met een wachtwoord vergrendeld. Bewaar het zonder wachtwoord en druk dat af.</translation>
     </message>
@@ -1518,10 +1526,6 @@
         <translation>Taak %1 is mislukt: %2.</translation>
     </message>
     <message>
-        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
-        <translation>Taak %1 is mislukt: %2. De taak blijft in de wachtrij; annuleer die met: cancel %1</translation>
-    </message>
-    <message>
         <source>Job %1 was cancelled.</source>
         <translation>Taak %1 is geannuleerd.</translation>
     </message>
@@ -1556,10 +1560,6 @@
     <message>
         <source>Job %1 cannot be cancelled (%2).</source>
         <translation>Taak %1 kan niet worden geannuleerd (%2).</translation>
-    </message>
-    <message>
-        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
-        <translation>Taak %1 staat misschien half verstuurd op de server; annuleer die met: cancel %2-%1</translation>
     </message>
     <message>
         <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
@@ -1916,6 +1916,42 @@
     <message>
         <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
         <translation>Pagina %1 zou %2 mm breed en %3 mm lang worden, wat niemand kan lezen. Kies een langere tape, een kleinere marge of minder pagina’s per label.</translation>
+    </message>
+    <message>
+        <source>The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, save it from there as a PDF or PNG, and print that.</source>
+        <translation>Het document %1 is van een soort die niet op tape kan worden geplaatst. Open het in een programma dat het toont, bewaar het daar als pdf of png en druk dat af.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the desktop&apos;s printer settings.</source>
+        <translation>Taak %1 is mislukt: %2. Ze blijft in de wachtrij: annuleer of herstart haar in de printerinstellingen van het bureaublad.</translation>
+    </message>
+    <message>
+        <source>Job %2-%1 may be left half sent on the server: cancel it in the desktop&apos;s printer settings.</source>
+        <translation>Taak %2-%1 is mogelijk half verzonden op de server gebleven: annuleer haar in de printerinstellingen van het bureaublad.</translation>
+    </message>
+    <message>
+        <source>The printer has no option %1: is %2 meant?</source>
+        <translation>De printer heeft geen optie %1. Is %2 bedoeld?</translation>
+    </message>
+    <message>
+        <source>“%1” is no list of pages: write them as 1-3,7.</source>
+        <translation>“%1” is geen lijst van pagina’s: schrijf ze als 1-3,7.</translation>
+    </message>
+    <message>
+        <source>There is no page %1: pages are counted from 1.</source>
+        <translation>Er is geen pagina %1: pagina’s tellen vanaf 1.</translation>
+    </message>
+    <message>
+        <source>The pages %1-%2 run backwards: write %2-%1.</source>
+        <translation>De pagina’s %1-%2 lopen achteruit: schrijf %2-%1.</translation>
+    </message>
+    <message>
+        <source>The print server makes %1 copies of a job at most, and not %2: ask for fewer.</source>
+        <translation>De afdrukserver maakt hoogstens %1 kopieën van een taak, geen %2. Vraag er minder.</translation>
+    </message>
+    <message>
+        <source>The print server does not put %1 pages on a sheet (number-up): choose one of %2.</source>
+        <translation>De afdrukserver zet geen %1 pagina’s op een vel (number-up). Kies een van deze aantallen: %2.</translation>
     </message>
 </context>
 <context>

@@ -979,6 +979,18 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>A descrição da impressora %1 mudou no servidor. Recarregue-a antes de imprimir.</translation>
     </message>
+    <message>
+        <source>The printer %1, which was used last, is not there any more.</source>
+        <translation>A impressora %1, usada da última vez, já não existe.</translation>
+    </message>
+    <message>
+        <source>The printer %1 is taken in its place.</source>
+        <translation>Em seu lugar é usada a impressora %1.</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the print server, and without a password its description was not looked at. Ask again before you print.</source>
+        <translation>A impressora %1 foi alterada no servidor de impressão e, sem palavra-passe, a sua descrição não foi consultada. Pergunte de novo antes de imprimir.</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>
@@ -1307,10 +1319,6 @@
         <translation>A imagem %1 está danificada (%2). Crie-a de novo ou indique outra.</translation>
     </message>
     <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>O documento %1 não pode ser disposto na fita. Imprima um PDF, um ficheiro PostScript, uma imagem ou texto simples.</translation>
-    </message>
-    <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
         <translation>O documento %1 está protegido por palavra-passe. Guarde-o sem ela e imprima esse.</translation>
     </message>
@@ -1518,10 +1526,6 @@
         <translation>O trabalho %1 falhou: %2.</translation>
     </message>
     <message>
-        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
-        <translation>O trabalho %1 falhou: %2. Fica na fila; cancele-o com: cancel %1</translation>
-    </message>
-    <message>
         <source>Job %1 was cancelled.</source>
         <translation>O trabalho %1 foi cancelado.</translation>
     </message>
@@ -1556,10 +1560,6 @@
     <message>
         <source>Job %1 cannot be cancelled (%2).</source>
         <translation>Não é possível cancelar o trabalho %1 (%2).</translation>
-    </message>
-    <message>
-        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
-        <translation>O trabalho %1 pode ter ficado meio enviado no servidor; cancele-o com: cancel %2-%1</translation>
     </message>
     <message>
         <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
@@ -1916,6 +1916,42 @@
     <message>
         <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
         <translation>A página %1 ficaria com %2 mm de largura e %3 mm de comprimento, o que ninguém consegue ler. Escolha uma fita mais longa, uma margem menor ou menos páginas por etiqueta.</translation>
+    </message>
+    <message>
+        <source>The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, save it from there as a PDF or PNG, and print that.</source>
+        <translation>O documento %1 é de um tipo que não pode ser disposto na fita. Abra-o num programa que o mostre, guarde-o a partir daí como PDF ou PNG e imprima esse ficheiro.</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the desktop&apos;s printer settings.</source>
+        <translation>O trabalho %1 falhou: %2. Continua na fila: cancele-o ou reinicie-o nas definições de impressoras do ambiente de trabalho.</translation>
+    </message>
+    <message>
+        <source>Job %2-%1 may be left half sent on the server: cancel it in the desktop&apos;s printer settings.</source>
+        <translation>O trabalho %2-%1 pode ter ficado meio enviado no servidor: cancele-o nas definições de impressoras do ambiente de trabalho.</translation>
+    </message>
+    <message>
+        <source>The printer has no option %1: is %2 meant?</source>
+        <translation>A impressora não tem nenhuma opção %1. Será %2?</translation>
+    </message>
+    <message>
+        <source>“%1” is no list of pages: write them as 1-3,7.</source>
+        <translation>«%1» não é uma lista de páginas: escreva 1-3,7.</translation>
+    </message>
+    <message>
+        <source>There is no page %1: pages are counted from 1.</source>
+        <translation>Não há página %1: as páginas contam-se a partir de 1.</translation>
+    </message>
+    <message>
+        <source>The pages %1-%2 run backwards: write %2-%1.</source>
+        <translation>As páginas %1-%2 estão ao contrário: escreva %2-%1.</translation>
+    </message>
+    <message>
+        <source>The print server makes %1 copies of a job at most, and not %2: ask for fewer.</source>
+        <translation>O servidor de impressão faz no máximo %1 cópias de um trabalho, não %2. Peça menos.</translation>
+    </message>
+    <message>
+        <source>The print server does not put %1 pages on a sheet (number-up): choose one of %2.</source>
+        <translation>O servidor de impressão não põe %1 páginas numa folha (number-up). Escolha um destes números: %2.</translation>
     </message>
 </context>
 <context>

@@ -975,6 +975,18 @@
         <source>The description of the printer %1 has changed on the print server. Load it anew before you print.</source>
         <translation>打印机 %1 的描述已在打印服务器上更改。请在打印前重新载入。</translation>
     </message>
+    <message>
+        <source>The printer %1, which was used last, is not there any more.</source>
+        <translation>上次使用的打印机 %1 已不存在。</translation>
+    </message>
+    <message>
+        <source>The printer %1 is taken in its place.</source>
+        <translation>改用打印机 %1。</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the print server, and without a password its description was not looked at. Ask again before you print.</source>
+        <translation>打印机 %1 在打印服务器上已更改，由于没有密码，未查看其描述。打印前请再次询问。</translation>
+    </message>
 </context>
 <context>
     <name>tapeprint::dialog::PrinterModel</name>
@@ -1303,10 +1315,6 @@
         <translation>图片 %1 已损坏（%2）。请重新生成或指定其他图片。</translation>
     </message>
     <message>
-        <source>The document %1 is none that can be laid out on tape: print a PDF, a PostScript file, a picture or plain text.</source>
-        <translation>文档 %1 无法排在标签带上。请打印 PDF、PostScript 文件、图片或纯文本。</translation>
-    </message>
-    <message>
         <source>The document %1 is locked with a password: save it without one and print that.</source>
         <translation>文档 %1 受密码保护。请另存为无密码的文档再打印。</translation>
     </message>
@@ -1514,10 +1522,6 @@
         <translation>作业 %1 失败：%2。</translation>
     </message>
     <message>
-        <source>Job %1 has failed: %2. It stays in the queue; cancel it with: cancel %1</source>
-        <translation>作业 %1 失败：%2。它仍在队列中；可用以下命令取消：cancel %1</translation>
-    </message>
-    <message>
         <source>Job %1 was cancelled.</source>
         <translation>作业 %1 已取消。</translation>
     </message>
@@ -1552,10 +1556,6 @@
     <message>
         <source>Job %1 cannot be cancelled (%2).</source>
         <translation>无法取消作业 %1（%2）。</translation>
-    </message>
-    <message>
-        <source>Job %1 may be left half sent on the server; cancel it with: cancel %2-%1</source>
-        <translation>作业 %1 可能只发送了一半而留在服务器上；可用以下命令取消：cancel %2-%1</translation>
     </message>
     <message>
         <source>The settings cannot be kept for the next time: %1 cannot be written.</source>
@@ -1912,6 +1912,42 @@
     <message>
         <source>Page %1 would come out %2 mm wide and %3 mm long, which nobody can read: choose a longer tape, a smaller margin or fewer pages on a label.</source>
         <translation>第 %1 页将只有 %2 毫米宽、%3 毫米长，无法阅读。请增加长度、减小边距或减少每张标签的页数。</translation>
+    </message>
+    <message>
+        <source>The document %1 is of a kind that cannot be laid out on tape: open it in a program that shows it, save it from there as a PDF or PNG, and print that.</source>
+        <translation>文档 %1 的类型无法排在标签带上。请用能显示它的程序打开，另存为 PDF 或 PNG，再打印该文件。</translation>
+    </message>
+    <message>
+        <source>Job %1 has failed: %2. It stays in the queue: cancel it or start it again in the desktop&apos;s printer settings.</source>
+        <translation>作业 %1 失败：%2。它仍在队列中：请在桌面的打印机设置中取消或重新开始。</translation>
+    </message>
+    <message>
+        <source>Job %2-%1 may be left half sent on the server: cancel it in the desktop&apos;s printer settings.</source>
+        <translation>作业 %2-%1 可能只发送了一半并留在服务器上：请在桌面的打印机设置中取消。</translation>
+    </message>
+    <message>
+        <source>The printer has no option %1: is %2 meant?</source>
+        <translation>打印机没有选项 %1。是否指 %2？</translation>
+    </message>
+    <message>
+        <source>“%1” is no list of pages: write them as 1-3,7.</source>
+        <translation>“%1”不是页码列表：请写成 1-3,7。</translation>
+    </message>
+    <message>
+        <source>There is no page %1: pages are counted from 1.</source>
+        <translation>没有第 %1 页：页码从 1 开始。</translation>
+    </message>
+    <message>
+        <source>The pages %1-%2 run backwards: write %2-%1.</source>
+        <translation>页码 %1-%2 是倒序的：请写成 %2-%1。</translation>
+    </message>
+    <message>
+        <source>The print server makes %1 copies of a job at most, and not %2: ask for fewer.</source>
+        <translation>打印服务器对一个作业最多打印 %1 份，而不是 %2 份。请减少份数。</translation>
+    </message>
+    <message>
+        <source>The print server does not put %1 pages on a sheet (number-up): choose one of %2.</source>
+        <translation>打印服务器不能在一张纸上放 %1 页（number-up）。请从下列数字中选择：%2。</translation>
     </message>
 </context>
 <context>
