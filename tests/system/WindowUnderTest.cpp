@@ -2,6 +2,8 @@
 // Keys and clicks stay in order on their way through the display, so only windows that come and go are waited for.
 #include "tests/system/WindowUnderTest.h"
 
+#include <QThread>
+
 #include <utility>
 
 namespace systemtest
@@ -94,6 +96,18 @@ QRect WindowUnderTest::geometry(const QString &window) const
     return {number("X"), number("Y"), number("WIDTH"), number("HEIGHT")};
 }
 
+QRect WindowUnderTest::settledGeometry() const
+{
+    constexpr unsigned long betweenLooksMs = 200;
+    QRect seen = geometry(mWindow);
+    waitUntil([&] {
+        QThread::msleep(betweenLooksMs);
+        const QRect before = std::exchange(seen, geometry(mWindow));
+        return seen == before;
+    });
+    return seen;
+}
+
 bool WindowUnderTest::giveKeysTo(const QString &window) const
 {
     // No window manager is there to do it.
@@ -177,7 +191,7 @@ bool WindowUnderTest::pickFromPopUp(int item, int items)
 void WindowUnderTest::clickPrint() const
 {
     constexpr QPoint insidePrint(35, 24);
-    const QRect all = geometry(mWindow);
+    const QRect all = settledGeometry();
     click(mWindow, QPoint(all.width(), all.height()) - insidePrint);
 }
 

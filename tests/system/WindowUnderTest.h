@@ -54,6 +54,8 @@ public:
     /// Its title, in UTF-8.
     QByteArray title() const;
     QRect geometry(const QString &window) const;
+    /// Where the window is when it has come to rest: once its printer is connected it grows for its pages.
+    QRect settledGeometry() const;
 
     /// Presses keys, such as "alt+n" or "Tab", one after the other.
     void press(const QStringList &keys) const;
